@@ -1,0 +1,29 @@
+# Language level, warnings and sanitizers of everything that is built here.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+
+option(NAVFRAME_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
+option(NAVFRAME_WERROR "Treat warnings as errors" OFF)
+
+add_library(navframe_warnings INTERFACE)
+if(NOT MSVC)
+  target_compile_options(navframe_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                                                     $<$<BOOL:${NAVFRAME_WERROR}>:-Werror>)
+  # GCC 12 warns of std::string's own copies there.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(navframe_warnings INTERFACE -Wno-restrict)
+  endif()
+endif()
+
+if(NAVFRAME_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,150 @@
+/* navframe: decodes the output streams of GNSS receivers. C99 and C++.
+ *
+ * 1. One stream per process: all functions work on one decoder that lives from load to unload.
+ *    No function takes a lock; the host calls from one thread or serialises its calls.
+ * 2. A host pushes bytes with GNSSPutData, pops records with GNSSGetMsg, and gives each record
+ *    back with GNSSFreeMem. The payload behind GnssMessage::data is one of the structs of
+ *    records.h, chosen by GnssMessage::id.
+ * 3. Functions that return a status return 0 for success and NAVFRAME_NOTHING for nothing or
+ *    mismatch. Bad input is never reported: an invalid frame costs one skipped byte.
+ * 4. Pointers must not be NULL unless their function says otherwise.
+ */
+#ifndef NAVFRAME_NAVFRAME_H
+#define NAVFRAME_NAVFRAME_H
+
+#include <stdint.h>
+
+#if defined(NAVFRAME_STATIC)
+#define NAVFRAME_API
+#elif defined(_WIN32)
+#if defined(NAVFRAME_BUILDING)
+#define NAVFRAME_API __declspec(dllexport)
+#else
+#define NAVFRAME_API __declspec(dllimport)
+#endif
+#else
+#define NAVFRAME_API __attribute__((visibility("default")))
+#endif
+
+/* Status: nothing there, or not what was asked for. */
+#define NAVFRAME_NOTHING 0xFFFFFFFFu
+
+/* Capacity of the input ring, bytes. See GNSSPutData for what a full ring does. */
+#define NAVFRAME_RING_CAPACITY 16777216u
+
+/* Records that wait at most; one more drops the oldest. */
+#define NAVFRAME_MAX_QUEUED_MESSAGES 3000u
+
+/* A decoded record. 16 bytes on 64-bit platforms. */
+typedef struct GnssMessage {
+  uint32_t id;     /* what `data` points at: one of MsgId below */
+  uint32_t source; /* producer of the record: 0 for every decoder of the stream */
+  void* data;      /* payload; the host's once popped, until GNSSFreeMem */
+} GnssMessage;
+
+#ifdef __cplusplus
+namespace navframe {
+#endif
+
+/* Bits of the mask of GNSSSetMsgTypes. Other bits are not tested. */
+enum ProtocolMask {
+  ProtocolNmea = 0x01,         /* sentences that start with "$" */
+  ProtocolNmeaTagBlock = 0x02, /* tag blocks that start with "\" */
+  ProtocolRtcm3 = 0x04,        /* frames that start with 0xD3 */
+  ProtocolUbx = 0x08,          /* frames that start with 0xB5 0x62 */
+  Protocol55Aa = 0x20          /* frames that start with 0x55 0xAA */
+};
+
+/* Kinds of records: GnssMessage::id, the ids of GNSSGetMsgs and of the output filter. */
+enum MsgId {
+  /* NMEA 0183 sentences. 21 to 29 are the same kinds behind a tag block: defined, never produced,
+   * because the sentence behind a tag block is decoded as a plain one. */
+  MsgIdGga = 1,
+  MsgIdRmc = 2,
+  MsgIdGsa = 3,
+  MsgIdGsv = 4,
+  MsgIdGll = 5,
+  MsgIdGst = 6,
+  MsgIdGbs = 7,
+  MsgIdVtg = 8,
+  MsgIdZda = 9,
+  MsgIdTaggedGga = 21,
+  MsgIdTaggedRmc = 22,
+  MsgIdTaggedGsa = 23,
+  MsgIdTaggedGsv = 24,
+  MsgIdTaggedGll = 25,
+  MsgIdTaggedGst = 26,
+  MsgIdTaggedGbs = 27,
+  MsgIdTaggedVtg = 28,
+  MsgIdTaggedZda = 29,
+  MsgIdTxt = 34 /* recognised, never a record */
+};
+
+#ifdef __cplusplus
+} /* namespace navframe */
+extern "C" {
+#endif
+
+/* Does nothing: all state is built when the library is loaded. Kept so that hosts can call it. */
+NAVFRAME_API void GNSSInit(void);
+
+/* Chooses the protocols to look for: ProtocolMask bits, all set at load. Holds from the next scan
+ * for a frame start on; a frame whose start was already found is finished. */
+NAVFRAME_API void GNSSSetMsgTypes(uint32_t mask);
+
+/* Sets the receiver board type, 0 at load. Only 7 has an effect: "$" then starts a line of the
+ * receiver's ASCII logs, which is consumed without being decoded, even with ProtocolNmea clear. */
+NAVFRAME_API void GNSSSetBoardType(uint32_t type);
+
+/* Sets the output filter: 0, the value at load, keeps every kind of record; any other value only
+ * the records of that id. It never changes framing. */
+NAVFRAME_API void GNSSSetOutMsgID(uint32_t id);
+
+/* Appends `length` bytes of receiver output (any split is allowed, also inside a frame), decodes
+ * every frame that is now complete, and returns the number of records waiting, at most
+ * NAVFRAME_MAX_QUEUED_MESSAGES. `data` may be NULL when `length` is 0: that runs the decoder once
+ * over what is there.
+ * A chunk larger than the free part of the ring is dropped whole. A chunk exactly as large as the
+ * free part makes the ring read as empty: its content is lost.
+ * C++ hosts: a field of an NMEA sentence that cannot be converted leaves as std::invalid_argument
+ * or std::out_of_range, and the same sentence meets the next call; feeder.hpp is a host that goes
+ * on. C hosts must be ready for the program to end there, or filter such sentences beforehand. */
+NAVFRAME_API uint32_t GNSSPutData(const uint8_t* data, uint32_t length);
+
+/* Pops the oldest record into `out` and returns 0, or returns NAVFRAME_NOTHING when none waits.
+ * `wantedId` 0 takes any kind. With another value a record of a different id is discarded: its
+ * payload is freed, out->data is NULL and the result is NAVFRAME_NOTHING, so a host that asks for
+ * one kind loses the others. (A mismatching record without a payload is handed out with 0.) */
+NAVFRAME_API uint32_t GNSSGetMsg(GnssMessage* out, uint32_t wantedId);
+
+/* Writes the ids of all kinds decoded since the last call to `ids`, in no promised order, forgets
+ * them, and returns their number. `ids` must have room for every distinct id: 64 are enough. Id 0
+ * stands for NMEA sentences of an unknown kind. */
+NAVFRAME_API uint32_t GNSSGetMsgs(uint32_t* ids);
+
+/* Frees the payload of a popped record and sets rec->data to NULL; rec->id stays. Does nothing
+ * when rec->data is NULL. */
+NAVFRAME_API void GNSSFreeMem(GnssMessage* rec);
+
+/* Renders a record as comma-separated text into `out`, without a bound: 8 KiB are enough for every
+ * kind with ordinary values. Returns 0, or NAVFRAME_NOTHING and the empty text for a kind that has
+ * no text form or a record without a payload. `flag` is not a length: its low byte, when not 0,
+ * asks the kinds 79 and 81 for leading fields. */
+NAVFRAME_API uint32_t structDataToStr(const GnssMessage* record, char* out, int64_t flag);
+
+/* Writes the name of a satellite system (1 GPS, 2 GLO, 3 GAL, 4 BDS, 5 QZSS, 6 NavIC, 15 GN) to
+ * `out` (at most 6 characters and the terminator) and returns its length; 0 and nothing written
+ * for any other id. */
+NAVFRAME_API int32_t GNSSSysIdToName(int32_t systemId, char* out);
+
+/* Writes the name of a signal of a system, by NMEA signal id, to `out` (at most 6 characters and
+ * the terminator) and returns its length; 0 and nothing written for an unknown pair. */
+NAVFRAME_API int32_t GNSSSigIdToName(int32_t systemId, uint32_t signalId, char* out);
+
+#ifdef __cplusplus
+} /* extern "C" */
+
+static_assert(sizeof(void*) != 8 || sizeof(GnssMessage) == 16);
+#endif
+
+#endif /* NAVFRAME_NAVFRAME_H */

@@ -1,0 +1,16 @@
+/* Payload records: what GnssMessage::data points at, by GnssMessage::id. C99 and C++.
+ *
+ * Every record is a plain struct with natural alignment; its size is fixed by its kind.
+ * Unknown values, unless a member says otherwise: double the bit pattern 0xFFF8000000000000 (a NaN
+ * with the sign set), float 0xFFC00000 (likewise), uint8_t 255, uint16_t 65535, int32_t and
+ * uint32_t all bits set; texts empty; flags and counters 0.
+ * "tag" is 1 for a sentence behind a tag block, else 0; the stream yields 0 only.
+ * "gpsTime" is the decoder's GPS time when the message was decoded.
+ * Angles are degrees, positive north and east, WGS 84 as far as the receiver's datum is.
+ */
+#ifndef NAVFRAME_RECORDS_H
+#define NAVFRAME_RECORDS_H
+
+#include "navframe/records_nmea.h"
+
+#endif /* NAVFRAME_RECORDS_H */

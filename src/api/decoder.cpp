@@ -1,0 +1,52 @@
+#include "api/decoder.h"
+
+#include <array>
+
+#include "framing/input_step.h"
+
+namespace navframe {
+namespace {
+
+using Framer = FramerResult (*)(Decoder& decoder);
+
+struct FramerRow {
+  ParserState state;
+  Framer framer;
+};
+constexpr FramerRow FramerRows[] = {
+    {ParserState::NmeaSentence,
+     [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
+    {ParserState::NmeaTagBlock,
+     [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+};
+
+// A state without a framer of its own: its sync byte starts nothing.
+FramerResult SkipUnframed(Decoder& decoder) { return SkipOneByte(decoder.stream); }
+
+constexpr auto Framers = [] {
+  std::array<Framer, ParserStates> framers{};
+  framers.fill(SkipUnframed);
+  for (const FramerRow& row : FramerRows) framers[static_cast<std::size_t>(row.state)] = row.framer;
+  return framers;
+}();
+
+}  // namespace
+
+void Decoder::SetMsgTypes(std::uint32_t mask) {
+  scanConfiguration_.msgTypeMask = mask;
+  syncBytes_ = SyncBytes(scanConfiguration_);
+}
+
+void Decoder::SetBoardType(std::uint32_t type) {
+  scanConfiguration_.boardType = type;
+  syncBytes_ = SyncBytes(scanConfiguration_);
+}
+
+std::uint32_t Decoder::PutData(const std::uint8_t* data, std::uint32_t length) {
+  RunInputStep(stream, syncBytes_, data, length, [this](ParserState state) {
+    return Framers[static_cast<std::size_t>(state)](*this);
+  });
+  return sink.Waiting();
+}
+
+}  // namespace navframe

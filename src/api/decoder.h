@@ -1,0 +1,36 @@
+// The decoder context: everything that the exports work on.
+#pragma once
+
+#include <cstdint>
+
+#include "framing/stream.h"
+#include "framing/sync_scan.h"
+#include "navframe/time_manager.h"
+#include "nmea/nmea_decoder.h"
+#include "nmea/sentence_framer.h"
+#include "output/record_sink.h"
+
+namespace navframe {
+
+// One stream's decoder. The library has one of them because its interface is process-wide; tests
+// make their own.
+class Decoder {
+ public:
+  void SetMsgTypes(std::uint32_t mask);
+  void SetBoardType(std::uint32_t type);
+
+  // Decodes what `data` completes; returns the number of records waiting. See GNSSPutData.
+  std::uint32_t PutData(const std::uint8_t* data, std::uint32_t length);
+
+  TimeManager time;  // shared by the decoders of all protocols
+  RecordSink sink;
+  Stream stream;
+  nmea::NmeaDecoder nmea{sink, time};
+  nmea::TagBlockSearch tagBlockSearch;
+
+ private:
+  ScanConfiguration scanConfiguration_;
+  SyncBytes syncBytes_{scanConfiguration_};
+};
+
+}  // namespace navframe

@@ -1,0 +1,199 @@
+#include "base/number_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <string>
+
+namespace navframe {
+namespace {
+
+constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsHexDigit(char c) {
+  return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+[[noreturn]] void ThrowInvalid(const char* conversion) {
+  throw std::invalid_argument(std::string("invalid ") + conversion + " argument");
+}
+[[noreturn]] void ThrowRange(const char* conversion) {
+  throw std::out_of_range(std::string(conversion) + " argument out of range");
+}
+
+// What stands before the digits of a number.
+struct SignedDigits {
+  const char* first;
+  const char* last;
+  bool negative;
+};
+
+SignedDigits SkipToDigits(std::string_view text) {
+  const char* first = text.data();
+  const char* last = first + text.size();
+  while (first != last && IsSpace(*first)) ++first;
+  const bool negative = first != last && *first == '-';
+  if (first != last && (*first == '-' || *first == '+')) ++first;
+  return {first, last, negative};
+}
+
+bool HasHexPrefix(const char* first, const char* last) {
+  return last - first > 2 && first[0] == '0' && (first[1] == 'x' || first[1] == 'X');
+}
+
+enum class Conversion { Done, Invalid, OutOfRange };
+
+Conversion ConvertInt(std::string_view text, int base, int& value) {
+  auto [first, last, negative] = SkipToDigits(text);
+  if (base == 16 && HasHexPrefix(first, last) && IsHexDigit(first[2])) first += 2;
+  std::uint64_t magnitude = 0;
+  if (first == last || *first == '-') return Conversion::Invalid;
+  const auto [end, error] = std::from_chars(first, last, magnitude, base);
+  if (error == std::errc::invalid_argument) return Conversion::Invalid;
+  const std::uint64_t limit = std::uint64_t{std::numeric_limits<int>::max()} + (negative ? 1 : 0);
+  if (error == std::errc::result_out_of_range || magnitude > limit) return Conversion::OutOfRange;
+  const auto wide = static_cast<std::int64_t>(magnitude);
+  value = static_cast<int>(negative ? -wide : wide);
+  return Conversion::Done;
+}
+
+int ToIntInBase(std::string_view text, int base) {
+  int value = 0;
+  switch (ConvertInt(text, base, value)) {
+    case Conversion::Done:
+      return value;
+    case Conversion::Invalid:
+      ThrowInvalid("stoi");
+    case Conversion::OutOfRange:
+      break;
+  }
+  ThrowRange("stoi");
+}
+
+constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// A number in the shape that receivers send: digits with at most one point and nothing behind.
+struct PlainNumber {
+  std::uint64_t digits;  // all of them, the point left out
+  std::size_t decimals;
+  bool negative;
+};
+
+// Reads up to 15 digits, so that the digits are an exact double; false for every other shape.
+bool ReadPlainNumber(std::string_view text, PlainNumber& number) {
+  constexpr std::size_t MostDigits = 15;
+  const char* at = text.data();
+  const char* const last = at + text.size();
+  number.negative = at != last && *at == '-';
+  if (number.negative) ++at;
+  if (static_cast<std::size_t>(last - at) > MostDigits + 1) return false;
+  std::uint64_t digits = 0;
+  const char* const whole = at;
+  for (; at != last && IsDigit(*at); ++at) digits = digits * 10 + static_cast<unsigned>(*at - '0');
+  std::size_t count = static_cast<std::size_t>(at - whole);
+  number.decimals = 0;
+  if (at != last && *at == '.') {
+    const char* const fraction = ++at;
+    for (; at != last && IsDigit(*at); ++at) {
+      digits = digits * 10 + static_cast<unsigned>(*at - '0');
+    }
+    number.decimals = static_cast<std::size_t>(at - fraction);
+    count += number.decimals;
+  }
+  number.digits = digits;
+  return at == last && count != 0 && count <= MostDigits;
+}
+
+// The C library reports a range error for results below the normal range that are not exact.
+// A decimal of fewer than 700 digits never names such a result exactly; a hexadecimal one may.
+// `Wider` holds the value with more bits than T.
+template <class T, class Wider>
+bool Underflows(T value, const char* first, const char* last, std::chars_format format) {
+  const T smallest = std::numeric_limits<T>::min();
+  if (value == 0 || std::abs(value) > smallest) return false;
+  Wider wider = 0;
+  std::from_chars(first, last, wider, format);
+  const Wider quarterUnit = static_cast<Wider>(std::numeric_limits<T>::denorm_min()) / 4;
+  if (std::abs(wider) >= static_cast<Wider>(smallest) - quarterUnit) return false;
+  return format != std::chars_format::hex || static_cast<Wider>(value) != wider;
+}
+
+template <class T, class Wider>
+T ToFloatingPoint(std::string_view text, const char* conversion) {
+  auto [first, last, negative] = SkipToDigits(text);
+  auto format = std::chars_format::general;
+  if (HasHexPrefix(first, last) &&
+      (IsHexDigit(first[2]) || (first[2] == '.' && last - first > 3 && IsHexDigit(first[3])))) {
+    first += 2;
+    format = std::chars_format::hex;
+  }
+  T magnitude = 0;
+  if (first == last || *first == '-') ThrowInvalid(conversion);
+  const auto [end, error] = std::from_chars(first, last, magnitude, format);
+  if (error == std::errc::invalid_argument) ThrowInvalid(conversion);
+  if (error == std::errc::result_out_of_range) ThrowRange(conversion);
+  if (Underflows<T, Wider>(magnitude, first, last, format)) ThrowRange(conversion);
+  return negative ? -magnitude : magnitude;
+}
+
+}  // namespace
+
+int ToInt(std::string_view text) {
+  // Up to nine digits, the common case, cannot leave the range of int.
+  if (!text.empty() && text.size() <= 9) {
+    int value = 0;
+    std::size_t i = 0;
+    for (; i < text.size() && IsDigit(text[i]); ++i) value = value * 10 + (text[i] - '0');
+    if (i == text.size()) return value;
+  }
+  return ToIntInBase(text, 10);
+}
+
+int ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
+
+double ToDouble(std::string_view text) {
+  PlainNumber number;
+  if (ReadPlainNumber(text, number)) {
+    // Digits and power of ten are exact, so the one division rounds as the general conversion.
+    const double magnitude = static_cast<double>(number.digits) / PowersOfTen[number.decimals];
+    return number.negative ? -magnitude : magnitude;
+  }
+  return ToFloatingPoint<double, long double>(text, "stod");
+}
+
+float ToFloat(std::string_view text) {
+  constexpr std::uint64_t ExactDigits = 1U << 24;
+  constexpr std::size_t ExactPowers = 10;
+  PlainNumber number;
+  if (ReadPlainNumber(text, number) && number.digits <= ExactDigits &&
+      number.decimals <= ExactPowers) {
+    const float magnitude =
+        static_cast<float>(number.digits) / static_cast<float>(PowersOfTen[number.decimals]);
+    return number.negative ? -magnitude : magnitude;
+  }
+  return ToFloatingPoint<float, double>(text, "stof");
+}
+
+std::string_view Piece(std::string_view text, std::size_t position, std::size_t count) {
+  if (position > text.size()) ThrowInvalidPosition();
+  return text.substr(position, count);
+}
+
+void ThrowInvalidPosition() { throw std::out_of_range("invalid string position"); }
+
+std::int32_t ToIntOrMinimum(std::string_view text) {
+  int value = 0;
+  return ConvertInt(text, 10, value) == Conversion::Done ? value
+                                                         : std::numeric_limits<std::int32_t>::min();
+}
+
+std::int32_t Truncated(double value) {
+  if (value > -2147483649.0 && value < 2147483648.0) return static_cast<std::int32_t>(value);
+  return std::numeric_limits<std::int32_t>::min();
+}
+
+}  // namespace navframe

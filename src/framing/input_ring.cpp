@@ -1,0 +1,28 @@
+#include "framing/input_ring.h"
+
+namespace navframe {
+
+// Default-initialised on purpose: clearing 16 MiB would touch every page of them.
+InputRing::InputRing()
+    : buffer_(new std::uint8_t[Capacity + Slack]),
+      wrapped_(new std::uint8_t[LongestWrappedView + Slack]) {}
+
+void InputRing::Append(const std::uint8_t* data, std::uint32_t length) {
+  if (length == 0 || length > Free()) return;
+  const std::uint32_t position = write_ & Mask;
+  const std::uint32_t first = std::min(length, Capacity - position);
+  std::memcpy(buffer_.get() + position, data, first);
+  if (length > first) std::memcpy(buffer_.get(), data + first, length - first);
+  write_ += length;
+  if (Available() == 0) ++generation_;  // exactly full: what was there is gone
+}
+
+const std::uint8_t* InputRing::CopyWrapped(std::uint32_t length) {
+  const std::uint32_t position = read_ & Mask;
+  const std::uint32_t first = Capacity - position;
+  std::memcpy(wrapped_.get(), buffer_.get() + position, first);
+  std::memcpy(wrapped_.get() + first, buffer_.get(), length - first);
+  return wrapped_.get();
+}
+
+}  // namespace navframe

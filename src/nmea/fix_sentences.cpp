@@ -1,0 +1,108 @@
+#include "nmea/fix_sentences.h"
+
+#include <span>
+
+#include "nmea/field.h"
+
+namespace navframe::nmea {
+namespace {
+
+struct ModeLetter {
+  std::string_view text;
+  std::uint8_t mode;
+};
+constexpr ModeLetter RmcModes[] = {{"N", 0}, {"A", 1}, {"D", 2}, {"R", 4}, {"F", 5}, {"E", 6}};
+constexpr ModeLetter Modes[] = {{"N", 0}, {"A", 1}, {"D", 2}, {"E", 6}};
+
+// Any other text leaves the mode unknown.
+void ReadMode(std::span<const ModeLetter> modes, std::string_view field, std::uint8_t& mode) {
+  for (const ModeLetter& letter : modes) {
+    if (field == letter.text) mode = letter.mode;
+  }
+}
+
+}  // namespace
+
+// $GPGGA,123519.00,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,*hh
+void ParseGga(NmeaContext& /*context*/, const Fields& fields, GgaRecord& record) {
+  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+  ReadLatitude(fields[2], fields[3], record.latitude);
+  ReadLongitude(fields[4], fields[5], record.longitude);
+  ReadInt(fields[6], record.fixQuality);
+  ReadInt(fields[7], record.satellites);
+  ReadFloat(fields[8], record.hdop);
+  ReadFloat(fields[9], record.altitude);
+  ReadFloat(fields[11], record.geoidSeparation);
+  ReadFloat(fields[13], record.correctionAge);
+  ReadInt(fields[14], record.stationId);
+}
+
+// $GPRMC,123519.00,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,A*hh
+void ParseRmc(NmeaContext& /*context*/, const Fields& fields, RmcRecord& record) {
+  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+  if (!fields[2].empty()) record.status = fields[2] == "A" ? 1 : 0;
+  ReadLatitude(fields[3], fields[4], record.latitude);
+  ReadLongitude(fields[5], fields[6], record.longitude);
+  ReadFloat(fields[7], record.speedKnots);
+  ReadFloat(fields[8], record.course);
+  ReadDate(fields[9], record.utc);
+  CopyText(record.dateText, fields[9]);
+  ReadMode(RmcModes, fields[12], record.mode);
+}
+
+// $GPGLL,4916.45,N,12311.12,W,225444.00,A,A*hh
+void ParseGll(NmeaContext& /*context*/, const Fields& fields, GllRecord& record) {
+  ReadLatitude(fields[1], fields[2], record.latitude);
+  ReadLongitude(fields[3], fields[4], record.longitude);
+  ReadTimeOfDay(fields[5], record.utc);
+  if (fields[6] == "A") record.status = 1;
+  if (fields[6] == "V") record.status = 0;
+  ReadMode(Modes, fields[7], record.mode);
+}
+
+// $GPGST,172814.00,0.006,0.023,0.020,273.6,0.023,0.020,0.031*hh
+void ParseGst(NmeaContext& /*context*/, const Fields& fields, GstRecord& record) {
+  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+  ReadFloat(fields[2], record.rangeRms);
+  ReadFloat(fields[3], record.ellipseSemiMajor);
+  ReadFloat(fields[4], record.ellipseSemiMinor);
+  ReadFloat(fields[5], record.ellipseOrientation);
+  ReadFloat(fields[6], record.latitudeDeviation);
+  ReadFloat(fields[7], record.longitudeDeviation);
+  ReadFloat(fields[8], record.altitudeDeviation);
+}
+
+// $GPGBS,163317.00,0.2,0.2,0.5,03,,-21.4,3.8,1,0*hh; field 6, the probability of a missed
+// detection, is not stored.
+void ParseGbs(NmeaContext& /*context*/, const Fields& fields, GbsRecord& record) {
+  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+  ReadDoubleAsFloat(fields[2], record.latitudeError);
+  ReadDoubleAsFloat(fields[3], record.longitudeError);
+  ReadDoubleAsFloat(fields[4], record.altitudeError);
+  ReadInt(fields[5], record.failedSatellite);
+  ReadDoubleAsFloat(fields[7], record.bias);
+  ReadDoubleAsFloat(fields[8], record.biasDeviation);
+  ReadInt(fields[9], record.systemId);
+  ReadInt(fields[10], record.signalId);
+}
+
+// $GPVTG,089.0,T,,M,15.2,N,28.2,K,A*hh
+void ParseVtg(NmeaContext& /*context*/, const Fields& fields, VtgRecord& record) {
+  ReadDoubleAsFloat(fields[1], record.courseTrue);
+  ReadDoubleAsFloat(fields[3], record.courseMagnetic);
+  ReadDoubleAsFloat(fields[5], record.speedKnots);
+  ReadDoubleAsFloat(fields[7], record.speedKmh);
+  ReadMode(Modes, fields[9], record.mode);
+}
+
+// $GPZDA,172809.45,12,07,1996,00,00*hh
+void ParseZda(NmeaContext& /*context*/, const Fields& fields, ZdaRecord& record) {
+  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+  ReadInt(fields[2], record.utc.day);
+  ReadInt(fields[3], record.utc.month);
+  ReadInt(fields[4], record.utc.year);
+  ReadInt(fields[5], record.zoneHours);
+  ReadInt(fields[6], record.zoneMinutes);
+}
+
+}  // namespace navframe::nmea

@@ -1,0 +1,79 @@
+#include "nmea/nmea_decoder.h"
+
+#include <cstring>
+
+#include "base/text.h"
+#include "navframe/records.h"
+#include "nmea/satellite_sentences.h"
+#include "nmea/sentence_table.h"
+
+namespace navframe::nmea {
+namespace {
+
+// A record of any kind while it is built.
+struct alignas(8) RecordBuffer {
+  std::byte bytes[LargestRecord];
+
+  template <class Member>
+  Member& At(std::size_t offset) {
+    return *reinterpret_cast<Member*>(bytes + offset);
+  }
+  char* TextAt(TextMember text) { return reinterpret_cast<char*>(bytes + text.offset); }
+};
+
+void Stamp(const SentenceRow& row, const TimeManager& time, RecordBuffer& record) {
+  record.At<GPSTIME>(row.gpsTimeOffset) = time.gpsTime;
+  if (row.decoderTime.width != 0) {
+    CopyText(record.TextAt(row.decoderTime), row.decoderTime.width, time.timeText);
+  }
+}
+
+}  // namespace
+
+void NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
+  const SentenceRow* const row = Classify(fields.Text());
+  NmeaContext& context = contexts_[static_cast<std::size_t>(tag)];
+  context.previousKind = context.kind;
+  context.kind = row == nullptr ? 0 : row->Kind(tag);
+
+  // A run of GSV ends the cycle; one behind tag blocks, of another kind, never does.
+  if (context.kind != MsgIdGsv && context.previousKind == MsgIdGsv) {
+    context.satellites.SetCycleComplete();
+  }
+  sink_.NoteDecoded(context.kind);
+  if (context.satellites.CycleComplete()) EmitSatellitesInView(context);
+
+  if (row == nullptr) return;
+  const bool passes = row->Passes(sink_);
+  if (row->filterTest == FilterTest::BeforeBuilding && !passes) return;
+  if (row->takes != nullptr && !row->takes(fields)) return;
+  if (row->kind == MsgIdGsv) return AccumulateGsv(context, fields, time_);
+  if (row->parse == nullptr) return;
+
+  RecordBuffer record;
+  std::memcpy(record.bytes, row->unknown, row->size);
+  if (row->firstByte == FirstByte::TagFlag) record.At<TagFlag>(0) = tag;
+  row->parse(context, fields, record.bytes);
+  if (row->clock != ClockRule::None) {
+    const TextMember text = row->sentenceTime;
+    const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),
+                                       TextOf(record.TextAt(text), text.width)};
+    KeepTime(row->clock, sentenceTime, context, counters_, time_);
+  }
+  Stamp(*row, time_, record);
+  if (!passes && row->filterTest != FilterTest::Never) return;
+  void* const payload = sink_.Allocate(row->size);
+  std::memcpy(payload, record.bytes, row->size);
+  sink_.PushMessage(context.kind, payload, row->size);
+}
+
+void NmeaDecoder::EmitSatellitesInView(NmeaContext& context) {
+  if (sink_.Passes(MsgIdGsv, MsgIdTaggedGsv)) {
+    auto* const record = static_cast<GsvRecord*>(sink_.Allocate(sizeof(GsvRecord)));
+    context.satellites.Fill(*record);
+    sink_.PushMessage(context.previousKind, record, sizeof(GsvRecord));
+  }
+  context.satellites.Reset();
+}
+
+}  // namespace navframe::nmea

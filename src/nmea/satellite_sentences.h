@@ -1,0 +1,22 @@
+// Parsers of the sentences about satellites.
+#pragma once
+
+#include "navframe/records.h"
+#include "navframe/time_manager.h"
+#include "nmea/nmea_context.h"
+#include "nmea/sentence.h"
+
+namespace navframe::nmea {
+
+// A GSA with the number of fields of a known revision, without or with a system id.
+bool IsGsa(const Fields& fields);
+// A GSV of whole satellite blocks, without or with a signal id.
+bool IsGsv(const Fields& fields);
+
+// Fills the record and marks the used satellites in the context's satellites in view.
+void ParseGsa(NmeaContext& context, const Fields& fields, GsaRecord& record);
+
+// Adds the sentence's signals to the context's satellites in view.
+void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager& time);
+
+}  // namespace navframe::nmea

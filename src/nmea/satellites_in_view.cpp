@@ -1,0 +1,90 @@
+#include "nmea/satellites_in_view.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/text.h"
+#include "nmea/unknown_records.h"
+
+namespace navframe::nmea {
+namespace {
+
+constexpr std::size_t MostSignals = std::size(SatelliteInView{}.signals);
+
+}  // namespace
+
+void SatellitesInView::Reset() {
+  slots_.fill(0);
+  numberedCount_ = 0;
+  unnumberedCount_ = 0;
+  cycleComplete_ = false;
+  gpsTime_ = UnknownGsv.gpsTime;
+  std::memset(timeText_, 0, sizeof timeText_);
+}
+
+void SatellitesInView::StampHeader(const TimeManager& time) {
+  gpsTime_ = time.gpsTime;
+  CopyText(timeText_, time.timeText);
+}
+
+SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
+  const std::int64_t key = std::int64_t{systemId} * 1000 + number;
+  std::size_t slot = static_cast<std::size_t>(key * 37) % Slots;
+  for (; slots_[slot] != 0; slot = (slot + 1) % Slots) {
+    const std::size_t place = slots_[slot] - std::size_t{1};
+    if (keys_[place] == key) return &numbered_[place];
+  }
+  if (Full()) return nullptr;
+  const std::size_t place = numberedCount_++;
+  slots_[slot] = numberedCount_;
+  keys_[place] = key;
+  numbered_[place] = UnknownSatellite;
+  return &numbered_[place];
+}
+
+void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId,
+                                   const GsvBlock& block) {
+  if (block.elevation) entry.elevation = static_cast<std::uint16_t>(*block.elevation);
+  if (block.azimuth) entry.azimuth = static_cast<std::uint16_t>(*block.azimuth);
+  if (entry.signalCount >= MostSignals) return;
+  SatelliteSignal& signal = entry.signals[entry.signalCount++];
+  signal.signalId = signalId;
+  signal.cn0 = block.cn0;
+}
+
+void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
+  if (block.number) {
+    SatelliteInView* const entry = Entry(systemId, *block.number);
+    if (entry == nullptr) return;
+    entry->systemId = static_cast<std::uint8_t>(systemId);
+    entry->number = static_cast<std::uint8_t>(*block.number);
+    AddSignalTo(*entry, signalId, block);
+  } else if (unnumberedCount_ < MostSatellites) {
+    SatelliteInView& entry = unnumbered_[unnumberedCount_++];
+    entry = UnknownSatellite;
+    entry.systemId = static_cast<std::uint8_t>(systemId);
+    AddSignalTo(entry, signalId, block);
+  }
+}
+
+void SatellitesInView::MarkUsed(int systemId, int number) {
+  SatelliteInView* const entry = Entry(systemId, number);
+  if (entry == nullptr) return;
+  if (entry->number == UnknownSatellite.number) entry->number = static_cast<std::uint8_t>(number);
+  entry->systemId = static_cast<std::uint8_t>(systemId);
+  entry->used = 1;
+}
+
+void SatellitesInView::Fill(GsvRecord& record) const {
+  std::memcpy(&record, &UnknownGsv, sizeof record);  // with the bytes between the members
+  std::memcpy(record.timeText, timeText_, sizeof timeText_);
+  record.gpsTime = gpsTime_;
+  record.cycleComplete = cycleComplete_ ? 1 : 0;
+  const std::size_t unnumbered =
+      std::min<std::size_t>(unnumberedCount_, MostSatellites - numberedCount_);
+  std::copy_n(numbered_.begin(), numberedCount_, record.satellites);
+  std::copy_n(unnumbered_.begin(), unnumbered, record.satellites + numberedCount_);
+  record.satelliteCount = static_cast<std::uint8_t>(numberedCount_ + unnumbered);
+}
+
+}  // namespace navframe::nmea

@@ -1,0 +1,66 @@
+// The satellites of the GSV cycle that is being received.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "navframe/records.h"
+#include "navframe/time_manager.h"
+
+namespace navframe::nmea {
+
+inline constexpr std::size_t MostSatellites = 96;
+
+// One signal as a GSV block gives it; empty fields are absent.
+struct GsvBlock {
+  std::optional<int> number;  // absent: an unnumbered satellite
+  std::optional<int> elevation;
+  std::optional<int> azimuth;
+  std::uint8_t cn0;
+};
+
+class SatellitesInView {
+ public:
+  SatellitesInView() { Reset(); }
+
+  // Forgets everything, the header included.
+  void Reset();
+  bool Full() const { return numberedCount_ >= MostSatellites; }
+
+  // Takes the header of the cycle's record from the decoder's time.
+  void StampHeader(const TimeManager& time);
+
+  // Adds a signal. Satellites beyond the room of the record and signals beyond the three of an
+  // entry are dropped.
+  void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
+
+  // Marks a satellite that a GSA sentence lists, adding it when it is new.
+  void MarkUsed(int systemId, int number);
+
+  void SetCycleComplete() { cycleComplete_ = true; }
+  bool CycleComplete() const { return cycleComplete_; }
+
+  // Writes the record of the cycle: numbered satellites in order of appearance, then unnumbered.
+  void Fill(GsvRecord& record) const;
+
+ private:
+  // The entry of a numbered satellite, a new one when it is not there; null without room.
+  SatelliteInView* Entry(int systemId, int number);
+  static void AddSignalTo(SatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
+
+  static constexpr std::size_t Slots = 256;  // a power of two above twice the satellites
+
+  std::array<SatelliteInView, MostSatellites> numbered_;
+  std::array<SatelliteInView, MostSatellites> unnumbered_;
+  std::array<std::int64_t, MostSatellites> keys_;  // of the numbered satellites
+  std::array<std::uint8_t, Slots> slots_;          // hash table: place + 1, 0 for none
+  std::uint8_t numberedCount_ = 0;
+  std::uint8_t unnumberedCount_ = 0;
+  bool cycleComplete_ = false;
+  GPSTIME gpsTime_;
+  char timeText_[sizeof(GsvRecord::timeText)];
+};
+
+}  // namespace navframe::nmea

@@ -1,0 +1,104 @@
+#include "nmea/sentence_framer.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "nmea/sentence.h"
+
+namespace navframe::nmea {
+namespace {
+
+// Bytes of "*" and the checksum digits.
+constexpr std::uint32_t TrailerLength = 3;
+
+constexpr bool IsLetter(std::uint8_t c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
+
+// Takes the two bytes of a line end behind a sentence when the second is LF, whatever the first.
+void ConsumeLineEnd(InputRing& ring) {
+  if (ring.Available() >= 2 && ring[1] == '\n') ring.Advance(2);
+}
+
+constexpr std::uint32_t TagBlockLength = 8;
+constexpr std::uint32_t LongestTaggedStarOffset = 256;
+
+bool LooksLikeTagBlock(const InputRing& ring) {
+  const std::uint32_t available = ring.Available();
+  return (available < 2 || ring[1] == 's') && (available < 3 || ring[2] == ':') &&
+         (available < TagBlockLength || ring[TagBlockLength - 1] == '\\');
+}
+
+// The offset of the first "*" behind the tag block at the head, or the number of bytes available.
+std::uint32_t FindStar(const InputRing& ring, TagBlockSearch& search) {
+  const std::uint32_t head = ring.ReadIndex();
+  const std::uint32_t available = ring.Available();
+  std::uint32_t offset = TagBlockLength;
+  const bool known = search.generation == ring.Generation() &&
+                     head + offset - search.from <= search.until - search.from;
+  if (known) offset = search.until - head;
+  const std::uint32_t searchedFrom = known ? search.from : head + offset;
+  while (offset < available) {
+    const auto piece = ring.Piece(offset);
+    const void* const star = std::memchr(piece.data(), '*', piece.size());
+    if (star != nullptr) {
+      offset += static_cast<std::uint32_t>(static_cast<const std::uint8_t*>(star) - piece.data());
+      break;
+    }
+    offset += static_cast<std::uint32_t>(piece.size());
+  }
+  search = {searchedFrom, head + offset, ring.Generation()};
+  return offset;
+}
+
+}  // namespace
+
+FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
+  InputRing& ring = stream.ring;
+  // A "*" further away changes nothing, and neither does the sentence's length once a byte more
+  // than the longest sentence is there: the head is then skipped or decoded, never waited for.
+  constexpr std::uint32_t Reach = LongestStarOffset + TrailerLength;
+  const std::uint32_t available = ring.Available();
+  const std::uint8_t* const text = ring.View(std::min(available, Reach));
+  SentenceSweep sweep;
+  Sweep(text, std::min(available, LongestStarOffset + 1), sweep);
+  if (sweep.outcome == SentenceSweep::Outcome::SecondStart && available < Reach) {
+    // Cut off by the next sentence; still, it is skipped only once its "*" has decided so.
+    const void* const star = std::memchr(text, '*', std::min(available, LongestStarOffset + 1));
+    const std::uint32_t offset =
+        star == nullptr ? available
+                        : static_cast<std::uint32_t>(static_cast<const std::uint8_t*>(star) - text);
+    const bool decided =
+        star == nullptr ? available > LongestStarOffset + 1 : offset + TrailerLength <= available;
+    return decided ? SkipOneByte(stream) : FramerResult::NeedMore;
+  }
+  if (sweep.outcome == SentenceSweep::Outcome::Neither) {
+    return available > LongestStarOffset + 1 ? SkipOneByte(stream) : FramerResult::NeedMore;
+  }
+  const std::uint32_t length = sweep.starOffset + TrailerLength;
+  if (sweep.outcome == SentenceSweep::Outcome::Star && length > available) {
+    return FramerResult::NeedMore;
+  }
+  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star &&
+                     ChecksumMatches(text, sweep) && IsLetter(text[1]) && IsLetter(text[2]);
+  if (!valid) return SkipOneByte(stream);
+
+  decoder.Decode(Fields(reinterpret_cast<const char*>(text), sweep), TagFlag::Plain);
+  AcceptFrame(stream, length);
+  ConsumeLineEnd(ring);
+  return FramerResult::Done;
+}
+
+FramerResult FrameTagBlock(Stream& stream, TagBlockSearch& search) {
+  const InputRing& ring = stream.ring;
+  const std::uint32_t available = ring.Available();
+  if (!LooksLikeTagBlock(ring)) return SkipOneByte(stream);
+  if (available <= TagBlockLength) return FramerResult::NeedMore;
+  const std::uint32_t star = FindStar(ring, search);
+  if (star >= available) return FramerResult::NeedMore;  // however long that takes
+  if (star > LongestTaggedStarOffset) return SkipOneByte(stream);
+  if (star + TagBlockLength + TrailerLength > available) return FramerResult::NeedMore;
+
+  // The sentence check would meet a text that begins with "\\", which no sentence does.
+  return SkipOneByte(stream);
+}
+
+}  // namespace navframe::nmea

@@ -1,0 +1,41 @@
+// Memory of payloads.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace navframe {
+
+// Payloads are plain malloc blocks, so that any of them can be freed by the host alone. A block
+// that is abandoned (the oldest record of a full queue, a record that a filter blocked after it
+// was built) is never handed back to the allocator; it is set aside and serves the next record of
+// its size, so that memory does not grow however long a host abandons records.
+class PayloadBlocks {
+ public:
+  PayloadBlocks() = default;
+  PayloadBlocks(const PayloadBlocks&) = delete;
+  PayloadBlocks& operator=(const PayloadBlocks&) = delete;
+  ~PayloadBlocks();
+
+  // A block with undefined content. Throws std::bad_alloc when there is no memory.
+  void* Allocate(std::uint32_t size) {
+    if (asideCount_ != 0) {
+      if (void* block = TakeAside(size)) return block;
+    }
+    return AllocateNew(size);
+  }
+
+  void Abandon(void* block, std::uint32_t size);
+  static void Free(void* block);
+
+ private:
+  void* TakeAside(std::uint32_t size);
+  static void* AllocateNew(std::uint32_t size);
+
+  std::unordered_map<std::uint32_t, std::vector<void*>> aside_;  // by size
+  std::size_t asideCount_ = 0;
+};
+
+}  // namespace navframe

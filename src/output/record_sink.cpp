@@ -1,0 +1,32 @@
+#include "output/record_sink.h"
+
+namespace navframe {
+
+void RecordSink::PushMessage(const QueuedMessage& message) {
+  if (queue_.Full()) {
+    // The newest records survive. The payload of the oldest is not freed, only set aside.
+    const QueuedMessage oldest = *queue_.Pop();
+    if (oldest.message.data != nullptr) blocks_.Abandon(oldest.message.data, oldest.payloadSize);
+  }
+  queue_.Push(message);
+}
+
+std::uint32_t RecordSink::Pop(GnssMessage& out, std::uint32_t wantedId) {
+  const auto oldest = queue_.Pop();
+  if (!oldest) return NAVFRAME_NOTHING;
+  out = oldest->message;
+  if (wantedId == 0 || wantedId == out.id) return 0;
+  // A mismatch is discarded. One without a payload is handed out all the same, with its own id:
+  // hosts rely on the difference.
+  if (out.data == nullptr) return 0;
+  Release(out);
+  return NAVFRAME_NOTHING;
+}
+
+void RecordSink::Release(GnssMessage& message) {
+  if (message.data == nullptr) return;
+  PayloadBlocks::Free(message.data);
+  message.data = nullptr;
+}
+
+}  // namespace navframe

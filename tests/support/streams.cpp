@@ -1,0 +1,106 @@
+#include "support/streams.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "render/render.h"
+
+namespace navframe::test {
+
+Bytes ToBytes(std::string_view text) { return {text.begin(), text.end()}; }
+
+Bytes operator+(Bytes a, const Bytes& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+std::string Sentence(std::string_view body) {
+  unsigned checksum = 0;
+  for (const char c : body) checksum ^= static_cast<unsigned char>(c);
+  std::array<char, 8> trailer;
+  std::snprintf(trailer.data(), trailer.size(), "*%02X\r\n", checksum);
+  return "$" + std::string(body) + trailer.data();
+}
+
+std::vector<Record> PopAll(Decoder& decoder) {
+  std::vector<Record> records;
+  while (const auto oldest = decoder.sink.PopOldest()) {
+    const GnssMessage& message = oldest->message;
+    records.push_back({message.id, std::shared_ptr<void>(message.data, std::free),
+                       oldest->payloadSize, message.source});
+  }
+  return records;
+}
+
+std::vector<Record> Push(Decoder& decoder, const Bytes& bytes, std::size_t chunk) {
+  std::vector<Record> records;
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::size_t length = std::min(chunk, bytes.size() - at);
+    // An allocation of exactly the chunk's size, so that the address sanitizer sees a read past it.
+    const Bytes piece(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+                      bytes.begin() + static_cast<std::ptrdiff_t>(at + length));
+    decoder.PutData(piece.data(), static_cast<std::uint32_t>(length));
+    const auto popped = PopAll(decoder);
+    records.insert(records.end(), popped.begin(), popped.end());
+    at += length;
+  }
+  return records;
+}
+
+std::vector<Record> Push(Decoder& decoder, std::string_view text, std::size_t chunk) {
+  return Push(decoder, ToBytes(text), chunk);
+}
+
+std::vector<Record> Decoded(const Bytes& bytes, std::size_t chunk) {
+  const auto decoder = std::make_unique<Decoder>();
+  return Push(*decoder, bytes, chunk);
+}
+
+std::vector<Record> Decoded(std::string_view text, std::size_t chunk) {
+  return Decoded(ToBytes(text), chunk);
+}
+
+std::vector<std::uint32_t> Ids(const std::vector<Record>& records) {
+  std::vector<std::uint32_t> ids;
+  for (const Record& record : records) ids.push_back(record.id);
+  return ids;
+}
+
+std::string Rendered(const Record& record) {
+  std::string text(65536, '\0');
+  if (!RenderRecord({record.id, record.source, record.payload.get()}, text.data(), false)) {
+    return "no text";
+  }
+  text.resize(std::strlen(text.c_str()));
+  return text;
+}
+
+bool SameRecords(const std::vector<Record>& a, const std::vector<Record>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Record& x, const Record& y) {
+    return x.id == y.id && x.source == y.source && x.size == y.size &&
+           std::memcmp(x.payload.get(), y.payload.get(), x.size) == 0;
+  });
+}
+
+std::optional<Bytes> Capture(std::string_view name) {
+  const char* const folder = std::getenv("NAVFRAME_CAPTURES");
+  if (folder == nullptr) return std::nullopt;
+  std::ifstream file(std::filesystem::path(folder) / name, std::ios::binary);
+  if (!file) return std::nullopt;
+  return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+std::size_t ResidentMemory() {
+  std::ifstream statm("/proc/self/statm");
+  std::size_t total = 0;
+  std::size_t resident = 0;
+  statm >> total >> resident;
+  return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+}  // namespace navframe::test
