@@ -142,16 +142,7 @@ T ToFloatingPoint(std::string_view text, const char* conversion) {
 
 }  // namespace
 
-int ToInt(std::string_view text) {
-  // Up to nine digits, the common case, cannot leave the range of int.
-  if (!text.empty() && text.size() <= 9) {
-    int value = 0;
-    std::size_t i = 0;
-    for (; i < text.size() && IsDigit(text[i]); ++i) value = value * 10 + (text[i] - '0');
-    if (i == text.size()) return value;
-  }
-  return ToIntInBase(text, 10);
-}
+int ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
 
 int ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
 

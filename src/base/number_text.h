@@ -15,7 +15,20 @@
 
 namespace navframe {
 
-int ToInt(std::string_view text);
+int ToIntOfAnyShape(std::string_view text);
+
+inline int ToInt(std::string_view text) {
+  // Up to nine digits and nothing else, what receivers send, cannot leave the range of int.
+  if (text.empty() || text.size() > 9) return ToIntOfAnyShape(text);
+  unsigned value = 0;
+  for (const char c : text) {
+    const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
+    if (digit > 9) return ToIntOfAnyShape(text);
+    value = value * 10 + digit;
+  }
+  return static_cast<int>(value);
+}
+
 int ToIntBase16(std::string_view text);
 double ToDouble(std::string_view text);
 float ToFloat(std::string_view text);

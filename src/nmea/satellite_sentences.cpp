@@ -51,6 +51,15 @@ std::optional<int> OptionalInt(std::string_view field) {
   return ToInt(field);
 }
 
+// A whole number or a decimal one, of which the integer part counts.
+std::uint8_t CarrierToNoise(std::string_view field) {
+  constexpr auto IsDigit = [](char c) { return c >= '0' && c <= '9'; };
+  if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
+    return static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
+  }
+  return static_cast<std::uint8_t>(Truncated(ToDouble(field)));
+}
+
 std::optional<int> GsvSystem(std::string_view address) {
   for (const AddressRow& row : GsvAddresses) {
     if (address == row.address) return row.systemId;
@@ -111,7 +120,7 @@ void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager
     block.elevation = OptionalInt(fields[i + 1]);
     block.azimuth = OptionalInt(fields[i + 2]);
     const std::string_view cn0 = fields[i + 3];
-    block.cn0 = cn0.empty() ? 255 : static_cast<std::uint8_t>(Truncated(ToDouble(cn0)));
+    block.cn0 = cn0.empty() ? 255 : CarrierToNoise(cn0);
   }
 
   if (context.satellites.Full()) context.satellites.Reset();

@@ -1,5 +1,6 @@
 #include "nmea/sentence.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "base/byte_block.h"
@@ -39,7 +40,10 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
     const std::uint64_t stars = block.EqualTo('*') & looked;
     std::uint64_t starts = block.EqualTo('$') & looked;
     if (base == 0) starts &= ~std::uint64_t{1};
-    const std::uint64_t before = stars == 0 ? looked : (stars - 1) & ~stars;
+    const std::uint32_t count =
+        stars == 0 ? std::min(length - base, Block)
+                   : static_cast<std::uint32_t>(std::countr_zero(stars));
+    const std::uint64_t before = LowBits(count);
     if ((starts & before) != 0) {
       sweep.outcome = SentenceSweep::Outcome::SecondStart;
       break;
@@ -49,7 +53,7 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
       const auto offset = static_cast<std::uint32_t>(std::countr_zero(commas));
       sweep.commas[commaCount++] = static_cast<std::uint8_t>(base + offset);
     }
-    checksum ^= block.XorOfFirst(static_cast<std::size_t>(std::popcount(before)));
+    checksum ^= block.XorOfFirst(count);
     if (stars != 0) {
       sweep.outcome = SentenceSweep::Outcome::Star;
       sweep.starOffset = base + static_cast<std::uint32_t>(std::countr_zero(stars));

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "api/decoder.h"
+#include "generator/nmea_stream.h"
 
 namespace navframe::test {
 
@@ -20,8 +21,7 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes ToBytes(std::string_view text);
 Bytes operator+(Bytes a, const Bytes& b);
 
-// "$" + body + "*" + checksum + CR LF.
-std::string Sentence(std::string_view body);
+using sample::Sentence;
 
 // A popped record that owns its payload.
 struct Record {
