@@ -40,9 +40,8 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
     const std::uint64_t stars = block.EqualTo('*') & looked;
     std::uint64_t starts = block.EqualTo('$') & looked;
     if (base == 0) starts &= ~std::uint64_t{1};
-    const std::uint32_t count =
-        stars == 0 ? std::min(length - base, Block)
-                   : static_cast<std::uint32_t>(std::countr_zero(stars));
+    const std::uint32_t count = stars == 0 ? std::min(length - base, Block)
+                                           : static_cast<std::uint32_t>(std::countr_zero(stars));
     const std::uint64_t before = LowBits(count);
     if ((starts & before) != 0) {
       sweep.outcome = SentenceSweep::Outcome::SecondStart;
