@@ -1,34 +1,26 @@
 // How fast streams become records, each beside its floors.
-#include <benchmark/benchmark.h>
-
 #include "floors.h"
 #include "generator/nmea_stream.h"
-#include "host.h"
+#include "report.h"
 
 namespace navframe::bench {
 namespace {
-
-void Report(benchmark::State& state, const Bytes& bytes, std::uint64_t records) {
-  const auto runs = static_cast<std::int64_t>(state.iterations());
-  state.SetBytesProcessed(runs * static_cast<std::int64_t>(bytes.size()));
-  if (records != 0) state.SetItemsProcessed(runs * static_cast<std::int64_t>(records));
-}
 
 void Decode(benchmark::State& state, const Bytes& bytes) {
   const auto chunk = static_cast<std::size_t>(state.range(0));
   std::uint64_t records = 0;
   for (auto _ : state) records = DecodeAll(bytes, chunk);
-  Report(state, bytes, records);
+  Report(state, bytes.size(), records);
 }
 
 void Copy(benchmark::State& state, const Bytes& bytes) {
   for (auto _ : state) CopyFloor(bytes, DefaultChunk);
-  Report(state, bytes, 0);
+  Report(state, bytes.size(), 0);
 }
 
 void Xor(benchmark::State& state, const Bytes& bytes) {
   for (auto _ : state) benchmark::DoNotOptimize(XorFloor(bytes));
-  Report(state, bytes, 0);
+  Report(state, bytes.size(), 0);
 }
 
 const Bytes& Nmea() {
