@@ -77,7 +77,8 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   if (sweep.outcome == SentenceSweep::Outcome::Star && length > available) {
     return FramerResult::NeedMore;
   }
-  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star &&
+  // The head is no "$" when the ring was emptied by an exact fill while a sentence was awaited.
+  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star && text[0] == '$' &&
                      ChecksumMatches(text, sweep) && IsLetter(text[1]) && IsLetter(text[2]);
   if (!valid) return SkipOneByte(stream);
 
