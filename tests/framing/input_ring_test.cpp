@@ -69,21 +69,5 @@ TEST(InputRing, ExactFillLosesTheContent) {
   EXPECT_EQ(ring.Available(), 0U);
 }
 
-// Both indices run over 32 bits; here the ring is never empty.
-TEST(InputRing, IndicesWrapAround) {
-  if (Sanitized) GTEST_SKIP() << "copies 4 GiB";
-  InputRing ring;
-  Append(ring, Numbered(4, 1));
-  const Bytes bytes = Bytes(InputRing::Capacity - 12) + Numbered(4, 1);
-  for (int i = 0; i < 260; ++i) {
-    Append(ring, bytes);
-    ASSERT_EQ(ring.Available(), InputRing::Capacity - 4);
-    ring.Advance(InputRing::Capacity - 8);
-    ASSERT_EQ(ring.Available(), 4U);
-    ASSERT_EQ(ring[0], 1);
-    ASSERT_EQ(ring[3], 4);
-  }
-}
-
 }  // namespace
 }  // namespace navframe::test

@@ -5,7 +5,6 @@
 #include <map>
 #include <random>
 
-#include "framing/input_step.h"
 #include "navframe/navframe.h"
 #include "support/streams.h"
 
@@ -65,7 +64,6 @@ TEST(SyncScan, EveryMaskAndBoardType) {
       const Scan wanted = first == length
                               ? Scan{false, ParserState::Scanning, length, 0}
                               : Scan{true, Rule(chunk[first], mask, board), first, length - first};
-      PlaceHead(stream, 0);
       stream.ring.Clear();
       EXPECT_EQ(Scanned(stream, chunk, syncBytes), wanted) << mask << ' ' << board;
     }
@@ -115,29 +113,6 @@ TEST(SyncScan, MaskHoldsFromTheNextScanOn) {
   EXPECT_EQ(decoder->stream.statistics.skippedBytes, sentence.size());
   decoder->SetMsgTypes(ProtocolNmea);
   EXPECT_EQ(Push(*decoder, sentence).size(), 1U);
-}
-
-// The framers decide how the loop goes on.
-TEST(InputStep, CallsTheFramerOfTheStateUntilItNeedsMore) {
-  const SyncBytes syncBytes({0xFFFFFFFF, 0});
-  Stream stream;
-  std::string called;
-  const auto step = [&](const Bytes& chunk, std::size_t frames) {
-    called.clear();
-    RunInputStep(stream, syncBytes, chunk.data(), static_cast<std::uint32_t>(chunk.size()),
-                 [&](ParserState state) {
-                   called += std::to_string(static_cast<int>(state)) + " ";
-                   return frames-- == 0 ? FramerResult::NeedMore : SkipOneByte(stream);
-                 });
-    return called;
-  };
-  const Bytes chunk = {'x', 0xB5, 0xD3, '$', 'U', '\\', 'x', 'x'};
-  EXPECT_EQ(step(chunk, 9), "5 3 ") << "fewer than six bytes are left for the next one";
-  EXPECT_EQ(step({}, 0), "1 ") << "the framer of the state is first to see the next input";
-  EXPECT_EQ(step({}, 9), "1 ");
-  EXPECT_EQ(step({'x', 'x'}, 9), "10 ");
-  EXPECT_EQ(step({}, 9), "2 ");
-  EXPECT_EQ(stream.ring.Available(), 0U);
 }
 
 }  // namespace

@@ -98,16 +98,6 @@ TEST(Dispatch, WhenTheFilterIsAsked) {
   }
 }
 
-TEST(Dispatch, BlockedSentencesStillMoveTheClock) {
-  const auto decoder = std::make_unique<Decoder>();
-  decoder->sink.SetFilter(8);
-  const auto records =
-      Push(*decoder, Sentence("GPRMC,120000.000,A,,,,,,,310724") + Sentence("GPVTG,"));
-  ASSERT_EQ(records.size(), 1U);
-  EXPECT_STREQ(records[0].As<VtgRecord>().timeText, "120000.000");
-  EXPECT_EQ(records[0].As<VtgRecord>().gpsTime.week, 2325);
-}
-
 TEST(Dispatch, GsaAndGsvByTheirNumberOfFields) {
   for (std::size_t commas = 1; commas < 30; ++commas) {
     const std::size_t fields = commas + 1;

@@ -73,18 +73,6 @@ TEST(DecodedIds, AreDrainedOnce) {
   EXPECT_EQ(sink.DrainDecodedIds(ids.data()), 0U);
 }
 
-TEST(PayloadBlocks, AbandonedOnesServeTheNextRecordOfTheirSize) {
-  RecordSink sink;
-  void* const small = sink.Allocate(24);
-  void* const large = sink.Allocate(80);
-  sink.Abandon(small, 24);
-  sink.Abandon(large, 80);
-  EXPECT_EQ(sink.Allocate(80), large);
-  EXPECT_EQ(sink.Allocate(24), small);
-  sink.Abandon(small, 24);
-  sink.Abandon(large, 80);
-}
-
 // A host that never pops: the queue stays at its bound, and memory with it.
 TEST(OutputQueue, MillionRecordsOfAHostThatNeverPops) {
   constexpr std::size_t Records = Sanitized ? 30'000 : 1'000'000;

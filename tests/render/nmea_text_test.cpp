@@ -10,6 +10,7 @@
 #include <random>
 
 #include "navframe/records.h"
+#include "render/names.h"
 #include "render/render.h"
 #include "render/text_writer.h"
 #include "support/streams.h"
@@ -130,6 +131,16 @@ TEST(RenderRecord, RefusesWhatHasNoText) {
   EXPECT_STREQ(out.c_str(), "");
 }
 
+TEST(Names, UnknownOnesWriteNothing) {
+  char out[] = "before!!";
+  for (const std::int32_t id : {-1, 0, 7, 14, 16, 257}) EXPECT_EQ(CopyName(SystemName(id), out), 0);
+  EXPECT_EQ(CopyName(SignalName(1, 2), out) + CopyName(SignalName(15, 1), out), 0);
+  EXPECT_STREQ(out, "before!!");
+  EXPECT_EQ(CopyName(SystemName(15), out), 2);
+  EXPECT_EQ(CopyName(SignalName(6, 1), out), 6);
+  EXPECT_STREQ(out, "L5 SPS");
+}
+
 std::string Fixed(double value, int decimals) {
   std::array<char, 1024> out;
   TextWriter writer(out.data());
@@ -180,21 +191,6 @@ TEST(TextWriter, FixedIsThatOfPrintf) {
                              std::numeric_limits<double>::denorm_min()}) {
     for (int decimals = 0; decimals < 13; ++decimals) expect(value, decimals);
   }
-}
-
-TEST(TextWriter, Integers) {
-  std::array<char, 1024> out;
-  TextWriter writer(out.data());
-  writer.Int(std::uint8_t{7});
-  writer.Int(std::int8_t{-7});
-  writer.Int(std::numeric_limits<std::int64_t>::min());
-  writer.IntOr(std::uint16_t{65535}, "a", "b");
-  writer.IntOr(std::uint16_t{65534}, "a", "b");
-  writer.FixedOr(Unknown<float>(), 2, "c", "d");
-  writer.FixedOr(-0.5F, 2, "c", "d");
-  writer.TakeBack(1);
-  writer.Terminate();
-  EXPECT_STREQ(out.data(), "7-7-9223372036854775808b65534ad-0.50");
 }
 
 }  // namespace
