@@ -4,9 +4,8 @@
 // locale, whatever locale the host has set: leading white space and a sign are taken, anything
 // after the number is ignored, hexadecimal, infinity and NaN are numbers for the floating-point
 // forms. What they throw, hosts rely on, so the texts are fixed too:
-//   std::invalid_argument  "invalid stoi argument", "invalid stod argument", "invalid stof
-//   argument" std::out_of_range      "stoi argument out of range", "stod argument out of range",
-//   ...
+//   std::invalid_argument  "invalid stoi argument", and likewise stod and stof
+//   std::out_of_range      "stoi argument out of range", and likewise stod and stof
 #pragma once
 
 #include <cstddef>

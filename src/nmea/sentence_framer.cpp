@@ -79,8 +79,9 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   if (sweep.outcome == SentenceSweep::Outcome::Star && length > available) {
     return FramerResult::NeedMore;
   }
-  const bool valid =
-      sweep.outcome == SentenceSweep::Outcome::Star && ChecksumMatches(text, sweep) && hasTalker;
+  // The head is no "$" when the ring was emptied by an exact fill while a sentence was awaited.
+  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star && text[0] == '$' && hasTalker &&
+                     ChecksumMatches(text, sweep);
   if (!valid) return SkipOneByte(stream);
 
   decoder.Decode(Fields(reinterpret_cast<const char*>(text), sweep), TagFlag::Plain);

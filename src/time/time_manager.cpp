@@ -28,9 +28,8 @@ constexpr std::int64_t FirstWeek = 208;
 constexpr std::int64_t DaysTo1992 = 2922;
 constexpr std::int64_t DaysTo1992ForWeek = 2921;
 
-constexpr bool CanConvert(const UTCTIME& utc) {
-  return utc.year != UnknownYear && utc.month >= 1 && utc.month <= 12;
-}
+// The table of days holds these months alone; a date of another one has no day number.
+constexpr bool HasMonth(const UTCTIME& utc) { return utc.month >= 1 && utc.month <= 12; }
 
 // Days since 1992-01-01, give or take the offset of the caller's count.
 std::int64_t DaysSince1992(const UTCTIME& utc) {
@@ -99,12 +98,13 @@ void TimeManager::setLeap(int s) {
 }
 
 void TimeManager::UTC2GPSTime(UTCTIME& utc, GPSTIME& out) {
-  if (!CanConvert(utc)) return;
+  if (utc.year == UnknownYear) return;
   if (utc.second >= 60) {
     leapPending = 1;
   } else if (leapPending != 0) {
     CountLeapSecond(*this);
   }
+  if (!HasMonth(utc)) return;
   std::int64_t ms =
       ((utc.hour * 60LL + utc.minute) * 60LL + leapSeconds + utc.second) * 1000LL + utc.millisecond;
   std::int64_t days = DaysSince1992(utc) + DaysTo1992;
@@ -118,7 +118,7 @@ void TimeManager::UTC2GPSTime(UTCTIME& utc, GPSTIME& out) {
 }
 
 void TimeManager::date2Week(UTCTIME& utc, unsigned short& week, int leap) {
-  if (!CanConvert(utc)) return;
+  if (utc.year == UnknownYear || !HasMonth(utc)) return;
   const std::int64_t days =
       DaysSince1992(utc) + DaysTo1992ForWeek + (leap * 1000LL >= DayMs ? 1 : 0);
   week = static_cast<std::uint16_t>(days / 7 + FirstWeek);
@@ -128,7 +128,8 @@ void TimeManager::updateHMS(HMSTimeType& hms, std::string text) {
   setHMS(hms, std::move(text));
   if (gpsTime.tow == UnknownTow) return;
   std::uint32_t time = TimeOfDayMs(utcTime) + static_cast<std::uint32_t>(leapSeconds) * 1000U;
-  if (time > DayMs) time -= static_cast<std::uint32_t>(DayMs);  // 24:00:00.000 stays
+  // Compared as signed, for a host with a leap second count below 0. 24:00:00.000 stays.
+  if (static_cast<std::int32_t>(time) > DayMs) time -= static_cast<std::uint32_t>(DayMs);
   timeOfDayMs = time;
   const std::uint32_t day = gpsTime.tow / static_cast<std::uint32_t>(DayMs);
   const std::uint32_t dayStart = day * static_cast<std::uint32_t>(DayMs);

@@ -56,6 +56,13 @@ std::vector<Record> Decoded(std::string_view text, std::size_t chunk) {
   return Decoded(ToBytes(text), chunk);
 }
 
+void PlaceHead(Stream& stream, std::uint32_t position) {
+  stream.ring.Clear();
+  const Bytes filler(position + 1, 'x');
+  stream.ring.Append(filler.data(), position + 1);
+  stream.ring.Advance(position);
+}
+
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records) {
   std::vector<std::uint32_t> ids;
   for (const Record& record : records) ids.push_back(record.id);
