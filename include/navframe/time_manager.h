@@ -12,8 +12,7 @@
 // second count that it advances by itself after a second 60.
 //
 // Nothing here reports an error: a conversion of an unknown value (year 65535, time of week
-// 0xFFFFFFFF) changes nothing. A date with a month outside 1 to 12 leaves the result unchanged too;
-// its seconds still count for the leap second.
+// 0xFFFFFFFF) changes nothing, and neither does one of a month outside 1 to 12.
 // Not thread-safe. Members are public because hosts and decoders share them; their order is part
 // of the binary interface.
 class NAVFRAME_API TimeManager {

@@ -28,8 +28,9 @@ constexpr std::int64_t FirstWeek = 208;
 constexpr std::int64_t DaysTo1992 = 2922;
 constexpr std::int64_t DaysTo1992ForWeek = 2921;
 
-// The table of days holds these months alone; a date of another one has no day number.
-constexpr bool HasMonth(const UTCTIME& utc) { return utc.month >= 1 && utc.month <= 12; }
+constexpr bool CanConvert(const UTCTIME& utc) {
+  return utc.year != UnknownYear && utc.month >= 1 && utc.month <= 12;
+}
 
 // Days since 1992-01-01, give or take the offset of the caller's count.
 std::int64_t DaysSince1992(const UTCTIME& utc) {
@@ -98,13 +99,12 @@ void TimeManager::setLeap(int s) {
 }
 
 void TimeManager::UTC2GPSTime(UTCTIME& utc, GPSTIME& out) {
-  if (utc.year == UnknownYear) return;
+  if (!CanConvert(utc)) return;
   if (utc.second >= 60) {
     leapPending = 1;
   } else if (leapPending != 0) {
     CountLeapSecond(*this);
   }
-  if (!HasMonth(utc)) return;
   std::int64_t ms =
       ((utc.hour * 60LL + utc.minute) * 60LL + leapSeconds + utc.second) * 1000LL + utc.millisecond;
   std::int64_t days = DaysSince1992(utc) + DaysTo1992;
@@ -118,7 +118,7 @@ void TimeManager::UTC2GPSTime(UTCTIME& utc, GPSTIME& out) {
 }
 
 void TimeManager::date2Week(UTCTIME& utc, unsigned short& week, int leap) {
-  if (utc.year == UnknownYear || !HasMonth(utc)) return;
+  if (!CanConvert(utc)) return;
   const std::int64_t days =
       DaysSince1992(utc) + DaysTo1992ForWeek + (leap * 1000LL >= DayMs ? 1 : 0);
   week = static_cast<std::uint16_t>(days / 7 + FirstWeek);
