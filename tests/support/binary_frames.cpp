@@ -17,7 +17,11 @@ PayloadBuilder& PayloadBuilder::Put(std::size_t offset, std::uint64_t value, std
 }
 
 Bytes UbxFrame(std::uint8_t messageClass, std::uint8_t id, const Bytes& payload) {
-  Bytes frame = {0xB5, 0x62, messageClass, id, static_cast<std::uint8_t>(payload.size()),
+  Bytes frame = {0xB5,
+                 0x62,
+                 messageClass,
+                 id,
+                 static_cast<std::uint8_t>(payload.size()),
                  static_cast<std::uint8_t>(payload.size() >> 8)};
   frame = std::move(frame) + payload;
   unsigned a = 0;
@@ -38,6 +42,11 @@ Bytes Frame55Aa(const Bytes& payload) {
   unsigned sum = 0;
   for (std::size_t i = 2; i < frame.size(); ++i) sum += frame[i];
   frame.push_back(static_cast<std::uint8_t>(sum));
+  return frame;
+}
+
+Bytes Damaged(Bytes frame, std::size_t beforeLast) {
+  frame.at(frame.size() - 1 - beforeLast) ^= 0x40;
   return frame;
 }
 

@@ -41,6 +41,9 @@ Bytes UbxFrame(std::uint8_t messageClass, std::uint8_t id, const Bytes& payload)
 // A whole 0x55 0xAA frame with a right checksum.
 Bytes Frame55Aa(const Bytes& payload);
 
+// The frame with one bit of its last byte, or of one further in front, the other way round.
+Bytes Damaged(Bytes frame, std::size_t beforeLast = 0);
+
 // Plausible messages, all fields of which depend on the seed.
 PayloadBuilder NavigationPayload(std::uint32_t seed);
 PayloadBuilder SatellitesPayload(std::uint8_t count, std::uint32_t seed);
@@ -55,8 +58,8 @@ Bytes RawMeasurementsFrame(const Bytes& payload);
 Bytes ProtectionLevelsFrame(const Bytes& payload);
 Bytes AttitudeFrame(const Bytes& payload);
 
-// The unmistakable start of a frame is put so that the frame wraps around the end of the ring with
-// `before` bytes in front of it. Pops nothing; the frame is not complete afterwards.
+// Pushes zeros and a frame, in two chunks, so that the frame wraps around the end of the ring with
+// `before` bytes (2 or more) in front of it. Pops nothing.
 void PushAcrossTheEndOfTheRing(Decoder& decoder, const Bytes& frame, std::uint32_t before);
 
 }  // namespace navframe::test
