@@ -96,11 +96,7 @@ void DecodeMeasurement(const std::uint8_t* entry, UbxRawMeasurement& measurement
   measurement.pseudorangeDeviation = PseudorangeDeviations[Bits(entry[27], 0, 4)];
   measurement.carrierPhaseDeviation = PhaseDeviations[Bits(entry[28], 0, 4)];
   measurement.dopplerDeviation = DopplerDeviations[Bits(entry[29], 0, 4)];
-  const auto& flags = FlagsOfByte[entry[30]];
-  measurement.pseudorangeValid = flags[0];
-  measurement.carrierPhaseValid = flags[1];
-  measurement.halfCycleResolved = flags[2];
-  measurement.halfCycleSubtracted = flags[3];
+  WriteFlags<4>(entry[30], offsetof(UbxRawMeasurement, pseudorangeValid), measurement);
   std::memset(measurement.reserved, 0, sizeof(measurement.reserved));
 }
 

@@ -38,6 +38,14 @@ inline constexpr auto FlagsOfByte = [] {
   return flags;
 }();
 
+// Writes the lowest `Count` bits of a byte to that many flag members of a record, which follow one
+// another from `offset` on; as one store, which member by member would not become.
+template <std::size_t Count, class Record>
+void WriteFlags(std::uint8_t bits, std::size_t offset, Record& record) {
+  static_assert(Count <= 8);
+  std::memcpy(reinterpret_cast<std::uint8_t*>(&record) + offset, FlagsOfByte[bits].data(), Count);
+}
+
 // Bits of a flag word.
 constexpr std::uint8_t Bits(std::uint32_t word, unsigned lowest, unsigned count) {
   return static_cast<std::uint8_t>(word >> lowest & ((1U << count) - 1));

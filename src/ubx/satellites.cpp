@@ -53,20 +53,10 @@ void DecodeFlags(std::uint32_t flags, UbxSatellite& satellite) {
   satellite.smoothed = Bits(flags, 7, 1);
   satellite.orbitSource = Bits(flags, 8, 3);
   // The flags from bit 11 on stand in the record in the order of their bits.
-  const auto& low = FlagsOfByte[Bits(flags, 11, 8)];
-  const auto& high = FlagsOfByte[Bits(flags, 19, 4)];
-  satellite.ephemeris = low[0];
-  satellite.almanac = low[1];
-  satellite.offlinePrediction = low[2];
-  satellite.autonomousPrediction = low[3];
-  satellite.spareFlag = low[4];
-  satellite.sbasCorrections = low[5];
-  satellite.rtcmCorrections = low[6];
-  satellite.slasCorrections = low[7];
-  satellite.spartnCorrections = high[0];
-  satellite.rangeCorrections = high[1];
-  satellite.carrierCorrections = high[2];
-  satellite.dopplerCorrections = high[3];
+  constexpr std::size_t Offset = offsetof(UbxSatellite, ephemeris);
+  static_assert(offsetof(UbxSatellite, spartnCorrections) == Offset + 8);
+  WriteFlags<8>(Bits(flags, 11, 8), Offset, satellite);
+  WriteFlags<4>(Bits(flags, 19, 4), Offset + 8, satellite);
 }
 
 void DecodeSatellite(const std::uint8_t* entry, UbxSatellite& satellite) {
