@@ -23,22 +23,19 @@ constexpr Message Messages[] = {
     {0x01, 0x05, 105, 80, 32, 32},
 };
 
-// Leaves a block for the next record of this size, filled with `byte`.
-void LeaveDirtyBlock(Decoder& decoder, std::uint32_t size, int byte) {
-  void* const block = decoder.sink.Allocate(size);
-  std::memset(block, byte, size);
-  decoder.sink.Abandon(block, size);
-}
-
-// Decodes the payload as a frame in an allocation of exactly its size, over a dirty block.
+// Decodes the payload as a frame in an allocation of exactly its size, into a block of bytes
+// `dirt`.
 std::vector<Record> DecodedOver(int dirt, const Message& message, const Bytes& payload) {
-  const auto decoder = std::make_unique<Decoder>();
-  LeaveDirtyBlock(*decoder, message.recordSize, dirt);
+  const auto sink = std::make_unique<RecordSink>();
+  TimeManager time;
+  void* const block = sink->Allocate(message.recordSize);
+  std::memset(block, dirt, message.recordSize);
+  sink->Abandon(block, message.recordSize);
   const Bytes frame = UbxFrame(message.messageClass, message.id, payload);
   const auto exact = std::make_unique<std::uint8_t[]>(frame.size());
   std::ranges::copy(frame, exact.get());
-  decoder->ubx.Decode(exact.get(), static_cast<std::uint32_t>(frame.size()));
-  return PopAll(*decoder);
+  ubx::UbxDecoder(*sink, time).Decode(exact.get(), static_cast<std::uint32_t>(frame.size()));
+  return PopAll(*sink);
 }
 
 TEST(UbxHostile, EveryMessageAtEveryLength) {
