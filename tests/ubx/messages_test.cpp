@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "base/unknown.h"
+#include <algorithm>
+#include <cmath>
+
 #include "support/binary_frames.h"
 
 namespace navframe::test {
@@ -88,12 +90,12 @@ TEST(UbxNavigation, SingleFlagsAreNotMixedUp) {
   const auto flags = [](std::size_t offset, std::uint8_t value) {
     return Only<UbxNavigationRecord>(NavigationFrame(Navigation().U8(offset, value)));
   };
-  EXPECT_EQ(flags(11, 0x01).dateValid, 1);
+  EXPECT_EQ(flags(11, 0xF1).dateValid, 1);
   EXPECT_EQ(flags(21, 0x02).diffSolution, 1);
   EXPECT_EQ(flags(21, 0x1C).powerSaveState, 7);
   EXPECT_EQ(flags(22, 0x40).confirmedDate, 1);
   EXPECT_EQ(flags(22, 0x1F).confirmedAvailable, 0);
-  EXPECT_EQ(flags(78, 0x1E).correctionAge, 15);
+  EXPECT_EQ(flags(78, 0xFE).correctionAge, 15);
 }
 
 TEST(UbxNavigation, WithoutAFixThePositionIsUnknown) {
