@@ -11,6 +11,8 @@
 #ifndef NAVFRAME_RECORDS_H
 #define NAVFRAME_RECORDS_H
 
+#include "navframe/records_55aa.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_ubx.h"
 
 #endif /* NAVFRAME_RECORDS_H */

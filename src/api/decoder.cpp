@@ -2,7 +2,9 @@
 
 #include <array>
 
+#include "frame55aa/frame_framer.h"
 #include "framing/input_step.h"
+#include "ubx/ubx_framer.h"
 
 namespace navframe {
 namespace {
@@ -18,6 +20,9 @@ constexpr FramerRow FramerRows[] = {
      [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
     {ParserState::NmeaTagBlock,
      [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+    {ParserState::Ubx, [](Decoder& decoder) { return ubx::FrameUbx(decoder.stream, decoder.ubx); }},
+    {ParserState::Binary55Aa,
+     [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.

@@ -3,12 +3,14 @@
 
 #include <cstdint>
 
+#include "frame55aa/frame_decoder.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
 #include "navframe/time_manager.h"
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
+#include "ubx/ubx_decoder.h"
 
 namespace navframe {
 
@@ -27,6 +29,8 @@ class Decoder {
   Stream stream;
   nmea::NmeaDecoder nmea{sink, time};
   nmea::TagBlockSearch tagBlockSearch;
+  ubx::UbxDecoder ubx{sink, time};
+  frame55aa::FrameDecoder binary55Aa{sink};
 
  private:
   ScanConfiguration scanConfiguration_;
