@@ -3,6 +3,7 @@
 #include <array>
 
 #include "framing/input_step.h"
+#include "rtcm/rtcm_framer.h"
 
 namespace navframe {
 namespace {
@@ -18,6 +19,8 @@ constexpr FramerRow FramerRows[] = {
      [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
     {ParserState::NmeaTagBlock,
      [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+    {ParserState::Rtcm3,
+     [](Decoder& decoder) { return rtcm::FrameRtcm3(decoder.stream, decoder.rtcm); }},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.

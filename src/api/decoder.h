@@ -9,6 +9,7 @@
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
+#include "rtcm/rtcm_decoder.h"
 
 namespace navframe {
 
@@ -27,6 +28,7 @@ class Decoder {
   Stream stream;
   nmea::NmeaDecoder nmea{sink, time};
   nmea::TagBlockSearch tagBlockSearch;
+  rtcm::RtcmDecoder rtcm{sink, time};
 
  private:
   ScanConfiguration scanConfiguration_;
