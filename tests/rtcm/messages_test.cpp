@@ -119,6 +119,8 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
     for (int bits = 20; bits < length * 8; bits += 4) message.Put(5, 4);
     return RtcmFrame(message);
   };
+  BitWriter ephemeris = Message(1019);
+  PutBytes(ephemeris, 60, 60);
   const Case cases[] = {
       {55, arp, {}, {}},
       {53, arp, {53}, {53}},
@@ -142,8 +144,8 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
       {0, long21, {}, {}},
       {0, RtcmFrame(Message(999).Put(22, 8)), {}, {}},
       {0, RtcmFrame(Message(1006)), {}, {}},
-      {0, RtcmFrame(Message(1019).Put(0, 476)), {}, {}},
-      {53, RtcmFrame(Message(1019).Put(0, 476)), {}, {}},
+      {0, RtcmFrame(ephemeris), {}, {}},
+      {53, RtcmFrame(ephemeris), {}, {}},
       {53, RtcmFrame(Message(1020)), {}, {}},
       {0, RtcmFrame(Message(4074)), {}, {}},  // no room for a sub-type
   };

@@ -76,7 +76,9 @@ Bytes MsmMessage::Payload() const {
   PutMask(bits, signals, 32);
   for (const bool cell : cells) bits.Put(cell ? 1 : 0, 1);
   for (const auto& satellite : satelliteFields) bits.Put(satellite.rangeMs, 8);
-  if (widths.rate != 0) bits.Put(0x5A5A5A5A5A5A5A5A, static_cast<int>(satellites.size()) * 4);
+  if (widths.rate != 0) {
+    for (std::size_t i = 0; i < satellites.size(); ++i) bits.Put(0xA, 4);  // extended information
+  }
   for (const auto& satellite : satelliteFields) bits.Put(satellite.rangeModulo, 10);
   if (widths.rate != 0) {
     for (const auto& satellite : satelliteFields) bits.PutSigned(satellite.roughRate, 14);
