@@ -103,77 +103,112 @@ class CellPlace {
   std::uint32_t reciprocal_;
 };
 
+// The fields of one cell as they stand in the message.
+struct RawCell {
+  std::int32_t pseudorange;
+  std::int32_t phase;
+  std::uint32_t lock;
+  std::uint32_t halfCycle;
+  std::uint32_t cn0;
+  std::int32_t rate;
+};
+
+// Where the columns of fields begin: all pseudoranges, all phases and so on, one per cell.
+template <const MsmLayout& Layout>
+class CellColumns {
+ public:
+  explicit CellColumns(const MsmCells& cells)
+      : bytes_(cells.bytes),
+        pseudorangeBit_(cells.header.dataBit +
+                        cells.header.satelliteCount * Layout.SatelliteBits()),
+        phaseBit_(pseudorangeBit_ + cells.header.cellCount * Layout.pseudorangeBits),
+        lockBit_(phaseBit_ + cells.header.cellCount * Layout.phaseBits),
+        halfCycleBit_(lockBit_ + cells.header.cellCount * Layout.lockBits),
+        cn0Bit_(halfCycleBit_ + cells.header.cellCount * Layout.halfCycleBits),
+        rateBit_(cn0Bit_ + cells.header.cellCount * Layout.cn0Bits),
+        halfCycles_(Bits64(bytes_, halfCycleBit_)) {}
+
+  RawCell Read(std::uint32_t i) const {
+    RawCell cell;
+    cell.pseudorange = Signed(pseudorangeBit_, Layout.pseudorangeBits, i);
+    cell.phase = Signed(phaseBit_, Layout.phaseBits, i);
+    cell.lock = Unsigned(lockBit_, Layout.lockBits, i);
+    cell.halfCycle = static_cast<std::uint32_t>(halfCycles_ << i >> 63);
+    cell.cn0 = Unsigned(cn0Bit_, Layout.cn0Bits, i);
+    cell.rate = 0;
+    if constexpr (Layout.HasRate()) cell.rate = Signed(rateBit_, Layout.fineRateBits, i);
+    return cell;
+  }
+
+ private:
+  std::int32_t Signed(std::uint32_t column, std::uint32_t width, std::uint32_t i) const {
+    return static_cast<std::int32_t>(SignedBits(bytes_, column + i * width, width));
+  }
+  std::uint32_t Unsigned(std::uint32_t column, std::uint32_t width, std::uint32_t i) const {
+    return static_cast<std::uint32_t>(UnsignedBits(bytes_, column + i * width, width));
+  }
+
+  const std::uint8_t* bytes_;
+  std::uint32_t pseudorangeBit_;
+  std::uint32_t phaseBit_;
+  std::uint32_t lockBit_;
+  std::uint32_t halfCycleBit_;
+  std::uint32_t cn0Bit_;
+  std::uint32_t rateBit_;
+  std::uint64_t halfCycles_;  // of all cells, the first on top
+};
+
+// Writes every byte of an observation, but for its system. Conditions are joined with "&" so
+// that they cost no branch.
+template <const MsmLayout& Layout>
+void WriteObservation(const RawCell& cell, const MsmSatellite& satellite, const MsmSignal& signal,
+                      std::uint32_t intervalMs, MsmObservation& out) {
+  const bool pseudorangeValid = satellite.rangeValid & (cell.pseudorange != Layout.noPseudorange);
+  const bool phaseValid = satellite.rangeValid & (cell.phase != Layout.noPhase);
+  const bool phaseUsable = phaseValid & (signal.frequency != 0) & (cell.halfCycle == 0);
+  const bool rateValid = Layout.HasRate() & satellite.rateValid & (cell.rate != NoFineRate);
+  const std::uint32_t lockTime =
+      Layout.lockBits == Msm4.lockBits ? LockTime4(cell.lock) : LockTime10(cell.lock);
+  const double pseudorange =
+      satellite.range + cell.pseudorange * (Layout.pseudorangeScale * MetresPerMs);
+  const double phaseRange = satellite.range + cell.phase * (Layout.phaseScale * MetresPerMs);
+
+  out.satellite = satellite.id;
+  out.signal = signal.id;
+  out.pseudorangeValid = pseudorangeValid;
+  out.phaseStatus =
+      static_cast<std::uint8_t>(phaseUsable + (phaseUsable & (lockTime > intervalMs)));
+  out.rateValid = rateValid;
+  out.cn0 = static_cast<std::uint8_t>(cell.cn0 >> Layout.cn0Shift);
+  out.halfCycleAmbiguity = static_cast<std::uint8_t>(cell.halfCycle);
+  out.pseudorange = pseudorangeValid ? pseudorange : 0;
+  out.carrierPhase = phaseValid ? phaseRange * signal.frequency / SpeedOfLight : 0;
+  out.phaseRangeRate = rateValid ? satellite.rate + cell.rate * FineRateScale : 0;
+  out.lockTime = lockTime;
+  out.reserved = 0;
+}
+
 // Writes every byte of as many observations as there are cells.
 template <const MsmLayout& Layout>
 void DecodeCells(const MsmCells& cells, MsmObservation* observations) {
-  const MsmHeader& header = cells.header;
-  const std::uint32_t count = header.cellCount;
-  if (count == 0) return;
+  if (cells.header.cellCount == 0) return;
   MsmSatellites satellites;
   MsmSignals signals;
   ReadSatellites<Layout>(cells, satellites);
   ReadSignals(cells, signals);
 
-  const std::uint8_t* const bytes = cells.bytes;
-  const std::uint32_t pseudorangeBit =
-      header.dataBit + header.satelliteCount * Layout.SatelliteBits();
-  const std::uint32_t phaseBit = pseudorangeBit + count * Layout.pseudorangeBits;
-  const std::uint32_t lockBit = phaseBit + count * Layout.phaseBits;
-  const std::uint32_t halfCycleBit = lockBit + count * Layout.lockBits;
-  const std::uint32_t cn0Bit = halfCycleBit + count * Layout.halfCycleBits;
-  const std::uint32_t rateBit = cn0Bit + count * Layout.cn0Bits;
-
-  const CellPlace places(header.signalCount);
-  const std::int64_t interval = cells.intervalMs > 0 ? cells.intervalMs : INT64_MAX;
-  std::uint64_t mask = header.cellMask;
-  std::uint64_t halfCycles = Bits64(bytes, halfCycleBit);
-  for (std::uint32_t i = 0; i < count; ++i) {
+  const CellColumns<Layout> columns(cells);
+  const CellPlace places(cells.header.signalCount);
+  // No lock time exceeds this one, so that none does without an interval.
+  const std::uint32_t intervalMs =
+      cells.intervalMs > 0 ? static_cast<std::uint32_t>(cells.intervalMs) : UINT32_MAX;
+  std::uint64_t mask = cells.header.cellMask;
+  for (std::uint32_t i = 0; i < cells.header.cellCount; ++i) {
     const std::uint32_t place = TakeTopBit(mask);
-    const std::uint32_t satelliteIndex = places.Satellite(place);
-    const MsmSatellite& satellite = satellites[satelliteIndex];
-    const MsmSignal& signal = signals[places.Signal(place, satelliteIndex)];
-    const auto finePseudorange = static_cast<std::int32_t>(
-        SignedBits(bytes, pseudorangeBit + i * Layout.pseudorangeBits, Layout.pseudorangeBits));
-    const auto finePhase = static_cast<std::int32_t>(
-        SignedBits(bytes, phaseBit + i * Layout.phaseBits, Layout.phaseBits));
-    const auto indicator = static_cast<std::uint32_t>(
-        UnsignedBits(bytes, lockBit + i * Layout.lockBits, Layout.lockBits));
-    const auto cn0 = UnsignedBits(bytes, cn0Bit + i * Layout.cn0Bits, Layout.cn0Bits);
-    const std::uint32_t lockTime =
-        Layout.lockBits == Msm4.lockBits ? LockTime4(indicator) : LockTime10(indicator);
-    const auto halfCycle = static_cast<std::uint8_t>(halfCycles >> 63);
-    halfCycles <<= 1;
-
-    const bool pseudorangeValid = satellite.rangeValid & (finePseudorange != Layout.noPseudorange);
-    const bool phaseValid = satellite.rangeValid & (finePhase != Layout.noPhase);
-    const bool phaseUsable = phaseValid & (signal.frequency != 0) & (halfCycle == 0);
-    const double pseudorange =
-        satellite.range + finePseudorange * (Layout.pseudorangeScale * MetresPerMs);
-    const double phaseRange = satellite.range + finePhase * (Layout.phaseScale * MetresPerMs);
-    const double phase = phaseRange * signal.frequency / SpeedOfLight;
-
-    MsmObservation& out = observations[i];
-    out.system = static_cast<std::uint8_t>(cells.system);
-    out.satellite = satellite.id;
-    out.signal = signal.id;
-    out.pseudorangeValid = pseudorangeValid;
-    out.phaseStatus =
-        static_cast<std::uint8_t>(phaseUsable + (phaseUsable & (lockTime > interval)));
-    out.cn0 = static_cast<std::uint8_t>(cn0 >> Layout.cn0Shift);
-    out.halfCycleAmbiguity = halfCycle;
-    out.pseudorange = pseudorangeValid ? pseudorange : 0;
-    out.carrierPhase = phaseValid ? phase : 0;
-    out.lockTime = lockTime;
-    out.reserved = 0;
-    out.rateValid = 0;
-    out.phaseRangeRate = 0;
-    if constexpr (Layout.HasRate()) {
-      const auto fineRate = static_cast<std::int32_t>(
-          SignedBits(bytes, rateBit + i * Layout.fineRateBits, Layout.fineRateBits));
-      const bool rateValid = satellite.rateValid & (fineRate != NoFineRate);
-      out.rateValid = rateValid;
-      out.phaseRangeRate = rateValid ? satellite.rate + fineRate * FineRateScale : 0;
-    }
+    const std::uint32_t satellite = places.Satellite(place);
+    WriteObservation<Layout>(columns.Read(i), satellites[satellite],
+                             signals[places.Signal(place, satellite)], intervalMs, observations[i]);
+    observations[i].system = static_cast<std::uint8_t>(cells.system);
   }
 }
 

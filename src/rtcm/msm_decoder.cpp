@@ -21,8 +21,8 @@ struct MsmKind {
 template <const MsmLayout& Layout>
 constexpr MsmKind KindOf = {Layout.SatelliteBits(), Layout.CellBits(), DecodeCells<Layout>};
 
-// First message number, last one, system, MsgId, kind of the first one. GLONASS has MSM7 alone;
-// SBAS, NavIC and the kinds below MSM4 are missing on purpose.
+// First message number, last one, system, MsgId. GLONASS has MSM7 alone; SBAS, NavIC and the kinds
+// below MSM4 are missing on purpose.
 struct MsmRow {
   std::uint32_t firstNumber;
   std::uint32_t lastNumber;

@@ -20,14 +20,14 @@ FramerResult FrameRtcm3(Stream& stream, RtcmDecoder& decoder) {
   const std::uint32_t header = std::uint32_t{ring[1]} << 8 | ring[2];
   if ((header & ReservedMask) != 0) return SkipOneByte(stream);
   const std::uint32_t protectedLength = HeaderLength + (header & PayloadLengthMask);
-  const Frame frame = {nullptr, protectedLength + ChecksumLength};
-  if (available < frame.length) return FramerResult::NeedMore;
+  const std::uint32_t length = protectedLength + ChecksumLength;
+  if (available < length) return FramerResult::NeedMore;
 
-  const std::uint8_t* const bytes = ring.View(frame.length);
+  const std::uint8_t* const bytes = ring.View(length);
   const std::uint64_t stored = UnsignedBits(bytes, protectedLength * 8, ChecksumLength * 8);
   if (Crc24q(bytes, protectedLength) != stored) return SkipOneByte(stream);
-  decoder.Decode({bytes, frame.length});
-  AcceptFrame(stream, frame.length);
+  decoder.Decode({bytes, length});
+  AcceptFrame(stream, length);
   return FramerResult::Done;
 }
 
