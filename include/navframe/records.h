@@ -13,6 +13,8 @@
 
 #include "navframe/records_55aa.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_rtcm.h"
+#include "navframe/records_sensors.h"
 #include "navframe/records_ubx.h"
 
 #endif /* NAVFRAME_RECORDS_H */
