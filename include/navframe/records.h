@@ -12,5 +12,7 @@
 #define NAVFRAME_RECORDS_H
 
 #include "navframe/records_nmea.h"
+#include "navframe/records_proprietary.h"
+#include "navframe/records_sensors.h"
 
 #endif /* NAVFRAME_RECORDS_H */
