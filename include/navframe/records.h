@@ -13,6 +13,7 @@
 
 #include "navframe/records_55aa.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_proprietary.h"
 #include "navframe/records_rtcm.h"
 #include "navframe/records_sensors.h"
 #include "navframe/records_ubx.h"

@@ -121,7 +121,7 @@ void DecodeSubType(const SubTypeRow& row, const Frame& frame, Services& services
   // The kind counts as decoded even while the filter blocks its records; a blocked message is not
   // read and moves no clock.
   services.sink.NoteDecoded(row.msgId);
-  if (!services.sink.Passes(row.msgId, row.twin)) return;
+  if (!services.sink.PassesAny(row.msgId, row.twin)) return;
   void* const record = services.sink.Allocate(row.size);
   std::memcpy(record, row.unknown, row.size);
   row.decode(frame, record);
