@@ -143,9 +143,10 @@ TEST(Msm, Epochs) {
   struct Case {
     std::uint32_t number, wire, epoch;
   };
-  for (const Case& c : {Case{1077, 604'799'999, 604'799'999}, Case{1127, 604'790'000, 4'000},
-                        Case{1127, 604'785'999, 604'799'999}, Case{1087, 0, 594'018'000},
-                        Case{1087, 3U << 27 | 45'000'000, 293'418'000}}) {
+  for (const Case& c :
+       {Case{1077, 604'799'999, 604'799'999}, Case{1127, 604'790'000, 4'000},
+        Case{1127, 604'785'999, 604'799'999}, Case{1127, 604'786'000, 0},
+        Case{1087, 0, 594'018'000}, Case{1087, 3U << 27 | 45'000'000, 293'418'000}}) {
     MsmMessage message = OneCell(c.number);
     message.epoch = c.wire;
     message.more = c.wire % 2 == 0;
