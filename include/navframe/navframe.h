@@ -78,6 +78,13 @@ enum MsgId {
   MsgIdTaggedVtg = 28,
   MsgIdTaggedZda = 29,
   MsgIdTxt = 34, /* recognised, never a record */
+  /* Proprietary NMEA sentences. */
+  MsgIdNavPos = 30,
+  MsgIdNavVel = 31,
+  MsgIdNavTime = 32,
+  MsgIdNavAcc = 33,
+  MsgIdPNavMsg = 35,
+  MsgIdCwOut = 36,
   /* Proprietary NMEA sentences of inertial sensors and signal statistics. */
   MsgIdGyoAcc = 41,
   MsgIdSnrStat = 42,

@@ -4,6 +4,7 @@
 
 #include "render/nmea_text.h"
 #include "render/proprietary_text.h"
+#include "render/rtcm_text.h"
 #include "render/text_writer.h"
 
 namespace navframe {
@@ -21,6 +22,13 @@ struct FormatterRow {
   std::uint32_t id;
   Formatter formatter;
 };
+
+template <class Record, void (*Format)(const Record&, bool, TextWriter&)>
+constexpr FormatterRow RowWithFlag(std::uint32_t id) {
+  return {id, [](const void* payload, bool leadingFields, TextWriter& writer) {
+            Format(*static_cast<const Record*>(payload), leadingFields, writer);
+          }};
+}
 
 template <class Record, void (*Format)(const Record&, TextWriter&)>
 constexpr FormatterRow Row(std::uint32_t id) {
@@ -48,6 +56,11 @@ constexpr FormatterRow Rows[] = {
     Row<NavAttRecord, FormatNavAtt>(44),   Row<NavAttRecord, FormatNavAtt>(73),
     Row<InsPvaRecord, FormatInsPva>(45),   Row<InsPvaRecord, FormatInsPva>(75),
     Row<ImuRecord, FormatImu>(46),         Row<ImuRecord, FormatImu>(76),
+    Row<RtcmSnrStatRecord, FormatRtcmSnrStat>(72),
+    RowWithFlag<ClockOrbitRecord, FormatClockOrbit>(79),
+    Row<SystemCountsRecord, FormatSystemCounts>(80),
+    RowWithFlag<SignalObservationsRecord, FormatSignalObservations>(81),
+    Row<IntegerSetRecord, FormatIntegerSet>(82),
 };
 // clang-format on
 

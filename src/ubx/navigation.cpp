@@ -60,8 +60,9 @@ void KeepTime(const UbxNavigationRecord& record, TimeManager& time) {
     time.UTC2GPSTime(time.utcTime, time.gpsTime);
   } else if (record.timeValid != 0) {
     time.updateTime(utc, TimeText(utc));
-  } else if (record.dateValid != 0) {
-    // The date joins the clock's own time of day; without one only the week is known.
+  }
+  if (record.dateValid != 0) {
+    // The date joins the clock's time of day; without one only the week is known.
     time.setDate(utc);
     if (time.utcTime.hour == UnknownHour) {
       time.date2Week(time.utcTime, time.gpsTime.week, time.leapSeconds);

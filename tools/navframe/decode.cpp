@@ -150,11 +150,17 @@ int Decode(const Options& options) {
   std::vector<std::uint8_t> chunk(options.chunk);
   while (open) {
     const ssize_t length = read(fileno(input.get()), chunk.data(), chunk.size());
-    if (length < 0) return Unreadable(options.file);
+    if (length < 0) {
+      const int status = Unreadable(options.file);
+      lines.Write();
+      return status;
+    }
     if (length == 0) break;
     statistics.bytes += static_cast<std::uint64_t>(length);
     feeder.Push(chunk.data(), static_cast<std::size_t>(length));
     open = Drain(statistics, printer, lines) && open;
+    // A short read is a live source, whose lines are wanted now.
+    if (static_cast<std::size_t>(length) < chunk.size()) open = lines.Write() && open;
     progress.Show(statistics.bytes);
   }
   lines.Write();

@@ -34,12 +34,6 @@ void PrintTime(std::string& out, std::uint32_t tow, std::uint32_t week) {
   }
 }
 
-void PrintTimes(std::string& out, const char* name, const GPSTIME& gpsTime, const char* timeText) {
-  Print(out, "%s ", name);
-  PrintTime(out, gpsTime.tow, gpsTime.week);
-  if (timeText[0] != '\0') Print(out, " time %s", timeText);
-}
-
 template <std::size_t Count>
 void PrintBytes(std::string& out, const std::uint8_t (&bytes)[Count]) {
   for (const std::uint8_t byte : bytes) Print(out, " %u", unsigned{byte});
@@ -164,29 +158,6 @@ void DescribeMsm(const MsmRecord& record, std::string& out) {
   }
 }
 
-void DescribeRtcmGyoAcc(const GyoAccRecord& record, std::string& out) {
-  PrintTimes(out, "4074.11 GYOACC", record.gpsTime, record.timeText);
-}
-
-void DescribeRtcmSnrStat(const RtcmSnrStatRecord& record, std::string& out) {
-  Print(out, "4074.12 SNRSTAT state %u levels %d %d %d", unsigned{record.state},
-        int{record.levels[0]}, int{record.levels[1]}, int{record.levels[2]});
-}
-
-void DescribeRtcmNavAtt(const NavAttRecord& record, std::string& out) {
-  PrintTimes(out, "4074.13 NAVATT", record.gpsTime, record.timeText);
-}
-
-void DescribeRtcmImuRaw(const ImuRecord& record, std::string& out) {
-  PrintTimes(out, "4074.14 IMURAW", record.gpsTime, record.timeText);
-}
-
-void DescribeRtcmInsPva(const InsPvaRecord& record, std::string& out) {
-  PrintTimes(out, "4074.15 INSPVA", record.gpsTime, record.timeText);
-  if (record.dateText[0] != '\0') Print(out, " date %s", record.dateText);
-  if (!std::isnan(record.latitude)) Print(out, " latitude %.8f", record.latitude);
-}
-
 void DescribeTimeStatus(const TimeStatusRecord& record, std::string& out) {
   out += "4074.243 ";
   PrintTime(out, record.tow, record.week);
@@ -195,24 +166,6 @@ void DescribeTimeStatus(const TimeStatusRecord& record, std::string& out) {
 }
 
 void DescribeSub249(const Sub249Record& /*record*/, std::string& out) { out += "4074.249"; }
-
-void DescribeClockOrbit(const ClockOrbitRecord& /*record*/, std::string& out) {
-  out += "4074.251 clock and orbit set";
-}
-
-void DescribeSystemCounts(const SystemCountsRecord& /*record*/, std::string& out) {
-  out += "4074.253 system counts";
-}
-
-void DescribeSignalObservations(const SignalObservationsRecord& record, std::string& out) {
-  out += "4074.254 signal observations ";
-  PrintTime(out, record.tow, record.week);
-}
-
-void DescribeIntegerSet(const IntegerSetRecord& record, std::string& out) {
-  out += "4074.255 integer set ";
-  PrintTime(out, record.tow, record.week);
-}
 
 void DescribeSub17(const Sub17Record& record, std::string& out) {
   out += "910.17";

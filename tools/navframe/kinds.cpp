@@ -4,6 +4,8 @@
 #include <cctype>
 #include <charconv>
 
+#include "describe_rtcm.h"
+#include "describe_ubx.h"
 #include "navframe/records.h"
 
 namespace navframe::tool {
@@ -17,9 +19,68 @@ struct KindRow {
   std::string_view name;
   Describe describe = nullptr;  // null: rendered by the library
 };
+
+template <class Record, void (*DescribeRecord)(const Record&, std::string&)>
+constexpr KindRow Described(std::uint32_t id, std::string_view name) {
+  return {id, name, [](const void* payload, std::string& out) {
+            DescribeRecord(*static_cast<const Record*>(payload), out);
+          }};
+}
+
 constexpr KindRow Kinds[] = {
-    {MsgIdGga, "GGA"}, {MsgIdRmc, "RMC"}, {MsgIdGsa, "GSA"}, {MsgIdGsv, "GSV"}, {MsgIdGll, "GLL"},
-    {MsgIdGst, "GST"}, {MsgIdGbs, "GBS"}, {MsgIdVtg, "VTG"}, {MsgIdZda, "ZDA"},
+    {MsgIdGga, "GGA"},
+    {MsgIdRmc, "RMC"},
+    {MsgIdGsa, "GSA"},
+    {MsgIdGsv, "GSV"},
+    {MsgIdGll, "GLL"},
+    {MsgIdGst, "GST"},
+    {MsgIdGbs, "GBS"},
+    {MsgIdVtg, "VTG"},
+    {MsgIdZda, "ZDA"},
+    {MsgIdNavPos, "NAVPOS"},
+    {MsgIdNavVel, "NAVVEL"},
+    {MsgIdNavTime, "NAVTIME"},
+    {MsgIdNavAcc, "NAVACC"},
+    {MsgIdPNavMsg, "PNAVMSG"},
+    {MsgIdCwOut, "CWOUT"},
+    {MsgIdGyoAcc, "GYOACC"},
+    {MsgIdSnrStat, "SNRSTAT"},
+    {MsgIdImuRaw, "IMURAW"},
+    {MsgIdNavAtt, "NAVATT"},
+    {MsgIdInsPva, "INSPVA"},
+    {MsgIdImuVeh, "IMUVEH"},
+    {MsgIdGyoAccV, "GYOACC-V"},
+    Described<StationPositionRecord, DescribeStationPosition>(MsgIdStationPosition, "STATION"),
+    Described<SystemParametersRecord, DescribeSystemParameters>(MsgIdSystemParameters, "SYSPARAM"),
+    Described<MsmRecord, DescribeMsm>(MsgIdMsmGps, "MSM-GPS"),
+    Described<MsmRecord, DescribeMsm>(MsgIdMsmGlonass, "MSM-GLO"),
+    Described<MsmRecord, DescribeMsm>(MsgIdMsmGalileo, "MSM-GAL"),
+    Described<MsmRecord, DescribeMsm>(MsgIdMsmBeiDou, "MSM-BDS"),
+    Described<MsmRecord, DescribeMsm>(MsgIdMsmQzss, "MSM-QZS"),
+    {MsgIdRtcmGyoAcc, "RTCM-GYOACC"},
+    {MsgIdRtcmSnrStat, "RTCM-SNRSTAT"},
+    {MsgIdRtcmNavAtt, "RTCM-NAVATT"},
+    {MsgIdRtcmImuRaw, "RTCM-IMURAW"},
+    {MsgIdRtcmInsPva, "RTCM-INSPVA"},
+    Described<TimeStatusRecord, DescribeTimeStatus>(MsgIdTimeStatus, "RTCM-TIMESTATUS"),
+    Described<Sub249Record, DescribeSub249>(MsgIdSub249, "RTCM-SUB249"),
+    {MsgIdClockOrbit, "RTCM-CLOCKORBIT"},
+    {MsgIdSystemCounts, "RTCM-COUNTS"},
+    {MsgIdSignalObservations, "RTCM-SIGNALS"},
+    {MsgIdIntegerSet, "RTCM-INTEGERS"},
+    Described<Sub17Record, DescribeSub17>(MsgIdSub17, "RTCM-SUB17"),
+    Described<Sub33Record, DescribeSub33>(MsgIdSub33, "RTCM-SUB33"),
+    Described<Sub34Record, DescribeSub34>(MsgIdSub34, "RTCM-SUB34"),
+    Described<Sub21Record, DescribeSub21>(MsgIdSub21, "RTCM-SUB21"),
+    Described<Binary55AaRecord, DescribeBinary55Aa>(MsgIdBinary55Aa, "55AA"),
+    Described<UbxProtectionLevelsRecord, DescribeUbxProtectionLevels>(MsgIdUbxProtectionLevels,
+                                                                      "UBX-PL"),
+    Described<UbxNavigationRecord, DescribeUbxNavigation>(MsgIdUbxNavigation, "UBX-PVT"),
+    Described<UbxSatellitesRecord, DescribeUbxSatellites>(MsgIdUbxSatellites, "UBX-SAT"),
+    Described<UbxRawMeasurementsRecord, DescribeUbxRawMeasurements>(MsgIdUbxRawMeasurements,
+                                                                    "UBX-RAW"),
+    Described<UbxAttitudeRecord, DescribeUbxAttitude>(MsgIdUbxAttitude, "UBX-ATT"),
+    Described<DiagnosticRecord, DescribeDiagnostic>(MsgIdDiagnostic, "DIAGNOSTIC"),
 };
 
 const KindRow* FindKind(std::uint32_t id) {
