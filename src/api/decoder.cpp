@@ -2,10 +2,13 @@
 
 #include <array>
 
+#include "asciilog/log_framer.h"
 #include "framing/input_step.h"
 
 namespace navframe {
 namespace {
+
+using asciilog::LogVariant;
 
 using Framer = FramerResult (*)(Decoder& decoder);
 
@@ -13,11 +16,21 @@ struct FramerRow {
   ParserState state;
   Framer framer;
 };
+
+template <LogVariant Variant>
+FramerResult FrameLog(Decoder& decoder) {
+  return asciilog::FrameLog(decoder.stream, decoder.asciiLog, Variant);
+}
+
 constexpr FramerRow FramerRows[] = {
     {ParserState::NmeaSentence,
      [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
     {ParserState::NmeaTagBlock,
      [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+    {ParserState::AsciiLogLine, FrameLog<LogVariant::TextLine>},
+    {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
+    {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},
+    {ParserState::AsciiLogDollarLine, FrameLog<LogVariant::DollarLine>},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.

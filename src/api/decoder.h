@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "asciilog/ascii_log_decoder.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
 #include "navframe/time_manager.h"
@@ -27,6 +28,7 @@ class Decoder {
   Stream stream;
   nmea::NmeaDecoder nmea{sink, time};
   nmea::TagBlockSearch tagBlockSearch;
+  asciilog::AsciiLogDecoder asciiLog{sink};
 
  private:
   ScanConfiguration scanConfiguration_;

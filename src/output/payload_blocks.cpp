@@ -27,10 +27,13 @@ void* PayloadBlocks::TakeAside(std::uint32_t size) {
 }
 
 void PayloadBlocks::Abandon(void* block, std::uint32_t size) {
+  if (IsFixed(block)) return;
   aside_[size].push_back(block);
   ++asideCount_;
 }
 
-void PayloadBlocks::Free(void* block) { std::free(block); }
+void PayloadBlocks::Free(void* block) {
+  if (!IsFixed(block)) std::free(block);
+}
 
 }  // namespace navframe

@@ -1,6 +1,7 @@
 // Memory of payloads.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <unordered_map>
@@ -12,6 +13,9 @@ namespace navframe {
 // that is abandoned (the oldest record of a full queue, a record that a filter blocked after it
 // was built) is never handed back to the allocator; it is set aside and serves the next record of
 // its size, so that memory does not grow however long a host abandons records.
+//
+// Some records share a payload that belongs to a decoder. Such a fixed payload comes back here like
+// any other and is left alone.
 class PayloadBlocks {
  public:
   PayloadBlocks() = default;
@@ -28,14 +32,22 @@ class PayloadBlocks {
   }
 
   void Abandon(void* block, std::uint32_t size);
-  static void Free(void* block);
+  void Free(void* block);
+
+  // Names a payload that is no block. It must stay where it is as long as records with it may
+  // come back.
+  void DeclareFixed(const void* payload) { fixed_.push_back(payload); }
 
  private:
   void* TakeAside(std::uint32_t size);
   static void* AllocateNew(std::uint32_t size);
+  bool IsFixed(const void* payload) const {
+    return std::find(fixed_.begin(), fixed_.end(), payload) != fixed_.end();
+  }
 
   std::unordered_map<std::uint32_t, std::vector<void*>> aside_;  // by size
   std::size_t asideCount_ = 0;
+  std::vector<const void*> fixed_;
 };
 
 }  // namespace navframe

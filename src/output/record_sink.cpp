@@ -25,7 +25,7 @@ std::uint32_t RecordSink::Pop(GnssMessage& out, std::uint32_t wantedId) {
 
 void RecordSink::Release(GnssMessage& message) {
   if (message.data == nullptr) return;
-  PayloadBlocks::Free(message.data);
+  blocks_.Free(message.data);
   message.data = nullptr;
 }
 
