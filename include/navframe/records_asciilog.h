@@ -23,7 +23,7 @@ extern "C" {
 
 /* Kinds of ASCII log records: GnssMessage::id with SourceAsciiLog. A record from a binary frame
  * carries the frame's own number instead, and GnssMessage::data is not a record of this file but
- * the frame as received, see AsciiLogFrameCapacity. */
+ * the frame as received: see NAVFRAME_ASCII_LOG_FRAME_CAPACITY. */
 enum AsciiLogId {
   LogIdGpsEphemeris = 7,
   LogIdCompactObservations = 10,

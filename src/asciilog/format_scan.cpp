@@ -35,14 +35,18 @@ std::size_t LengthOfSpecialReal(std::string_view text) {
 std::size_t LengthOfReal(std::string_view text, bool hex) {
   const char exponent = hex ? 'p' : 'e';
   const std::size_t first = hex ? 2 : 0;
+  bool sawDigit = false;
   bool sawPoint = false;
   bool sawExponent = false;
   std::size_t i = first;
   for (; i < text.size(); ++i) {
     const char c = text[i];
-    if (IsDigit(c) || (hex && !sawExponent && IsHexDigit(c))) continue;
+    if (IsDigit(c) || (hex && !sawExponent && IsHexDigit(c))) {
+      sawDigit = true;
+      continue;
+    }
     if (sawExponent && IsSign(c) && Lower(text[i - 1]) == exponent) continue;
-    if (!sawExponent && i > 0 && Lower(c) == exponent) {
+    if (sawDigit && !sawExponent && Lower(c) == exponent) {
       sawExponent = sawPoint = true;
     } else if (!sawPoint && c == '.') {
       sawPoint = true;
@@ -51,6 +55,27 @@ std::size_t LengthOfReal(std::string_view text, bool hex) {
     }
   }
   return i;
+}
+
+// True for a number above 1, of those whose size leaves no doubt about that.
+bool IsLarge(std::string_view number, bool hex) {
+  const std::size_t exponentAt = number.find_first_of(hex ? "pP" : "eE");
+  const std::string_view digits = number.substr(0, exponentAt);
+  const std::size_t point = std::min(digits.find('.'), digits.size());
+  const std::size_t leading = std::min(digits.find_first_not_of("0."), digits.size());
+  // Digits between the leading one and the point; negative behind the point.
+  const auto places = static_cast<long>(point) - static_cast<long>(leading);
+  long exponent = 0;
+  if (exponentAt != std::string_view::npos) {
+    std::string_view text = number.substr(exponentAt + 1);
+    const bool negative = text.starts_with('-');
+    if (!text.empty() && IsSign(text.front())) text.remove_prefix(1);
+    constexpr long Beyond = 1L << 30;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), exponent);
+    if (error == std::errc::result_out_of_range) exponent = Beyond;
+    if (negative) exponent = -exponent;
+  }
+  return places * (hex ? 4 : 1) + exponent > 0;
 }
 
 // The value of what LengthOfReal took. A number out of range becomes infinity or 0.
@@ -65,8 +90,8 @@ bool ConvertReal(std::string_view number, bool hex, T& value) {
     return hex;
   }
   if (error == std::errc::result_out_of_range) {
-    const bool small = std::find(first, last, '-') != last || *first == '0' || *first == '.';
-    value = small ? 0 : std::numeric_limits<T>::infinity();
+    const bool large = IsLarge({first, last}, hex);
+    value = large ? std::numeric_limits<T>::infinity() : T{0};
   }
   return true;
 }
