@@ -13,7 +13,7 @@ using enum ParserState;
 constexpr std::string_view VelocityBody = "SOL_COMPUTED,PSRDIFF,0.25,4,0.2077,332.44,-0.0149,0.0";
 
 struct Fed {
-  std::uint32_t records;
+  std::size_t records;
   std::uint32_t accepted;  // bytes
   std::uint32_t skipped;
   std::uint32_t left;  // bytes in the ring
@@ -33,14 +33,14 @@ Fed Feed(ParserState state, const Bytes& bytes) {
   decoder->SetMsgTypes(0);
   PushAs(*decoder, state, bytes);
   const FramingStatistics& statistics = decoder->stream.statistics;
-  return {decoder->sink.Waiting(), statistics.acceptedBytes, statistics.skippedBytes,
+  return {ReleaseAll(*decoder), statistics.acceptedBytes, statistics.skippedBytes,
           decoder->stream.ring.Available(), decoder->stream.state};
 }
 
 Fed Feed(ParserState state, std::string_view text) { return Feed(state, ToBytes(text)); }
 
 // The scan that follows within the same call skips all that the framer left behind.
-Fed Accepted(std::string_view text, std::uint32_t bytes, std::uint32_t records) {
+Fed Accepted(std::string_view text, std::uint32_t bytes, std::size_t records) {
   return {records, bytes, static_cast<std::uint32_t>(text.size()) - bytes, 0, Scanning};
 }
 Fed Skipped(std::string_view text) { return Accepted(text, 0, 0); }
@@ -184,7 +184,7 @@ TEST(LogFramer, FrameAcrossTheEndOfTheRingIsTaken) {
   decoder->stream.ring.Append(ToBytes(line).data(), 1);
   decoder->stream.ring.Advance(static_cast<std::uint32_t>(filler.size()));
   PushAs(*decoder, AsciiLogLine, std::string_view(line).substr(1));
-  EXPECT_EQ(decoder->sink.Waiting(), 1U);
+  EXPECT_EQ(ReleaseAll(*decoder), 1U);
 }
 
 // The searches stop where the write index, which runs over 32 bits, has passed its end.
@@ -203,7 +203,7 @@ TEST(LogFramer, LineAcrossTheEndOfTheIndicesIsNotFound) {
   ring.Append(ToBytes(line).data(), 1);
   ring.Advance(1);
   PushAs(*decoder, AsciiLogLine, std::string_view(line).substr(1));
-  EXPECT_EQ(decoder->sink.Waiting(), 0U);
+  EXPECT_EQ(ReleaseAll(*decoder), 0U);
   EXPECT_EQ(decoder->stream.statistics.skippedBytes, 1U);
 }
 
@@ -215,7 +215,7 @@ Fed FeedDollar(std::string_view text, std::uint32_t mask = 0) {
   const Bytes bytes = ToBytes(text);
   decoder->PutData(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
   const FramingStatistics& statistics = decoder->stream.statistics;
-  return {decoder->sink.Waiting(), statistics.acceptedBytes, statistics.skippedBytes,
+  return {ReleaseAll(*decoder), statistics.acceptedBytes, statistics.skippedBytes,
           decoder->stream.ring.Available(), decoder->stream.state};
 }
 

@@ -85,6 +85,13 @@ void PushAs(Decoder& decoder, ParserState state, std::string_view text) {
   PushAs(decoder, state, ToBytes(text));
 }
 
+std::size_t ReleaseAll(Decoder& decoder) {
+  std::size_t count = 0;
+  GnssMessage record;
+  for (; decoder.sink.Pop(record, 0) == 0; ++count) decoder.sink.Release(record);
+  return count;
+}
+
 void TakeOnlyRecord(Decoder& decoder, std::uint32_t id, void* record, std::size_t size) {
   ASSERT_EQ(decoder.sink.Waiting(), 1U);
   QueuedMessage oldest = *decoder.sink.PopOldest();

@@ -36,7 +36,10 @@ void PushAs(Decoder& decoder, ParserState state, std::string_view text);
 template <class T>
 T DecodedLog(std::string_view line, std::uint32_t id);
 
-// Copies the one record that waits.
+// Gives back all records that wait, as a host does; their number.
+std::size_t ReleaseAll(Decoder& decoder);
+
+// Copies the one record that waits and gives it back.
 void TakeOnlyRecord(Decoder& decoder, std::uint32_t id, void* record, std::size_t size);
 
 template <class T>
