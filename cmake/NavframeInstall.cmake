@@ -1,0 +1,75 @@
+# What `cmake --install` lays down: headers, both libraries, the tool, a CMake package and a
+# pkg-config file. All of it finds its parts relative to itself, so a prefix can be moved.
+option(NAVFRAME_INSTALL "Install headers, libraries and package files" ${PROJECT_IS_TOP_LEVEL})
+if(NOT NAVFRAME_INSTALL)
+  return()
+endif()
+
+include(CMakePackageConfigHelpers)
+
+set(navframe_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/navframe")
+
+install(
+  TARGETS navframe navframe_static
+  EXPORT navframe_targets
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(
+  DIRECTORY "${PROJECT_SOURCE_DIR}/include/navframe"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  FILES_MATCHING
+  PATTERN "*.h"
+  PATTERN "*.hpp")
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+
+if(TARGET navframe_tool)
+  if(NOT APPLE AND NOT WIN32)
+    file(RELATIVE_PATH navframe_bin_to_lib "${CMAKE_INSTALL_FULL_BINDIR}"
+         "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set_target_properties(navframe_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${navframe_bin_to_lib}")
+  endif()
+  install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()
+
+# What the C++ compiler links by itself and the C compiler does not.
+set(navframe_cxx_runtime ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
+list(REMOVE_ITEM navframe_cxx_runtime ${CMAKE_C_IMPLICIT_LINK_LIBRARIES})
+list(REMOVE_DUPLICATES navframe_cxx_runtime)
+
+# find_package(navframe): the targets navframe::navframe and navframe::navframe_static.
+install(
+  EXPORT navframe_targets
+  NAMESPACE navframe::
+  FILE navframeTargets.cmake
+  DESTINATION "${navframe_package_dir}")
+configure_package_config_file(
+  "${CMAKE_CURRENT_LIST_DIR}/navframeConfig.cmake.in" "${PROJECT_BINARY_DIR}/navframeConfig.cmake"
+  INSTALL_DESTINATION "${navframe_package_dir}"
+  NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/navframeConfigVersion.cmake"
+                                 COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/navframeConfig.cmake"
+              "${PROJECT_BINARY_DIR}/navframeConfigVersion.cmake"
+        DESTINATION "${navframe_package_dir}")
+
+# pkg-config: the prefix is named from where navframe.pc lies, unless that is no place below it.
+set(navframe_pc_prefix "${CMAKE_INSTALL_PREFIX}")
+if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  file(RELATIVE_PATH navframe_pc_up "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+       "${CMAKE_INSTALL_PREFIX}")
+  string(REGEX REPLACE "/$" "" navframe_pc_up "${navframe_pc_up}")
+  set(navframe_pc_prefix "\${pcfiledir}/${navframe_pc_up}")
+endif()
+foreach(dir LIBDIR INCLUDEDIR)
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_${dir}}")
+    set(navframe_pc_${dir} "${CMAKE_INSTALL_${dir}}")
+  else()
+    set(navframe_pc_${dir} "\${prefix}/${CMAKE_INSTALL_${dir}}")
+  endif()
+endforeach()
+list(TRANSFORM navframe_cxx_runtime PREPEND "-l" OUTPUT_VARIABLE navframe_pc_runtime)
+list(JOIN navframe_pc_runtime " " navframe_pc_runtime)
+configure_file("${CMAKE_CURRENT_LIST_DIR}/navframe.pc.in" "${PROJECT_BINARY_DIR}/navframe.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/navframe.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,11 +1,13 @@
 #include "base/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 
 namespace navframe {
 namespace {
@@ -108,18 +110,43 @@ bool ReadPlainNumber(std::string_view text, PlainNumber& number) {
   return at == last && count != 0 && count <= MostDigits;
 }
 
+// Whether decimal digits name a value below the normal range of float exactly. Both are known to
+// be the same double, so that only the digits are left to compare.
+bool NamesExactly(float value, const char* first, const char* last) {
+  constexpr int MostDigits = 112;  // of such a value
+  std::array<char, MostDigits + 16> exact;
+  const auto [end, error] =
+      std::to_chars(exact.data(), exact.data() + exact.size(), std::abs(value),
+                    std::chars_format::scientific, MostDigits);
+  const auto nextDigit = [](const char*& at, const char* stop) {
+    if (at != stop && *at == '.') ++at;
+    return at != stop && IsDigit(*at) ? *at++ : '0';
+  };
+  while (*first == '0' || *first == '.') ++first;
+  const std::ptrdiff_t digits = std::max<std::ptrdiff_t>(last - first, MostDigits) + 1;
+  const char* at = exact.data();
+  for (std::ptrdiff_t i = 0; i < digits; ++i) {
+    if (nextDigit(first, last) != nextDigit(at, end)) return false;
+  }
+  return true;
+}
+
 // The C library reports a range error for results below the normal range that are not exact.
-// A decimal of fewer than 700 digits never names such a result exactly; a hexadecimal one may.
+// A decimal of fewer than 700 digits never names such a double exactly; all else may.
 // `Wider` holds the value with more bits than T.
 template <class T, class Wider>
 bool Underflows(T value, const char* first, const char* last, std::chars_format format) {
   const T smallest = std::numeric_limits<T>::min();
-  if (value == 0 || std::abs(value) > smallest) return false;
+  const bool below = value != 0 && std::abs(value) <= smallest;
+  if (!below) return false;
   Wider wider = 0;
-  std::from_chars(first, last, wider, format);
+  const char* const end = std::from_chars(first, last, wider, format).ptr;
   const Wider quarterUnit = static_cast<Wider>(std::numeric_limits<T>::denorm_min()) / 4;
   if (std::abs(wider) >= static_cast<Wider>(smallest) - quarterUnit) return false;
-  return format != std::chars_format::hex || static_cast<Wider>(value) != wider;
+  if (static_cast<Wider>(value) != wider) return true;
+  if (format == std::chars_format::hex) return false;
+  if constexpr (std::is_same_v<T, float>) return !NamesExactly(value, first, end);
+  return true;
 }
 
 template <class T, class Wider>
@@ -142,16 +169,7 @@ T ToFloatingPoint(std::string_view text, const char* conversion) {
 
 }  // namespace
 
-int ToInt(std::string_view text) {
-  // Up to nine digits, the common case, cannot leave the range of int.
-  if (!text.empty() && text.size() <= 9) {
-    int value = 0;
-    std::size_t i = 0;
-    for (; i < text.size() && IsDigit(text[i]); ++i) value = value * 10 + (text[i] - '0');
-    if (i == text.size()) return value;
-  }
-  return ToIntInBase(text, 10);
-}
+int ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
 
 int ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
 

@@ -4,9 +4,8 @@
 // locale, whatever locale the host has set: leading white space and a sign are taken, anything
 // after the number is ignored, hexadecimal, infinity and NaN are numbers for the floating-point
 // forms. What they throw, hosts rely on, so the texts are fixed too:
-//   std::invalid_argument  "invalid stoi argument", "invalid stod argument", "invalid stof
-//   argument" std::out_of_range      "stoi argument out of range", "stod argument out of range",
-//   ...
+//   std::invalid_argument  "invalid stoi argument", and likewise stod and stof
+//   std::out_of_range      "stoi argument out of range", and likewise stod and stof
 #pragma once
 
 #include <cstddef>
@@ -15,7 +14,20 @@
 
 namespace navframe {
 
-int ToInt(std::string_view text);
+int ToIntOfAnyShape(std::string_view text);
+
+inline int ToInt(std::string_view text) {
+  // Up to nine digits and nothing else, what receivers send, cannot leave the range of int.
+  if (text.empty() || text.size() > 9) return ToIntOfAnyShape(text);
+  unsigned value = 0;
+  for (const char c : text) {
+    const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
+    if (digit > 9) return ToIntOfAnyShape(text);
+    value = value * 10 + digit;
+  }
+  return static_cast<int>(value);
+}
+
 int ToIntBase16(std::string_view text);
 double ToDouble(std::string_view text);
 float ToFloat(std::string_view text);

@@ -1,7 +1,9 @@
 // Conversions of the fields that standard sentences share.
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "base/number_text.h"
@@ -10,10 +12,25 @@
 
 namespace navframe::nmea {
 
+// ToInt for a field of a sentence, behind which its checksum always leaves three bytes more: up to
+// four digits, what most fields are, are read by one load.
+inline int FieldToInt(std::string_view field) {
+  if (field.size() - 1 >= 4) return ToInt(field);
+  std::uint32_t text;
+  std::memcpy(&text, field.data(), sizeof text);
+  if constexpr (std::endian::native == std::endian::big) return ToInt(field);
+  // The digits move to the high bytes, and become zeros in front of them and values.
+  const auto unused = static_cast<std::uint32_t>(32 - 8 * field.size());
+  const std::uint32_t digits = (text << unused) ^ (0x30303030U << unused);
+  if ((((digits + 0x76767676U) | digits) & 0x80808080U) != 0) return ToInt(field);
+  const std::uint32_t pairs = (digits * 10 + (digits >> 8)) & 0x00FF00FFU;
+  return static_cast<int>((pairs & 0xFF) * 100 + (pairs >> 16));
+}
+
 // An empty field leaves the member as it is.
 template <class Integer>
 void ReadInt(std::string_view field, Integer& member) {
-  if (!field.empty()) member = static_cast<Integer>(ToInt(field));
+  if (!field.empty()) member = static_cast<Integer>(FieldToInt(field));
 }
 
 inline void ReadFloat(std::string_view field, float& member) {

@@ -46,9 +46,15 @@ constexpr int SystemOfNumber(int number) {
   return 5;
 }
 
-std::optional<int> OptionalInt(std::string_view field) {
-  if (field.empty()) return std::nullopt;
-  return ToInt(field);
+constexpr std::uint8_t NoCarrierToNoise = 255;
+
+// A whole number or a decimal one, of which the integer part counts.
+std::uint8_t CarrierToNoise(std::string_view field) {
+  constexpr auto IsDigit = [](char c) { return c >= '0' && c <= '9'; };
+  if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
+    return static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
+  }
+  return static_cast<std::uint8_t>(Truncated(ToDouble(field)));
 }
 
 std::optional<int> GsvSystem(std::string_view address) {
@@ -56,6 +62,22 @@ std::optional<int> GsvSystem(std::string_view address) {
     if (address == row.address) return row.systemId;
   }
   return std::nullopt;
+}
+
+GsvBlock ReadBlock(const Fields& fields, std::size_t index) {
+  GsvBlock block{};
+  const std::string_view number = fields[index];
+  const std::string_view elevation = fields[index + 1];
+  const std::string_view azimuth = fields[index + 2];
+  const std::string_view cn0 = fields[index + 3];
+  block.numbered = !number.empty();
+  block.hasElevation = !elevation.empty();
+  block.hasAzimuth = !azimuth.empty();
+  ReadInt(number, block.number);
+  ReadInt(elevation, block.elevation);
+  ReadInt(azimuth, block.azimuth);
+  block.cn0 = cn0.empty() ? NoCarrierToNoise : CarrierToNoise(cn0);
+  return block;
 }
 
 }  // namespace
@@ -75,7 +97,7 @@ void ParseGsa(NmeaContext& context, const Fields& fields, GsaRecord& record) {
   std::array<int, std::size(GsaRecord{}.usedSatellites)> numbers;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     if (fields[FirstUsed + i].empty()) continue;
-    const int number = ToInt(fields[FirstUsed + i]);
+    const int number = FieldToInt(fields[FirstUsed + i]);
     if (systemId == MixedSystems && record.usedCount == 0) systemId = SystemOfNumber(number);
     numbers[record.usedCount] = number;
     record.usedSatellites[record.usedCount++] = static_cast<std::uint8_t>(number);
@@ -106,12 +128,7 @@ void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager
   // Without a signal id this leaves out the last block of the sentence; hosts rely on it.
   for (std::size_t i = FirstBlock; systemId && i < count - BlockFields; i += BlockFields) {
     if (fields[i].empty() && *systemId != Glonass) continue;
-    GsvBlock& block = blocks[blockCount++];
-    block.number = OptionalInt(fields[i]);
-    block.elevation = OptionalInt(fields[i + 1]);
-    block.azimuth = OptionalInt(fields[i + 2]);
-    const std::string_view cn0 = fields[i + 3];
-    block.cn0 = cn0.empty() ? 255 : static_cast<std::uint8_t>(Truncated(ToDouble(cn0)));
+    blocks[blockCount++] = ReadBlock(fields, i);
   }
 
   if (context.satellites.Full()) context.satellites.Reset();

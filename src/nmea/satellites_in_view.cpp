@@ -44,8 +44,8 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
 
 void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId,
                                    const GsvBlock& block) {
-  if (block.elevation) entry.elevation = static_cast<std::uint16_t>(*block.elevation);
-  if (block.azimuth) entry.azimuth = static_cast<std::uint16_t>(*block.azimuth);
+  if (block.hasElevation) entry.elevation = block.elevation;
+  if (block.hasAzimuth) entry.azimuth = block.azimuth;
   if (entry.signalCount >= MostSignals) return;
   SatelliteSignal& signal = entry.signals[entry.signalCount++];
   signal.signalId = signalId;
@@ -53,11 +53,11 @@ void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId
 }
 
 void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
-  if (block.number) {
-    SatelliteInView* const entry = Entry(systemId, *block.number);
+  if (block.numbered) {
+    SatelliteInView* const entry = Entry(systemId, block.number);
     if (entry == nullptr) return;
     entry->systemId = static_cast<std::uint8_t>(systemId);
-    entry->number = static_cast<std::uint8_t>(*block.number);
+    entry->number = static_cast<std::uint8_t>(block.number);
     AddSignalTo(*entry, signalId, block);
   } else if (unnumberedCount_ < MostSatellites) {
     SatelliteInView& entry = unnumbered_[unnumberedCount_++];

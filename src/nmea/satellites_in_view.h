@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "navframe/records.h"
@@ -13,12 +12,15 @@ namespace navframe::nmea {
 
 inline constexpr std::size_t MostSatellites = 96;
 
-// One signal as a GSV block gives it; empty fields are absent.
+// One signal as a GSV block gives it.
 struct GsvBlock {
-  std::optional<int> number;  // absent: an unnumbered satellite
-  std::optional<int> elevation;
-  std::optional<int> azimuth;
+  bool numbered;
+  bool hasElevation;
+  bool hasAzimuth;
   std::uint8_t cn0;
+  int number;
+  std::uint16_t elevation;
+  std::uint16_t azimuth;
 };
 
 class SatellitesInView {

@@ -1,5 +1,6 @@
 #include "nmea/sentence.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "base/byte_block.h"
@@ -20,6 +21,9 @@ bool IsChecksum(char high, char low, std::uint8_t checksum) {
   return highValue >= 0 && lowValue >= 0 && highValue * 16 + lowValue == checksum;
 }
 
+// The bytes that end the search, or spoil the sentence.
+constexpr std::array<std::uint8_t, 3> Ends = {'*', '$', 0};
+
 // The lowest `count` bits, 0 to 64 of them.
 constexpr std::uint64_t LowBits(std::uint32_t count) {
   return count >= 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << count) - 1;
@@ -31,34 +35,38 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
   constexpr auto Block = static_cast<std::uint32_t>(ByteBlock::Size);
   std::uint8_t checksum = '$';  // takes the leading "$" out again
   std::uint16_t commaCount = 0;
-  std::uint64_t nuls = 0;
   sweep.outcome = SentenceSweep::Outcome::Neither;
+  sweep.holdsNul = false;
   for (std::uint32_t base = 0; base < length; base += Block) {
     const ByteBlock block(bytes + base);
-    const std::uint64_t looked = LowBits(length - base);
-    const std::uint64_t stars = block.EqualTo('*') & looked;
-    std::uint64_t starts = block.EqualTo('$') & looked;
-    if (base == 0) starts &= ~std::uint64_t{1};
-    const std::uint64_t before = stars == 0 ? looked : (stars - 1) & ~stars;
-    if ((starts & before) != 0) {
-      sweep.outcome = SentenceSweep::Outcome::SecondStart;
-      break;
+    std::uint32_t count = std::min(length - base, Block);
+    std::uint64_t ends = block.EqualToAny(Ends) & LowBits(count);
+    if (base == 0) ends &= ~std::uint64_t{1};
+    for (; ends != 0; ends &= ends - 1) {
+      const auto offset = static_cast<std::uint32_t>(std::countr_zero(ends));
+      const std::uint8_t end = bytes[base + offset];
+      if (end == '$') {
+        sweep.outcome = SentenceSweep::Outcome::SecondStart;
+        return;
+      }
+      if (end == '*') {
+        sweep.outcome = SentenceSweep::Outcome::Star;
+        sweep.starOffset = base + offset;
+        count = offset;
+        break;
+      }
+      sweep.holdsNul = true;
     }
-    nuls |= block.EqualTo(0) & before;
-    for (std::uint64_t commas = block.EqualTo(',') & before; commas != 0; commas &= commas - 1) {
+    std::uint64_t commas = block.EqualTo(',') & LowBits(count);
+    for (; commas != 0; commas &= commas - 1) {
       const auto offset = static_cast<std::uint32_t>(std::countr_zero(commas));
       sweep.commas[commaCount++] = static_cast<std::uint8_t>(base + offset);
     }
-    checksum ^= block.XorOfFirst(static_cast<std::size_t>(std::popcount(before)));
-    if (stars != 0) {
-      sweep.outcome = SentenceSweep::Outcome::Star;
-      sweep.starOffset = base + static_cast<std::uint32_t>(std::countr_zero(stars));
-      break;
-    }
+    checksum ^= block.XorOfFirst(count);
+    if (sweep.outcome == SentenceSweep::Outcome::Star) break;
   }
   sweep.commaCount = commaCount;
   sweep.checksum = checksum;
-  sweep.holdsNul = nuls != 0;
 }
 
 bool ChecksumMatches(const std::uint8_t* text, const SentenceSweep& sweep) {

@@ -58,6 +58,8 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   constexpr std::uint32_t Reach = LongestStarOffset + TrailerLength;
   const std::uint32_t available = ring.Available();
   const std::uint8_t* const text = ring.View(std::min(available, Reach));
+  const bool hasTalker = IsLetter(text[1]) && IsLetter(text[2]);
+  if (available >= Reach && !hasTalker) return SkipOneByte(stream);
   SentenceSweep sweep;
   Sweep(text, std::min(available, LongestStarOffset + 1), sweep);
   if (sweep.outcome == SentenceSweep::Outcome::SecondStart && available < Reach) {
@@ -77,8 +79,9 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   if (sweep.outcome == SentenceSweep::Outcome::Star && length > available) {
     return FramerResult::NeedMore;
   }
-  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star &&
-                     ChecksumMatches(text, sweep) && IsLetter(text[1]) && IsLetter(text[2]);
+  // The head is no "$" when the ring was emptied by an exact fill while a sentence was awaited.
+  const bool valid = sweep.outcome == SentenceSweep::Outcome::Star && text[0] == '$' && hasTalker &&
+                     ChecksumMatches(text, sweep);
   if (!valid) return SkipOneByte(stream);
 
   decoder.Decode(Fields(reinterpret_cast<const char*>(text), sweep), TagFlag::Plain);

@@ -2,20 +2,24 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
+#include <cstring>
 #include <vector>
 
 namespace navframe {
 
-// Payloads are plain malloc blocks, so that any of them can be freed by the host alone. A block
-// that is abandoned (the oldest record of a full queue, a record that a filter blocked after it
-// was built) is never handed back to the allocator; it is set aside and serves the next record of
-// its size, so that memory does not grow however long a host abandons records.
+// Payloads are plain malloc blocks; any malloc block may be freed here, whoever made it.
+//
+// Two kinds of blocks are kept for the next record of their size. Abandoned ones (the oldest record
+// of a full queue, a record that a filter blocked after it was built) are never handed back to the
+// allocator, and so must serve again, or memory would grow for as long as a host abandons records.
+// Freed ones are kept, within bounds, because allocators give large blocks back to the system and
+// every later record of that size then pays for fresh pages.
 //
 // Some records share a payload that belongs to a decoder. Such a fixed payload comes back here like
-// any other and is left alone.
+// any other, and is recognised and left alone.
 class PayloadBlocks {
  public:
   PayloadBlocks() = default;
@@ -25,13 +29,13 @@ class PayloadBlocks {
 
   // A block with undefined content. Throws std::bad_alloc when there is no memory.
   void* Allocate(std::uint32_t size) {
-    if (asideCount_ != 0) {
-      if (void* block = TakeAside(size)) return block;
-    }
-    return AllocateNew(size);
+    const std::size_t units = Units(size);
+    return units < kept_.size() && kept_[units] != nullptr ? TakeKept(units) : AllocateNew(units);
   }
 
+  // A block of Allocate(size) that will not be used, nor freed.
   void Abandon(void* block, std::uint32_t size);
+
   void Free(void* block);
 
   // Names a payload that is no block. It must stay where it is as long as records with it may
@@ -39,14 +43,25 @@ class PayloadBlocks {
   void DeclareFixed(const void* payload) { fixed_.push_back(payload); }
 
  private:
-  void* TakeAside(std::uint32_t size);
-  static void* AllocateNew(std::uint32_t size);
+  // Sizes are counted in these, rounded up; a block of n units never has room for fewer bytes.
+  static constexpr std::size_t Unit = 16;
+  static constexpr std::size_t LargestKept = 32768;
+  // Smaller freed blocks go back to the allocator, which serves them quickly.
+  static constexpr std::size_t SmallestFreedKept = 1024;
+  static constexpr std::size_t MostFreedBytes = 1 << 20;
+
+  static constexpr std::size_t Units(std::size_t size) { return (size + Unit - 1) / Unit; }
+
   bool IsFixed(const void* payload) const {
     return std::find(fixed_.begin(), fixed_.end(), payload) != fixed_.end();
   }
+  void* TakeKept(std::size_t units);
+  void Keep(void* block, std::size_t units);
+  static void* AllocateNew(std::size_t units);
 
-  std::unordered_map<std::uint32_t, std::vector<void*>> aside_;  // by size
-  std::size_t asideCount_ = 0;
+  // By units: the first kept block, whose first bytes point at the next one.
+  std::array<void*, LargestKept / Unit + 1> kept_{};
+  std::size_t keptBytes_ = 0;
   std::vector<const void*> fixed_;
 };
 

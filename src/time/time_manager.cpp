@@ -128,7 +128,8 @@ void TimeManager::updateHMS(HMSTimeType& hms, std::string text) {
   setHMS(hms, std::move(text));
   if (gpsTime.tow == UnknownTow) return;
   std::uint32_t time = TimeOfDayMs(utcTime) + static_cast<std::uint32_t>(leapSeconds) * 1000U;
-  if (time > DayMs) time -= static_cast<std::uint32_t>(DayMs);  // 24:00:00.000 stays
+  // Compared as signed, for a host with a leap second count below 0. 24:00:00.000 stays.
+  if (static_cast<std::int32_t>(time) > DayMs) time -= static_cast<std::uint32_t>(DayMs);
   timeOfDayMs = time;
   const std::uint32_t day = gpsTime.tow / static_cast<std::uint32_t>(DayMs);
   const std::uint32_t dayStart = day * static_cast<std::uint32_t>(DayMs);

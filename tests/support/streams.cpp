@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <fstream>
 #include <iterator>
 
@@ -17,14 +16,6 @@ Bytes ToBytes(std::string_view text) { return {text.begin(), text.end()}; }
 Bytes operator+(Bytes a, const Bytes& b) {
   a.insert(a.end(), b.begin(), b.end());
   return a;
-}
-
-std::string Sentence(std::string_view body) {
-  unsigned checksum = 0;
-  for (const char c : body) checksum ^= static_cast<unsigned char>(c);
-  std::array<char, 8> trailer;
-  std::snprintf(trailer.data(), trailer.size(), "*%02X\r\n", checksum);
-  return "$" + std::string(body) + trailer.data();
 }
 
 std::vector<Record> PopAll(Decoder& decoder) {
@@ -63,6 +54,13 @@ std::vector<Record> Decoded(const Bytes& bytes, std::size_t chunk) {
 
 std::vector<Record> Decoded(std::string_view text, std::size_t chunk) {
   return Decoded(ToBytes(text), chunk);
+}
+
+void PlaceHead(Stream& stream, std::uint32_t position) {
+  stream.ring.Clear();
+  const Bytes filler(position + 1, 'x');
+  stream.ring.Append(filler.data(), position + 1);
+  stream.ring.Advance(position);
 }
 
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records) {

@@ -1,0 +1,101 @@
+# Shared by the scripts beside it and by .ci/run: sets up the machine and builds. Sourced by bash
+# with -euo pipefail.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly root
+
+# Debian's name of each package, and the test that what it brings is there, wherever it came from.
+build_packages=(
+  "g++:command g++"
+  "cmake:cmake_at_least 3.25"
+  "ninja-build:command ninja"
+  "libgtest-dev:header gtest/gtest.h"
+  "libgmock-dev:header gmock/gmock.h"
+  "libbenchmark-dev:header benchmark/benchmark.h"
+  "libcli11-dev:header CLI/CLI.hpp"
+)
+ci_packages=(
+  "clang-format:command clang-format"
+  "clang-tidy:command clang-tidy"
+  "pkg-config:command pkg-config"
+  "valgrind:command valgrind"
+  "clang:command clang++"
+  "libclang-rt-dev:fuzzer_runtime"
+)
+
+have_command() { command -v "$1" >/dev/null; }
+
+have_header() {
+  have_command "${CXX:-g++}" &&
+    printf '#if !__has_include(<%s>)\n#error missing\n#endif\n' "$1" |
+    "${CXX:-g++}" -E -x c++ - >/dev/null 2>&1
+}
+
+have_cmake_at_least() {
+  have_command cmake || return 1
+  local found
+  found=$(cmake --version | sed -n '1s/[^0-9]*//p')
+  [[ $(printf '%s\n' "$1" "$found" | sort -V | head -n 1) == "$1" ]]
+}
+
+have_fuzzer_runtime() {
+  have_command clang++ && [[ -e $(clang++ -print-file-name="libclang_rt.fuzzer-$(uname -m).a") ]]
+}
+
+# Prints the packages of a list whose content is not there.
+missing_of() {
+  local entry
+  for entry in "$@"; do
+    # shellcheck disable=SC2086  # the test is a function's name and its argument
+    have_${entry#*:} || printf '%s\n' "${entry%%:*}"
+  done
+}
+
+# Installs what is missing of a list of packages, or names it and ends the script.
+require_packages() {
+  local missing
+  mapfile -t missing < <(missing_of "$@")
+  ((${#missing[@]} == 0)) && return
+  if have_command apt-get; then
+    echo "Installing ${missing[*]}" >&2
+    become_root apt-get update -qq >&2 || true
+    become_root env DEBIAN_FRONTEND=noninteractive \
+      apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2 || true
+    mapfile -t missing < <(missing_of "$@")
+    ((${#missing[@]} == 0)) && return
+  fi
+  echo "Needed and not there: ${missing[*]} (names of Debian and Ubuntu)." >&2
+  echo "Install them and start again." >&2
+  exit 1
+}
+
+# Runs a command as root: directly, or through a sudo that may ask for a password on a terminal.
+become_root() {
+  if ((EUID == 0)); then
+    "$@"
+  elif ! have_command sudo; then
+    return 1
+  elif [[ -t 0 && -t 2 ]]; then
+    sudo "$@"
+  else
+    sudo -n "$@" 2>/dev/null
+  fi
+}
+
+# build PRESET [target...]: everything without targets. Says little; output goes to stderr.
+build() {
+  local tree=$root/build/$1 target=() said
+  if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ]]; then
+    echo "Building build/$1" >&2
+    said=$(cd "$root" && cmake --preset "$1" 2>&1) || {
+      printf '%s\n' "$said" >&2
+      return 1
+    }
+  fi
+  (($# == 1)) || target=(--target "${@:2}")
+  if [[ -t 2 ]]; then
+    cmake --build "$tree" "${target[@]}" >&2
+  else
+    cmake --build "$tree" "${target[@]}" -- --quiet 2>&1 | sed '/^ninja: no work/d' >&2
+  fi
+}

@@ -1,0 +1,200 @@
+// Cycles of GSV, and what GSA adds to them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "navframe/records.h"
+#include "support/streams.h"
+
+namespace navframe::test {
+namespace {
+
+const std::string End = Sentence("GPTXT,");
+
+// The satellites of a record as "system/number azimuth elevation used[signal:cn0 ...]", one after
+// the other.
+std::string Listed(const GsvRecord& record) {
+  std::string text;
+  for (std::size_t i = 0; i < record.satelliteCount; ++i) {
+    const SatelliteInView& satellite = record.satellites[i];
+    text += std::to_string(satellite.systemId) + "/" + std::to_string(satellite.number) + " " +
+            std::to_string(satellite.azimuth) + " " + std::to_string(satellite.elevation) + " " +
+            std::to_string(satellite.used) + "[";
+    for (std::size_t j = 0; j < satellite.signalCount; ++j) {
+      const SatelliteSignal& signal = satellite.signals[j];
+      text +=
+          (j == 0 ? "" : " ") + std::to_string(signal.signalId) + ":" + std::to_string(signal.cn0);
+    }
+    text += "] ";
+  }
+  return text;
+}
+
+// The satellites of the first GSV record of a stream.
+std::string ListedIn(const std::string& stream) {
+  for (const Record& record : Decoded(stream + End)) {
+    if (record.id == MsgIdGsv) return Listed(record.As<GsvRecord>());
+  }
+  return "no record";
+}
+
+TEST(SatellitesInView, OneEntryPerSatelliteWithItsSignals) {
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,03,10,111,40,04,15,270,41,1") +
+                     Sentence("GLGSV,1,1,01,03,20,112,42,1") +
+                     Sentence("GPGSV,1,1,02,04,,,43.9,03,11,,,8")),
+            "1/3 111 11 0[1:40 8:255] 1/4 270 15 0[1:41 8:43] 2/3 112 20 0[1:42] ");
+  const std::string one = Sentence("GPGSV,1,1,01,03,10,111,40,1");
+  EXPECT_EQ(ListedIn(one + one + one + one), "1/3 111 10 0[1:40 1:40 1:40] ")
+      << "a fourth signal has no slot";
+}
+
+TEST(SatellitesInView, SystemsByTheWholeAddress) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"GPGSV", "1"}, {"BDGSV", "4"}, {"GBGSV", "4"}, {"GLGSV", "2"}, {"GAGSV", "3"},
+      {"GQGSV", "5"}, {"GIGSV", "6"}, {"GNGSV", ""},  {"GPGSVX", ""}};
+  for (const auto& [address, system] : cases) {
+    const std::string stream = Sentence(std::string(address) + ",1,1,01,07,10,111,40,1");
+    EXPECT_EQ(ListedIn(stream), *system == 0 ? "" : std::string(system) + "/7 111 10 0[1:40] ")
+        << address;
+  }
+}
+
+TEST(SatellitesInView, SignalIds) {
+  const std::pair<const char*, int> cases[] = {{"7", 7},           {"", 0},   {"x", 0},
+                                               {"99999999999", 0}, {"8x", 8}, {"257", 1}};
+  for (const auto& [field, id] : cases) {
+    EXPECT_EQ(ListedIn(Sentence(std::string("GPGSV,1,1,01,07,10,111,40,") + field)),
+              "1/7 111 10 0[" + std::to_string(id) + ":40] ")
+        << field;
+  }
+  // Without the field the last block of the sentence is left out.
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,03,10,111,40,04,15,270,41")), "1/3 111 10 0[0:40] ");
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,01,03,10,111,40")), "");
+}
+
+TEST(SatellitesInView, SatellitesWithoutANumber) {
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,,10,111,40,04,15,270,41,1")), "1/4 270 15 0[1:41] ");
+  const std::string unnumbered = Sentence("GLGSV,1,1,02,,10,111,40,70,15,270,41,1");
+  EXPECT_EQ(ListedIn(unnumbered + unnumbered + Sentence("GLGSV,1,1,01,,,,,3")),
+            "2/70 270 15 0[1:41 1:41] 2/255 111 10 0[1:40] 2/255 111 10 0[1:40] "
+            "2/255 65535 65535 0[3:255] ");
+}
+
+TEST(SatellitesInView, RoomFor96) {
+  const auto gsv = [](int number) {
+    return Sentence("GPGSV,1,1,01," + std::to_string(number) + ",1,1,1,1");
+  };
+  std::string stream;
+  for (int number = 1; number <= 96; ++number) stream += gsv(number);
+  const std::string full = ListedIn(stream);
+  EXPECT_EQ(std::count(full.begin(), full.end(), '/'), 96);
+  EXPECT_EQ(ListedIn(stream + gsv(97)), "1/97 1 1 0[1:1] ") << "the next one clears first";
+  EXPECT_EQ(ListedIn(stream + Sentence("GNGSV,1,1,00,1")), "") << "also one that stores nothing";
+  // In one sentence the satellites that do not fit are left out; of numbered and unnumbered ones
+  // together the record takes the first 96.
+  const std::string most = stream.substr(0, stream.size() - gsv(96).size());
+  EXPECT_EQ(ListedIn(most + Sentence("GPGSV,1,1,02,96,1,1,1,97,1,1,1,1")), full);
+  const std::string unnumbered = Sentence("GLGSV,1,1,01,,1,1,1,1");
+  EXPECT_EQ(ListedIn(unnumbered + unnumbered + most),
+            full.substr(0, full.find("1/96")) + "2/255 1 1 0[1:1] ");
+  std::string only;
+  for (int i = 0; i < 120; ++i) only += unnumbered;
+  const std::string listed = ListedIn(only);
+  EXPECT_EQ(std::count(listed.begin(), listed.end(), '/'), 96);
+}
+
+TEST(SatellitesInView, RecordOfACycle) {
+  const auto decoder = std::make_unique<Decoder>();
+  const std::string gsv = Sentence("GPGSV,1,1,01,03,10,111,40,1");
+  EXPECT_TRUE(Push(*decoder, gsv + gsv).empty());
+  const auto records = Push(*decoder, Sentence("GPRMC,120000.000,A,,,,,,,310724"));
+  ASSERT_EQ(Ids(records), (std::vector<std::uint32_t>{4, 2}));
+  const auto& first = records[0].As<GsvRecord>();
+  EXPECT_EQ(records[0].size, 2528U);
+  EXPECT_EQ(first.tag, 0);
+  EXPECT_STREQ(first.timeText, "") << "the clock when its sentences came";
+  EXPECT_EQ(first.gpsTime.week, 65535);
+  EXPECT_EQ(first.cycleComplete, 1);
+  const auto& slots = first.satellites[0].signals;
+  EXPECT_EQ(std::string(reinterpret_cast<const char*>(&slots[0].reserved), 4), "\xFF\xFF\xFF\xFF");
+  EXPECT_EQ(slots[2].signalId + slots[2].cn0 + slots[2].reserved[3], 3 * 255);
+
+  // The next cycle starts anew; every run that ends emits, an empty one too.
+  const auto second = Push(*decoder, Sentence("GNGSV,1,1,00,1") + End + gsv + End + End);
+  ASSERT_EQ(Ids(second), (std::vector<std::uint32_t>{4, 4}));
+  EXPECT_EQ(second[0].As<GsvRecord>().satelliteCount, 0);
+  EXPECT_STREQ(second[0].As<GsvRecord>().timeText, "120000.000");
+  EXPECT_EQ(second[0].As<GsvRecord>().gpsTime.tow, 302'418'000U);
+  EXPECT_EQ(Listed(second[1].As<GsvRecord>()), "1/3 111 10 0[1:40] ");
+  // An unknown kind ends a run as well; a damaged sentence does not.
+  const auto third = Push(*decoder, gsv + "$GPVTG*00\r\n" + gsv + Sentence("GPBOD,"));
+  ASSERT_EQ(third.size(), 1U);
+  EXPECT_EQ(Listed(third[0].As<GsvRecord>()), "1/3 111 10 0[1:40 1:40] ");
+}
+
+TEST(SatellitesInView, GsaMarksUsedSatellites) {
+  EXPECT_EQ(ListedIn(Sentence("GNGSA,A,3,05,06,,,,,,,,,,,1,1,1,1") +
+                     Sentence("GPGSV,1,1,02,03,10,111,40,06,15,270,41,1")),
+            "1/5 65535 65535 1[] 1/6 270 15 1[1:41] 1/3 111 10 0[1:40] ");
+  // The record of the cycle before is out when a GSA comes; what it marks belongs to the next.
+  const auto records =
+      Decoded(Sentence("GPGSV,1,1,01,03,10,111,40,1") + Sentence("GPGSA,A,3,03,,,,,,,,,,,,1,1,1") +
+              Sentence("GPGSV,1,1,01,03,10,111,41,1") + End);
+  ASSERT_EQ(Ids(records), (std::vector<std::uint32_t>{4, 3, 4}));
+  EXPECT_EQ(Listed(records[0].As<GsvRecord>()), "1/3 111 10 0[1:40] ");
+  EXPECT_EQ(Listed(records[2].As<GsvRecord>()), "1/3 111 10 1[1:41] ");
+  // A full accumulation is cleared first.
+  std::string many;
+  for (int sentence = 0; sentence < 8; ++sentence) {
+    std::string body = "GNGSA,A,3";
+    for (int i = 1; i <= 12; ++i) body += "," + std::to_string(sentence * 12 + i);
+    many += Sentence(body + ",1,1,1,1");
+  }
+  EXPECT_EQ(
+      ListedIn(many + Sentence("GNGSA,A,3,200,,,,,,,,,,,,1,1,1,1") + Sentence("GNGSV,,,") + End),
+      "1/200 65535 65535 1[] ");
+}
+
+TEST(Gsa, SystemModeAndDilution) {
+  struct Case {
+    const char* talker;
+    const char* first;   // used satellite
+    const char* system;  // trailing field with its comma, or nothing
+    std::uint32_t systemId;
+  };
+  const Case cases[] = {{"GP", "3", "", 1},   {"GL", "70", "", 2},         {"BD", "3", "", 4},
+                        {"GB", "3", "", 4},   {"GN", "92", "", 1},         {"GN", "93", "", 3},
+                        {"GN", "136", "", 3}, {"GN", "137", "", 4},        {"GN", "192", "", 4},
+                        {"GN", "193", "", 5}, {"GN", "197", "", 4},        {"GN", "198", "", 5},
+                        {"GN", "", "", 15},   {"GA", "3", "", 0xFFFFFFFF}, {"GN", "93", ",1", 1},
+                        {"GP", "3", ",6", 6}, {"GN", "3", ",", 0xFFFFFFFF}};
+  for (const Case& c : cases) {
+    const auto records = Decoded(Sentence(std::string(c.talker) + "GSA,A,3," + c.first +
+                                          ",,201,,,,,,,,,,1.83,1.09,1.47" + c.system));
+    ASSERT_EQ(records.size(), 1U);
+    const auto& gsa = records[0].As<GsaRecord>();
+    // The first used satellite decides for all; without it the third one is the first.
+    const bool first = *c.first != 0;
+    EXPECT_EQ(gsa.systemId, first || c.systemId != 15 ? c.systemId : 5) << c.talker << c.first;
+    EXPECT_EQ(gsa.usedCount, first ? 2 : 1);
+    EXPECT_EQ(gsa.usedSatellites[gsa.usedCount - 1], 201);
+    EXPECT_EQ(gsa.usedSatellites[gsa.usedCount], 255);
+    EXPECT_EQ(gsa.selectionMode, 1);
+    EXPECT_EQ(gsa.fixType, 3);
+    EXPECT_EQ(gsa.pdop, 1.83F);
+    EXPECT_EQ(gsa.hdop, 1.09F);
+    EXPECT_EQ(gsa.vdop, 1.47F);
+  }
+  const auto records = Decoded(Sentence("GNGSA,M,,,,,,,,,,,,,,,,"));
+  ASSERT_EQ(records.size(), 1U);
+  const auto& none = records[0].As<GsaRecord>();
+  EXPECT_EQ(none.systemId, 15U);
+  EXPECT_NE(none.selectionMode, 1);
+  EXPECT_EQ(none.fixType, 1);
+  EXPECT_EQ(none.usedCount, 0);
+  EXPECT_TRUE(std::isnan(none.pdop) && std::isnan(none.hdop) && std::isnan(none.vdop));
+}
+
+}  // namespace
+}  // namespace navframe::test

@@ -1,0 +1,102 @@
+#include "output/record_sink.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <vector>
+
+#include "support/streams.h"
+
+namespace navframe::test {
+namespace {
+
+void PushNumber(RecordSink& sink, std::uint32_t id, std::uint32_t number) {
+  sink.PushCopy(id, number);
+}
+
+std::uint32_t NumberOf(const GnssMessage& message) {
+  return *static_cast<const std::uint32_t*>(message.data);
+}
+
+TEST(OutputQueue, KeepsTheNewestRecordsInOrder) {
+  const auto sink = std::make_unique<RecordSink>();
+  GnssMessage out = {77, 78, sink.get()};
+  EXPECT_EQ(sink->Pop(out, 0), NAVFRAME_NOTHING);
+  EXPECT_EQ(out.id, 77U) << "an empty queue leaves it untouched";
+  EXPECT_EQ(out.data, sink.get());
+
+  for (std::uint32_t i = 0; i < MaxQueuedMessages + 1500; ++i) {
+    PushNumber(*sink, 5, i);
+    ASSERT_EQ(sink->Waiting(), std::min(i + 1, MaxQueuedMessages));
+  }
+  for (std::uint32_t i = 0; i < MaxQueuedMessages; ++i) {
+    ASSERT_EQ(sink->Pop(out, i % 2 == 0 ? 0 : 5), 0U);
+    ASSERT_EQ(NumberOf(out), i + 1500);
+    sink->Release(out);
+    EXPECT_EQ(out.data, nullptr);
+    EXPECT_EQ(out.id, 5U);
+    sink->Release(out);  // harmless
+  }
+  EXPECT_EQ(sink->Pop(out, 0), NAVFRAME_NOTHING);
+}
+
+TEST(OutputQueue, MismatchIsDiscardedExceptWithoutPayload) {
+  const auto sink = std::make_unique<RecordSink>();
+  PushNumber(*sink, 7, 1);
+  sink->PushMessage(8, nullptr, 0);
+  PushNumber(*sink, 5, 2);
+  GnssMessage out = {};
+  EXPECT_EQ(sink->Pop(out, 5), NAVFRAME_NOTHING);
+  EXPECT_EQ(out.id, 7U);
+  EXPECT_EQ(out.data, nullptr);
+  EXPECT_EQ(sink->Pop(out, 5), 0U);
+  EXPECT_EQ(out.id, 8U);
+  EXPECT_EQ(out.data, nullptr);
+  EXPECT_EQ(sink->Pop(out, 5), 0U);
+  EXPECT_EQ(NumberOf(out), 2U);
+  sink->Release(out);
+  EXPECT_EQ(sink->Waiting(), 0U);
+}
+
+TEST(DecodedIds, AreDrainedOnce) {
+  RecordSink sink;
+  const std::set<std::uint32_t> wanted = {0, 1, 63, 64, 90, 105, 255};
+  for (int repeat = 0; repeat < 2; ++repeat) {
+    for (const std::uint32_t id : wanted) sink.NoteDecoded(id);
+  }
+  std::array<std::uint32_t, 64> ids;
+  const std::uint32_t count = sink.DrainDecodedIds(ids.data());
+  EXPECT_EQ(count, wanted.size());
+  EXPECT_EQ(std::set<std::uint32_t>(ids.begin(), ids.begin() + count), wanted);
+  EXPECT_EQ(sink.DrainDecodedIds(ids.data()), 0U);
+}
+
+// A host that never pops: the queue stays at its bound, and memory with it.
+TEST(OutputQueue, MillionRecordsOfAHostThatNeverPops) {
+  constexpr std::size_t Records = Sanitized ? 30'000 : 1'000'000;
+  std::string stream;
+  for (int i = 0; i < 250; ++i) {
+    stream += Sentence("GPVTG,089.0,T,,M,15.2,N,28.2,K,A") + Sentence("GPGLL,,,,,,V,N") +
+              Sentence("GPGGA,123519.00,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,") +
+              Sentence("GPZDA,172809.45,12,07,1996,00,00");
+  }
+  const auto decoder = std::make_unique<Decoder>();
+  const Bytes bytes = ToBytes(stream);
+  std::uint32_t waiting = 0;
+  std::size_t before = 0;
+  for (std::size_t pushed = 0; pushed < Records; pushed += 1000) {
+    if (pushed == 10'000) before = ResidentMemory();
+    waiting = decoder->PutData(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+  }
+  EXPECT_EQ(waiting, MaxQueuedMessages);
+  EXPECT_EQ(decoder->stream.statistics.acceptedFrames, Records);
+  if (!Sanitized) {
+    EXPECT_LT(ResidentMemory(), before + (std::size_t{2} << 20));
+  }
+  EXPECT_EQ(PopAll(*decoder).size(), MaxQueuedMessages);
+}
+
+}  // namespace
+}  // namespace navframe::test

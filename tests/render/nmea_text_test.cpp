@@ -1,0 +1,197 @@
+// Records as lines of text.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <random>
+
+#include "navframe/records.h"
+#include "render/names.h"
+#include "render/render.h"
+#include "render/text_writer.h"
+#include "support/streams.h"
+
+namespace navframe::test {
+namespace {
+
+// The text of the last record of a stream.
+std::string TextOfLast(const std::string& stream) {
+  const auto records = Decoded(stream);
+  return records.empty() ? "no record" : Rendered(records.back());
+}
+std::string TextOf(std::string_view body) { return TextOfLast(Sentence(body)); }
+
+TEST(NmeaText, SentencesWithAndWithoutTheirFields) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"GPGGA,123519.00,4807.038,N,01131.000,E,4,08,0.9,545.4,M,46.9,M,1.25,0007",
+       "123519.00,48.11730000,N,11.51666667,E,4,8,0.90,545.400,M,46.900,M,1.2,7"},
+      {"GPGGA,", ",,,,,,,99.99,,M,,M,,"},
+      {"GPRMC,123519.00,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,D",
+       "123519.00,A,48.11730000,N,11.51666667,E,22.400,84.40,230394,,,D,V"},
+      {"GPRMC,,V,,,,,,,,,,", ",V,,,,,,,,,,N,V"},
+      {"GPRMC,,,,,,,,,,,,R", ",V,,,,,,,,,,Unknown Mode,V"},
+      {"GPRMC,,,,,,,,,,,,F", ",V,,,,,,,,,,Unknown Mode,V"},
+      {"GPRMC,,,,,,,,,,,,E", ",V,,,,,,,,,,E,V"},
+      {"GNGSA,A,3,80,71,,73,,,,,,,,,1.83,1.09,1.475,2", "A,3,80,71,73,,,,,,,,,,1.83,1.09,1.48,GLO"},
+      {"GPGSA,M,,,,,,,,,,,,,,,,", "M,1,,,,,,,,,,,,,99.99,99.99,99.99,GPS"},
+      {"GAGSA,X,2,,,,,,,,,,,,,1,2,3", "M,2,,,,,,,,,,,,,1.00,2.00,3.00,"},
+      {"GPGLL,4916.45,N,12311.12,W,225444.00,A,D", "49.27416667,N,123.18533333,E,,A,D"},
+      {"GPGLL,", ",,,,,V,N"},
+      {"GPGST,172814.00,0.06,0.023,0.020,273.6,0.125,0.02,0.031",
+       "172814.00,0.1,,,,0.12,0.02,0.03,"},
+      {"GPGST,", ",,,,,,,,"},
+      {"GPGBS,163317.00,0.2,0.25,0.5,254,0.1,-21.4,3.8,1,8",
+       "163317.00,0.2,0.2,0.5,254,,,,GPS,L5-Q"},
+      {"GPGBS,,,,,255,,,,7,1", ",,,,,,,,,"},
+      {"GPGBS,", ",,,,,,,,,"},
+      {"GPVTG,089.0,T,88.1235,M,15.2,N,28.2,K,A", "89.000,T,88.123,M,15.200,N,28.200,K,A"},
+      {"GPVTG,", ",T,,M,,N,,K,N"},
+      {"GPZDA,172809.45,12,07,1996,05,30", "172809.45,12,7,1996,00,00"},
+      {"GPZDA,172809.45,,07,1996,,", "172809.45,,,,00,00"},
+  };
+  for (const auto& [body, wanted] : cases) EXPECT_EQ(TextOf(body), wanted) << body;
+}
+
+// The letter of the longitude follows the latitude.
+TEST(NmeaText, HemisphereLetters) {
+  struct Case {
+    double latitude;
+    double longitude;
+    const char* text;
+  };
+  const double none = Unknown<double>();
+  const Case cases[] = {{-33.5, 151.2, "33.50000000,S,151.20000000,W,"},
+                        {33.5, -151.2, "33.50000000,N,151.20000000,E,"},
+                        {-0.0, -1, "0.00000000,N,1.00000000,E,"},
+                        {none, -1, ",,1.00000000,E,"},
+                        {-1, none, "1.00000000,S,,,"},
+                        {none, none, ",,,,"}};
+  for (const Case& c : cases) {
+    GgaRecord gga = {};
+    gga.latitude = c.latitude;
+    gga.longitude = c.longitude;
+    RmcRecord rmc = {};
+    rmc.latitude = c.latitude;
+    rmc.longitude = c.longitude;
+    GllRecord gll = {};
+    gll.latitude = c.latitude;
+    gll.longitude = c.longitude;
+    std::array<char, 2048> out;
+    const auto rendered = [&](std::uint32_t id, void* record) {
+      EXPECT_TRUE(RenderRecord({id, 0, record}, out.data(), false));
+      return std::string(out.data());
+    };
+    EXPECT_TRUE(rendered(MsgIdGga, &gga).starts_with(std::string(",") + c.text)) << out.data();
+    EXPECT_TRUE(rendered(MsgIdTaggedRmc, &rmc).starts_with(std::string(",V,") + c.text));
+    EXPECT_TRUE(rendered(MsgIdGll, &gll).starts_with(c.text)) << out.data();
+  }
+}
+
+TEST(NmeaText, SatellitesInViewLineBySignal) {
+  const std::string stream =
+      Sentence("GPGSV,1,1,02,03,10,111,40,04,,,,1") + Sentence("GPGSV,1,1,01,03,10,111,41,8") +
+      Sentence("GLGSV,1,1,01,,1,2,3,2") + Sentence("GAGSV,1,1,01,5,1,2,3,7") +
+      Sentence("GBGSV,1,1,01,5,1,2,3,6") + Sentence("GQGSV,1,1,01,5,1,2,3,1") +
+      Sentence("GIGSV,1,1,01,5,1,2,3,1");
+  const std::string gps = "3,GPS,L1C/A,111,10,40\n3,GPS,L5-Q,111,10,41\n4,GPS,L1C/A,,,\n";
+  const std::string text = TextOfLast(stream + Sentence("GPTXT,"));
+  EXPECT_EQ(text, gps +
+                      "5,GAL,E1BC,2,1,3\n5,BDS,B2b,2,1,3\n5,QZS,L1,2,1,3\n"
+                      "5,NavIC(IRN),L5 SPS,2,1,3\n,GLO,,2,1,3");
+  EXPECT_EQ(TextOfLast(Sentence("GPGSV,1,1,01,1,,,,9") + Sentence("GPTXT,")), "1,GPS,,,,")
+      << "only the last line end is taken away";
+  EXPECT_EQ(TextOfLast(Sentence("GNGSV,1,1,00,1") + Sentence("GPTXT,")), "");
+  // Satellites without signals have no line. A record of all 96 with three signals fits 64 KiB.
+  EXPECT_EQ(TextOfLast(Sentence("GNGSA,A,3,5,,,,,,,,,,,,1,1,1,1") + Sentence("GNGSV,1,1,00,1") +
+                       Sentence("GPTXT,")),
+            "");
+  GsvRecord most = {};
+  std::memset(&most, 9, sizeof most);
+  most.satelliteCount = 255;
+  std::string out(65536, '\0');
+  EXPECT_TRUE(RenderRecord({MsgIdGsv, 0, &most}, out.data(), false));
+  EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 96 * 3 - 1);
+  EXPECT_TRUE(out.starts_with("9,Unknown,,2313,2313,9\n"));
+}
+
+TEST(RenderRecord, RefusesWhatHasNoText) {
+  GsvRecord record = {};  // larger than any record that is refused
+  for (std::uint32_t id : {0U,  10U, 20U, 34U, 37U, 38U, 39U, 40U,  47U,         48U,
+                           49U, 51U, 60U, 70U, 77U, 78U, 83U, 151U, 0x80000001U, 0xFFFFFFFFU}) {
+    std::string out = "before";
+    EXPECT_FALSE(RenderRecord({id, 0, &record}, out.data(), true)) << id;
+    EXPECT_STREQ(out.c_str(), "") << id;
+  }
+  std::string out = "before";
+  EXPECT_FALSE(RenderRecord({MsgIdGga, 0, nullptr}, out.data(), false));
+  EXPECT_STREQ(out.c_str(), "");
+}
+
+TEST(Names, UnknownOnesWriteNothing) {
+  char out[] = "before!!";
+  for (const std::int32_t id : {-1, 0, 7, 14, 16, 257}) EXPECT_EQ(CopyName(SystemName(id), out), 0);
+  EXPECT_EQ(CopyName(SignalName(1, 2), out) + CopyName(SignalName(15, 1), out), 0);
+  EXPECT_STREQ(out, "before!!");
+  EXPECT_EQ(CopyName(SystemName(15), out), 2);
+  EXPECT_EQ(CopyName(SignalName(6, 1), out), 6);
+  EXPECT_STREQ(out, "L5 SPS");
+}
+
+std::string Fixed(double value, int decimals) {
+  std::array<char, 1024> out;
+  TextWriter writer(out.data());
+  writer.Fixed(value, decimals);
+  writer.Terminate();
+  return out.data();
+}
+
+TEST(TextWriter, FixedIsThatOfPrintf) {
+  const auto expect = [](double value, int decimals) {
+    std::array<char, 512> wanted;
+    std::snprintf(wanted.data(), wanted.size(), "%.*f", decimals, value);
+    ASSERT_EQ(Fixed(value, decimals), wanted.data()) << decimals;
+  };
+  std::mt19937_64 random(11);
+  const int rounds = Sanitized ? 5'000 : 100'000;
+  for (int i = 0; i < rounds; ++i) {
+    const int decimals = static_cast<int>(random() % 13);
+    // Numbers of a receiver's size, exact halves of the last digit, floats, and any double.
+    const double plain = (static_cast<double>(random() >> 11) * 0x1p-53 - 0.5) * 2000;
+    expect(plain, decimals);
+    expect(static_cast<double>(static_cast<float>(plain)), decimals);
+    expect(static_cast<double>(static_cast<std::int64_t>(random() % 4001) - 2000) / 16,
+           decimals % 5);
+    const auto any = std::bit_cast<double>(random());
+    if (!std::isnan(any)) expect(any, decimals);
+  }
+  for (const double value : {0.0,
+                             -0.0,
+                             0.5,
+                             1.5,
+                             2.5,
+                             -0.5,
+                             0.125,
+                             0.375,
+                             1e15,
+                             9.995,
+                             1e-9,
+                             -1e-9,
+                             0.004999999999999999,
+                             1e22,
+                             0x1p52 + 0.5,
+                             99999999.5,
+                             999.9995,
+                             std::numeric_limits<double>::infinity(),
+                             -std::numeric_limits<double>::infinity(),
+                             std::numeric_limits<double>::max(),
+                             std::numeric_limits<double>::denorm_min()}) {
+    for (int decimals = 0; decimals < 13; ++decimals) expect(value, decimals);
+  }
+}
+
+}  // namespace
+}  // namespace navframe::test

@@ -1,0 +1,167 @@
+#include "decode.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "kinds.h"
+#include "navframe/feeder.hpp"
+
+namespace navframe::tool {
+namespace {
+
+constexpr double Million = 1e6;
+
+// Collects lines and writes them in large pieces.
+class LineWriter {
+ public:
+  std::string& Buffer() { return buffer_; }
+
+  // False when standard output takes no more, as behind `| head`.
+  bool WriteWhenLarge() { return buffer_.size() < LargeEnough || Write(); }
+
+  bool Write() {
+    const std::size_t written = std::fwrite(buffer_.data(), 1, buffer_.size(), stdout);
+    open_ = open_ && written == buffer_.size() && std::fflush(stdout) == 0;
+    buffer_.clear();
+    return open_;
+  }
+
+ private:
+  static constexpr std::size_t LargeEnough = 1 << 18;
+  std::string buffer_;
+  bool open_ = true;
+};
+
+// A bar on standard error for files that take a while.
+class Progress {
+ public:
+  explicit Progress(std::FILE* input) {
+    struct stat status {};
+    if (fstat(fileno(input), &status) == 0 && S_ISREG(status.st_mode)) {
+      total_ = static_cast<std::uint64_t>(status.st_size);
+    }
+    shown_ = total_ > WorthABar && isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+  }
+
+  void Show(std::uint64_t done) {
+    if (!shown_) return;
+    const auto percent = static_cast<int>(100 * done / total_);
+    if (percent == last_) return;
+    last_ = percent;
+    const std::string bar(static_cast<std::size_t>(percent / 2), '#');
+    std::fprintf(stderr, "\r[%-50s] %3d%%", bar.c_str(), percent);
+  }
+
+  void End() {
+    if (shown_) std::fprintf(stderr, "\r%*s\r", 58, "");
+  }
+
+ private:
+  static constexpr std::uint64_t WorthABar = 4'000'000;
+  std::uint64_t total_ = 0;
+  bool shown_ = false;
+  int last_ = -1;
+};
+
+struct Statistics {
+  std::map<std::uint32_t, std::uint64_t> records;  // by kind
+  std::uint64_t bytes = 0;
+  std::uint64_t rejected = 0;
+};
+
+void PrintStatistics(const Statistics& statistics, double seconds) {
+  std::uint64_t records = 0;
+  for (const auto& [id, count] : statistics.records) {
+    std::fprintf(stderr, "%-12s %12llu\n", KindName(id).c_str(),
+                 static_cast<unsigned long long>(count));
+    records += count;
+  }
+  const double megabytes = static_cast<double>(statistics.bytes) / Million;
+  std::fprintf(stderr, "%llu records, %llu malformed sentences, %llu bytes, %.3f s, %.1f MB/s\n",
+               static_cast<unsigned long long>(records),
+               static_cast<unsigned long long>(statistics.rejected),
+               static_cast<unsigned long long>(statistics.bytes), seconds,
+               seconds > 0 ? megabytes / seconds : 0.0);
+}
+
+void PrintRejected(const Feeder::Rejected& rejected) {
+  std::fprintf(stderr, "navframe: malformed sentence at byte %llu: %s (%s)\n",
+               static_cast<unsigned long long>(rejected.offset), rejected.sentence.c_str(),
+               rejected.reason.c_str());
+}
+
+struct FileCloser {
+  void operator()(std::FILE* file) const {
+    if (file != stdin) std::fclose(file);
+  }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+File Open(const std::string& name) {
+  return File(name == "-" ? stdin : std::fopen(name.c_str(), "rb"));
+}
+
+int Unreadable(const std::string& name) {
+  std::fprintf(stderr, "navframe: cannot read %s: %s\n",
+               name == "-" ? "standard input" : name.c_str(), std::strerror(errno));
+  return UnreadableInput;
+}
+
+// Pops everything that waits. False when the output was closed.
+bool Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
+  GnssMessage message;
+  while (GNSSGetMsg(&message, 0) == 0) {
+    ++statistics.records[message.id];
+    printer.Append(message, lines.Buffer());
+    GNSSFreeMem(&message);
+  }
+  return lines.WriteWhenLarge();
+}
+
+}  // namespace
+
+int Decode(const Options& options) {
+  const File input = Open(options.file);
+  if (!input) return Unreadable(options.file);
+  GNSSSetMsgTypes(options.protocols);
+  GNSSSetBoardType(options.board);
+  GNSSSetOutMsgID(options.only);
+
+  Statistics statistics;
+  RecordPrinter printer;
+  LineWriter lines;
+  Progress progress(input.get());
+  bool open = true;
+  Feeder feeder(
+      [&](const Feeder::Rejected& rejected) {
+        ++statistics.rejected;
+        if (!options.quiet) PrintRejected(rejected);
+      },
+      [&] { open = Drain(statistics, printer, lines) && open; });
+  const auto start = std::chrono::steady_clock::now();
+  std::vector<std::uint8_t> chunk(options.chunk);
+  while (open) {
+    const ssize_t length = read(fileno(input.get()), chunk.data(), chunk.size());
+    if (length < 0) return Unreadable(options.file);
+    if (length == 0) break;
+    statistics.bytes += static_cast<std::uint64_t>(length);
+    feeder.Push(chunk.data(), static_cast<std::size_t>(length));
+    open = Drain(statistics, printer, lines) && open;
+    progress.Show(statistics.bytes);
+  }
+  lines.Write();
+  progress.End();
+  const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+  if (options.stats) PrintStatistics(statistics, elapsed.count());
+  return Success;
+}
+
+}  // namespace navframe::tool

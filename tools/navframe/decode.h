@@ -1,0 +1,25 @@
+// One run of the tool: from an input file to lines.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace navframe::tool {
+
+struct Options {
+  std::string file = "-";  // "-": standard input
+  std::uint32_t protocols = 0xFFFFFFFF;
+  std::uint32_t board = 0;
+  std::uint32_t only = 0;  // kind, 0 for all
+  std::size_t chunk = 65536;
+  bool stats = false;
+  bool quiet = false;
+};
+
+// Exit statuses of the tool.
+enum ExitStatus : int { Success = 0, UnreadableInput = 1, WrongUsage = 2 };
+
+int Decode(const Options& options);
+
+}  // namespace navframe::tool

@@ -1,0 +1,71 @@
+// The command-line host: decodes a file or standard input to lines of text.
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "decode.h"
+#include "kinds.h"
+#include "navframe/navframe.h"
+
+namespace {
+
+using navframe::tool::Options;
+
+const std::map<std::string, std::uint32_t> Protocols = {
+    {"nmea", navframe::ProtocolNmea},  {"tagblock", navframe::ProtocolNmeaTagBlock},
+    {"rtcm", navframe::ProtocolRtcm3}, {"ubx", navframe::ProtocolUbx},
+    {"55aa", navframe::Protocol55Aa},
+};
+
+constexpr const char* Examples = R"(Examples:
+  navframe drive.nmea                      every record of a file, a line each
+  navframe --only GGA drive.nmea           positions alone
+  navframe --protocols rtcm,ubx - < log    two protocols of standard input
+  navframe --stats log > /dev/null         how many records of each kind, how fast
+
+Exit status: 0 decoded, 1 the input could not be read, 2 wrong usage.)";
+
+std::string CheckKind(const std::string& text) {
+  if (navframe::tool::KindId(text)) return {};
+  return "no kind of record is called " + text;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::signal(SIGPIPE, SIG_IGN);  // a closed output shows as a failed write
+
+  Options options;
+  std::vector<std::uint32_t> protocols;
+  std::string only;
+  CLI::App app("Decodes the output of GNSS receivers to lines of text.", "navframe");
+  app.footer(Examples);
+  app.set_version_flag("--version", "navframe " NAVFRAME_VERSION);
+  app.add_option("FILE", options.file, "Input; - or nothing for standard input");
+  app.add_option("--protocols", protocols, "Protocols to look for, all by default")
+      ->delimiter(',')
+      ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
+  app.add_option("--board", options.board,
+                 "Board type of the receiver; 7 has \"$\" start log lines");
+  app.add_option("--only", only, "One kind of record alone, by name or number")
+      ->check(CheckKind, "KIND");
+  app.add_option("--chunk", options.chunk, "Bytes pushed at once")
+      ->check(CLI::Range(std::size_t{1}, std::size_t{1} << 23))
+      ->capture_default_str();
+  app.add_flag("--stats", options.stats, "Print counts and speed to standard error at the end");
+  app.add_flag("--quiet", options.quiet, "Do not report malformed sentences");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? navframe::tool::Success : navframe::tool::WrongUsage;
+  }
+
+  if (!protocols.empty()) {
+    options.protocols = 0;
+    for (const std::uint32_t bit : protocols) options.protocols |= bit;
+  }
+  if (!only.empty()) options.only = *navframe::tool::KindId(only);
+  return navframe::tool::Decode(options);
+}
