@@ -85,7 +85,20 @@ enum MsgId {
   MsgIdTaggedGbs = 27,
   MsgIdTaggedVtg = 28,
   MsgIdTaggedZda = 29,
-  MsgIdTxt = 34 /* recognised, never a record */
+  MsgIdTxt = 34, /* recognised, never a record */
+
+  /* 0x55 0xAA frames. Passes every output filter. */
+  MsgIdBinary55Aa = 90,
+
+  /* UBX frames. */
+  MsgIdUbxProtectionLevels = 101,
+  MsgIdUbxNavigation = 102,
+  MsgIdUbxSatellites = 103,
+  MsgIdUbxRawMeasurements = 104,
+  MsgIdUbxAttitude = 105,
+
+  /* A frame with a wrong checksum. Passes every output filter; never reported by GNSSGetMsgs. */
+  MsgIdDiagnostic = 151
 };
 
 #ifdef __cplusplus

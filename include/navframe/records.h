@@ -12,8 +12,10 @@
 #ifndef NAVFRAME_RECORDS_H
 #define NAVFRAME_RECORDS_H
 
+#include "navframe/records_55aa.h"
 #include "navframe/records_asciilog.h"
 #include "navframe/records_asciilog_orbits.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_ubx.h"
 
 #endif /* NAVFRAME_RECORDS_H */

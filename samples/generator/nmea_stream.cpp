@@ -89,10 +89,10 @@ std::string Gsv(const Epoch& epoch, const Talker& talker, int signal) {
 
 }  // namespace
 
-std::string Sentence(const std::string& body) {
+std::string Sentence(std::string_view body) {
   unsigned checksum = 0;
   for (const char c : body) checksum ^= static_cast<unsigned char>(c);
-  return "$" + body + Format("*%02X\r\n", checksum & 0xFFU);
+  return "$" + std::string(body) + Format("*%02X\r\n", checksum & 0xFFU);
 }
 
 std::string NmeaEpoch(const Epoch& epoch) {

@@ -2,13 +2,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "generator/drive.h"
 
 namespace navframe::sample {
 
 // "$" + body + "*" + checksum + CR LF.
-std::string Sentence(const std::string& body);
+std::string Sentence(std::string_view body);
 
 // One epoch of 36 sentences: RMC, VTG, GGA, GSA of four systems, GSV of two signals each with
 // signal ids, GLL, GST, GBS, ZDA.

@@ -3,7 +3,9 @@
 #include <array>
 
 #include "asciilog/log_framer.h"
+#include "frame55aa/frame_framer.h"
 #include "framing/input_step.h"
+#include "ubx/ubx_framer.h"
 
 namespace navframe {
 namespace {
@@ -31,6 +33,9 @@ constexpr FramerRow FramerRows[] = {
     {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
     {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},
     {ParserState::AsciiLogDollarLine, FrameLog<LogVariant::DollarLine>},
+    {ParserState::Ubx, [](Decoder& decoder) { return ubx::FrameUbx(decoder.stream, decoder.ubx); }},
+    {ParserState::Binary55Aa,
+     [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.

@@ -4,12 +4,14 @@
 #include <cstdint>
 
 #include "asciilog/ascii_log_decoder.h"
+#include "frame55aa/frame_decoder.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
 #include "navframe/time_manager.h"
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
+#include "ubx/ubx_decoder.h"
 
 namespace navframe {
 
@@ -29,6 +31,8 @@ class Decoder {
   nmea::NmeaDecoder nmea{sink, time};
   nmea::TagBlockSearch tagBlockSearch;
   asciilog::AsciiLogDecoder asciiLog{sink};
+  ubx::UbxDecoder ubx{sink, time};
+  frame55aa::FrameDecoder binary55Aa{sink};
 
  private:
   ScanConfiguration scanConfiguration_;

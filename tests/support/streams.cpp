@@ -18,15 +18,17 @@ Bytes operator+(Bytes a, const Bytes& b) {
   return a;
 }
 
-std::vector<Record> PopAll(Decoder& decoder) {
+std::vector<Record> PopAll(RecordSink& sink) {
   std::vector<Record> records;
-  while (const auto oldest = decoder.sink.PopOldest()) {
+  while (const auto oldest = sink.PopOldest()) {
     const GnssMessage& message = oldest->message;
     records.push_back({message.id, std::shared_ptr<void>(message.data, std::free),
                        oldest->payloadSize, message.source});
   }
   return records;
 }
+
+std::vector<Record> PopAll(Decoder& decoder) { return PopAll(decoder.sink); }
 
 std::vector<Record> Push(Decoder& decoder, const Bytes& bytes, std::size_t chunk) {
   std::vector<Record> records;

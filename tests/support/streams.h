@@ -44,6 +44,7 @@ struct Record {
 };
 
 // Pops all records that wait.
+std::vector<Record> PopAll(RecordSink& sink);
 std::vector<Record> PopAll(Decoder& decoder);
 
 // Pushes the bytes in chunks of `chunk` and pops after each; the records in order.

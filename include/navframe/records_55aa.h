@@ -1,0 +1,39 @@
+/* Payload record of 0x55 0xAA frames. See records.h for the conventions. C99 and C++. */
+#ifndef NAVFRAME_RECORDS_55AA_H
+#define NAVFRAME_RECORDS_55AA_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+namespace navframe {
+extern "C" {
+#endif
+
+/* A frame of 224, 264, 420 or 460 payload bytes. MsgId 90. 3104 bytes, 0 where nothing is said.
+ *
+ * The verbatim payload is the authority: a host that knows its receiver's definition of the frame
+ * finds everything there. The members behind it are this library's own reading of the first bytes,
+ * taken alike from every frame whatever its length. */
+typedef struct Binary55AaRecord {
+  uint32_t payloadLength;   /* bytes of payload */
+  uint8_t payload[480];     /* as sent, little-endian, without header and checksum */
+  uint32_t stampWhole;      /* u32 at payload offset 0, in hundredths: whole units */
+  uint32_t stampHundredths; /* and the rest, 0 to 99 */
+  uint32_t reserved;
+  double angles[3]; /* radians: i32 in 0.001 degrees at payload offsets 4, 8, 12 */
+  double rates[3];  /* i32 * 0.001 at payload offsets 16, 20, 24 */
+  double tenths[2]; /* i32 * 0.1 at payload offsets 28, 32 */
+  uint8_t reservedAtEnd[2544];
+} Binary55AaRecord;
+
+#ifdef __cplusplus
+} /* extern "C" */
+
+static_assert(sizeof(Binary55AaRecord) == 3104 && offsetof(Binary55AaRecord, angles) == 496);
+static_assert(offsetof(Binary55AaRecord, reservedAtEnd) == 560);
+
+} /* namespace navframe */
+#endif
+
+#endif /* NAVFRAME_RECORDS_55AA_H */

@@ -1,0 +1,24 @@
+// The shape of a UBX frame.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace navframe::ubx {
+
+// 0xB5 0x62, class, id, payload length (u16), payload, two checksum bytes.
+inline constexpr std::uint8_t SecondSyncByte = 0x62;
+inline constexpr std::uint32_t ClassOffset = 2;
+inline constexpr std::uint32_t IdOffset = 3;
+inline constexpr std::uint32_t LengthOffset = 4;
+inline constexpr std::uint32_t HeaderLength = 6;
+inline constexpr std::uint32_t ChecksumLength = 2;
+inline constexpr std::uint32_t LongestPayload = 4048;
+
+// A payload whose frame was checked. Fields are read with ReadLe, by offset from its first byte.
+struct Payload {
+  const std::uint8_t* bytes;
+  std::size_t length;
+};
+
+}  // namespace navframe::ubx

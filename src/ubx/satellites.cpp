@@ -1,0 +1,91 @@
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "base/read_le.h"
+#include "ubx/messages.h"
+#include "ubx/record_head.h"
+
+namespace navframe::ubx {
+namespace {
+
+constexpr std::size_t EntriesOffset = 8;
+constexpr std::size_t EntryLength = 12;
+constexpr std::size_t Room = std::size(UbxSatellitesRecord{}.satellites);
+
+constexpr std::uint8_t LowestUnknownElevation = 91;  // negative ones are above, as unsigned bytes
+
+constexpr auto UnknownSatellites = [] {
+  constexpr auto NoU8 = Unknown<std::uint8_t>();
+  std::array<UbxSatellite, Room> satellites;
+  satellites.fill({.systemId = NoU8,
+                   .satelliteId = NoU8,
+                   .cn0 = NoU8,
+                   .elevation = NoU8,
+                   .azimuth = Unknown<std::uint16_t>(),
+                   .residual = UnknownSigned<std::int16_t>(),
+                   .quality = NoU8,
+                   .used = NoU8,
+                   .health = NoU8,
+                   .corrected = NoU8,
+                   .smoothed = NoU8,
+                   .orbitSource = NoU8,
+                   .ephemeris = NoU8,
+                   .almanac = NoU8,
+                   .offlinePrediction = NoU8,
+                   .autonomousPrediction = NoU8,
+                   .spareFlag = NoU8,
+                   .sbasCorrections = NoU8,
+                   .rtcmCorrections = NoU8,
+                   .slasCorrections = NoU8,
+                   .spartnCorrections = NoU8,
+                   .rangeCorrections = NoU8,
+                   .carrierCorrections = NoU8,
+                   .dopplerCorrections = NoU8});
+  return satellites;
+}();
+
+void DecodeFlags(std::uint32_t flags, UbxSatellite& satellite) {
+  satellite.quality = Bits(flags, 0, 3);
+  satellite.used = Bits(flags, 3, 1);
+  satellite.health = Bits(flags, 4, 2);
+  satellite.corrected = Bits(flags, 6, 1);
+  satellite.smoothed = Bits(flags, 7, 1);
+  satellite.orbitSource = Bits(flags, 8, 3);
+  // The flags from bit 11 on stand in the record in the order of their bits.
+  constexpr std::size_t Offset = offsetof(UbxSatellite, ephemeris);
+  static_assert(offsetof(UbxSatellite, spartnCorrections) == Offset + 8);
+  WriteFlags<8>(Bits(flags, 11, 8), Offset, satellite);
+  WriteFlags<4>(Bits(flags, 19, 4), Offset + 8, satellite);
+}
+
+void DecodeSatellite(const std::uint8_t* entry, UbxSatellite& satellite) {
+  satellite.systemId = entry[0];
+  satellite.satelliteId = entry[1];
+  satellite.cn0 = entry[2] == 0 ? Unknown<std::uint8_t>() : entry[2];
+  const bool hasDirection = entry[3] < LowestUnknownElevation;
+  satellite.elevation = hasDirection ? entry[3] : Unknown<std::uint8_t>();
+  satellite.azimuth = hasDirection ? ReadLe<std::uint16_t>(entry, 4) : Unknown<std::uint16_t>();
+  satellite.residual = ReadLe<std::int16_t>(entry, 6);
+  DecodeFlags(ReadLe<std::uint32_t>(entry, 8), satellite);
+}
+
+}  // namespace
+
+void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record) {
+  WriteHead(ReadLe<std::uint32_t>(payload.bytes, 0), time.getWeek(), time, record);
+  record.version = payload.bytes[4];
+  const std::size_t held = (std::max(payload.length, EntriesOffset) - EntriesOffset) / EntryLength;
+  const std::size_t count = std::min({std::size_t{payload.bytes[5]}, held, Room});
+  record.count = static_cast<std::uint8_t>(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    DecodeSatellite(payload.bytes + EntriesOffset + i * EntryLength, record.satellites[i]);
+  }
+  std::memcpy(record.satellites + count, UnknownSatellites.data(),
+              (Room - count) * sizeof(UbxSatellite));
+  // The record ends in two bytes of padding.
+  constexpr std::size_t End = offsetof(UbxSatellitesRecord, satellites) + sizeof(record.satellites);
+  std::memset(reinterpret_cast<std::uint8_t*>(&record) + End, 0, sizeof(record) - End);
+}
+
+}  // namespace navframe::ubx

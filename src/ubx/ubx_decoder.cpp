@@ -1,0 +1,32 @@
+#include "ubx/ubx_decoder.h"
+
+#include "base/text.h"
+#include "navframe/records.h"
+#include "ubx/frame.h"
+#include "ubx/message_table.h"
+
+namespace navframe::ubx {
+namespace {
+
+constexpr std::uint32_t CheckErrorCode = 1;
+
+}  // namespace
+
+void UbxDecoder::Decode(const std::uint8_t* frame, std::uint32_t length) {
+  const MessageRow* const row = FindMessage(frame[ClassOffset], frame[IdOffset]);
+  if (row == nullptr || !row->frameLength.Takes(length) || !sink_.Passes(row->msgId)) return;
+  sink_.NoteDecoded(row->msgId);
+  void* const record = sink_.Allocate(row->recordSize);
+  row->decode({frame + HeaderLength, length - HeaderLength - ChecksumLength}, time_, record);
+  sink_.PushMessage(row->msgId, record, row->recordSize);
+}
+
+void UbxDecoder::ReportCheckError() {
+  DiagnosticRecord record;
+  record.tow = time_.gpsTime.tow;
+  record.code = CheckErrorCode;
+  CopyText(record.text, "UBX check error");
+  sink_.PushCopy(MsgIdDiagnostic, record);
+}
+
+}  // namespace navframe::ubx

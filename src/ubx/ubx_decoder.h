@@ -1,0 +1,28 @@
+// From a checked UBX frame to a record.
+#pragma once
+
+#include <cstdint>
+
+#include "navframe/time_manager.h"
+#include "output/record_sink.h"
+
+namespace navframe::ubx {
+
+class UbxDecoder {
+ public:
+  // `sink` and `time` must outlive the decoder.
+  UbxDecoder(RecordSink& sink, TimeManager& time) : sink_(sink), time_(time) {}
+
+  // Decodes a whole frame of `length` bytes, or does nothing when it is of no known message, of a
+  // length that its message does not have, or blocked by the output filter.
+  void Decode(const std::uint8_t* frame, std::uint32_t length);
+
+  // Pushes the diagnostic record of a frame with a wrong checksum.
+  void ReportCheckError();
+
+ private:
+  RecordSink& sink_;
+  TimeManager& time_;
+};
+
+}  // namespace navframe::ubx

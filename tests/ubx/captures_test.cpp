@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "base/text.h"
+#include "navframe/records.h"
+#include "support/binary_frames.h"
+
+namespace navframe::test {
+namespace {
+
+using Counts = std::map<std::uint32_t, std::size_t>;
+
+Counts CountsById(const std::vector<Record>& records) {
+  Counts counts;
+  for (const Record& record : records) ++counts[record.id];
+  return counts;
+}
+
+// Counts frames in a way of its own: whole frames at every place of the file, one byte on behind a
+// candidate that proves invalid. A frame with a wrong checksum counts as a diagnostic record.
+Counts IndependentCounts(const Bytes& bytes) {
+  const std::map<std::pair<int, int>, std::uint32_t> known = {{{0x01, 0x62}, 101},
+                                                              {{0x01, 0x07}, 102},
+                                                              {{0x01, 0x35}, 103},
+                                                              {{0x02, 0x15}, 104},
+                                                              {{0x01, 0x05}, 105}};
+  Counts counts;
+  for (std::size_t at = 0; at + 8 <= bytes.size();) {
+    const std::size_t length = 8U + bytes[at + 4] + 256U * bytes[at + 5];
+    if (bytes[at] != 0xB5 || bytes[at + 1] != 0x62 || length > 4056) {
+      ++at;
+      continue;
+    }
+    if (at + length > bytes.size()) break;
+    const auto from = bytes.begin() + static_cast<std::ptrdiff_t>(at);
+    const Bytes frame(from, from + static_cast<std::ptrdiff_t>(length));
+    if (UbxFrame(frame[2], frame[3], Bytes(frame.begin() + 6, frame.end() - 2)) != frame) {
+      ++counts[MsgIdDiagnostic];
+      ++at;
+      continue;
+    }
+    const auto message = known.find({frame[2], frame[3]});
+    if (message != known.end()) ++counts[message->second];
+    at += length;
+  }
+  return counts;
+}
+
+struct CountedCapture {
+  const char* name;
+  Counts counts;
+};
+std::ostream& operator<<(std::ostream& out, const CountedCapture& capture) {
+  return out << capture.name;
+}
+
+class UbxCapture : public ::testing::TestWithParam<CountedCapture> {};
+
+TEST_P(UbxCapture, CountsByKindAgreeWithIndependentCounts) {
+  NAVFRAME_CAPTURE_OR_SKIP(bytes, GetParam().name);
+  const auto decoder = std::make_unique<Decoder>();
+  decoder->SetMsgTypes(ProtocolUbx);
+  const auto records = Push(*decoder, bytes, 4096);
+  EXPECT_EQ(CountsById(records), IndependentCounts(bytes));
+  EXPECT_EQ(CountsById(records), GetParam().counts);
+  EXPECT_TRUE(SameRecords(records, [&] {
+    const auto bytewise = std::make_unique<Decoder>();
+    bytewise->SetMsgTypes(ProtocolUbx);
+    return Push(*bytewise, bytes, 61);
+  }()));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, UbxCapture,
+    ::testing::Values(CountedCapture{"ubx-nav-pvt-sat.ubx", Counts{{102, 299}, {103, 300}}},
+                      CountedCapture{"ubx-rawx-sfrbx.ubx", Counts{{104, 75}}},
+                      CountedCapture{"ubx-nav-att.ubx", Counts{{105, 527}}},
+                      CountedCapture{"ubx-nav-all-with-pl.ubx",
+                                     Counts{{101, 2}, {102, 2}, {103, 2}}},
+                      CountedCapture{"mixed-nmea-ubx-rawx.bin", Counts{{104, 654}}},
+                      CountedCapture{"mixed-ubx-nmea-rtcm3.bin", Counts{{102, 30}, {103, 30}}},
+                      CountedCapture{"damaged-ubx-checksums.ubx", Counts{{102, 1}, {151, 2}}}));
+
+// The position of a sentence and of the navigation message of the same second.
+TEST(UbxCaptures, PositionsAgreeWithTheSentencesOfTheSameReceiver) {
+  NAVFRAME_CAPTURE_OR_SKIP(bytes, "mixed-ubx-nmea-rtcm3.bin");
+  std::map<std::string, const GgaRecord*> sentences;
+  const auto records = Decoded(bytes);
+  for (const Record& record : records) {
+    if (record.id != MsgIdGga) continue;
+    const auto& gga = record.As<GgaRecord>();
+    sentences[std::string(TextOf(gga.timeText))] = &gga;
+  }
+  constexpr double MetresPerDegree = 111'320;
+  std::size_t compared = 0;
+  for (const Record& record : records) {
+    if (record.id != MsgIdUbxNavigation) continue;
+    const auto& navigation = record.As<UbxNavigationRecord>();
+    const auto found = sentences.find(std::string(TextOf(navigation.timeText)));
+    if (found == sentences.end()) continue;
+    const GgaRecord& gga = *found->second;
+    EXPECT_NEAR(navigation.latitude, gga.latitude, 2 / MetresPerDegree);
+    EXPECT_NEAR(navigation.longitude, gga.longitude, 3 / MetresPerDegree);
+    EXPECT_NEAR(navigation.heightMsl, gga.altitude, 2);
+    ++compared;
+  }
+  EXPECT_GE(compared, 25U);
+}
+
+}  // namespace
+}  // namespace navframe::test
