@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <array>
 #include <cstdio>
 #include <random>
 #include <string>
@@ -67,72 +67,52 @@ std::string Mangled(std::string text, std::mt19937& random) {
   return text;
 }
 
-bool Same(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+// To the last bit; NaN equals NaN here.
+std::string Shown(double number) {
+  std::array<char, 64> text;
+  std::snprintf(text.data(), text.size(), "%a", number);
+  return text.data();
+}
 
 TEST(FormatScan, ReadsLongHeadersAsTheFormattedScan) {
   std::mt19937 random(1);
-  for (int i = 0; i < 200000; ++i) {
+  for (int i = 0; i < 100000; ++i) {
     const std::string text =
         Mangled("#BESTPOSA,COM1,0,83.5,FINESTEERING,1419,336148.000,02000040,6145,2724;S", random);
-    char port[256] = "";
-    char status[256] = "";
-    int sequence = 0, week = 0, receiver = 0, reserved = 0, build = 0;
+    char port[256] = "", status[256] = "";
+    int numbers[5] = {};
     float idle = 0;
     double seconds = 0;
-    const int converted =
-        std::sscanf(text.c_str(), "%*[^,],%255[^,],%d,%f,%255[^,],%d,%lf,%d,%d,%d", port, &sequence,
-                    &idle, status, &week, &seconds, &receiver, &reserved, &build);
+    const int converted = std::sscanf(
+        text.c_str(), "%*[^,],%255[^,],%d,%f,%255[^,],%d,%lf,%d,%d,%d", port, &numbers[0], &idle,
+        status, &numbers[1], &seconds, &numbers[2], &numbers[3], &numbers[4]);
     FormatScan scan(text);
     scan.SkipText();
-    scan.Comma();
-    EXPECT_EQ(scan.Text(), port) << text;
-    scan.Comma();
-    EXPECT_EQ(scan.Int(), sequence) << text;
-    scan.Comma();
-    EXPECT_PRED2(Same, scan.Float(), idle) << text;
-    scan.Comma();
-    EXPECT_EQ(scan.Text(), status) << text;
-    scan.Comma();
-    EXPECT_EQ(scan.Int(), week) << text;
-    scan.Comma();
-    EXPECT_PRED2(Same, scan.Double(), seconds) << text;
-    for (const int expected : {receiver, reserved, build}) {
-      scan.Comma();
-      EXPECT_EQ(scan.Int(), expected) << text;
-    }
+    const auto comma = [&scan]() -> FormatScan& { return scan.Comma(), scan; };
+    EXPECT_EQ(comma().Text(), port) << text;
+    EXPECT_EQ(comma().Int(), numbers[0]) << text;
+    EXPECT_EQ(Shown(comma().Float()), Shown(idle)) << text;
+    EXPECT_EQ(comma().Text(), status) << text;
+    EXPECT_EQ(comma().Int(), numbers[1]) << text;
+    EXPECT_EQ(Shown(comma().Double()), Shown(seconds)) << text;
+    for (int n = 2; n < 5; ++n) EXPECT_EQ(comma().Int(), numbers[n]) << text;
     ASSERT_EQ(scan.Converted(), std::max(converted, 0)) << text;
   }
 }
 
-TEST(FormatScan, ReadsShortHeadersAsTheFormattedScan) {
+TEST(FormatScan, ReadsUnsignedNumbersAsTheFormattedScan) {
   std::mt19937 random(2);
-  for (int i = 0; i < 100000; ++i) {
-    const std::string text = Mangled("#AGRICA,68,GPS,FINE,2063,454587000,0,0,18,38;GNSS", random);
-    char reference[256] = "";
-    char status[256] = "";
-    float idle = 0;
+  for (int i = 0; i < 50000; ++i) {
+    const std::string text = Mangled("2063,454587000,0", random);
     unsigned week = 0, milliseconds = 0;
     long extra = 0;
-    int version = 0, leap = 0, delay = 0;
-    const int converted =
-        std::sscanf(text.c_str(), "%*[^,],%f,%255[^,],%255[^,],%u,%u,%ld,%d,%d,%d", &idle,
-                    reference, status, &week, &milliseconds, &extra, &version, &leap, &delay);
+    const int converted = std::sscanf(text.c_str(), "%u,%u,%ld", &week, &milliseconds, &extra);
     FormatScan scan(text);
-    scan.SkipText();
-    scan.Comma();
-    EXPECT_PRED2(Same, scan.Float(), idle) << text;
-    scan.Comma();
-    EXPECT_EQ(scan.Text(), reference) << text;
-    scan.Comma();
-    EXPECT_EQ(scan.Text(), status) << text;
-    scan.Comma();
     EXPECT_EQ(scan.Unsigned(), week) << text;
     scan.Comma();
     EXPECT_EQ(scan.Unsigned(), milliseconds) << text;
-    for (const int expected : {static_cast<int>(extra), version, leap, delay}) {
-      scan.Comma();
-      EXPECT_EQ(scan.Int(), expected) << text;
-    }
+    scan.Comma();
+    EXPECT_EQ(scan.Int(), static_cast<int>(extra)) << text;
     ASSERT_EQ(scan.Converted(), std::max(converted, 0)) << text;
   }
 }
