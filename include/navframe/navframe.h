@@ -86,17 +86,48 @@ enum MsgId {
   MsgIdTaggedVtg = 28,
   MsgIdTaggedZda = 29,
   MsgIdTxt = 34, /* recognised, never a record */
-
+  /* Proprietary NMEA sentences of inertial sensors and signal statistics. */
+  MsgIdGyoAcc = 41,
+  MsgIdSnrStat = 42,
+  MsgIdImuRaw = 43,
+  MsgIdNavAtt = 44,
+  MsgIdInsPva = 45,
+  MsgIdImuVeh = 46,
+  MsgIdGyoAccV = 50,
+  /* RTCM 3: station messages 1005 and 1013, then the observation messages by system. */
+  MsgIdStationPosition = 53,
+  MsgIdSystemParameters = 54,
+  MsgIdMsmGps = 61,
+  MsgIdMsmGlonass = 62,
+  MsgIdMsmGalileo = 63,
+  MsgIdMsmBeiDou = 64,
+  MsgIdMsmQzss = 65,
+  /* RTCM 3 message 4074 by sub-type: 11 to 15, then 243 to 255. 76 is a filter value alone. */
+  MsgIdRtcmGyoAcc = 71,
+  MsgIdRtcmSnrStat = 72,
+  MsgIdRtcmNavAtt = 73,
+  MsgIdRtcmImuRaw = 74,
+  MsgIdRtcmInsPva = 75,
+  MsgIdRtcmImuVeh = 76,
+  MsgIdTimeStatus = 77,
+  MsgIdSub249 = 78,
+  MsgIdClockOrbit = 79,
+  MsgIdSystemCounts = 80,
+  MsgIdSignalObservations = 81,
+  MsgIdIntegerSet = 82,
+  /* RTCM 3 messages 910 (sub-types 17, 33, 34) and 999 (sub-type 21). */
+  MsgIdSub17 = 83,
+  MsgIdSub33 = 85,
+  MsgIdSub34 = 86,
+  MsgIdSub21 = 106,
   /* 0x55 0xAA frames. Passes every output filter. */
   MsgIdBinary55Aa = 90,
-
   /* UBX frames. */
   MsgIdUbxProtectionLevels = 101,
   MsgIdUbxNavigation = 102,
   MsgIdUbxSatellites = 103,
   MsgIdUbxRawMeasurements = 104,
   MsgIdUbxAttitude = 105,
-
   /* A frame with a wrong checksum. Passes every output filter; never reported by GNSSGetMsgs. */
   MsgIdDiagnostic = 151
 };

@@ -16,6 +16,9 @@
 #include "navframe/records_asciilog.h"
 #include "navframe/records_asciilog_orbits.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_proprietary.h"
+#include "navframe/records_rtcm.h"
+#include "navframe/records_sensors.h"
 #include "navframe/records_ubx.h"
 
 #endif /* NAVFRAME_RECORDS_H */

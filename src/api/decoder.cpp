@@ -5,6 +5,7 @@
 #include "asciilog/log_framer.h"
 #include "frame55aa/frame_framer.h"
 #include "framing/input_step.h"
+#include "rtcm/rtcm_framer.h"
 #include "ubx/ubx_framer.h"
 
 namespace navframe {
@@ -36,6 +37,8 @@ constexpr FramerRow FramerRows[] = {
     {ParserState::Ubx, [](Decoder& decoder) { return ubx::FrameUbx(decoder.stream, decoder.ubx); }},
     {ParserState::Binary55Aa,
      [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
+    {ParserState::Rtcm3,
+     [](Decoder& decoder) { return rtcm::FrameRtcm3(decoder.stream, decoder.rtcm); }},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.

@@ -11,6 +11,7 @@
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
+#include "rtcm/rtcm_decoder.h"
 #include "ubx/ubx_decoder.h"
 
 namespace navframe {
@@ -33,6 +34,7 @@ class Decoder {
   asciilog::AsciiLogDecoder asciiLog{sink};
   ubx::UbxDecoder ubx{sink, time};
   frame55aa::FrameDecoder binary55Aa{sink};
+  rtcm::RtcmDecoder rtcm{sink, time};
 
  private:
   ScanConfiguration scanConfiguration_;

@@ -1,7 +1,5 @@
 #include "nmea/nmea_decoder.h"
 
-#include <cstring>
-
 #include "base/text.h"
 #include "navframe/records.h"
 #include "nmea/satellite_sentences.h"
@@ -23,8 +21,8 @@ struct alignas(8) RecordBuffer {
 
 void Stamp(const SentenceRow& row, const TimeManager& time, RecordBuffer& record) {
   record.At<GPSTIME>(row.gpsTimeOffset) = time.gpsTime;
-  if (row.decoderTime.width != 0) {
-    CopyText(record.TextAt(row.decoderTime), row.decoderTime.width, time.timeText);
+  if (row.timeText == TimeText::FromDecoder && row.text.width != 0) {
+    CopyText(record.TextAt(row.text), row.text.width, time.timeText);
   }
 }
 
@@ -51,24 +49,23 @@ void NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row->parse == nullptr) return;
 
   RecordBuffer record;
-  std::memcpy(record.bytes, row->unknown, row->size);
+  row->copy(record.bytes, row->unknown);
   if (row->firstByte == FirstByte::TagFlag) record.At<TagFlag>(0) = tag;
   row->parse(context, fields, record.bytes);
   if (row->clock != ClockRule::None) {
-    const TextMember text = row->sentenceTime;
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),
-                                       TextOf(record.TextAt(text), text.width)};
+                                       TextOf(record.TextAt(row->text), row->text.width)};
     KeepTime(row->clock, sentenceTime, context, counters_, time_);
   }
   Stamp(*row, time_, record);
   if (!passes && row->filterTest != FilterTest::Never) return;
   void* const payload = sink_.Allocate(row->size);
-  std::memcpy(payload, record.bytes, row->size);
+  row->copy(payload, record.bytes);
   sink_.PushMessage(context.kind, payload, row->size);
 }
 
 void NmeaDecoder::EmitSatellitesInView(NmeaContext& context) {
-  if (sink_.Passes(MsgIdGsv, MsgIdTaggedGsv)) {
+  if (sink_.PassesAny(MsgIdGsv, MsgIdTaggedGsv)) {
     auto* const record = static_cast<GsvRecord*>(sink_.Allocate(sizeof(GsvRecord)));
     context.satellites.Fill(*record);
     sink_.PushMessage(context.previousKind, record, sizeof(GsvRecord));

@@ -1,6 +1,7 @@
 // The kinds of sentences: how they are recognised and what becomes of them.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -19,6 +20,9 @@ enum class FilterTest : std::uint8_t { Never, BeforeBuilding, AfterParsing };
 // Whether the record's first byte is the tag flag.
 enum class FirstByte : std::uint8_t { TagFlag, Data };
 
+// Where the record's time text comes from.
+enum class TimeText : std::uint8_t { FromSentence, FromDecoder };
+
 // A text member of a record, by place; width 0 for none.
 struct TextMember {
   std::uint16_t offset = 0;
@@ -27,23 +31,24 @@ struct TextMember {
 
 // What a kind of sentence becomes.
 struct SentenceRow {
-  std::uint32_t kind;        // MsgId of the plain sentence
-  std::uint32_t taggedKind;  // and behind a tag block
-  std::uint32_t twin;        // second filter value that lets the record pass, besides `kind`
+  std::uint32_t kind;                     // MsgId of the plain sentence
+  std::uint32_t taggedKind;               // and behind a tag block
+  std::array<std::uint32_t, 2> accepted;  // filter values that let the record pass, besides 0
   FilterTest filterTest;
   FirstByte firstByte;
+  TimeText timeText;
   ClockRule clock;
-  bool (*takes)(const Fields& fields);  // null: any number of fields
-  std::uint32_t size = 0;               // of the record; 0 for kinds without one
-  const void* unknown = nullptr;        // the record before its parser runs
+  bool (*takes)(const Fields& fields);                 // null: any number of fields
+  std::uint32_t size = 0;                              // of the record; 0 for kinds without one
+  const void* unknown = nullptr;                       // the record before its parser runs
+  void (*copy)(void* to, const void* from) = nullptr;  // of a whole record, `from` staying valid
   void (*parse)(NmeaContext& context, const Fields& fields, void* record) = nullptr;
   std::uint16_t gpsTimeOffset = 0;
-  std::uint16_t utcOffset = 0;   // of a record with a ClockRule
-  TextMember sentenceTime = {};  // time field as sent, of a record with a ClockRule
-  TextMember decoderTime = {};   // gets the decoder's time text
+  std::uint16_t utcOffset = 0;  // of a record with a ClockRule
+  TextMember text = {};         // the time text
 
   std::uint32_t Kind(TagFlag tag) const { return tag == TagFlag::Plain ? kind : taggedKind; }
-  bool Passes(const RecordSink& sink) const { return sink.Passes(kind, twin); }
+  bool Passes(const RecordSink& sink) const { return sink.PassesAny(accepted[0], accepted[1]); }
 };
 
 // The largest record that a row names, and its alignment.

@@ -134,4 +134,102 @@ inline constexpr ZdaRecord UnknownZda = {.tag = 0,
                                          .zoneHours = NoU8,
                                          .zoneMinutes = NoU8};
 
+inline constexpr std::int32_t NoI32 = Unknown<std::int32_t>();
+
+// Proprietary sentences.
+inline constexpr NavTimeGroup UnknownTime = {.status = NoI32, .flag = NoU8, .seconds = NoF64};
+inline constexpr NavTimeRecord UnknownNavTime = {
+    .gpsTime = NoGpsTime, .groups = {UnknownTime, UnknownTime, UnknownTime, UnknownTime}};
+
+inline constexpr NavAccRecord UnknownNavAcc = {.gpsTime = NoGpsTime,
+                                               .timeText = {},
+                                               .utc = NoUtc,
+                                               .status = 0,
+                                               .values = {NoU32, NoU32, NoU32}};
+
+inline constexpr PNavMsgRecord UnknownPNavMsg = [] {
+  PNavMsgRecord record{};
+  record.gpsTime = NoGpsTime;
+  for (std::uint8_t& value : record.head) value = NoU8;
+  for (std::uint8_t& value : record.values) value = NoU8;
+  return record;
+}();
+
+inline constexpr CwOutRecord UnknownCwOut = [] {
+  CwOutRecord record{};
+  record.gpsTime = NoGpsTime;
+  for (std::int32_t& value : record.values) value = NoI32;
+  return record;
+}();
+
+inline constexpr GyoAccRecord UnknownGyoAcc = {.tag = 0,
+                                               .timeText = {},
+                                               .utc = NoUtc,
+                                               .gpsTime = NoGpsTime,
+                                               .gyro = {NoF64, NoF64, NoF64},
+                                               .acceleration = {NoF64, NoF64, NoF64},
+                                               .spare = {NoF64, NoF64}};
+
+inline constexpr SnrStatRecord UnknownSnrStat = {.tag = 0,
+                                                 .timeText = {},
+                                                 .gpsTime = NoGpsTime,
+                                                 .count = NoU32,
+                                                 .state = NoU8,
+                                                 .levels = {-1, -1, -1}};
+
+inline constexpr NavAttRecord UnknownNavAtt = {.tag = 0,
+                                               .timeText = {},
+                                               .utc = NoUtc,
+                                               .gpsTime = NoGpsTime,
+                                               .values = {NoF64, NoF64, NoF64, NoF64, NoF64, NoF64},
+                                               .spare = {}};
+
+inline constexpr ImuRecord UnknownImu = {.tag = 0,
+                                         .timeText = {},
+                                         .utc = NoUtc,
+                                         .gpsTime = NoGpsTime,
+                                         .text = {},
+                                         .values = {NoF64, NoF64, NoF64, NoF64, NoF64, NoF64}};
+
+inline constexpr InsPvaRecord UnknownInsPva = {.tag = 0,
+                                               .timeText = {},
+                                               .dateText = {},
+                                               .utc = NoUtc,
+                                               .gpsTime = NoGpsTime,
+                                               .latitude = NoF64,
+                                               .longitude = NoF64,
+                                               .height = NoF64,
+                                               .velocity = {NoF64, NoF64, NoF64},
+                                               .attitude = {NoF32, NoF32, NoF32},
+                                               .spare = {}};
+
+// Their text member begins empty, inside the record.
+inline constexpr NavPosRecord UnknownNavPos = {.gpsTime = NoGpsTime,
+                                               .timeText = {},
+                                               .solutionStatus = NoI32,
+                                               .positionType = NoI32,
+                                               .datum = NoI32,
+                                               .stationNumber = NoI32,
+                                               .text = {},
+                                               .status = NoU8,
+                                               .count = NoU8,
+                                               .x = NoF64,
+                                               .y = NoF64,
+                                               .z = NoF64,
+                                               .sigmaX = NoF64,
+                                               .sigmaY = NoF64,
+                                               .sigmaZ = NoF64};
+
+inline constexpr NavVelRecord UnknownNavVel = {.gpsTime = NoGpsTime,
+                                               .timeText = {},
+                                               .solutionStatus = NoI32,
+                                               .positionType = NoI32,
+                                               .datum = NoI32,
+                                               .stationNumber = NoI32,
+                                               .text = {},
+                                               .status = NoU8,
+                                               .count = NoU8,
+                                               .velocity = {NoF64, NoF64, NoF64},
+                                               .speedAccuracy = NoF64};
+
 }  // namespace navframe::nmea

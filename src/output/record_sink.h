@@ -19,7 +19,8 @@ class RecordSink {
   void SetFilter(std::uint32_t id) { filter_ = id; }
   std::uint32_t Filter() const { return filter_; }
   bool Passes(std::uint32_t id) const { return filter_ == 0 || filter_ == id; }
-  bool Passes(std::uint32_t id, std::uint32_t twin) const { return Passes(id) || filter_ == twin; }
+  // For records that pass with either of two filter values.
+  bool PassesAny(std::uint32_t a, std::uint32_t b) const { return Passes(a) || filter_ == b; }
 
   void NoteDecoded(std::uint32_t id) { decoded_.Insert(id); }
   std::uint32_t DrainDecodedIds(std::uint32_t* ids) { return decoded_.Drain(ids); }

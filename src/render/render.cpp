@@ -3,6 +3,7 @@
 #include <array>
 
 #include "render/nmea_text.h"
+#include "render/proprietary_text.h"
 #include "render/text_writer.h"
 
 namespace navframe {
@@ -20,17 +21,35 @@ struct FormatterRow {
   std::uint32_t id;
   Formatter formatter;
 };
+
+template <class Record, void (*Format)(const Record&, TextWriter&)>
+constexpr FormatterRow Row(std::uint32_t id) {
+  return {id, Formatted<Record, Format>};
+}
+
+// clang-format off
 constexpr FormatterRow Rows[] = {
-    {MsgIdGga, Formatted<GgaRecord, FormatGga>}, {MsgIdTaggedGga, Formatted<GgaRecord, FormatGga>},
-    {MsgIdRmc, Formatted<RmcRecord, FormatRmc>}, {MsgIdTaggedRmc, Formatted<RmcRecord, FormatRmc>},
-    {MsgIdGsa, Formatted<GsaRecord, FormatGsa>}, {MsgIdTaggedGsa, Formatted<GsaRecord, FormatGsa>},
-    {MsgIdGsv, Formatted<GsvRecord, FormatGsv>}, {MsgIdTaggedGsv, Formatted<GsvRecord, FormatGsv>},
-    {MsgIdGll, Formatted<GllRecord, FormatGll>}, {MsgIdTaggedGll, Formatted<GllRecord, FormatGll>},
-    {MsgIdGst, Formatted<GstRecord, FormatGst>}, {MsgIdTaggedGst, Formatted<GstRecord, FormatGst>},
-    {MsgIdGbs, Formatted<GbsRecord, FormatGbs>}, {MsgIdTaggedGbs, Formatted<GbsRecord, FormatGbs>},
-    {MsgIdVtg, Formatted<VtgRecord, FormatVtg>}, {MsgIdTaggedVtg, Formatted<VtgRecord, FormatVtg>},
-    {MsgIdZda, Formatted<ZdaRecord, FormatZda>}, {MsgIdTaggedZda, Formatted<ZdaRecord, FormatZda>},
+    Row<GgaRecord, FormatGga>(1),          Row<GgaRecord, FormatGga>(21),
+    Row<RmcRecord, FormatRmc>(2),          Row<RmcRecord, FormatRmc>(22),
+    Row<GsaRecord, FormatGsa>(3),          Row<GsaRecord, FormatGsa>(23),
+    Row<GsvRecord, FormatGsv>(4),          Row<GsvRecord, FormatGsv>(24),
+    Row<GllRecord, FormatGll>(5),          Row<GllRecord, FormatGll>(25),
+    Row<GstRecord, FormatGst>(6),          Row<GstRecord, FormatGst>(26),
+    Row<GbsRecord, FormatGbs>(7),          Row<GbsRecord, FormatGbs>(27),
+    Row<VtgRecord, FormatVtg>(8),          Row<VtgRecord, FormatVtg>(28),
+    Row<ZdaRecord, FormatZda>(9),          Row<ZdaRecord, FormatZda>(29),
+    Row<NavPosRecord, FormatNavPos>(30),   Row<NavVelRecord, FormatNavVel>(31),
+    Row<NavTimeRecord, FormatNavTime>(32), Row<NavAccRecord, FormatNavAcc>(33),
+    Row<PNavMsgRecord, FormatPNavMsg>(35), Row<CwOutRecord, FormatCwOut>(36),
+    Row<GyoAccRecord, FormatGyoAcc>(41),   Row<GyoAccRecord, FormatGyoAcc>(50),
+    Row<GyoAccRecord, FormatGyoAcc>(71),
+    Row<SnrStatRecord, FormatSnrStat>(42),
+    Row<ImuRecord, FormatImu>(43),         Row<ImuRecord, FormatImu>(74),
+    Row<NavAttRecord, FormatNavAtt>(44),   Row<NavAttRecord, FormatNavAtt>(73),
+    Row<InsPvaRecord, FormatInsPva>(45),   Row<InsPvaRecord, FormatInsPva>(75),
+    Row<ImuRecord, FormatImu>(46),         Row<ImuRecord, FormatImu>(76),
 };
+// clang-format on
 
 constexpr std::uint32_t LastRendered = 82;
 

@@ -28,6 +28,13 @@ class TextWriter {
     }
   }
 
+  // "%X" with at least `digits` digits.
+  void Hex(std::uint8_t value, int digits) {
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    if (digits > 1 || value > 0xF) *at_++ = Digits[value >> 4];
+    *at_++ = Digits[value & 0xF];
+  }
+
   // "%.<decimals>f"
   void Fixed(double value, int decimals) {
     at_ = std::to_chars(at_, at_ + LongestNumber, value, std::chars_format::fixed, decimals).ptr;

@@ -21,7 +21,8 @@ std::string MixedStream() {
          Sentence("GPGLL,4916.45,N,12311.12,W,225444.00,A,A") + "\n\n*$$*\xD3\x01" +
          Sentence("GPZDA,120001.50,31,07,2024,00,00") + "\\s:abcd\\" +
          Sentence("GPVTG,089.0,T,,M") + "U\xAA\x44*" +
-         Sentence("GPGST,120002.75,0.6,0.2,0.2,273.6,0.2,0.2,0.3") + "..............";
+         Sentence("GPGST,120002.75,0.6,0.2,0.2,273.6,0.2,0.2,0.3") +
+         std::string(300, '.');  // what the false start of RTCM 3 above waits for
 }
 
 struct Decoding {

@@ -1,0 +1,108 @@
+// Bit fields of a frame, by absolute position: bit 0 is the most significant bit of byte 0.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace navframe::rtcm {
+
+// Compilers turn this into one load and one byte swap.
+inline std::uint64_t LoadBigEndian64(const std::uint8_t* bytes) {
+  std::uint64_t value;
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(&value, bytes, sizeof value);
+    value = (value & 0x00000000FFFFFFFF) << 32 | value >> 32;
+    value = (value & 0x0000FFFF0000FFFF) << 16 | (value >> 16 & 0x0000FFFF0000FFFF);
+    return (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
+  } else {
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+  }
+}
+
+// What starts at `bit`, moved to the top of 64 bits. At least 57 bits of it are the frame's. Loads
+// up to 8 bytes behind the field, which every frame's memory allows.
+inline std::uint64_t BitsFrom(const std::uint8_t* bytes, std::uint32_t bit) {
+  return LoadBigEndian64(bytes + bit / 8) << (bit % 8);
+}
+
+// All 64 bits that start at `bit`.
+inline std::uint64_t Bits64(const std::uint8_t* bytes, std::uint32_t bit) {
+  const auto last = std::uint32_t{bytes[bit / 8 + 8]};
+  return BitsFrom(bytes, bit) | last >> (8 - bit % 8);
+}
+
+// An unsigned field of 1 to 57 bits.
+inline std::uint64_t UnsignedBits(const std::uint8_t* bytes, std::uint32_t bit,
+                                  std::uint32_t width) {
+  return BitsFrom(bytes, bit) >> (64 - width);
+}
+
+// A two's complement field of 1 to 57 bits.
+inline std::int64_t SignedBits(const std::uint8_t* bytes, std::uint32_t bit, std::uint32_t width) {
+  return static_cast<std::int64_t>(BitsFrom(bytes, bit)) >> (64 - width);
+}
+
+// A whole frame whose checksum was right. 64 bytes behind its end may be loaded.
+struct Frame {
+  const std::uint8_t* bytes;
+  std::uint32_t length;  // with header and checksum
+
+  // The end of the payload. A field that reaches beyond it is absent.
+  std::uint32_t EndBit() const { return (length - 3) * 8; }
+  bool Has(std::uint32_t bit, std::uint32_t width) const { return bit + width <= EndBit(); }
+};
+
+// Every frame begins like this; the fields of its message follow the number.
+inline constexpr std::uint32_t MessageNumberBit = 24;
+inline constexpr std::uint32_t MessageNumberBits = 12;
+inline constexpr std::uint32_t FirstFieldBit = MessageNumberBit + MessageNumberBits;
+
+// Reads fields one behind the other. Past the end of the payload members stay as they are.
+class FieldCursor {
+ public:
+  FieldCursor(const Frame& frame, std::uint32_t bit) : frame_(frame), bit_(bit) {}
+
+  void Skip(std::uint32_t width) { bit_ += width; }
+
+  // An unsigned field of at most 57 bits, cut to the member's type. True when it is there.
+  template <class Member>
+  bool Read(std::uint32_t width, Member& member) {
+    const std::uint32_t at = bit_;
+    bit_ += width;
+    if (!frame_.Has(at, width)) return false;
+    member = static_cast<Member>(UnsignedBits(frame_.bytes, at, width));
+    return true;
+  }
+
+  // A run of fields of the same width.
+  template <class Member, std::size_t Count>
+  void Read(std::uint32_t width, Member (&members)[Count]) {
+    for (Member& member : members) Read(width, member);
+  }
+
+  // A two's complement field of at most 57 bits.
+  bool ReadSigned(std::uint32_t width, std::int64_t& member) {
+    const std::uint32_t at = bit_;
+    bit_ += width;
+    if (!frame_.Has(at, width)) return false;
+    member = SignedBits(frame_.bytes, at, width);
+    return true;
+  }
+
+  // A two's complement field of 64 bits.
+  bool ReadSigned64(std::int64_t& member) {
+    const std::uint32_t at = bit_;
+    bit_ += 64;
+    if (!frame_.Has(at, 64)) return false;
+    member = static_cast<std::int64_t>(Bits64(frame_.bytes, at));
+    return true;
+  }
+
+ private:
+  const Frame& frame_;
+  std::uint32_t bit_;
+};
+
+}  // namespace navframe::rtcm

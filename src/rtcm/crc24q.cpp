@@ -1,0 +1,57 @@
+#include "rtcm/crc24q.h"
+
+#include <array>
+
+#include "rtcm/bits.h"
+
+namespace navframe::rtcm {
+namespace {
+
+// The running value stands in the upper 24 bits of 32, so that its first byte is on top like the
+// first byte of a big-endian load.
+constexpr std::uint32_t Polynomial = 0x864CFBU << 8;
+constexpr std::size_t Slices = 16;
+
+using Table = std::array<std::uint32_t, 256>;
+
+// Tables[n][b] is the value of byte b followed by n zero bytes: bytes that lie n apart from the
+// end of a slice then contribute independently of each other.
+constexpr auto Tables = [] {
+  std::array<Table, Slices> tables{};
+  for (std::uint32_t byte = 0; byte < 256; ++byte) {
+    std::uint32_t value = byte << 24;
+    for (int bit = 0; bit < 8; ++bit) {
+      value = (value << 1) ^ ((value >> 31) != 0 ? Polynomial : 0);
+    }
+    tables[0][byte] = value;
+  }
+  for (std::size_t n = 1; n < Slices; ++n) {
+    for (std::size_t byte = 0; byte < 256; ++byte) {
+      const std::uint32_t value = tables[n - 1][byte];
+      tables[n][byte] = (value << 8) ^ tables[0][value >> 24];
+    }
+  }
+  return tables;
+}();
+
+// The contribution of 8 bytes with `Behind` more of the slice behind them.
+template <std::size_t Behind>
+std::uint32_t OfEightBytes(std::uint64_t bytes) {
+  std::uint32_t value = 0;
+  for (std::size_t i = 0; i < 8; ++i) value ^= Tables[Behind + i][bytes >> (8 * i) & 0xFF];
+  return value;
+}
+
+}  // namespace
+
+std::uint32_t Crc24q(const std::uint8_t* bytes, std::size_t length) {
+  std::uint32_t value = 0;
+  for (; length >= Slices; bytes += Slices, length -= Slices) {
+    const std::uint64_t head = LoadBigEndian64(bytes) ^ std::uint64_t{value} << 32;
+    value = OfEightBytes<8>(head) ^ OfEightBytes<0>(LoadBigEndian64(bytes + 8));
+  }
+  for (; length != 0; ++bytes, --length) value = (value << 8) ^ Tables[0][value >> 24 ^ *bytes];
+  return value >> 8;
+}
+
+}  // namespace navframe::rtcm

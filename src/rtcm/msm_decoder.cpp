@@ -1,0 +1,101 @@
+#include "rtcm/msm_decoder.h"
+
+#include <array>
+#include <bit>
+#include <cstring>
+
+#include "base/text.h"
+#include "navframe/navframe.h"
+#include "rtcm/msm_cells.h"
+#include "rtcm/msm_layout.h"
+
+namespace navframe::rtcm {
+namespace {
+
+// What differs between the kinds of MSM.
+struct MsmKind {
+  std::uint32_t satelliteBits;
+  std::uint32_t cellBits;
+  void (*decode)(const MsmCells& cells, MsmObservation* observations);
+};
+template <const MsmLayout& Layout>
+constexpr MsmKind KindOf = {Layout.SatelliteBits(), Layout.CellBits(), DecodeCells<Layout>};
+
+// First message number, last one, system, MsgId. GLONASS has MSM7 alone; SBAS, NavIC and the kinds
+// below MSM4 are missing on purpose.
+struct MsmRow {
+  std::uint32_t firstNumber;
+  std::uint32_t lastNumber;
+  MsmSystem system;
+  std::uint32_t msgId;
+};
+constexpr MsmRow MsmRows[] = {
+    {1074, 1077, MsmSystem::Gps, MsgIdMsmGps},
+    {1087, 1087, MsmSystem::Glonass, MsgIdMsmGlonass},
+    {1094, 1097, MsmSystem::Galileo, MsgIdMsmGalileo},
+    {1114, 1117, MsmSystem::Qzss, MsgIdMsmQzss},
+    {1124, 1127, MsmSystem::BeiDou, MsgIdMsmBeiDou},
+};
+
+// By the last digit of the message number.
+constexpr std::array<MsmKind, 8> Kinds = {MsmKind{},    MsmKind{},    MsmKind{},    MsmKind{},
+                                          KindOf<Msm4>, KindOf<Msm5>, KindOf<Msm6>, KindOf<Msm7>};
+
+const MsmRow* RowOf(std::uint32_t number) {
+  for (const MsmRow& row : MsmRows) {
+    if (number >= row.firstNumber && number <= row.lastNumber) return &row;
+  }
+  return nullptr;
+}
+
+// The record behind the observations in use: zero, but for the system of each entry.
+void ClearUnused(MsmRecord& record, std::uint32_t used) {
+  std::memset(record.observations + used, 0,
+              (std::size(record.observations) - used) * sizeof(MsmObservation));
+  for (std::size_t i = used; i < std::size(record.observations); ++i) {
+    record.observations[i].system = static_cast<std::uint8_t>(MsmSystem::Gps);
+  }
+}
+
+void StampTime(MsmRecord& record, TimeManager& time) {
+  if (record.epochTime != 0xFFFFFFFF) {
+    time.updateTOW(record.epochTime);
+    CopyText(record.timeText, time.timeText);
+  }
+  record.week = time.getWeek();
+}
+
+}  // namespace
+
+void MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& services) {
+  const MsmRow* const row = RowOf(number);
+  if (row == nullptr) return;
+  const auto header = ReadMsmHeader(frame, row->system);
+  if (!header) return;
+  const MsmKind& kind = Kinds[number % 10];
+  const std::uint32_t dataBits =
+      header->satelliteCount * kind.satelliteBits + header->cellCount * kind.cellBits;
+  if (!frame.Has(header->dataBit, dataBits)) return;
+
+  auto* const record = static_cast<MsmRecord*>(services.sink.Allocate(sizeof(MsmRecord)));
+  std::memset(record, 0, offsetof(MsmRecord, observations));
+  record->epochTime = header->epochTime;
+  record->count = static_cast<std::uint8_t>(header->cellCount);
+  record->system = static_cast<std::uint8_t>(row->system);
+  record->epochComplete = header->epochComplete ? 1 : 0;
+  // The interval in force is the one before this message's epoch counts.
+  kind.decode({*header, frame.bytes, row->system, interval_.Milliseconds()}, record->observations);
+  ClearUnused(*record, header->cellCount);
+  interval_.Add(header->epochTime);
+
+  services.sink.NoteDecoded(row->msgId);
+  StampTime(*record, services.time);
+  // A blocked record has moved the clock all the same; it is given up without being freed.
+  if (services.sink.Passes(row->msgId)) {
+    services.sink.PushMessage(row->msgId, record, sizeof(MsmRecord));
+  } else {
+    services.sink.Abandon(record, sizeof(MsmRecord));
+  }
+}
+
+}  // namespace navframe::rtcm

@@ -1,0 +1,46 @@
+// MSM observations.
+#pragma once
+
+#include <cstdint>
+
+#include "navframe/records.h"
+#include "rtcm/bits.h"
+#include "rtcm/msm_header.h"
+#include "rtcm/services.h"
+
+namespace navframe::rtcm {
+
+// The message numbers that are looked for among the MSM; not all of them are decoded.
+inline constexpr std::uint32_t FirstMsmNumber = 1074;
+inline constexpr std::uint32_t LastMsmNumber = 1127;
+
+// The steps between the epochs of all messages, whatever their system.
+class EpochInterval {
+ public:
+  // The last step of less than two seconds. Not positive before the first one, nor after an epoch
+  // that lies before the one before it: a new week, or a system that lags behind.
+  std::int32_t Milliseconds() const { return interval_; }
+
+  void Add(std::uint32_t epochTime) {
+    const auto step = static_cast<std::int32_t>(epochTime - last_);
+    if (step != 0 && step <= LongestStep) interval_ = step;
+    last_ = epochTime;
+  }
+
+ private:
+  static constexpr std::int32_t LongestStep = 1999;
+  std::uint32_t last_ = 0;
+  std::int32_t interval_ = 0;
+};
+
+class MsmDecoder {
+ public:
+  // Decodes message `number`, sets the clock to its epoch and pushes its record. A number that is
+  // not decoded, or a frame that does not hold what it announces, leaves no trace.
+  void Decode(std::uint32_t number, const Frame& frame, Services& services);
+
+ private:
+  EpochInterval interval_;
+};
+
+}  // namespace navframe::rtcm

@@ -1,0 +1,29 @@
+// The part that all kinds of MSM have in common.
+#pragma once
+
+#include <optional>
+
+#include "rtcm/bits.h"
+#include "rtcm/msm_signals.h"
+
+namespace navframe::rtcm {
+
+inline constexpr std::uint32_t MostCells = 64;
+
+struct MsmHeader {
+  std::uint32_t epochTime;  // GPS time of week, ms
+  bool epochComplete;
+  std::uint64_t satelliteMask;  // satellite 1 on top
+  std::uint32_t signalMask;     // signal 1 on top
+  std::uint64_t cellMask;       // on top: for each satellite a bit per signal
+  std::uint32_t satelliteCount;
+  std::uint32_t signalCount;
+  std::uint32_t cellCount;  // at most MostCells
+  std::uint32_t dataBit;    // where the fields of the satellites begin
+};
+
+// Nothing when the frame is too short for it, or has more than MostCells combinations of
+// satellites and signals.
+std::optional<MsmHeader> ReadMsmHeader(const Frame& frame, MsmSystem system);
+
+}  // namespace navframe::rtcm

@@ -1,0 +1,148 @@
+#include "rtcm/subtype_table.h"
+
+#include <cstring>
+
+#include "navframe/navframe.h"
+#include "rtcm/proprietary.h"
+#include "rtcm/unknown_records.h"
+
+namespace navframe::rtcm {
+namespace {
+
+// What a message and the decoder's clock do to each other.
+enum class TimeHandling : std::uint8_t {
+  None,
+  StampRecord,      // the record begins with the clock's time of week
+  SetClock,         // the record's time sets the clock
+  SetOrClearClock,  // likewise; without a time of week the clock's time of day is cleared
+};
+using enum TimeHandling;
+
+struct SubTypeRow {
+  std::uint32_t number;
+  std::uint32_t subType;
+  std::uint32_t msgId;
+  std::uint32_t twin;         // second filter value that lets the record pass; 0 for none
+  std::uint32_t frameLength;  // required; 0 for any
+  TimeHandling time;
+  std::uint32_t size = 0;  // of the record
+  const void* unknown = nullptr;
+  void (*decode)(const Frame& frame, void* record) = nullptr;
+  GPSTIME (*timeOf)(const void* record) = nullptr;
+};
+
+// Adds to a row what follows from the type of its record.
+template <class Record, void (*Decode)(const Frame&, Record&)>
+constexpr SubTypeRow With(SubTypeRow row, const Record& unknown) {
+  row.size = sizeof(Record);
+  row.unknown = &unknown;
+  row.decode = [](const Frame& frame, void* record) {
+    Decode(frame, *static_cast<Record*>(record));
+  };
+  if constexpr (requires { Record::gpsTime; }) {
+    row.timeOf = [](const void* record) { return static_cast<const Record*>(record)->gpsTime; };
+  } else if constexpr (requires { Record::week; }) {
+    row.timeOf = [](const void* record) {
+      const auto& times = *static_cast<const Record*>(record);
+      return GPSTIME{times.tow, static_cast<std::uint16_t>(times.week), 0};
+    };
+  }
+  return row;
+}
+
+// Of these no field behind the sub-type has a known place.
+template <class Record>
+void DecodeNothing(const Frame& /*frame*/, Record& /*record*/) {}
+
+// Message, sub-type, MsgId, second filter value, required frame length, time.
+constexpr SubTypeRow SubTypeRows[] = {
+    With<Sub17Record, DecodeSub17>({910, 17, MsgIdSub17, 0, 0, StampRecord}, UnknownSub17),
+    With<Sub33Record, DecodeSub33>({910, 33, MsgIdSub33, 0, 13, StampRecord}, UnknownSub33),
+    With<Sub34Record, DecodeSub34>({910, 34, MsgIdSub34, 0, 0, SetOrClearClock}, UnknownSub34),
+    With<Sub21Record, DecodeSub21>({999, 21, MsgIdSub21, 0, 63, SetOrClearClock}, UnknownSub21),
+    With<IntegerSetRecord, DecodeIntegerSet>({4074, 255, MsgIdIntegerSet, 0, 0, SetClock},
+                                             UnknownIntegerSet),
+    With<SignalObservationsRecord, DecodeSignalObservations>(
+        {4074, 254, MsgIdSignalObservations, 0, 0, SetClock}, UnknownSignalObservations),
+    With<SystemCountsRecord, DecodeNothing>({4074, 253, MsgIdSystemCounts, 0, 0, None},
+                                            UnknownSystemCounts),
+    With<ClockOrbitRecord, DecodeNothing>({4074, 251, MsgIdClockOrbit, 0, 0, None},
+                                          UnknownClockOrbit),
+    With<Sub249Record, DecodeNothing>({4074, 249, MsgIdSub249, 0, 0, None}, UnknownSub249),
+    With<TimeStatusRecord, DecodeTimeStatus>({4074, 243, MsgIdTimeStatus, 0, 0, SetClock},
+                                             UnknownTimeStatus),
+    With<GyoAccRecord, DecodeGyoAcc>({4074, 11, MsgIdRtcmGyoAcc, MsgIdGyoAcc, 0, SetClock},
+                                     UnknownGyoAcc),
+    With<RtcmSnrStatRecord, DecodeSnrStat>({4074, 12, MsgIdRtcmSnrStat, MsgIdSnrStat, 0, None},
+                                           UnknownSnrStat),
+    With<NavAttRecord, DecodeNavAtt>({4074, 13, MsgIdRtcmNavAtt, MsgIdNavAtt, 0, SetClock},
+                                     UnknownNavAtt),
+    With<ImuRecord, DecodeImuRaw>({4074, 14, MsgIdRtcmImuRaw, MsgIdImuRaw, 0, SetClock},
+                                  UnknownImu),
+    With<InsPvaRecord, DecodeInsPva>({4074, 15, MsgIdRtcmInsPva, MsgIdInsPva, 0, SetClock},
+                                     UnknownInsPva),
+};
+
+// Width of the sub-type, which follows the message number.
+struct Family {
+  std::uint32_t number;
+  std::uint32_t subTypeBits;
+};
+constexpr Family Families[] = {{910, 8}, {999, 8}, {4074, 12}};
+
+void SetClockFrom(GPSTIME gpsTime, TimeManager& time) {
+  if (IsUnknown(gpsTime.week)) {
+    time.updateTOW(gpsTime.tow);
+  } else {
+    time.updateGPST(gpsTime);
+  }
+}
+
+void HandleTime(const SubTypeRow& row, void* record, TimeManager& time) {
+  switch (row.time) {
+    case None:
+      return;
+    case StampRecord: {
+      const std::uint32_t tow = time.getTOW();
+      std::memcpy(record, &tow, sizeof tow);
+      return;
+    }
+    case SetClock:
+      return SetClockFrom(row.timeOf(record), time);
+    case SetOrClearClock: {
+      const GPSTIME gpsTime = row.timeOf(record);
+      if (IsUnknown(gpsTime.tow)) return time.clearTime(false);
+      return SetClockFrom(gpsTime, time);
+    }
+  }
+}
+
+void DecodeSubType(const SubTypeRow& row, const Frame& frame, Services& services) {
+  // The kind counts as decoded even while the filter blocks its records; a blocked message is not
+  // read and moves no clock.
+  services.sink.NoteDecoded(row.msgId);
+  if (!services.sink.PassesAny(row.msgId, row.twin)) return;
+  void* const record = services.sink.Allocate(row.size);
+  std::memcpy(record, row.unknown, row.size);
+  row.decode(frame, record);
+  HandleTime(row, record, services.time);
+  services.sink.PushMessage(row.msgId, record, row.size);
+}
+
+}  // namespace
+
+void DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services) {
+  for (const Family& family : Families) {
+    if (family.number != number || !frame.Has(FirstFieldBit, family.subTypeBits)) continue;
+    const std::uint64_t subType = UnsignedBits(frame.bytes, FirstFieldBit, family.subTypeBits);
+    for (const SubTypeRow& row : SubTypeRows) {
+      if (row.number != number || row.subType != subType) continue;
+      if (row.frameLength == 0 || row.frameLength == frame.length) {
+        DecodeSubType(row, frame, services);
+      }
+      return;
+    }
+  }
+}
+
+}  // namespace navframe::rtcm
