@@ -37,8 +37,10 @@
 
 /* A decoded record. 16 bytes on 64-bit platforms. */
 typedef struct GnssMessage {
-  uint32_t id;     /* what `data` points at: one of MsgId below */
-  uint32_t source; /* producer of the record: 0 for every decoder of the stream */
+  uint32_t id;     /* what `data` points at: one of MsgId below, or with SourceAsciiLog a log number
+                      (AsciiLogId of records_asciilog.h) */
+  uint32_t source; /* producer of the record: a RecordSource below. Log numbers and MsgId overlap;
+                      only the source tells log 42 from the sentence 42 */
   void* data;      /* payload; the host's once popped, until GNSSFreeMem */
 } GnssMessage;
 
@@ -53,6 +55,12 @@ enum ProtocolMask {
   ProtocolRtcm3 = 0x04,        /* frames that start with 0xD3 */
   ProtocolUbx = 0x08,          /* frames that start with 0xB5 0x62 */
   Protocol55Aa = 0x20          /* frames that start with 0x55 0xAA */
+};
+
+/* Producers of records: GnssMessage::source. */
+enum RecordSource {
+  SourceStream = 0,   /* every decoder but the one of ASCII logs */
+  SourceAsciiLog = 10 /* ASCII logs; the output filter and GNSSGetMsgs do not know them */
 };
 
 /* Kinds of records: GnssMessage::id, the ids of GNSSGetMsgs and of the output filter. */
@@ -174,7 +182,8 @@ NAVFRAME_API uint32_t GNSSGetMsg(GnssMessage* out, uint32_t wantedId);
 NAVFRAME_API uint32_t GNSSGetMsgs(uint32_t* ids);
 
 /* Frees the payload of a popped record and sets rec->data to NULL; rec->id stays. Does nothing
- * when rec->data is NULL. */
+ * when rec->data is NULL. Some ASCII log records share a payload that is the library's own: of
+ * those only the pointer is cleared. */
 NAVFRAME_API void GNSSFreeMem(GnssMessage* rec);
 
 /* Renders a record as comma-separated text into `out`, without a bound: 8 KiB are enough for every

@@ -1,6 +1,7 @@
 /* Payload records: what GnssMessage::data points at, by GnssMessage::id. C99 and C++.
  *
  * Every record is a plain struct with natural alignment; its size is fixed by its kind.
+ * (Records of ASCII logs have their own conventions: see records_asciilog.h.)
  * Unknown values, unless a member says otherwise: double the bit pattern 0xFFF8000000000000 (a NaN
  * with the sign set), float 0xFFC00000 (likewise), uint8_t 255, uint16_t 65535, int32_t and
  * uint32_t all bits set; texts empty; flags and counters 0.
@@ -12,6 +13,8 @@
 #define NAVFRAME_RECORDS_H
 
 #include "navframe/records_55aa.h"
+#include "navframe/records_asciilog.h"
+#include "navframe/records_asciilog_orbits.h"
 #include "navframe/records_nmea.h"
 #include "navframe/records_proprietary.h"
 #include "navframe/records_rtcm.h"

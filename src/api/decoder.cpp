@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "asciilog/log_framer.h"
 #include "frame55aa/frame_framer.h"
 #include "framing/input_step.h"
 #include "rtcm/rtcm_framer.h"
@@ -10,17 +11,29 @@
 namespace navframe {
 namespace {
 
+using asciilog::LogVariant;
+
 using Framer = FramerResult (*)(Decoder& decoder);
 
 struct FramerRow {
   ParserState state;
   Framer framer;
 };
+
+template <LogVariant Variant>
+FramerResult FrameLog(Decoder& decoder) {
+  return asciilog::FrameLog(decoder.stream, decoder.asciiLog, Variant);
+}
+
 constexpr FramerRow FramerRows[] = {
     {ParserState::NmeaSentence,
      [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
     {ParserState::NmeaTagBlock,
      [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+    {ParserState::AsciiLogLine, FrameLog<LogVariant::TextLine>},
+    {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
+    {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},
+    {ParserState::AsciiLogDollarLine, FrameLog<LogVariant::DollarLine>},
     {ParserState::Ubx, [](Decoder& decoder) { return ubx::FrameUbx(decoder.stream, decoder.ubx); }},
     {ParserState::Binary55Aa,
      [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},

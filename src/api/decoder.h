@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "asciilog/ascii_log_decoder.h"
 #include "frame55aa/frame_decoder.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
@@ -30,6 +31,7 @@ class Decoder {
   Stream stream;
   nmea::NmeaDecoder nmea{sink, time};
   nmea::TagBlockSearch tagBlockSearch;
+  asciilog::AsciiLogDecoder asciiLog{sink};
   ubx::UbxDecoder ubx{sink, time};
   frame55aa::FrameDecoder binary55Aa{sink};
   rtcm::RtcmDecoder rtcm{sink, time};

@@ -51,9 +51,12 @@ void* PayloadBlocks::TakeKept(std::size_t units) {
   return block;
 }
 
-void PayloadBlocks::Abandon(void* block, std::uint32_t size) { Keep(block, Units(size)); }
+void PayloadBlocks::Abandon(void* block, std::uint32_t size) {
+  if (!IsFixed(block)) Keep(block, Units(size));
+}
 
 void PayloadBlocks::Free(void* block) {
+  if (IsFixed(block)) return;
   const std::size_t usable = UsableSize(block);
   if (usable >= SmallestFreedKept && usable <= LargestKept && keptBytes_ < MostFreedBytes) {
     Keep(block, usable / Unit);

@@ -1,10 +1,12 @@
 // Memory of payloads.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <vector>
 
 namespace navframe {
 
@@ -15,6 +17,9 @@ namespace navframe {
 // allocator, and so must serve again, or memory would grow for as long as a host abandons records.
 // Freed ones are kept, within bounds, because allocators give large blocks back to the system and
 // every later record of that size then pays for fresh pages.
+//
+// Some records share a payload that belongs to a decoder. Such a fixed payload comes back here like
+// any other, and is recognised and left alone.
 class PayloadBlocks {
  public:
   PayloadBlocks() = default;
@@ -33,6 +38,10 @@ class PayloadBlocks {
 
   void Free(void* block);
 
+  // Names a payload that is no block. It must stay where it is as long as records with it may
+  // come back.
+  void DeclareFixed(const void* payload) { fixed_.push_back(payload); }
+
  private:
   // Sizes are counted in these, rounded up; a block of n units never has room for fewer bytes.
   static constexpr std::size_t Unit = 16;
@@ -43,6 +52,9 @@ class PayloadBlocks {
 
   static constexpr std::size_t Units(std::size_t size) { return (size + Unit - 1) / Unit; }
 
+  bool IsFixed(const void* payload) const {
+    return std::find(fixed_.begin(), fixed_.end(), payload) != fixed_.end();
+  }
   void* TakeKept(std::size_t units);
   void Keep(void* block, std::size_t units);
   static void* AllocateNew(std::size_t units);
@@ -50,6 +62,7 @@ class PayloadBlocks {
   // By units: the first kept block, whose first bytes point at the next one.
   std::array<void*, LargestKept / Unit + 1> kept_{};
   std::size_t keptBytes_ = 0;
+  std::vector<const void*> fixed_;
 };
 
 }  // namespace navframe

@@ -28,9 +28,14 @@ class RecordSink {
   // A payload block with undefined content; every byte must be written before it is pushed.
   void* Allocate(std::uint32_t size) { return blocks_.Allocate(size); }
 
-  // Hands a payload of Allocate over to the queue.
-  void PushMessage(std::uint32_t id, void* payload, std::uint32_t size) {
-    PushMessage(QueuedMessage{{id, 0, payload}, size});
+  // Names a payload that may be pushed though it is no memory of Allocate: whoever frees or drops
+  // a record with it frees nothing. See PayloadBlocks.
+  void DeclareFixed(const void* payload) { blocks_.DeclareFixed(payload); }
+
+  // Hands a payload of Allocate, or a fixed one, over to the queue.
+  void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
+                   std::uint32_t source = SourceStream) {
+    PushMessage(QueuedMessage{{id, source, payload}, size});
   }
 
   // The same for a finished record elsewhere, which is copied.
@@ -52,7 +57,7 @@ class RecordSink {
   // Pops the oldest record into `out`. See GNSSGetMsg.
   std::uint32_t Pop(GnssMessage& out, std::uint32_t wantedId);
 
-  // Frees a popped payload and clears the pointer.
+  // Frees a popped payload, unless it is a fixed one, and clears the pointer.
   void Release(GnssMessage& message);
 
  private:

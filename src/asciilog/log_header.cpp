@@ -1,0 +1,123 @@
+#include "asciilog/log_header.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+
+#include "asciilog/crc32.h"
+#include "asciilog/format_scan.h"
+#include "asciilog/words.h"
+#include "base/number_text.h"
+
+namespace navframe::asciilog {
+namespace {
+
+constexpr int HeaderConversions = 9;
+constexpr std::size_t CrcDigits = 8;
+
+// Half percents in a byte; what the byte cannot hold is cut to its nearest value, NaN to 0.
+std::uint8_t IdleTime(float percent) {
+  const float halves = std::round(percent * 2);
+  return halves > 0 ? static_cast<std::uint8_t>(std::min(halves, 255.0F)) : std::uint8_t{0};
+}
+
+// #NAME,port,sequence,idle time,time status,week,seconds,receiver status,reserved,build;
+// The status and the reserved field are printed in hexadecimal but have always been read as
+// decimal numbers: a digit above 9 in the reserved field leaves the header one field short.
+bool ReadLongHeader(std::string_view line, AsciiLogHeader& image) {
+  FormatScan scan(line);
+  scan.SkipText();
+  scan.Comma();
+  const std::string_view port = scan.Text();
+  scan.Comma();
+  const std::int32_t sequence = scan.Int();
+  scan.Comma();
+  const float idlePercent = scan.Float();
+  scan.Comma();
+  const std::string_view timeStatus = scan.Text();
+  scan.Comma();
+  const std::int32_t week = scan.Int();
+  scan.Comma();
+  const double seconds = scan.Double();
+  scan.Comma();
+  const std::int32_t receiverStatus = scan.Int();
+  scan.Comma();
+  const std::int32_t reserved = scan.Int();
+  scan.Comma();
+  const std::int32_t build = scan.Int();
+  if (scan.Converted() != HeaderConversions) return false;
+
+  image.port = static_cast<std::uint8_t>(Port(port));
+  image.sequence = static_cast<std::uint16_t>(sequence);
+  image.idleTime = IdleTime(idlePercent);
+  image.timeStatus = static_cast<std::uint8_t>(TimeStatus(timeStatus));
+  image.week = static_cast<std::uint16_t>(week);
+  image.milliseconds = Truncated(std::round(seconds * 1000));
+  image.receiverStatus = static_cast<std::uint32_t>(receiverStatus);
+  image.reserved = static_cast<std::uint16_t>(reserved);
+  image.softwareBuild = static_cast<std::uint16_t>(build);
+  return true;
+}
+
+// #NAME,idle time,time reference,time status,week,milliseconds,and four numbers more;
+bool ReadShortHeader(std::string_view line, AsciiLogHeader& image) {
+  FormatScan scan(line);
+  scan.SkipText();
+  scan.Comma();
+  const float idlePercent = scan.Float();
+  scan.Comma();
+  scan.Text();
+  scan.Comma();
+  const std::string_view timeStatus = scan.Text();
+  scan.Comma();
+  const std::uint32_t week = scan.Unsigned();
+  scan.Comma();
+  const std::uint32_t milliseconds = scan.Unsigned();
+  for (int i = 0; i < 4; ++i) {
+    scan.Comma();
+    scan.Int();
+  }
+  if (scan.Converted() != HeaderConversions) return false;
+
+  image.idleTime = IdleTime(idlePercent);
+  image.timeStatus = static_cast<std::uint8_t>(TimeStatus(timeStatus));
+  image.week = static_cast<std::uint16_t>(week);
+  image.milliseconds = static_cast<std::int32_t>(milliseconds);
+  return true;
+}
+
+}  // namespace
+
+std::optional<LogLine> LogLine::Of(std::string_view text) {
+  const std::size_t star = text.find('*');
+  if (star == std::string_view::npos || star == 0) return std::nullopt;
+  return LogLine{text, star};
+}
+
+bool LogLine::CrcMatches() const {
+  FormatScan digits(text.substr(star + 1));
+  const std::uint32_t sent = digits.Hex(CrcDigits);
+  const std::string_view covered = text.substr(1, star - 1);
+  return digits.Converted() == 1 &&
+         sent == Crc32({reinterpret_cast<const std::uint8_t*>(covered.data()), covered.size()});
+}
+
+std::string_view LogLine::Body() const {
+  const std::string_view beforeStar = text.substr(0, star);
+  const std::size_t semicolon = beforeStar.find(';');
+  return semicolon == std::string_view::npos ? std::string_view{}
+                                             : beforeStar.substr(semicolon + 1);
+}
+
+bool ReadHeader(HeaderForm form, std::string_view line, std::uint32_t identifier,
+                AsciiLogHeader& image) {
+  constexpr std::array<std::uint8_t, 3> Sync = {0xAA, 0x44, 0x12};
+  image = {};
+  std::ranges::copy(Sync, image.sync);
+  image.headerLength = sizeof(AsciiLogHeader);
+  image.messageId = static_cast<std::uint16_t>(identifier);
+  return form == HeaderForm::Long ? ReadLongHeader(line, image) : ReadShortHeader(line, image);
+}
+
+}  // namespace navframe::asciilog
