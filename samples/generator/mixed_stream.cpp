@@ -65,7 +65,7 @@ Bytes MixedStream() {
     const Epoch epoch = Thinned(whole);
     Append(bytes, "\\s:rcv1\\" + NmeaEpoch(epoch));
     Append(bytes, UbxNavigation(epoch));
-    Append(bytes, "between frames \x55\x01 cut: $GNGGA,1200");
+    Append(bytes, "\xB5 \x55\x01 \xD3\x01 garbage, $GNGGA,1200");
     Append(bytes, RtcmEpoch(epoch, msm));
     if (msm == Msm::Msm4) {
       Append(bytes, UbxSatellites(whole));
