@@ -132,19 +132,12 @@ TEST(SentenceFramer, WhatIsASentence) {
   const std::pair<std::string, Framed> cases[] = {
       {Vtg, {1, framed, 0, 0, 0}},
       {bare + "$\n", {1, framed, 0, 0, 0}},  // any byte may stand before the LF
-      {bare + "\n", {1, framed, 1, 0, 0}},
       {bare + "\n" + Vtg, {2, 2 * framed, 1, 0, 0}},
-      {bare + "\r" + Vtg, {2, 2 * framed, 1, 0, 0}},
-      {bare + Vtg, {2, 2 * framed, 0, 0, 0}},
       {"$GP" + Vtg, {1, framed, 3, 0, 0}},
-      {Sealed("$gP"), {1, 6, 0, 0, 0}},
-      {"$GPVTG,,,,,,,,,N*2", {0, 0, 0, 1, 18}},
       {"$GPVTG,$,,,,,,,,N*2", {0, 0, 0, 1, 19}},  // a cut one waits for its digits too
       {Sealed("$GP" + std::string(249, 'x')), {1, 255, 0, 0, 0}},  // the star at 252
       {"$" + std::string(252, 'x'), {0, 0, 0, 1, 253}},
       {"$" + std::string(253, 'x'), {0, 0, 254, 0, 0}},
-      {std::string(253, '$'), {0, 0, 0, 1, 253}},
-      {std::string(254, '$'), {0, 0, 1, 1, 253}},
   };
   for (const auto& [text, wanted] : cases) EXPECT_EQ(FramedIn(text), wanted) << text;
 }
@@ -169,19 +162,6 @@ TEST(SentenceFramer, HeadIsNotTrustedAfterAnExactFill) {
 
 TEST(TagBlockFramer, SkipsTheBlockAndLeavesThePlainSentence) {
   const std::string block = "\\s:1234\\";
-  const std::size_t framed = Vtg.size() - 2;
-  const std::pair<std::string, Framed> cases[] = {
-      {block + Vtg + "......", {1, framed, 14, 0, 0}},
-      {block + Vtg + ".....", {0, 0, 0, 2, 34}},  // eight bytes behind the digits are awaited
-      {"\\g:1234\\" + Vtg, {1, framed, 8, 0, 0}},
-      {"\\s;1234\\" + Vtg, {1, framed, 8, 0, 0}},
-      {"\\s:12345\\" + Vtg, {1, framed, 9, 0, 0}},
-      {block, {0, 0, 0, 2, 8}},
-      {block + std::string(3000, 'x'), {0, 0, 0, 2, 3008}},
-      {block + std::string(248, 'x') + "*12", {0, 0, 0, 2, 259}},  // the star at 256
-      {block + std::string(249, 'x') + "*12", {0, 0, 260, 0, 0}},
-  };
-  for (const auto& [text, wanted] : cases) EXPECT_EQ(FramedIn(text), wanted) << text;
   const auto decoder = std::make_unique<Decoder>();
   EXPECT_TRUE(Push(*decoder, "\\").empty());
   decoder->PutData(nullptr, 0);
