@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "rtcm/msm_layout.h"
-#include "support/rtcm.h"
-#include "support/streams.h"
+#include "rtcm/msm_signals.h"
+#include "support/binary_frames.h"
 
 namespace navframe::test {
 namespace {
@@ -12,241 +12,333 @@ namespace {
 constexpr std::uint32_t Decodable[] = {1074, 1075, 1076, 1077, 1087, 1094, 1095, 1096, 1097,
                                        1114, 1115, 1116, 1117, 1124, 1125, 1126, 1127};
 
+// The fields of a satellite and of a cell as they stand in the message.
+struct Satellite {
+  std::uint64_t rangeMs = 70, modulo = 512;
+  std::int64_t rate = 0;
+};
+struct Cell {
+  std::int64_t pseudorange = 0, phase = 0;
+  std::uint64_t lock = 0, halfCycle = 0, cn0 = 0;
+  std::int64_t rate = 0;
+};
+
+// Widths of the fields of a cell, and the fractions of a millisecond they count.
+struct Widths {
+  int pseudorange, phase, lock, cn0, rate;
+  double codeUnit, phaseUnit;
+};
+Widths WidthsOf(std::uint32_t number) {
+  const bool rates = number % 2 == 1;
+  if (number % 10 < 6) return {15, 22, 4, 6, rates ? 15 : 0, 0x1p-24, 0x1p-29};
+  return {20, 24, 10, 10, rates ? 15 : 0, 0x1p-29, 0x1p-31};
+}
+
+// A message in the making; one satellite with one signal unless said otherwise.
+struct Message {
+  std::uint32_t number = 1077;
+  std::uint64_t epoch = 1000;  // as it stands in the message
+  std::uint64_t more = 0;      // multiple-message bit
+  std::vector<int> satelliteIds = {5}, signalIds = {2};
+  std::vector<bool> mask = {true};  // by satellite, then signal
+  std::vector<Satellite> satellites = {{}};
+  std::vector<Cell> cells = {{}};
+
+  Bytes Payload() const {
+    BitWriter bits;
+    bits.Put(number, 12).Put(2003, 12).Put(epoch, 30).Put(more, 1).Put(0x15555, 18);
+    for (int id = 1; id <= 64; ++id) bits.Put(std::ranges::count(satelliteIds, id) != 0, 1);
+    for (int id = 1; id <= 32; ++id) bits.Put(std::ranges::count(signalIds, id) != 0, 1);
+    for (const bool cell : mask) bits.Put(cell, 1);
+    const Widths widths = WidthsOf(number);
+    const int extended = widths.rate != 0 ? 4 : 0, roughRate = widths.rate != 0 ? 14 : 0;
+    for (const Satellite& satellite : satellites) bits.Put(satellite.rangeMs, 8);
+    for (std::size_t i = 0; i < satellites.size(); ++i) bits.Put(0xA, extended);
+    for (const Satellite& satellite : satellites) bits.Put(satellite.modulo, 10);
+    for (const Satellite& satellite : satellites) bits.Signed(satellite.rate, roughRate);
+    for (const Cell& cell : cells) bits.Signed(cell.pseudorange, widths.pseudorange);
+    for (const Cell& cell : cells) bits.Signed(cell.phase, widths.phase);
+    for (const Cell& cell : cells) bits.Put(cell.lock, widths.lock);
+    for (const Cell& cell : cells) bits.Put(cell.halfCycle, 1);
+    for (const Cell& cell : cells) bits.Put(cell.cn0, widths.cn0);
+    for (const Cell& cell : cells) bits.Signed(cell.rate, widths.rate);
+    return bits.Written();
+  }
+  Bytes Frame() const { return RtcmFrame(Payload()); }
+};
+
+std::vector<int> DrawIds(sample::Noise& noise, std::uint32_t count, int highest) {
+  std::vector<int> ids;
+  for (int id = 1; id <= highest; ++id) {
+    const auto missing = static_cast<std::uint32_t>(count - ids.size());
+    if (noise.Below(static_cast<std::uint32_t>(highest - id + 1)) < missing) ids.push_back(id);
+  }
+  return ids;
+}
+
+// Masks and fields are any but the invalid codes.
+Message RandomMessage(std::uint32_t number, sample::Noise& noise) {
+  const std::uint32_t signals = 1 + noise.Below(8);
+  const std::uint32_t satellites = 1 + noise.Below(64 / signals);
+  Message message{number,
+                  noise.Below(86'400'000),
+                  0,
+                  DrawIds(noise, satellites, 64),
+                  DrawIds(noise, signals, 32),
+                  {},
+                  {},
+                  {}};
+  const auto signedField = [&](int width) {
+    const std::int64_t half = width == 0 ? 1 : std::int64_t{1} << (width - 1);
+    return static_cast<std::int64_t>(noise.Below(static_cast<std::uint32_t>(2 * half - 1))) - half +
+           1;
+  };
+  const Widths widths = WidthsOf(number);
+  for (std::uint32_t i = 0; i < satellites; ++i) {
+    message.satellites.push_back({1 + noise.Below(254), noise.Below(1024), signedField(14)});
+  }
+  for (std::uint32_t i = 0; i < satellites * signals; ++i) {
+    message.mask.push_back(noise.Below(4) != 0);
+    if (!message.mask.back()) continue;
+    message.cells.push_back({signedField(widths.pseudorange), signedField(widths.phase),
+                             noise.Below(1U << widths.lock), noise.Below(2),
+                             noise.Below(1U << widths.cn0), signedField(widths.rate)});
+  }
+  return message;
+}
+
 const MsmRecord& Only(const std::vector<Record>& records) {
   EXPECT_EQ(records.size(), 1U);
   EXPECT_EQ(records.at(0).size, sizeof(MsmRecord));
   return records.at(0).As<MsmRecord>();
 }
 
-// One satellite with one signal.
-MsmMessage OneCell(std::uint32_t number, int signal = 2) {
-  MsmMessage message;
-  message.number = number;
-  message.satellites = {5};
-  message.signals = {signal};
-  return message.Sized();
+// What an observation has to be, from the fields.
+void ExpectObservation(const MsmObservation& seen, const Message& message, std::size_t place,
+                       const Cell& cell) {
+  constexpr double MetresPerMs = 299792.458;
+  const Widths widths = WidthsOf(message.number);
+  const Satellite& satellite = message.satellites[place / message.signalIds.size()];
+  const int signal = message.signalIds[place % message.signalIds.size()];
+  const double ms = static_cast<double>(satellite.rangeMs * 1024 + satellite.modulo) / 1024;
+  const auto code = static_cast<double>(cell.pseudorange) * widths.codeUnit;
+  const auto phase = static_cast<double>(cell.phase) * widths.phaseUnit;
+  const double f =
+      rtcm::FrequenciesOf(rtcm::MsmSystem{seen.system})[static_cast<std::size_t>(signal)];
+  const double rate = static_cast<double>(satellite.rate) + static_cast<double>(cell.rate) / 1e4;
+  const bool rates = widths.rate != 0;
+  // MSM6 takes ordinary values for invalid ones.
+  const bool codeValid = message.number % 10 != 6 || cell.pseudorange != -16384;
+  const bool phaseValid = message.number % 10 != 6 || cell.phase != -2097152;
+  ASSERT_EQ(Values(seen.satellite, seen.signal, seen.pseudorangeValid, seen.halfCycleAmbiguity),
+            Values(message.satelliteIds[place / message.signalIds.size()], signal, codeValid,
+                   cell.halfCycle));
+  ASSERT_EQ(Values(seen.phaseStatus, seen.cn0, seen.rateValid),
+            Values(f != 0 && phaseValid && cell.halfCycle == 0,
+                   widths.cn0 == 6 ? cell.cn0 : cell.cn0 / 16, rates));
+  ASSERT_NEAR(seen.pseudorange, codeValid ? (ms + code) * MetresPerMs : 0, 1e-6);
+  ASSERT_NEAR(seen.carrierPhase, phaseValid ? (ms + phase) / 1000 * f : 0, 1e-5);
+  ASSERT_NEAR(seen.phaseRangeRate, rates ? rate : 0, 1e-9);
 }
 
-TEST(Msm, PhysicalValuesComeBackToTheResolutionOfTheirFields) {
-  std::mt19937 random(20240229);
+TEST(Msm, FieldsComeBackAsPhysicalValues) {
+  sample::Noise noise(20240229);
   for (int round = 0; round < 40; ++round) {
     for (const std::uint32_t number : Decodable) {
-      const int signals = 1 + static_cast<int>(random() % 8);
-      const int satellites = 1 + static_cast<int>(random() % static_cast<unsigned>(64 / signals));
-      std::vector<MsmTruth> truth;
-      const MsmMessage message = RandomMsm(number, random, truth, satellites, signals);
-      const MsmWidths widths = WidthsOf(message.Kind());
+      SCOPED_TRACE(number);
+      const Message message = RandomMessage(number, noise);
       const auto records = Decoded(message.Frame());
       const MsmRecord& record = Only(records);
-      ASSERT_EQ(record.count, truth.size()) << number;
-      for (std::size_t i = 0; i < truth.size(); ++i) {
-        const MsmObservation& seen = record.observations[i];
-        const MsmTruth& wanted = truth[i];
-        ASSERT_EQ(seen.system, record.system);
-        ASSERT_EQ(seen.satellite, wanted.satellite);
-        ASSERT_EQ(seen.signal, wanted.signal);
-        ASSERT_EQ(seen.pseudorangeValid, 1);
-        ASSERT_NEAR(seen.pseudorange, wanted.pseudorange, widths.pseudorangeMetres * 0.51);
-        const double f = rtcm::FrequenciesOf(rtcm::MsmSystem{record.system})[seen.signal];
-        ASSERT_NEAR(seen.carrierPhase, wanted.phaseRange * f / 299792458,
-                    widths.phaseMetres * 0.51 * f / 299792458 + 1e-7);
-        ASSERT_EQ(seen.phaseStatus, f != 0 && wanted.halfCycle == 0 ? 1 : 0);
-        ASSERT_EQ(seen.halfCycleAmbiguity, wanted.halfCycle);
-        ASSERT_EQ(seen.cn0, std::floor(wanted.cn0));
-        ASSERT_EQ(seen.rateValid, widths.rate != 0 ? 1 : 0);
-        ASSERT_NEAR(seen.phaseRangeRate, widths.rate != 0 ? wanted.rate : 0, 0.000051);
+      ASSERT_EQ(record.count, message.cells.size());
+      std::size_t cell = 0;
+      for (std::size_t place = 0; place < message.mask.size(); ++place) {
+        if (!message.mask[place]) continue;
+        ASSERT_EQ(record.observations[cell].system, record.system);
+        ExpectObservation(record.observations[cell], message, place, message.cells[cell]);
+        ++cell;
       }
-      for (std::size_t i = truth.size(); i < std::size(record.observations); ++i) {
+      for (; cell < std::size(record.observations); ++cell) {
         MsmObservation unused{};
         unused.system = 1;
-        ASSERT_EQ(std::memcmp(&record.observations[i], &unused, sizeof unused), 0) << i;
+        ASSERT_EQ(std::memcmp(&record.observations[cell], &unused, sizeof unused), 0) << cell;
       }
+    }
+  }
+}
+
+TEST(Msm, FrequenciesOfSignals) {
+  // Systems, signals, MHz; the second value is what hosts expect, not what the system transmits.
+  const std::tuple<int, std::vector<std::size_t>, double> rows[] = {{1, {2, 4, 30, 32}, 1575.42},
+                                                                    {1, {8, 10, 15, 17}, 1277.6},
+                                                                    {1, {22, 24}, 1176.45},
+                                                                    {1, {1, 5, 11, 21, 29}, 0},
+                                                                    {2, {1, 2, 8, 32}, 1575.42},
+                                                                    {3, {2, 6, 32}, 1575.42},
+                                                                    {3, {8, 12}, 1287.75},
+                                                                    {3, {14, 16}, 1207.14},
+                                                                    {3, {18, 20}, 1191.795},
+                                                                    {3, {22, 24}, 1176.45},
+                                                                    {3, {7, 17, 30, 31}, 0},
+                                                                    {4, {2, 4}, 1561.098},
+                                                                    {4, {8, 10}, 1268.52},
+                                                                    {4, {14, 16, 25}, 1207.14},
+                                                                    {4, {22, 24}, 1176.45},
+                                                                    {4, {30, 31, 32}, 1575.42},
+                                                                    {4, {5, 26}, 0},
+                                                                    {5, {2, 30, 32}, 1575.42},
+                                                                    {5, {15, 17}, 1277.6},
+                                                                    {5, {22, 24}, 1176.45},
+                                                                    {5, {3, 8, 10}, 0}};
+  for (const auto& [system, signals, mhz] : rows) {
+    const auto& frequencies = rtcm::FrequenciesOf(static_cast<rtcm::MsmSystem>(system));
+    for (const std::size_t signal : signals) {
+      EXPECT_EQ(frequencies[signal], std::round(mhz * 1e6)) << system << " " << signal;
     }
   }
 }
 
 TEST(Msm, OnlySomeNumbersAreDecoded) {
   for (std::uint32_t number = 1070; number <= 1140; ++number) {
-    const bool decodable =
-        std::find(std::begin(Decodable), std::end(Decodable), number) != std::end(Decodable);
-    MsmMessage message = OneCell(number);
-    if (message.Kind() < 4 || message.Kind() > 7) message.cellFields.resize(8);
-    EXPECT_EQ(Decoded(message.Frame()).size(), decodable ? 1U : 0U) << number;
+    Message message;
+    message.number = number;
+    message.cells.resize(8);  // longer than any kind needs
+    const auto wanted = static_cast<std::size_t>(std::ranges::count(Decodable, number));
+    EXPECT_EQ(Decoded(message.Frame()).size(), wanted) << number;
   }
 }
 
 TEST(Msm, ContentsThatDoNotFitLeaveNoTrace) {
-  MsmMessage wide = OneCell(1074);
-  wide.satellites = {1, 2, 3, 4, 5, 6, 7, 8};
-  wide.signals = {1, 2, 3, 4, 5, 6, 7, 8, 9};
-  wide.cells.clear();
-  EXPECT_TRUE(Decoded(wide.Sized().Frame()).empty());
+  Message wide;
+  wide.satelliteIds = {1, 2, 3, 4, 5, 6, 7, 8};
+  wide.signalIds = {1, 2, 3, 4, 5, 6, 7, 8, 9};
+  wide.mask.assign(72, false);
+  wide.satellites.resize(8);
+  EXPECT_TRUE(Decoded(wide.Frame()).empty());
   for (const std::uint32_t number : Decodable) {
-    std::mt19937 random(number);
-    std::vector<MsmTruth> truth;
-    const Bytes payload = RandomMsm(number, random, truth, 5, 4).Payload();
+    sample::Noise noise(number);
+    const Bytes payload = RandomMessage(number, noise).Payload();
     for (std::size_t length = 2; length < payload.size(); ++length) {
       const auto decoder = std::make_unique<Decoder>();
-      const Bytes shortened(payload.begin(), payload.begin() + static_cast<std::ptrdiff_t>(length));
-      ASSERT_TRUE(Push(*decoder, RtcmFrame(shortened)).empty()) << number << " " << length;
-      std::uint32_t ids[64];
-      ASSERT_EQ(decoder->sink.DrainDecodedIds(ids), 0U);
+      ASSERT_TRUE(Push(*decoder, RtcmFrame(First(payload, length))).empty())
+          << number << " " << length;
+      ASSERT_TRUE(DecodedIds(*decoder).empty());
       ASSERT_EQ(decoder->time.getTOW(), 0xFFFFFFFF);
     }
   }
   // No satellite at all is an epoch like any other.
-  MsmMessage empty = OneCell(1117);
-  empty.satellites.clear();
-  empty.signals.clear();
-  empty.cells.clear();
-  const auto records = Decoded(empty.Sized().Frame());
-  EXPECT_EQ(Only(records).count, 0);
-  EXPECT_EQ(Only(records).system, 5);
+  const auto records = Decoded(Message{1117, 1, 0, {}, {}, {}, {}, {}}.Frame());
+  EXPECT_EQ(Values(Only(records).count, Only(records).system), Values(0, 5));
 }
 
 TEST(Msm, InvalidCodes) {
   struct Case {
     std::uint32_t number;
-    std::int64_t finePseudorange, finePhase, roughRate, fineRate;
-    std::uint32_t rangeMs;
+    Satellite satellite;
+    Cell cell;
     int pseudorangeValid, phaseStatus, rateValid;
   };
   const Case cases[] = {
-      {1074, -16384, 0, 0, 0, 70, 0, 1, 0},
-      {1075, 0, -2097152, 0, -16384, 70, 1, 0, 0},
-      {1077, -524288, 0, 0, 0, 70, 0, 1, 1},
-      {1077, 0, -8388608, -8192, 0, 70, 1, 0, 0},
-      {1077, -16384, -2097152, 0, -16384, 70, 1, 1, 0},
-      {1077, 0, 0, 0, 0, 255, 0, 0, 1},  // the rate does not need the range
-      {1077, 0, 0, 0, 0, 0, 0, 0, 1},
-      {1076, -524288, -8388608, 0, 0, 70, 1, 1, 0},  // MSM6 knows the codes of MSM4 alone
-      {1076, -16384, -2097152, 0, 0, 70, 0, 0, 0},
+      {1074, {}, {-16384}, 0, 1, 0},
+      {1075, {}, {0, -2097152, 0, 0, 0, -16384}, 1, 0, 0},
+      {1077, {}, {-524288}, 0, 1, 1},
+      {1077, {70, 512, -8192}, {0, -8388608}, 1, 0, 0},
+      {1077, {}, {-16384, -2097152, 0, 0, 0, -16384}, 1, 1, 0},
+      {1077, {255}, {}, 0, 0, 1},  // the rate does not need the range
+      {1077, {0}, {}, 0, 0, 1},
+      {1076, {}, {-524288, -8388608}, 1, 1, 0},  // MSM6 knows the codes of MSM4 alone
+      {1076, {}, {-16384, -2097152}, 0, 0, 0},
   };
   for (const Case& c : cases) {
-    MsmMessage message = OneCell(c.number);
-    message.satelliteFields[0] = {c.rangeMs, 512, c.roughRate};
-    message.cellFields[0].finePseudorange = c.finePseudorange;
-    message.cellFields[0].finePhase = c.finePhase;
-    message.cellFields[0].fineRate = c.fineRate;
+    SCOPED_TRACE(&c - cases);
+    Message message{.number = c.number, .satellites = {c.satellite}, .cells = {c.cell}};
     const auto records = Decoded(message.Frame());
     const MsmObservation& seen = Only(records).observations[0];
-    SCOPED_TRACE(&c - cases);
-    EXPECT_EQ(seen.pseudorangeValid, c.pseudorangeValid);
-    EXPECT_EQ(seen.pseudorange != 0, c.pseudorangeValid == 1);
-    EXPECT_EQ(seen.phaseStatus, c.phaseStatus);
-    EXPECT_EQ(seen.carrierPhase != 0, c.phaseStatus == 1);
-    EXPECT_EQ(seen.rateValid, c.rateValid);
+    EXPECT_EQ(Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid),
+              Values(c.pseudorangeValid, c.phaseStatus, c.rateValid));
+    EXPECT_EQ(Values(seen.pseudorange != 0, seen.carrierPhase != 0),
+              Values(c.pseudorangeValid, c.phaseStatus));
   }
 }
 
-TEST(Msm, Epochs) {
-  struct Case {
-    std::uint32_t number, wire, epoch;
-  };
-  for (const Case& c :
-       {Case{1077, 604'799'999, 604'799'999}, Case{1127, 604'790'000, 4'000},
-        Case{1127, 604'785'999, 604'799'999}, Case{1127, 604'786'000, 0},
-        Case{1087, 0, 594'018'000}, Case{1087, 3U << 27 | 45'000'000, 293'418'000}}) {
-    MsmMessage message = OneCell(c.number);
-    message.epoch = c.wire;
-    message.more = c.wire % 2 == 0;
+TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
+  const std::array<std::uint32_t, 3> cases[] = {
+      {1077, 604'799'999, 604'799'999}, {1127, 604'790'000, 4'000},
+      {1127, 604'785'999, 604'799'999}, {1127, 604'786'000, 0},
+      {1087, 0, 594'018'000},           {1087, 3U << 27 | 45'000'000, 293'418'000}};
+  for (const auto& [number, wire, epoch] : cases) {
+    SCOPED_TRACE(wire);
     const auto decoder = std::make_unique<Decoder>();
-    std::uint16_t week = 2325;
-    decoder->time.setWeek(week);
-    const auto records = Push(*decoder, message.Frame());
-    EXPECT_EQ(Only(records).epochTime, c.epoch) << c.number;
-    EXPECT_EQ(Only(records).epochComplete, c.wire % 2);
-    EXPECT_EQ(Only(records).week, 2325);
-    EXPECT_EQ(Only(records).timeText, decoder->time.timeText);
-    EXPECT_EQ(decoder->time.getTOW(), c.epoch);
+    decoder->time.gpsTime.week = 2325;
+    const auto records =
+        Push(*decoder, Message{.number = number, .epoch = wire, .more = wire % 2}.Frame());
+    const MsmRecord& record = Only(records);
+    EXPECT_EQ(Values(record.epochTime, record.epochComplete, record.week),
+              Values(epoch, 1 - wire % 2, 2325));
+    EXPECT_EQ(record.timeText, decoder->time.timeText);
+    EXPECT_EQ(decoder->time.getTOW(), epoch);
     EXPECT_EQ(decoder->time.timeText.size(), 10U);
   }
 }
 
 TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
-  // First indicator of each line: minimum lock time = a * i - b.
-  struct Line {
-    std::uint32_t first, a;
-    std::int64_t b;
-  };
-  const Line lines[] = {{0, 1, 0},
-                        {64, 2, 64},
-                        {96, 4, 256},
-                        {128, 8, 768},
-                        {160, 16, 2048},
-                        {192, 32, 5120},
-                        {224, 64, 12288},
-                        {256, 128, 28672},
-                        {288, 256, 65536},
-                        {320, 512, 147456},
-                        {352, 1024, 327680},
-                        {384, 2048, 720896},
-                        {416, 4096, 1572864},
-                        {448, 8192, 3407872},
-                        {480, 16384, 7340032},
-                        {512, 32768, 15728640},
-                        {544, 65536, 33554432},
-                        {576, 131072, 71303168},
-                        {608, 262144, 150994944},
-                        {640, 524288, 318767104},
-                        {672, 1048576, 671088640},
-                        {704, 2097152, 1409286144}};
-  for (std::size_t n = 0; n < std::size(lines); ++n) {
-    const std::uint32_t end = n + 1 < std::size(lines) ? lines[n + 1].first : 705;
-    for (std::uint32_t i = lines[n].first; i < end; ++i) {
-      ASSERT_EQ(rtcm::LockTime10(i), std::int64_t{lines[n].a} * i - lines[n].b) << i;
-    }
+  // From 64 on, each 32 indicators double the step: minimum lock time = a * i - b.
+  for (std::uint32_t i = 0; i < 64; ++i) ASSERT_EQ(rtcm::LockTime10(i), i);
+  const std::int64_t b[] = {64,        256,       768,       2048,     5120,     12288,
+                            28672,     65536,     147456,    327680,   720896,   1572864,
+                            3407872,   7340032,   15728640,  33554432, 71303168, 150994944,
+                            318767104, 671088640, 1409286144};
+  for (std::uint32_t i = 64; i <= 704; ++i) {
+    const std::uint32_t line = i / 32 - 2;
+    ASSERT_EQ(rtcm::LockTime10(i), (std::int64_t{2} << line) * i - b[line]) << i;
   }
-  const std::uint32_t short4[] = {0, 32, 64, 128, 256, 512, 1024, 2048};
-  for (std::uint32_t i = 0; i < 8; ++i) EXPECT_EQ(rtcm::LockTime4(i), short4[i]);
-  EXPECT_EQ(rtcm::LockTime4(15), 524288U);
+  EXPECT_EQ(Values(rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
+            Values(0, 32, 64, 524288));
 }
 
 TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
-  const auto decoder = std::make_unique<Decoder>();
-  const auto status = [&](std::uint32_t epoch, std::uint32_t lock, std::uint32_t halfCycle = 0,
-                          int signal = 2) {
-    MsmMessage message = OneCell(1077, signal);
-    message.epoch = epoch;
-    message.cellFields[0].lock = lock;
-    message.cellFields[0].halfCycle = halfCycle;
-    const auto records = Push(*decoder, message.Frame());
-    const MsmObservation& seen = Only(records).observations[0];
-    if (signal == 5) {
-      EXPECT_EQ(seen.carrierPhase, 0);
-    }
-    return int{seen.phaseStatus};
+  struct Step {
+    std::uint32_t epoch;
+    std::uint64_t lock, halfCycle;
+    int signal, status;
   };
-  EXPECT_EQ(status(10'000, 704), 1);  // no interval yet
-  EXPECT_EQ(status(11'000, 704), 1);  // the interval of 1000 ms counts from the next message on
-  EXPECT_EQ(status(12'000, 252), 2);  // 3840 ms
-  EXPECT_EQ(status(13'000, 63), 1);
-  EXPECT_EQ(status(14'000, 704, 1), 0);
-  EXPECT_EQ(status(14'000, 704, 0, 5), 0);  // a signal without a frequency
-  EXPECT_EQ(status(16'000, 704), 2);        // a gap of 2 s keeps the interval
-  EXPECT_EQ(status(15'000, 704), 2);
-  EXPECT_EQ(status(15'000, 704), 1);  // it went backwards
+  const auto decoder = std::make_unique<Decoder>();
+  for (const Step& step : std::initializer_list<Step>{
+           {10'000, 704, 0, 2, 1},  // no interval yet
+           {11'000, 704, 0, 2, 1},  // the interval of 1000 ms counts from the next message on
+           {12'000, 252, 0, 2, 2},  // 3840 ms
+           {13'000, 63, 0, 2, 1},
+           {14'000, 704, 1, 2, 0},  // half a cycle in doubt
+           {14'000, 704, 0, 5,
+            0},  // a signal without a frequency; the same epoch keeps the interval
+           {15'999, 704, 0, 2, 2},
+           {15'999, 200, 0, 2, 1},  // 1280 ms; the interval is 1999 ms now
+           {18'999, 223, 0, 2, 2},  // 2016 ms
+           {18'999, 223, 0, 2, 2},  // a gap of 3 s was no interval
+           {17'000, 704, 0, 2, 2},
+           {17'000, 704, 0, 2, 1}}) {  // it went backwards
+    SCOPED_TRACE(step.epoch);
+    const Message message{.epoch = step.epoch,
+                          .signalIds = {step.signal},
+                          .cells = {{0, 0, step.lock, step.halfCycle}}};
+    const auto records = Push(*decoder, message.Frame());
+    EXPECT_EQ(Only(records).observations[0].phaseStatus, step.status);
+    EXPECT_EQ(Only(records).observations[0].carrierPhase == 0, step.signal == 5);
+  }
 }
 
 TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->sink.SetFilter(MsgIdMsmQzss);
-  const Bytes frame = OneCell(1077).Frame();
-  const auto push = [&](int count) {
-    for (int i = 0; i < count; ++i) {
-      decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
-    }
-  };
-  push(1000);
-  const std::size_t before = ResidentMemory();
-  push(100'000);
+  const Bytes frame = Message{}.Frame();
+  std::size_t before = 0;
+  for (int i = 0; i < 101'000; ++i) {
+    if (i == 1000) before = ResidentMemory();
+    decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
+  }
   EXPECT_LT(ResidentMemory(), before + 1'000'000);
-  EXPECT_EQ(decoder->sink.Waiting(), 0U);
-  EXPECT_EQ(decoder->time.getTOW(), 1000U);
-  std::uint32_t ids[64];
-  ASSERT_EQ(decoder->sink.DrainDecodedIds(ids), 1U);
-  EXPECT_EQ(ids[0], std::uint32_t{MsgIdMsmGps});
-  EXPECT_EQ(Push(*decoder, OneCell(1117).Frame()).size(), 1U);
+  EXPECT_EQ(Values(decoder->sink.Waiting(), decoder->time.getTOW()), Values(0, 1000));
+  EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
+  EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }
 
 }  // namespace
