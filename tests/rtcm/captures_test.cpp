@@ -33,13 +33,12 @@ std::uint32_t NumberOf(const Bytes& frame) {
 
 // The record that a message number becomes, 0 for none.
 std::uint32_t ExpectedId(std::uint32_t number) {
-  if (number == 1087) return 62;
-  const bool msm = number % 10 >= 4 && number % 10 <= 7;
+  const std::map<std::uint32_t, std::uint32_t> others = {{1005, 53}, {1013, 54}, {1087, 62}};
   const std::map<std::uint32_t, std::uint32_t> systems = {
       {107, 61}, {109, 63}, {112, 64}, {111, 65}};
-  const auto system = systems.find(number / 10);
-  if (system != systems.end() && msm) return system->second;
-  return number == 1005 ? 53 : number == 1013 ? 54 : 0;
+  if (others.contains(number)) return others.at(number);
+  const bool msm = number % 10 >= 4 && number % 10 <= 7 && systems.contains(number / 10);
+  return msm ? systems.at(number / 10) : 0;
 }
 
 // By system, satellite and signal: the last epoch and its pseudorange.
