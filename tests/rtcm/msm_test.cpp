@@ -24,6 +24,10 @@ constexpr int Widths[4][10] = {{8, 0, 10, 0, 15, 22, 4, 1, 6, 0},
                                {8, 0, 10, 0, 20, 24, 10, 1, 10, 0},
                                {8, 4, 10, 14, 20, 24, 10, 1, 10, 15}};
 
+const int* WidthsOf(std::uint32_t number) {
+  return Widths[number % 10 < 4 || number % 10 > 7 ? 3 : number % 10 - 4];
+}
+
 // A message in the making; one satellite with one signal unless said otherwise.
 struct Message {
   std::uint32_t number = 1077;
@@ -39,7 +43,7 @@ struct Message {
     bits.Put(number, 12).Put(2003, 12).Put(epoch, 30).Put(more, 1).Put(0x15555, 18);
     bits.Put(satelliteMask, 64).Put(signalMask, 32);
     for (const bool cell : mask) bits.Put(cell, 1);
-    const int* width = Widths[number % 4];
+    const int* width = WidthsOf(number);
     for (std::size_t i = 0; i < 4; ++i, ++width) {
       for (const Satellite& satellite : satellites) bits.Signed(satellite[i], *width);
     }
@@ -66,7 +70,7 @@ Message RandomMessage(std::uint32_t number, sample::Noise& noise) {
     const std::int64_t value = noise.Below(1U << width);
     return value == 0 ? 1 : value - half;  // the lowest is invalid
   };
-  const int* const width = Widths[number % 4];
+  const int* const width = WidthsOf(number);
   for (int i = 0; i < satellites; ++i) {
     message.satellites.push_back({1 + noise.Below(254), 10, noise.Below(1024), field(14, true)});
   }
