@@ -93,28 +93,27 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
   };
   const BitWriter sub33 = Message(910).Put(33, 8), sub21 = Message(999).Put(21, 8);
   const Bytes ephemeris = Sized(Message(1019), 61);
-  std::vector<Case> cases = {
-      {55, Position(), {}, {}},
-      {53, Position(), {53}, {53}},
-      {53, Message(1013).Written(), {}, {}},
-      {0, Sized(Message(910).Put(17, 8), 40), {83}, {83}},
-      {84, Sized(Message(910).Put(17, 8), 40), {}, {83}},
-      {0, Sized(sub33, 7), {85}, {85}},
-      {0, Sized(sub33, 8), {}, {}},
-      {1, Sized(sub33, 7), {}, {85}},
-      {86, Message(910).Put(34, 8).Written(), {86}, {86}},
-      {106, Sized(sub21, 57), {106}, {106}},
-      {0, Sized(sub21, 58), {}, {}},
-      {105, Sized(sub21, 57), {}, {106}},
-      {0, Message(910).Put(18, 8).Written(), {}, {}},
-      {0, Message(999).Put(22, 8).Written(), {}, {}},
-      {0, Timed(252).Written(), {}, {}},
-      {0, Message(4074).Written(), {}, {}},  // no room for a sub-type
-      {0, Sized(Message(1006), 21), {}, {}},
-      {0, ephemeris, {}, {}},
-      {53, ephemeris, {}, {}},
-      {53, Message(1020).Written(), {}, {}},
-  };
+  // The bare 4074 has no room for a sub-type.
+  std::vector<Case> cases = {{55, Position(), {}, {}},
+                             {53, Position(), {53}, {53}},
+                             {53, Message(1013).Written(), {}, {}},
+                             {0, Sized(Message(910).Put(17, 8), 40), {83}, {83}},
+                             {84, Sized(Message(910).Put(17, 8), 40), {}, {83}},
+                             {0, Sized(sub33, 7), {85}, {85}},
+                             {0, Sized(sub33, 8), {}, {}},
+                             {1, Sized(sub33, 7), {}, {85}},
+                             {86, Message(910).Put(34, 8).Written(), {86}, {86}},
+                             {106, Sized(sub21, 57), {106}, {106}},
+                             {0, Sized(sub21, 58), {}, {}},
+                             {105, Sized(sub21, 57), {}, {106}},
+                             {0, Message(910).Put(18, 8).Written(), {}, {}},
+                             {0, Message(999).Put(22, 8).Written(), {}, {}},
+                             {0, Timed(252).Written(), {}, {}},
+                             {0, Message(4074).Written(), {}, {}},
+                             {0, Sized(Message(1006), 21), {}, {}},
+                             {0, ephemeris, {}, {}},
+                             {53, ephemeris, {}, {}},
+                             {53, Message(1020).Written(), {}, {}}};
   // Of 4074: sub-type, kind, second filter value.
   const std::array<std::uint32_t, 3> subTypes[] = {
       {255, 82, 0}, {254, 81, 0}, {253, 80, 0}, {251, 79, 0}, {249, 78, 0}, {243, 77, 0},

@@ -251,15 +251,13 @@ TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
 }
 
 TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
-  // Lines of 32 indicators from 64 on: minimum lock time = a * i - b, and a doubles.
-  for (std::uint32_t i = 0; i < 64; ++i) ASSERT_EQ(rtcm::LockTime10(i), i);
-  const std::int64_t b[] = {64,        256,       768,       2048,     5120,     12288,
-                            28672,     65536,     147456,    327680,   720896,   1572864,
-                            3407872,   7340032,   15728640,  33554432, 71303168, 150994944,
-                            318767104, 671088640, 1409286144};
-  for (std::uint32_t i = 64; i <= 704; ++i) {
-    ASSERT_EQ(rtcm::LockTime10(i), (std::int64_t{2} << (i / 32 - 2)) * i - b[i / 32 - 2]) << i;
+  // Steps of 1 ms up to 64, then from 32 to 32 indicators twice as long.
+  std::uint32_t wanted = 0;
+  for (std::uint32_t i = 0; i < 704; ++i) {
+    ASSERT_EQ(rtcm::LockTime10(i), wanted) << i;
+    wanted += i < 64 ? 1 : 1U << (i / 32 - 1);
   }
+  EXPECT_EQ(Values(rtcm::LockTime10(704), rtcm::LockTime10(1023)), Values(67108864, 67108864));
   EXPECT_EQ(Values(rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
             Values(0, 32, 64, 524288));
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -14,23 +15,9 @@ namespace {
 constexpr std::uint32_t Day = 86'400'000;
 constexpr std::uint32_t NoTow = 0xFFFFFFFF;
 
-template <class T>
-T To(int value) {
-  return static_cast<T>(value);
-}
-UTCTIME Utc(int year, int month, int day, int hour = 0, int minute = 0, int second = 0,
-            int ms = 0) {
-  using U8 = std::uint8_t;
-  return {To<std::uint16_t>(year),
-          To<U8>(month),
-          To<U8>(day),
-          To<U8>(hour),
-          To<U8>(minute),
-          To<U8>(second),
-          0,
-          To<std::uint16_t>(ms),
-          0,
-          0};
+UTCTIME Utc(std::uint16_t year, std::uint8_t month, std::uint8_t day, std::uint8_t hour = 0,
+            std::uint8_t minute = 0, std::uint8_t second = 0, std::uint16_t ms = 0) {
+  return {year, month, day, hour, minute, second, 0, ms, 0, 0};
 }
 
 // "week:tow".
@@ -45,9 +32,8 @@ std::string Shown(const UTCTIME& utc) {
   return text.str();
 }
 std::string Leap(const TimeManager& time) {
-  std::ostringstream text;
-  text << time.leapPending << ' ' << time.leapSeconds << ' ' << time.leapMilliseconds;
-  return text.str();
+  return std::to_string(time.leapPending) + " " + std::to_string(time.leapSeconds) + " " +
+         std::to_string(time.leapMilliseconds);
 }
 
 std::string Converted(TimeManager& time, UTCTIME utc) {
@@ -61,14 +47,12 @@ std::uint16_t Week(UTCTIME utc, int leap) {
   return week;
 }
 std::string HmsText(TimeManager& time) {
-  char text[64];
-  time.getHMSStr(text);
-  return text;
+  std::array<char, 64> text;
+  return time.getHMSStr(text.data()), text.data();
 }
 std::string GpsText(TimeManager& time) {
-  char text[64];
-  time.getGPSTStr(text);
-  return text;
+  std::array<char, 64> text;
+  return time.getGPSTStr(text.data()), text.data();
 }
 
 // Runs the test body in a time zone, in the POSIX notation.
@@ -89,23 +73,24 @@ TEST(TimeManager, EveryDateAgainstTheCalendar) {
   TimeManager time;
   for (sys_days day = 1989y / January / 1; day < sys_days{2100y / January / 1}; day += days{1}) {
     const year_month_day date(day);
-    const auto at = [&](int hour, int minute, int second, int ms) {
-      return Utc(static_cast<int>(date.year()), To<int>(unsigned{date.month()}),
-                 To<int>(unsigned{date.day()}), hour, minute, second, ms);
+    const auto at = [&](std::uint8_t hour, std::uint8_t minute, std::uint8_t second) {
+      return Utc(static_cast<std::uint16_t>(int{date.year()}),
+                 static_cast<std::uint8_t>(unsigned{date.month()}),
+                 static_cast<std::uint8_t>(unsigned{date.day()}), hour, minute, second);
     };
     // The formula is a day late before 1992 and takes 29 February for 1 March.
     const bool late = date.year() < 1992y || (date.month() == February && date.day() == 29d);
     const std::int64_t count = (day - sys_days{1980y / January / 6}).count() + (late ? 1 : 0);
-    ASSERT_EQ(Converted(time, at(12, 34, 56, 789)), Shown(count * Day + 45'296'789 + 18'000))
-        << Shown(at(0, 0, 0, 0));
-    ASSERT_EQ(Converted(time, at(23, 59, 42, 0)), Shown((count + 1) * Day));
-    ASSERT_EQ(Week(at(0, 0, 0, 0), 18), (count - 1) / 7) << "a Sunday is of the week before";
+    ASSERT_EQ(Converted(time, at(12, 34, 56)), Shown(count * Day + 45'296'000 + 18'000))
+        << Shown(at(0, 0, 0));
+    ASSERT_EQ(Converted(time, at(23, 59, 42)), Shown((count + 1) * Day));
+    ASSERT_EQ(Week(at(0, 0, 0), 18), (count - 1) / 7) << "a Sunday is of the week before";
   }
 }
 
 TEST(TimeManager, ConversionEdges) {
   TimeManager time;
-  EXPECT_EQ(Converted(time, Utc(2024, 7, 31, 12)), "2325:302418000");
+  EXPECT_EQ(Converted(time, Utc(2024, 7, 31, 12, 0, 0, 7)), "2325:302418007");
   for (const UTCTIME& utc :
        {Utc(2024, 0, 1), Utc(2024, 13, 1), Utc(2024, 255, 1), Utc(65535, 7, 31)}) {
     EXPECT_EQ(Converted(time, utc), "65535:4294967295");

@@ -66,14 +66,5 @@ TEST(UbxFramer, WrongChecksumYieldsOneDiagnosticRecordForEachRejectedSyncPositio
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdUbxNavigation});
 }
 
-TEST(UbxFramer, WrongSecondSyncByteCostsOneByteWithoutRecord) {
-  const auto decoder = std::make_unique<Decoder>();
-  const Bytes frame = sample::UbxAttitude(sample::Drive().Next());
-  EXPECT_EQ(Ids(Push(*decoder, Bytes{0xB5, 0xB5} + frame + Bytes{0xB5, 0x61})), Kinds{105});
-  EXPECT_EQ(decoder->stream.statistics.skippedBytes, 2U);
-  Push(*decoder, Bytes(6, 0));  // six bytes decide, not two
-  EXPECT_EQ(decoder->stream.statistics.skippedBytes, 10U);
-}
-
 }  // namespace
 }  // namespace navframe::test

@@ -59,15 +59,11 @@ TEST(UbxNavigation, EveryFieldComesFromItsPlace) {
 }
 
 TEST(UbxNavigation, SingleFlagsAreNotMixedUp) {
-  const auto with = [](std::size_t offset, std::uint8_t value) {
-    return Navigation(NavigationPayload().U8(offset, value));
-  };
-  EXPECT_EQ(with(11, 0xF1).dateValid, 1);
-  EXPECT_EQ(with(21, 0x02).diffSolution, 1);
-  EXPECT_EQ(with(21, 0x1C).powerSaveState, 7);
-  EXPECT_EQ(with(22, 0x40).confirmedDate, 1);
-  EXPECT_EQ(with(22, 0x1F).confirmedAvailable, 0);
-  EXPECT_EQ(with(78, 0xFE).correctionAge, 15);
+  const auto r = Navigation(NavigationPayload().U8(21, 0x02).U8(22, 0x5F).U8(78, 0xFE));
+  EXPECT_EQ(Values(r.fixOk, r.diffSolution, r.powerSaveState, r.carrierSolution,
+                   r.confirmedAvailable, r.confirmedDate, r.invalidHeight, r.correctionAge),
+            Values(0, 1, 0, 0, 0, 1, 0, 15));
+  EXPECT_EQ(Navigation(NavigationPayload().U8(21, 0x1C)).powerSaveState, 7);
 }
 
 TEST(UbxNavigation, WithoutAFixThePositionIsUnknown) {
