@@ -10,8 +10,9 @@ namespace {
 
 bool Same(const GPSTIME& a, const GPSTIME& b) { return a.tow == b.tow && a.week == b.week; }
 
+// Every fourth year is a leap year for TimeManager, 2100 too.
 bool InCalendar(const UTCTIME& utc) {
-  return utc.year >= 1992 && utc.year <= 2900 && utc.month >= 1 && utc.month <= 12 &&
+  return utc.year >= 1992 && utc.year <= 2099 && utc.month >= 1 && utc.month <= 12 &&
          utc.day >= 1 && utc.day <= 28 && utc.hour <= 23 && utc.minute <= 59 && utc.second <= 59 &&
          utc.millisecond <= 999;
 }
