@@ -30,11 +30,10 @@ class Seeds {
 
   // For the targets that take a stream behind their steering bytes.
   void Stream(const Bytes& stream) {
+    const auto length = static_cast<std::ptrdiff_t>(std::min(stream.size(), fuzz::LongestStream));
     for (const std::uint8_t steering : Bytes{0, 2}) {
       Bytes bytes(fuzz::SteeringLength, steering);
-      const auto length = std::min(stream.size(), fuzz::LongestStream);
-      bytes.insert(bytes.end(), stream.begin(),
-                   stream.begin() + static_cast<std::ptrdiff_t>(length));
+      sample::Append(bytes, Bytes(stream.begin(), stream.begin() + length));
       for (const char* target : {"exports_fuzz", "frames_fuzz", "chunks_fuzz"}) {
         Write(target, bytes);
       }
