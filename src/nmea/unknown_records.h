@@ -138,33 +138,34 @@ inline constexpr SnrStatRecord UnknownSnrStat = {.tag = 0,
                                                  .state = NoU8,
                                                  .levels = {-1, -1, -1}};
 
-// Their text member begins empty, inside the record.
-inline constexpr NavPosRecord UnknownNavPos = {.gpsTime = NoGpsTime,
-                                               .timeText = {},
-                                               .solutionStatus = NoI32,
-                                               .positionType = NoI32,
-                                               .datum = NoI32,
-                                               .stationNumber = NoI32,
-                                               .text = {},
-                                               .status = NoU8,
-                                               .count = NoU8,
-                                               .x = NoF64,
-                                               .y = NoF64,
-                                               .z = NoF64,
-                                               .sigmaX = NoF64,
-                                               .sigmaY = NoF64,
-                                               .sigmaZ = NoF64};
+// Their text member begins empty, inside the record. Not constexpr, because Clang 14 takes no
+// std::string in a constant expression.
+inline const NavPosRecord UnknownNavPos = {.gpsTime = NoGpsTime,
+                                           .timeText = {},
+                                           .solutionStatus = NoI32,
+                                           .positionType = NoI32,
+                                           .datum = NoI32,
+                                           .stationNumber = NoI32,
+                                           .text = {},
+                                           .status = NoU8,
+                                           .count = NoU8,
+                                           .x = NoF64,
+                                           .y = NoF64,
+                                           .z = NoF64,
+                                           .sigmaX = NoF64,
+                                           .sigmaY = NoF64,
+                                           .sigmaZ = NoF64};
 
-inline constexpr NavVelRecord UnknownNavVel = {.gpsTime = NoGpsTime,
-                                               .timeText = {},
-                                               .solutionStatus = NoI32,
-                                               .positionType = NoI32,
-                                               .datum = NoI32,
-                                               .stationNumber = NoI32,
-                                               .text = {},
-                                               .status = NoU8,
-                                               .count = NoU8,
-                                               .velocity = {NoF64, NoF64, NoF64},
-                                               .speedAccuracy = NoF64};
+inline const NavVelRecord UnknownNavVel = {.gpsTime = NoGpsTime,
+                                           .timeText = {},
+                                           .solutionStatus = NoI32,
+                                           .positionType = NoI32,
+                                           .datum = NoI32,
+                                           .stationNumber = NoI32,
+                                           .text = {},
+                                           .status = NoU8,
+                                           .count = NoU8,
+                                           .velocity = {NoF64, NoF64, NoF64},
+                                           .speedAccuracy = NoF64};
 
 }  // namespace navframe::nmea
