@@ -36,7 +36,8 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   constexpr std::uint32_t Reach = LongestStarOffset + TrailerLength;
   const std::uint32_t available = ring.Available();
   const std::uint8_t* const text = ring.View(std::min(available, Reach));
-  const bool hasTalker = IsLetter(text[1]) && IsLetter(text[2]);
+  // Behind the last byte that is there lies nothing to judge by.
+  const bool hasTalker = available > 2 && IsLetter(text[1]) && IsLetter(text[2]);
   if (available >= Reach && !hasTalker) return SkipOneByte(stream);
   SentenceSweep sweep;
   Sweep(text, std::min(available, LongestStarOffset + 1), sweep);
