@@ -6,6 +6,8 @@
 #include "asciilog/crc32.h"
 #include "asciilog/log_header.h"
 #include "asciilog/log_names.h"
+#include "base/characters.h"
+#include "base/read_le.h"
 
 namespace navframe::asciilog {
 namespace {
@@ -22,8 +24,6 @@ constexpr std::uint32_t LeastStarOffset = 2;
 // So that the line and a NUL behind it fill the line buffer.
 constexpr std::uint32_t LargestStarOffset = LineBufferSize - 1 - TrailerLength;
 constexpr std::size_t ShortestLine = 11;
-
-constexpr bool IsLetter(char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
 
 // A line whose log may be looked up and decoded.
 bool IsLogLine(std::string_view text) {
