@@ -201,9 +201,9 @@ TEST(LogDecoders, FieldsWithoutAValueOfTheirTypeFail) {
   const auto speed = [](const std::string& field) {
     return Decodes(LogIdBestVelocity, "SOL_COMPUTED,SINGLE,0,0,1," + field + ",1,1");
   };
-  for (const std::string& field :
-       {std::string(), std::string("1x"), std::string("1e999"), std::string("--1"),
-        std::string("\"1\""), std::string(10000, '7'), std::string(10000, '"')}) {
+  for (const std::string& field : {std::string(), std::string("1x"), std::string("1e999"),
+                                   std::string("--1"), std::string("+-1"), std::string("\"1\""),
+                                   std::string(10000, '7'), std::string(10000, '"')}) {
     EXPECT_FALSE(speed(field)) << field.substr(0, 20);
   }
   for (const char* field : {" +1", "-1", "nan", "1e5"}) EXPECT_TRUE(speed(field)) << field;
