@@ -40,7 +40,7 @@ inline constexpr Field Position[] = {
     StationId,
     F32, F32,          // differential age, solution age
     U8, U8, U8, U8,    // satellites
-    U8, X8, X8, X8,    // reserved, extended status, signals
+    X8, X8, X8, X8,    // reserved, extended status, signals
 };
 
 // SOL_COMPUTED,PSRDIFF,0.250,4.000,0.2077,332.44,-0.0149,0.0

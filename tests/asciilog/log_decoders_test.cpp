@@ -106,7 +106,7 @@ std::string BodyOf(std::string_view fields, std::vector<double>& values) {
 
 TEST(LogDecoders, EveryFieldReachesItsMember) {
   const std::string status = "PENDING=18,L1_INT=48,";
-  const std::string satellites = "14,15,16,17,12,1f=31,0A=10,7F=127";
+  const std::string satellites = "14,15,16,17,0c=12,1f=31,0A=10,7F=127";
   const std::string position =
       "INVALID_FIX=19,SBAS=18,51.11635910984,4,5,6.25,WGS84=61,8,9,10,"
       "\"A1\"=12609,12,13," +
