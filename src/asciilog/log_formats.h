@@ -136,7 +136,7 @@ inline constexpr Field GlonassEphemeris[] = {
     F64, F64, F64,     // acceleration
     F64, F64, F64,     // tau, deltaTau, gamma
     U32, U32, U32,     // frame time, P, accuracy
-    U32, X32,          // age, flags
+    U32, U32,          // age, flags
 };
 
 // 19,TRUE,TRUE,0,0,0,0,0,0,107,0,119,417000,5440.609,...
