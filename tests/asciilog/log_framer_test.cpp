@@ -153,7 +153,7 @@ TEST(LogFramer, BinaryFrameThatIsNotWholeFailsItsCrc) {
       frame = state == AsciiLogBinary ? BinaryLog(id, Bytes(40, 7)) : FixedBinaryLog(id, Bytes(40));
     }
     for (std::size_t cut = 10; cut < frame.size(); ++cut) {
-      const bool early = false;
+      const bool early = cut + 1 == frame.size();
       const Bytes piece(frame.begin(), frame.begin() + static_cast<std::ptrdiff_t>(cut));
       EXPECT_EQ(Feed(state, piece),
                 Outcome(early ? 1 : 0, early ? cut : 0, early ? 0 : cut, 0, Scanning));
