@@ -52,11 +52,18 @@ Numbers Members(const std::uint8_t* at, std::string_view layout) {
 }
 
 // The body of "text=value" fields, or "text" where that is the value; "=value" is a further member
-// of the field before it.
+// of the field before it, and "1..3" are three.
 std::string BodyOf(std::string_view fields, Numbers& values) {
   std::string body;
   std::istringstream list{std::string(fields)};
   for (std::string field; std::getline(list, field, ',');) {
+    if (const std::size_t dots = field.find(".."); dots != std::string::npos) {
+      for (int n = std::stoi(field); n <= std::stoi(field.substr(dots + 2)); ++n) {
+        values.push_back(n);
+        body += (body.empty() ? "" : ",") + std::to_string(n);
+      }
+      continue;
+    }
     const std::size_t equals = field.find('=');
     values.push_back(std::stod(field.substr(equals + 1)));
     if (equals != 0) body += (body.empty() ? "" : ",") + field.substr(0, equals);
@@ -84,54 +91,39 @@ TEST(LogHeader, BothFormsFillTheImage) {
 }
 
 TEST(LogDecoders, EveryFieldReachesItsMember) {
-  const std::string status = "PENDING=18,L1_INT=48,";
-  const std::string satellites = "14,15,16,17,0c=12,1f=31,0A=10,7F=127";
-  const std::string position =
-      "INVALID_FIX=19,SBAS=18,51.11635910984,4,5,6.25,WGS84=61,8,9,10,"
-      "\"A1\"=12609,12,13," +
-      satellites;
+  const std::string status = "PENDING=18,L1_INT=48,3..8,";
+  const std::string satellites = ",14..17,0c=12,1f=31,0A=10,7F=127";
   const struct {
     std::vector<std::uint32_t> ids;
     std::string layout, fields;
   } logs[] = {
-      {{42, 47, 96, 6006, 57026, 2118}, "iidddfifffiffbbbbbbbb", position},
-      {{99, 100}, "iiffdddf", status + "3,4,5,6,7,8"},
-      {{174, 2059}, "ffffffiiiii", "1.5,2,3,4,5,6,3,10,22,140,=0"},
-      {{101}, "idddibbbbii", "ITERATING=4,2,3,4,2026,6,7,8,9,10,VALID=1"},
+      {{42, 47, 96, 6006, 57026, 2118},
+       "iidddfifffiffbbbbbbbb",
+       "VARIANCE=8,PPP=69,51.11635910984,4..6,WGS84=61,8..10,\"A1\"=12609,12,13" + satellites},
+      {{99, 100}, "iiffdddf", status},
+      {{174, 2059}, "ffffffiiiii", "1.5,2..6,3,10,22,140,=0"},
+      {{101}, "idddibbbbii", "ITERATING=4,2..4,2026,6..10,VALID=1"},
       {{241},
        "iidddfffiidddfffifffbbbbbbbb",
-       status + "3,4,5,6,7,8," + status +
-           "11,12,13,14,15,16,\"AAAAB\"=1094795585,18,19,20,21,22,"
-           "23,24,25,01=1,0,33=51"},
-      {{971, 1335}, "iiffffffibbbbbbbb", status + "3,4,5,6,7,8,\"9\"=57," + satellites},
-      {{507}, "iddddddddddi", "1264,144088.5,3,4,5,6,7,8,9,10,11,INS_SOLUTION_GOOD=4"},
+       status + "PPP=0,SBAS=18,11..16,\"AAAAB\"=1094795585,18..25,01=1,0,33=51"},
+      {{971, 1335}, "iiffffffibbbbbbbb", status + "\"9\"=57" + satellites},
+      {{507}, "iddddddddddi", "1264,144088.5,3..11,INS_SOLUTION_GOOD=4"},
       {{43, 6005},
        "ihhdfdffffihhdfdffffi",
-       "2,1,7,23145913.339,4,-121633909.567438,6,7,8,9,0810dc04=135322628,12,13,14,15,16,17,18,19,"
-       "20,ff=255"},
-      {{7},
-       "idiiiiiddddddddddddddddidddddidd",
-       "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,26,27,28,29,TRUE=1,31,"
-       "32"},
-      {{723},
-       "hhbbhiihbbiiddddddddddddiiiii",
-       "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,26,27,28,29"},
-      {{1122},
-       "iiibbbbbbbbiidddddddddddddddidddiddddd",
-       "1,TRUE=1,FALSE=0,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,26,27,28,29,"
-       "30,31,32,33,34,35,36,37,38"},
-      {{48}, "iiihhiddddhhidddd", "TRUE=1,no=0,2,4,-5,6,7,8,9,10,11,12,13,14,15,16,17"},
-      {{1043},
-       "iiiihhiddddhhidddd",
-       "GLONASS=1,TRUE=1,TRUE=1,2,13-2=13,=-2,7,8,9,10,11,8+6=8,=6,14,15,16,17,18"},
+       "2,1,7,23145913.339,4,-121633909.567438,6..9,0810dc04=135322628,12..20,ff=255"},
+      {{7}, "idiiiiiddddddddddddddddidddddidd", "1..29,TRUE=1,31..32"},
+      {{723}, "hhbbhiihbbiiddddddddddddiiiii", "1..29"},
+      {{1122}, "iiibbbbbbbbiidddddddddddddddidddiddddd", "1,TRUE=1,FALSE=0,4..38"},
+      {{48}, "iiihhiddddhhidddd", "TRUE=1,no=0,2,4,-5,6..17"},
+      {{1043}, "iiiihhiddddhhidddd", "GLONASS=1,TRUE=1,TRUE=1,2,13-2=13,=-2,7..11,8+6=8,=6,14..18"},
       {{1194},
        "iihhiiihhii",
        "2,GPS=0,14,=0,GOOD=0,3,BEIDOU=6,19-3=19,=-3,NOSIGNALMATCH=25,8f=143"},
-      {{11276}, "ibbbbbbb", "GNSS=1397968455,1,2,3,4,5,6,7"},
+      {{11276}, "ibbbbbbb", "GNSS=1397968455,1..7"},
       {{60015}, "i", "38"},
-      {{60018, 60019}, "dddddddd", "1,2,3,4,5,6,7,8"},
+      {{60018, 60019}, "dddddddd", "1..8"},
       {{60020}, "ddd", "1.5,2.5,3.5"},
-      {{60021, 60022, 60023}, "iiddiiii", "1,2,3,4,5,6,-7,8"},
+      {{60021, 60022, 60023}, "iiddiiii", "1..6,-7,8"},
   };
   for (const auto& log : logs) {
     for (const std::uint32_t id : log.ids) {
