@@ -4,14 +4,10 @@
 #include <charconv>
 #include <limits>
 
+#include "base/characters.h"
+
 namespace navframe::asciilog {
 namespace {
-
-constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
-constexpr bool IsHexDigit(char c) { return IsDigit(c) || (Lower(c) >= 'a' && Lower(c) <= 'f'); }
-constexpr bool IsSign(char c) { return c == '+' || c == '-'; }
 
 bool HasHexPrefix(std::string_view text) {
   return text.size() >= 2 && text[0] == '0' && Lower(text[1]) == 'x';
@@ -98,8 +94,16 @@ bool ConvertReal(std::string_view number, bool hex, T& value) {
 
 }  // namespace
 
-void FormatScan::SkipSpace() {
+bool FormatScan::TakeSign() {
   while (!rest_.empty() && IsSpace(rest_.front())) rest_.remove_prefix(1);
+  const bool negative = rest_.starts_with('-');
+  if (!rest_.empty() && IsSign(rest_.front())) rest_.remove_prefix(1);
+  return negative;
+}
+
+void FormatScan::TakeNumber(std::size_t length) {
+  rest_.remove_prefix(length);
+  ++converted_;
 }
 
 std::string_view FormatScan::TakeText() {
@@ -122,41 +126,34 @@ void FormatScan::Comma() {
   if (going_) rest_.remove_prefix(1);
 }
 
-std::uint64_t FormatScan::TakeInteger(std::uint64_t positiveLimit, std::uint64_t negativeLimit) {
+// Clamps as the 64-bit conversions beneath the formatted scan do.
+std::uint64_t FormatScan::TakeInteger(std::uint64_t lowest, std::uint64_t highest) {
   if (!going_) return 0;
-  SkipSpace();
-  const bool negative = rest_.starts_with('-');
-  if (!rest_.empty() && IsSign(rest_.front())) rest_.remove_prefix(1);
+  const bool negative = TakeSign();
   std::uint64_t magnitude = 0;
-  const auto [end, error] =
-      std::from_chars(rest_.data(), rest_.data() + rest_.size(), magnitude, 10);
+  const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), magnitude);
   going_ = error != std::errc::invalid_argument;
   if (!going_) return 0;
-  rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
-  ++converted_;
-  const std::uint64_t limit = negative ? negativeLimit : positiveLimit;
-  if (error == std::errc::result_out_of_range || magnitude > limit) {
-    return negative && negativeLimit != positiveLimit ? ~limit + 1 : limit;
-  }
-  return negative ? ~magnitude + 1 : magnitude;
+  TakeNumber(static_cast<std::size_t>(end - rest_.data()));
+  const bool clamped = error == std::errc::result_out_of_range || magnitude > highest;
+  if (clamped) return negative ? lowest : highest;
+  return negative ? 0 - magnitude : magnitude;
 }
 
 std::int32_t FormatScan::Int() {
-  constexpr std::uint64_t Largest = std::numeric_limits<std::int64_t>::max();
-  return static_cast<std::int32_t>(TakeInteger(Largest, Largest + 1));
+  constexpr std::uint64_t Highest = std::numeric_limits<std::int64_t>::max();
+  return static_cast<std::int32_t>(TakeInteger(Highest + 1, Highest));
 }
 
 std::uint32_t FormatScan::Unsigned() {
-  constexpr std::uint64_t Largest = std::numeric_limits<std::uint64_t>::max();
-  return static_cast<std::uint32_t>(TakeInteger(Largest, Largest));
+  constexpr std::uint64_t Highest = std::numeric_limits<std::uint64_t>::max();
+  return static_cast<std::uint32_t>(TakeInteger(Highest, Highest));
 }
 
 template <class T>
 T FormatScan::TakeReal() {
   if (!going_) return 0;
-  SkipSpace();
-  const bool negative = rest_.starts_with('-');
-  if (!rest_.empty() && IsSign(rest_.front())) rest_.remove_prefix(1);
+  const bool negative = TakeSign();
   T value = 0;
   std::size_t length = LengthOfSpecialReal(rest_);
   if (length != 0) {
@@ -168,29 +165,23 @@ T FormatScan::TakeReal() {
     going_ = length > (hex ? 2U : 0U) && ConvertReal(rest_.substr(0, length), hex, value);
   }
   if (!going_) return 0;
-  rest_.remove_prefix(length);
-  ++converted_;
+  TakeNumber(length);
   return negative ? -value : value;
 }
 
 float FormatScan::Float() { return TakeReal<float>(); }
 double FormatScan::Double() { return TakeReal<double>(); }
 
-std::uint32_t FormatScan::Hex(std::size_t width) {
+std::uint32_t FormatScan::Hex() {
   if (!going_) return 0;
-  SkipSpace();
-  std::string_view digits = rest_.substr(0, width);
-  const bool negative = digits.starts_with('-');
-  if (!digits.empty() && IsSign(digits.front())) digits.remove_prefix(1);
-  const bool prefix = HasHexPrefix(digits);
-  if (prefix) digits.remove_prefix(2);
+  const bool negative = TakeSign();
+  const bool prefix = HasHexPrefix(rest_);
+  if (prefix) rest_.remove_prefix(2);
   std::uint32_t value = 0;
-  const auto [end, error] =
-      std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+  const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), value, 16);
   going_ = prefix || error != std::errc::invalid_argument;
   if (!going_) return 0;
-  rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
-  ++converted_;
+  TakeNumber(static_cast<std::size_t>(end - rest_.data()));
   return negative ? 0 - value : value;
 }
 

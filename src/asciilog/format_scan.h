@@ -1,6 +1,7 @@
 // Reads the start of a text as the C library's formatted scan does.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -17,19 +18,20 @@ class FormatScan {
   // Conversions that yielded a value, skipped texts not counted.
   int Converted() const { return converted_; }
 
-  void SkipText();                       // "%*[^,]"
-  std::string_view Text();               // "%[^,]"
-  std::int32_t Int();                    // "%d", and "%ld" cut to 32 bits
-  std::uint32_t Unsigned();              // "%u"
-  float Float();                         // "%f"
-  double Double();                       // "%lf"
-  std::uint32_t Hex(std::size_t width);  // "%08X" for a width of 8
-  void Comma();                          // ","
+  void SkipText();           // "%*[^,]"
+  std::string_view Text();   // "%[^,]"
+  std::int32_t Int();        // "%d", and "%ld" cut to 32 bits
+  std::uint32_t Unsigned();  // "%u"
+  float Float();             // "%f"
+  double Double();           // "%lf"
+  std::uint32_t Hex();       // "%8X", of a text with at most 8 characters left
+  void Comma();              // ","
 
  private:
   std::string_view TakeText();
-  void SkipSpace();
-  std::uint64_t TakeInteger(std::uint64_t positiveLimit, std::uint64_t negativeLimit);
+  bool TakeSign();  // and the white space before it; true for "-"
+  void TakeNumber(std::size_t length);
+  std::uint64_t TakeInteger(std::uint64_t lowest, std::uint64_t highest);
   template <class T>
   T TakeReal();
 

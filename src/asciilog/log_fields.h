@@ -15,7 +15,7 @@ namespace navframe::asciilog {
 template <class T, class... Format>
 bool ConvertNumber(std::string_view text, T& value, Format... format) {
   while (text.starts_with(' ')) text.remove_prefix(1);
-  if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   const char* const last = text.data() + text.size();
   const auto [end, error] = std::from_chars(text.data(), last, value, format...);
   return error == std::errc() && end == last;

@@ -40,7 +40,7 @@ inline constexpr Field Position[] = {
     StationId,
     F32, F32,          // differential age, solution age
     U8, U8, U8, U8,    // satellites
-    U8, X8, X8, X8,    // reserved, extended status, signals
+    X8, X8, X8, X8,    // reserved, extended status, signals
 };
 
 // SOL_COMPUTED,PSRDIFF,0.250,4.000,0.2077,332.44,-0.0149,0.0
@@ -136,7 +136,7 @@ inline constexpr Field GlonassEphemeris[] = {
     F64, F64, F64,     // acceleration
     F64, F64, F64,     // tau, deltaTau, gamma
     U32, U32, U32,     // frame time, P, accuracy
-    U32, X32,          // age, flags
+    U32, U32,          // age, flags
 };
 
 // 19,TRUE,TRUE,0,0,0,0,0,0,107,0,119,417000,5440.609,...

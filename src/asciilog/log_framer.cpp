@@ -6,6 +6,8 @@
 #include "asciilog/crc32.h"
 #include "asciilog/log_header.h"
 #include "asciilog/log_names.h"
+#include "base/characters.h"
+#include "base/read_le.h"
 
 namespace navframe::asciilog {
 namespace {
@@ -22,8 +24,6 @@ constexpr std::uint32_t LeastStarOffset = 2;
 // So that the line and a NUL behind it fill the line buffer.
 constexpr std::uint32_t LargestStarOffset = LineBufferSize - 1 - TrailerLength;
 constexpr std::size_t ShortestLine = 11;
-
-constexpr bool IsLetter(char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
 
 // A line whose log may be looked up and decoded.
 bool IsLogLine(std::string_view text) {
@@ -74,39 +74,35 @@ struct BinaryShape {
   std::uint32_t copied;  // bytes that reach the line buffer
 };
 
-BinaryShape ShapeOf(const InputRing& ring, LogVariant variant) {
-  const auto word = [&ring](std::uint32_t offset) {
-    return std::uint32_t{ring[offset]} | std::uint32_t{ring[offset + 1]} << 8;
-  };
+// `header` has FewestBytes.
+BinaryShape ShapeOf(const std::uint8_t* header, LogVariant variant) {
   if (variant == LogVariant::Binary) {
     // What is copied allows for a header of 28 bytes; the CRC of a longer one lies outside.
     constexpr std::uint32_t CopiedBeyondMessage = 28 + CrcLength;
-    const std::uint32_t messageLength = word(8);
-    return {ring[HeaderLengthOffset], messageLength, messageLength + CopiedBeyondMessage};
+    const std::uint32_t messageLength = ReadLe<std::uint16_t>(header, 8);
+    return {header[HeaderLengthOffset], messageLength, messageLength + CopiedBeyondMessage};
   }
   constexpr std::uint32_t FixedHeaderLength = 24;
-  const std::uint32_t messageLength = word(6);
+  const std::uint32_t messageLength = ReadLe<std::uint16_t>(header, 6);
   return {FixedHeaderLength, messageLength, messageLength + FixedHeaderLength + CrcLength};
 }
 
+// Nothing asks whether the whole frame is there: what is missing reads as zeros, and fails the CRC
+// unless it is zeros indeed.
 FramerResult FrameBinary(Stream& stream, AsciiLogDecoder& decoder, LogVariant variant) {
   InputRing& ring = stream.ring;
-  const BinaryShape shape = ShapeOf(ring, variant);
+  const BinaryShape shape = ShapeOf(ring.View(FewestBytes), variant);
   const std::uint32_t covered = shape.headerLength + shape.messageLength;
   const std::uint32_t length = covered + CrcLength;
-  if (length > LineBufferSize || length > ring.Available()) return SkipOneByte(stream);
+  if (length > LineBufferSize) return SkipOneByte(stream);
 
   const std::uint32_t copied = std::min({shape.copied, ring.Available(), LineBufferSize});
   const auto frame = decoder.FillLineBuffer({ring.View(copied), copied});
-  std::uint32_t sent = 0;
-  for (std::uint32_t i = 0; i < CrcLength; ++i) {
-    sent |= std::uint32_t{frame[covered + i]} << (8 * i);
-  }
+  const auto sent = ReadLe<std::uint32_t>(frame.data(), covered);
   if (Crc32(frame.first(covered)) != sent) return SkipOneByte(stream);
 
-  decoder.PushLineBuffer(std::uint32_t{frame[IdentifierOffset]} |
-                         std::uint32_t{frame[IdentifierOffset + 1]} << 8);
-  AcceptFrame(stream, length);
+  decoder.PushLineBuffer(ReadLe<std::uint16_t>(frame.data(), IdentifierOffset));
+  AcceptFrame(stream, std::min(length, ring.Available()));
   return FramerResult::Done;
 }
 

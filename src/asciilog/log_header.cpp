@@ -96,8 +96,8 @@ std::optional<LogLine> LogLine::Of(std::string_view text) {
 }
 
 bool LogLine::CrcMatches() const {
-  FormatScan digits(text.substr(star + 1));
-  const std::uint32_t sent = digits.Hex(CrcDigits);
+  FormatScan digits(text.substr(star + 1, CrcDigits));
+  const std::uint32_t sent = digits.Hex();
   const std::string_view covered = text.substr(1, star - 1);
   return digits.Converted() == 1 &&
          sent == Crc32({reinterpret_cast<const std::uint8_t*>(covered.data()), covered.size()});

@@ -9,14 +9,10 @@
 #include <string>
 #include <type_traits>
 
+#include "base/characters.h"
+
 namespace navframe {
 namespace {
-
-constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsHexDigit(char c) {
-  return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
 
 [[noreturn]] void ThrowInvalid(const char* conversion) {
   throw std::invalid_argument(std::string("invalid ") + conversion + " argument");
@@ -37,12 +33,12 @@ SignedDigits SkipToDigits(std::string_view text) {
   const char* last = first + text.size();
   while (first != last && IsSpace(*first)) ++first;
   const bool negative = first != last && *first == '-';
-  if (first != last && (*first == '-' || *first == '+')) ++first;
+  if (first != last && IsSign(*first)) ++first;
   return {first, last, negative};
 }
 
 bool HasHexPrefix(const char* first, const char* last) {
-  return last - first > 2 && first[0] == '0' && (first[1] == 'x' || first[1] == 'X');
+  return last - first > 2 && first[0] == '0' && Lower(first[1]) == 'x';
 }
 
 enum class Conversion { Done, Invalid, OutOfRange };

@@ -8,8 +8,8 @@
 
 namespace navframe {
 
-// Copies `text` up to its first NUL into a fixed-width member: bounded, always terminated, and
-// with every byte of the member defined.
+// Copies `text` into a fixed-width member: cut to fit, always terminated, and with every byte of
+// the member defined.
 inline void CopyText(char* member, std::size_t width, std::string_view text) {
   const std::size_t length = std::min(text.size(), width - 1);
   std::memset(member, 0, width);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <sstream>
 
 #include "asciilog/words.h"
 
@@ -23,66 +24,40 @@ TEST(LogNames, EveryRowIsReachedButTheFiveRepeatedOnes) {
 }
 
 TEST(LogNames, IrregularRowsKeepTheirOutcome) {
-  const struct {
-    std::string_view line;
-    std::uint32_t identifier;
-  } cases[] = {
-      {"$GAGGA,1", 22222},    {"$GAGSA,1", 22222},
-      {"$GAGSV,1", 22222},    {"#GALUTC?,1", 60023},
-      {"#GALUTX,1", 0},       {"#PVTSOL?", 1023},
-      {"#BASERANGE2", 286},   {"#BASERANGEA", 283},
-      {"#BASERANGE", 0},      {"#OBSVHCMPA,1", 139},
-      {"#OBSVHA,1", 11},      {"#OBSVMCMPA,1", 138},
-      {"#OBSVMA,1", 10},      {"#BESTPOSA,1", 42},
-      {"#BESTPOS2A,1", 2062}, {"#GPSEPHEMERISA,", 60014},
-      {"#GPSEPHEMA,", 7},     {"#GPSEPHEM,", 60014},
-      {"#RANGEA,1", 43},      {"#RANGEA_1,1", 6005},
-      {"#RANGEA", 0},         {"#GALEPHEMERISA,", 1122},
-      {"#GALEPHEMX", 60016},  {"#BESTPOSB,1", 0},
-      {"bestposa,1", 0},      {"", 0},
-  };
-  for (const auto& [line, identifier] : cases) EXPECT_EQ(IdentifierOf(line), identifier) << line;
+  std::istringstream cases(
+      "$GAGGA,1 22222 $GAGSA,1 22222 $GAGSV,1 22222 #GALUTC?,1 60023 #GALUTX,1 0 "
+      "#PVTSOL? 1023 #PVTSOX 0 #BASERANGE2 286 #BASERANGEA 283 #BASERANGE 0 #OBSVHCMPA,1 139 "
+      "#OBSVHA,1 11 #OBSVMCMPA,1 138 #OBSVMA,1 10 #BESTPOSA,1 42 #BESTPOS2A,1 2062 "
+      "#GPSEPHEMERISA, 60014 #GPSEPHEMA, 7 #GPSEPHEM, 60014 #RANGEA,1 43 #RANGEA_1,1 6005 "
+      "#RANGEA 0 #GALEPHEMERISA, 1122 #GALEPHEMX 60016 #BESTPOSB,1 0 bestposa,1 0");
+  std::uint32_t identifier = 0;
+  for (std::string line; cases >> line >> identifier;) EXPECT_EQ(IdentifierOf(line), identifier);
 }
 
 TEST(LogWords, ValuesFollowTheirTables) {
-  EXPECT_EQ(TimeStatus("FINESTEERING"), 180);
-  EXPECT_EQ(TimeStatus("FINE"), 160);
-  EXPECT_EQ(TimeStatus("FINESTEER"), 0);
-  EXPECT_EQ(TimeStatus("LOCAL"), 201);
-  EXPECT_EQ(SolutionStatus("ANTENNA_WARNING"), 21);
-  EXPECT_EQ(SolutionStatus("INTEGRITY_WARNING"), 13);
-  EXPECT_EQ(PositionType("NARROW_INT"), 50);
-  EXPECT_EQ(PositionType("RTK_DIRECT_INS"), 51);
-  EXPECT_EQ(PositionType("PPP_BASIC"), 78);
-  EXPECT_EQ(PositionType("single"), 0);
-  EXPECT_EQ(Datum("WGS84"), 61);
-  EXPECT_EQ(Datum("USER"), 63);
-  EXPECT_EQ(Datum("TOYM"), 86);
-  EXPECT_EQ(Datum("wgs84"), 0);
-  EXPECT_EQ(Port("COM1"), 1);
-  EXPECT_EQ(Port("ICOM14"), 25);
-  EXPECT_EQ(Port("COM9"), 0);
-  EXPECT_EQ(InertialStatus("WAITING_INITIALPOS"), 8);
-  EXPECT_EQ(TimeValidity("VALID"), 1);
-  EXPECT_EQ(TimeValidity("WARNING"), 6);
-  EXPECT_EQ(ComponentType("DB_USERAPPAUTO"), 8);
-  EXPECT_EQ(Boolean("TRUE"), 1);
-  EXPECT_EQ(Boolean("true"), 0);
-}
-
-TEST(LogWords, RepeatedAndContainedWordsGiveTheFirst) {
-  EXPECT_EQ(ExtendedPositionType("WIDE_INT"), 9);
-  EXPECT_EQ(ExtendedPositionType("L1_INT"), 12);
-  EXPECT_EQ(ExtendedPositionType("REFERENCE"), 20);
-  EXPECT_EQ(ExtendedPositionType("NARROW_INT_L234"), 0);
-  EXPECT_EQ(SatelliteStatus("NOSIGNALMATCH"), 25);
-  EXPECT_EQ(SatelliteStatus("xNAx"), 99);
-  EXPECT_EQ(SatelliteStatus("UNAVAILABLE_LOSSSOFLOCK"), 99);
-  EXPECT_EQ(SatelliteStatus("LOSSSOFLOCK"), 101);
-  EXPECT_EQ(SatelliteStatus("LOSSOFLOCK"), 0);
-  EXPECT_EQ(SatelliteStatus("IS_GOOD_NOW"), 0);
-  EXPECT_EQ(SatelliteStatus("OBSE5"), 21);
-  EXPECT_EQ(SatelliteStatus(""), 0);
+  const struct {
+    std::int32_t (*valueOf)(std::string_view);
+    const char* words;
+  } tables[] = {
+      {TimeStatus, "UNKNOWN 20 FINESTEERING 180 FINE 160 FINESTEER 0 LOCAL 201"},
+      {SolutionStatus, "INSUFFICIENT_OBS 1 INTEGRITY_WARNING 13 ANTENNA_WARNING 21"},
+      {PositionType, "NARROW_INT 50 RTK_DIRECT_INS 51 INS 52 PPP_BASIC 78 single 0"},
+      {Datum, "ERROR 0 WGS84 61 USER 63 TOYM 86 wgs84 0"},
+      {Port, "COM1 1 ICOM14 25 COM9 0"},
+      {InertialStatus, "INS_INACTIVE 1 WAITING_INITIALPOS 8"},
+      {TimeValidity, "VALID 1 WARNING 6"},
+      {ComponentType, "UNKNOWN 1 DB_USERAPPAUTO 8"},
+      {Boolean, "TRUE 1 true 0"},
+      // The first of equal words, and of words within a field.
+      {ExtendedPositionType, "WIDE_INT 9 L1_INT 12 REFERENCE 20 NARROW_INT_L234 0"},
+      {SatelliteStatus, "NOSIGNALMATCH 25 xNAx 99 UNAVAILABLE_LOSSSOFLOCK 99 LOSSSOFLOCK 101"},
+      {SatelliteStatus, "LOSSOFLOCK 0 OBSE5 21 NO_GOOD_NA 0"},
+  };
+  for (const auto& [valueOf, words] : tables) {
+    std::istringstream cases(words);
+    std::int32_t value = 0;
+    for (std::string word; cases >> word >> value;) EXPECT_EQ(valueOf(word), value) << word;
+  }
 }
 
 }  // namespace
