@@ -29,7 +29,9 @@ constexpr FramerRow FramerRows[] = {
     {ParserState::NmeaSentence,
      [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
     {ParserState::NmeaTagBlock,
-     [](Decoder& decoder) { return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockSearch); }},
+     [](Decoder& decoder) {
+       return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockStarSearch);
+     }},
     {ParserState::AsciiLogLine, FrameLog<LogVariant::TextLine>},
     {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
     {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},

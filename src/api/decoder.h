@@ -5,6 +5,7 @@
 
 #include "asciilog/ascii_log_decoder.h"
 #include "frame55aa/frame_decoder.h"
+#include "framing/forward_search.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
 #include "navframe/time_manager.h"
@@ -30,7 +31,7 @@ class Decoder {
   RecordSink sink;
   Stream stream;
   nmea::NmeaDecoder nmea{sink, time};
-  nmea::TagBlockSearch tagBlockSearch;
+  ForwardSearch tagBlockStarSearch{'*'};
   asciilog::AsciiLogDecoder asciiLog{sink};
   ubx::UbxDecoder ubx{sink, time};
   frame55aa::FrameDecoder binary55Aa{sink};

@@ -4,13 +4,13 @@
 
 namespace navframe {
 
-std::uint32_t ForwardSearch::Find(const InputRing& ring) {
+std::uint32_t ForwardSearch::Find(const InputRing& ring, std::uint32_t start) {
   const std::uint32_t head = ring.ReadIndex();
   const std::uint32_t available = ring.Available();
-  const bool known = generation_ == ring.Generation() && head - from_ <= until_ - from_;
+  const bool known = generation_ == ring.Generation() && head + start - from_ <= until_ - from_;
   if (!known) {
-    from_ = head;
-    until_ = head;
+    from_ = head + start;
+    until_ = head + start;
     generation_ = ring.Generation();
   }
   std::uint32_t offset = until_ - head;

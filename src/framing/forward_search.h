@@ -13,8 +13,9 @@ class ForwardSearch {
  public:
   explicit ForwardSearch(std::uint8_t byte) : byte_(byte) {}
 
-  // The offset of the first such byte from the head on, or the number of bytes available.
-  std::uint32_t Find(const InputRing& ring);
+  // The offset from the head of the first such byte from offset `start` on (at most the number of
+  // bytes available), or the number of bytes available.
+  std::uint32_t Find(const InputRing& ring, std::uint32_t start = 0);
 
  private:
   std::uint8_t byte_;

@@ -27,28 +27,6 @@ bool LooksLikeTagBlock(const InputRing& ring) {
          (available < TagBlockLength || ring[TagBlockLength - 1] == '\\');
 }
 
-// The offset of the first "*" behind the tag block at the head, or the number of bytes available.
-std::uint32_t FindStar(const InputRing& ring, TagBlockSearch& search) {
-  const std::uint32_t head = ring.ReadIndex();
-  const std::uint32_t available = ring.Available();
-  std::uint32_t offset = TagBlockLength;
-  const bool known = search.generation == ring.Generation() &&
-                     head + offset - search.from <= search.until - search.from;
-  if (known) offset = search.until - head;
-  const std::uint32_t searchedFrom = known ? search.from : head + offset;
-  while (offset < available) {
-    const auto piece = ring.Piece(offset);
-    const void* const star = std::memchr(piece.data(), '*', piece.size());
-    if (star != nullptr) {
-      offset += static_cast<std::uint32_t>(static_cast<const std::uint8_t*>(star) - piece.data());
-      break;
-    }
-    offset += static_cast<std::uint32_t>(piece.size());
-  }
-  search = {searchedFrom, head + offset, ring.Generation()};
-  return offset;
-}
-
 }  // namespace
 
 FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
@@ -90,12 +68,12 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   return FramerResult::Done;
 }
 
-FramerResult FrameTagBlock(Stream& stream, TagBlockSearch& search) {
+FramerResult FrameTagBlock(Stream& stream, ForwardSearch& starSearch) {
   const InputRing& ring = stream.ring;
   const std::uint32_t available = ring.Available();
   if (!LooksLikeTagBlock(ring)) return SkipOneByte(stream);
   if (available <= TagBlockLength) return FramerResult::NeedMore;
-  const std::uint32_t star = FindStar(ring, search);
+  const std::uint32_t star = starSearch.Find(ring, TagBlockLength);
   if (star >= available) return FramerResult::NeedMore;  // however long that takes
   if (star > LongestTaggedStarOffset) return SkipOneByte(stream);
   if (star + TagBlockLength + TrailerLength > available) return FramerResult::NeedMore;

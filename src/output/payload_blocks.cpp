@@ -58,7 +58,7 @@ void PayloadBlocks::Abandon(void* block, std::uint32_t size) {
 void PayloadBlocks::Free(void* block) {
   if (IsFixed(block)) return;
   const std::size_t usable = UsableSize(block);
-  if (usable >= SmallestFreedKept && usable <= LargestKept && keptBytes_ < MostFreedBytes) {
+  if (usable >= SmallestFreedKept && usable <= LargestKept && keptBytes_ < MostKeptBytes) {
     Keep(block, usable / Unit);
   } else {
     std::free(block);

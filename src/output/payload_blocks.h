@@ -48,7 +48,7 @@ class PayloadBlocks {
   static constexpr std::size_t LargestKept = 32768;
   // Smaller freed blocks go back to the allocator, which serves them quickly.
   static constexpr std::size_t SmallestFreedKept = 1024;
-  static constexpr std::size_t MostFreedBytes = 1 << 20;
+  static constexpr std::size_t MostKeptBytes = 16 << 20;
 
   static constexpr std::size_t Units(std::size_t size) { return (size + Unit - 1) / Unit; }
 

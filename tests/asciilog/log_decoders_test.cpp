@@ -186,10 +186,10 @@ TEST(LogDecoders, Range) {
 
 TEST(LogDecoders, Ephemerides) {
   const auto gps = DecodedLog<GpsEphemerisLogRecord>(
-      LongLog("GPSEPHEMA", Numbered(1, 29) + ",TRUE," + Numbered(31, 32)), 7);
-  EXPECT_EQ(Values(gps.satellite, gps.zWeek, gps.toe, gps.omega, gps.cuc, gps.i0, gps.iodc, gps.tgd,
-                   gps.af2, gps.antiSpoofing, gps.ura),
-            Values(1, 7, 8, 13, 14, 20, 24, 26, 29, 1, 32));
+      LongLog("GPSEPHEMA", Numbered(11, 39) + ",TRUE," + Numbered(41, 42)), 7);
+  EXPECT_EQ(Values(gps.satellite, gps.health, gps.zWeek, gps.toe, gps.omega, gps.cuc, gps.i0,
+                   gps.iodc, gps.tgd, gps.af2, gps.antiSpoofing, gps.ura),
+            Values(11, 13, 17, 18, 23, 24, 30, 34, 36, 39, 1, 42));
 
   const auto glonass =
       DecodedLog<GlonassEphemerisLogRecord>(LongLog("GLOEPHEMERISA", Numbered(1, 28) + ",1c"), 723);

@@ -162,6 +162,9 @@ TEST(LogFramer, BinaryFrameThatIsNotWholeCostsOneByte) {
     damaged[20] ^= 1;
     EXPECT_EQ(Feed(state, damaged).records, 0U);
   }
+  // Zeros have a CRC of 0: what has not arrived must not stand for it.
+  EXPECT_EQ(Feed(AsciiLogBinaryFixed, Bytes(28)).records, 1U);
+  EXPECT_EQ(Feed(AsciiLogBinaryFixed, Bytes(27)).records, 0U);
   // A header longer than what is copied has its CRC outside.
   EXPECT_EQ(Feed(AsciiLogBinary, BinaryLog(1234, message, 40)).records, 0U);
 }
