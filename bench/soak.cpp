@@ -23,6 +23,7 @@ namespace navframe::bench {
 namespace {
 
 constexpr int EpochsPerSegment = 20;
+constexpr int EpochsPerStall = 160;  // fills the queue twice over
 // Behind each segment, so that whatever waits for more bytes is decided. Longer than any frame.
 constexpr std::size_t PaddingLength = 8192;
 constexpr std::uint32_t LargestChunk = 6000;
@@ -143,14 +144,15 @@ class Soak {
 
   // Nanoseconds per byte that the library and the popping host took.
   double Run(int segment) {
-    DamagedTraffic traffic = MakeDamagedTraffic(drive_, EpochsPerSegment, noise_);
+    const bool stalled = segment % StallEvery == 1;
+    DamagedTraffic traffic =
+        MakeDamagedTraffic(drive_, stalled ? EpochsPerStall : EpochsPerSegment, noise_);
     CountChances(traffic, totals_);
     traffic.bytes.insert(traffic.bytes.end(), PaddingLength, 0);
     const std::uint32_t filter =
         segment % FilterEvery == 0 ? Filters[noise_.Below(std::size(Filters))] : 0;
     auto expected = reference_.Records(traffic.bytes, filter);
     GNSSSetOutMsgID(filter);
-    const bool stalled = segment % StallEvery == 1;
     popped_.clear();
 
     const double start = CpuSeconds();
