@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "rtcm/crc24q.h"
+#include "rtcm/overlapping_crc.h"
 #include "support/rtcm.h"
 #include "support/streams.h"
 
@@ -17,6 +18,23 @@ TEST(Crc24q, AgreesWithTheBitwiseOneAtEveryLength) {
   for (auto& byte : bytes) byte = static_cast<std::uint8_t>(random());
   for (std::size_t length = 0; length <= bytes.size(); ++length) {
     ASSERT_EQ(rtcm::Crc24q(bytes.data(), length), BitwiseCrc24q(bytes.data(), length)) << length;
+  }
+}
+
+TEST(OverlappingCrc, AgreesWithTheBitwiseOneOnWhateverOverlaps) {
+  std::mt19937 random(2);
+  InputRing ring;
+  rtcm::OverlappingCrc crc;
+  for (int i = 0; i < 3000; ++i) {
+    Bytes bytes(2 * rtcm::LongestProtected);
+    for (auto& byte : bytes) byte = static_cast<std::uint8_t>(random());
+    while (ring.Available() < rtcm::LongestProtected) {
+      ring.Append(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+    }
+    const auto length = static_cast<std::uint32_t>(random() % (rtcm::LongestProtected + 1));
+    const std::uint8_t* const view = ring.View(length);
+    ASSERT_EQ(crc.Of(ring, view, length), BitwiseCrc24q(view, length)) << i;
+    ring.Advance(1 + (i % 50 == 0 ? 4000 : random() % 40));  // at times the ring is emptied
   }
 }
 
