@@ -27,3 +27,11 @@ if(NAVFRAME_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+if(NAVFRAME_FUZZ)
+  set(sanitizers -fsanitize=address,undefined,float-cast-overflow,implicit-conversion)
+  add_compile_options(
+    -fsanitize=fuzzer-no-link ${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer
+    "-fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/ignorelist.txt")
+  add_link_options(${sanitizers})
+endif()

@@ -39,8 +39,9 @@ class NAVFRAME_API TimeManager {
   void setLeap(int s);
 
   // Converts a UTC date and time. Counts a leap second on the first conversion after a second 60.
-  // Exact from 1992 on; 1989 to 1991 come out one day late. In leap years 29 February converts as
-  // 1 March, because the day table is entered with the month alone.
+  // Exact from 1992 to February 2100; 1989 to 1991 come out one day late, and every fourth year
+  // is a leap year, 2100 too. In leap years 29 February converts as 1 March, because the day table
+  // is entered with the month alone.
   void UTC2GPSTime(UTCTIME& utc, GPSTIME& out);
   // Converts a date to its week only, with a day constant that is one less than UTC2GPSTime's: a
   // Sunday yields the week before. The day rules of UTC2GPSTime hold otherwise.

@@ -2,21 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdarg>
-#include <cstdio>
 #include <vector>
+
+#include "generator/text.h"
 
 namespace navframe::sample {
 namespace {
-
-__attribute__((format(printf, 1, 2))) std::string Format(const char* format, ...) {
-  char text[256];
-  va_list arguments;
-  va_start(arguments, format);
-  std::vsnprintf(text, sizeof text, format, arguments);
-  va_end(arguments);
-  return text;
-}
 
 struct Talker {
   System system;
@@ -30,10 +21,6 @@ constexpr Talker Talkers[] = {
     {Galileo, "GA", {7, 2}, 99},
     {BeiDou, "GB", {1, 5}, 99},
 };
-
-std::string Time(const Epoch& epoch) {
-  return Format("%02d%02d%02d.00", epoch.hour, epoch.minute, epoch.second);
-}
 
 std::string Position(const Epoch& epoch) {
   const double latitude = std::abs(epoch.latitude);
@@ -97,7 +84,7 @@ std::string Sentence(std::string_view body) {
 
 std::string NmeaEpoch(const Epoch& epoch) {
   constexpr double KnotsPerMetrePerSecond = 3600.0 / 1852;
-  const std::string time = Time(epoch);
+  const std::string time = TimeField(epoch);
   const std::string position = Position(epoch);
   const double knots = epoch.speed * KnotsPerMetrePerSecond;
   const auto used =

@@ -123,16 +123,17 @@ Bytes RtcmObservations(const Epoch& epoch, System system, Msm msm, bool last) {
   const SystemMessages& messages = *std::find_if(std::begin(Messages), std::end(Messages),
                                                  [&](auto& row) { return row.system == system; });
   const auto seen = Seen(epoch, system);
-  const bool full = msm == Msm::Msm7;
+  const bool fine = msm == Msm::Msm6 || msm == Msm::Msm7;
+  const bool rates = msm == Msm::Msm5 || msm == Msm::Msm7;
   BitWriter bits;
   PutHeader(epoch, messages, msm, last, seen, bits);
 
   std::vector<RangePieces> pieces;
   for (const Satellite& satellite : seen) pieces.emplace_back(satellite);
   for (const RangePieces& piece : pieces) bits.Put(piece.whole, 8);
-  if (full) bits.Put(0, static_cast<int>(4 * seen.size()));
+  if (rates) bits.Put(0, static_cast<int>(4 * seen.size()));
   for (const RangePieces& piece : pieces) bits.Put(piece.fraction, 10);
-  if (full) {
+  if (rates) {
     for (const RangePieces& piece : pieces) bits.Signed(piece.rate, 14);
   }
 
@@ -144,23 +145,60 @@ Bytes RtcmObservations(const Epoch& epoch, System system, Msm msm, bool last) {
       }
     }
   };
-  const double codeScale = full ? 0x1p29 : 0x1p24;
-  const double phaseScale = full ? 0x1p31 : 0x1p29;
+  const double codeScale = fine ? 0x1p29 : 0x1p24;
+  const double phaseScale = fine ? 0x1p31 : 0x1p29;
   cells([&](std::size_t i, double j) {
-    bits.Signed(std::llround((pieces[i].rest + j * 1e-6) * codeScale), full ? 20 : 15);
+    bits.Signed(std::llround((pieces[i].rest + j * 1e-6) * codeScale), fine ? 20 : 15);
   });
   cells([&](std::size_t i, double j) {
-    bits.Signed(std::llround((pieces[i].rest + j * 2e-6) * phaseScale), full ? 24 : 22);
+    bits.Signed(std::llround((pieces[i].rest + j * 2e-6) * phaseScale), fine ? 24 : 22);
   });
-  cells([&](std::size_t, double) { bits.Put(full ? 520 : 13, full ? 10 : 4); });
+  cells([&](std::size_t, double) { bits.Put(fine ? 520 : 13, fine ? 10 : 4); });
   cells([&](std::size_t, double) { bits.Put(0, 1); });
   cells([&](std::size_t i, double j) {
     const auto strength = static_cast<std::uint64_t>(26 + seen[i].elevation / 4 - j);
-    bits.Put(full ? strength * 16 : strength, full ? 10 : 6);
+    bits.Put(fine ? strength * 16 : strength, fine ? 10 : 6);
   });
-  if (full)
+  if (rates)
     cells([&](std::size_t i, double j) { bits.Signed(std::llround(seen[i].rate * 7 - j), 15); });
   return RtcmFrame(bits.Written());
+}
+
+Bytes RtcmProprietary(const Epoch& epoch) {
+  Bytes bytes;
+  const auto send = [&](const BitWriter& bits) { Append(bytes, RtcmFrame(bits.Written())); };
+  const auto numbered = [](unsigned count, int width, BitWriter bits) {
+    for (unsigned value = 1; value <= count; ++value) bits.Put(value, width);
+    return bits;
+  };
+  const auto shortFamily = [](unsigned number, unsigned subType) {
+    return BitWriter().Put(number, 12).Put(subType, 8);
+  };
+  const auto longFamily = [](unsigned subType) {
+    return BitWriter().Put(4074, 12).Put(subType, 12);
+  };
+  const auto timed = [&](BitWriter bits) { return bits.Put(epoch.tow, 30).Put(epoch.week, 16); };
+  const auto withUtc = [&](BitWriter bits) {
+    bits.Put(2026, 16).Put(3, 8);
+    for (const int part : {epoch.day, epoch.hour, epoch.minute, epoch.second}) {
+      bits.Put(static_cast<unsigned>(part), 8);
+    }
+    return bits.Put(120, 16);  // milliseconds
+  };
+
+  send(numbered(27, 8, shortFamily(910, 17)));
+  send(numbered(7, 4, shortFamily(910, 33)).Put(0, 8));  // filled up to the length it must have
+  send(numbered(9, 8, timed(shortFamily(910, 34)).Put(4, 8).Put(2, 4)));
+  send(numbered(48, 8, timed(shortFamily(999, 21))));
+  send(timed(longFamily(11)));
+  send(longFamily(12).Put(7, 8).Put(38, 8).Signed(-3, 8).Put(5, 8));
+  send(withUtc(timed(longFamily(13))));
+  send(withUtc(timed(longFamily(14))));
+  send(withUtc(timed(longFamily(15))).Signed(std::llround(epoch.latitude * 0x1p32), 64));
+  send(timed(longFamily(243)).Put(3, 8).Put(1, 4));
+  for (const unsigned subType : {249U, 251U, 253U}) send(longFamily(subType));
+  for (const unsigned subType : {254U, 255U}) send(timed(longFamily(subType)));
+  return bytes;
 }
 
 Bytes RtcmEpoch(const Epoch& epoch, Msm msm) {

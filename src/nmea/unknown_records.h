@@ -3,28 +3,10 @@
 
 #include <array>
 
-#include "base/unknown.h"
+#include "base/unknown_records.h"
 #include "navframe/records.h"
 
 namespace navframe::nmea {
-
-inline constexpr double NoF64 = Unknown<double>();
-inline constexpr float NoF32 = Unknown<float>();
-inline constexpr std::uint8_t NoU8 = Unknown<std::uint8_t>();
-inline constexpr std::uint16_t NoU16 = Unknown<std::uint16_t>();
-inline constexpr std::uint32_t NoU32 = Unknown<std::uint32_t>();
-
-inline constexpr GPSTIME NoGpsTime = {.tow = NoU32, .week = NoU16, .reserved = 0};
-inline constexpr UTCTIME NoUtc = {.year = NoU16,
-                                  .month = NoU8,
-                                  .day = NoU8,
-                                  .hour = NoU8,
-                                  .minute = NoU8,
-                                  .second = NoU8,
-                                  .reserved0 = 0,
-                                  .millisecond = NoU16,
-                                  .flag = 0,
-                                  .reserved1 = 0};
 
 inline constexpr GgaRecord UnknownGga = {.tag = 0,
                                          .timeText = {},
@@ -65,17 +47,6 @@ inline constexpr GsaRecord UnknownGsa = {
     .vdop = NoF32,
     .usedCount = 0,
     .usedSatellites = {NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8, NoU8}};
-
-inline constexpr SatelliteSignal UnknownSignal = {
-    .signalId = NoU8, .cn0 = NoU8, .reserved = {NoU8, NoU8, NoU8, NoU8}};
-inline constexpr SatelliteInView UnknownSatellite = {
-    .number = NoU8,
-    .systemId = NoU8,
-    .azimuth = NoU16,
-    .elevation = NoU16,
-    .used = 0,
-    .signalCount = 0,
-    .signals = {UnknownSignal, UnknownSignal, UnknownSignal}};
 
 inline constexpr GsvRecord UnknownGsv = [] {
   GsvRecord record{};
@@ -134,8 +105,6 @@ inline constexpr ZdaRecord UnknownZda = {.tag = 0,
                                          .zoneHours = NoU8,
                                          .zoneMinutes = NoU8};
 
-inline constexpr std::int32_t NoI32 = Unknown<std::int32_t>();
-
 // Proprietary sentences.
 inline constexpr NavTimeGroup UnknownTime = {.status = NoI32, .flag = NoU8, .seconds = NoF64};
 inline constexpr NavTimeRecord UnknownNavTime = {
@@ -162,14 +131,6 @@ inline constexpr CwOutRecord UnknownCwOut = [] {
   return record;
 }();
 
-inline constexpr GyoAccRecord UnknownGyoAcc = {.tag = 0,
-                                               .timeText = {},
-                                               .utc = NoUtc,
-                                               .gpsTime = NoGpsTime,
-                                               .gyro = {NoF64, NoF64, NoF64},
-                                               .acceleration = {NoF64, NoF64, NoF64},
-                                               .spare = {NoF64, NoF64}};
-
 inline constexpr SnrStatRecord UnknownSnrStat = {.tag = 0,
                                                  .timeText = {},
                                                  .gpsTime = NoGpsTime,
@@ -177,59 +138,34 @@ inline constexpr SnrStatRecord UnknownSnrStat = {.tag = 0,
                                                  .state = NoU8,
                                                  .levels = {-1, -1, -1}};
 
-inline constexpr NavAttRecord UnknownNavAtt = {.tag = 0,
-                                               .timeText = {},
-                                               .utc = NoUtc,
-                                               .gpsTime = NoGpsTime,
-                                               .values = {NoF64, NoF64, NoF64, NoF64, NoF64, NoF64},
-                                               .spare = {}};
+// Their text member begins empty, inside the record. Not constexpr, because Clang 14 takes no
+// std::string in a constant expression.
+inline const NavPosRecord UnknownNavPos = {.gpsTime = NoGpsTime,
+                                           .timeText = {},
+                                           .solutionStatus = NoI32,
+                                           .positionType = NoI32,
+                                           .datum = NoI32,
+                                           .stationNumber = NoI32,
+                                           .text = {},
+                                           .status = NoU8,
+                                           .count = NoU8,
+                                           .x = NoF64,
+                                           .y = NoF64,
+                                           .z = NoF64,
+                                           .sigmaX = NoF64,
+                                           .sigmaY = NoF64,
+                                           .sigmaZ = NoF64};
 
-inline constexpr ImuRecord UnknownImu = {.tag = 0,
-                                         .timeText = {},
-                                         .utc = NoUtc,
-                                         .gpsTime = NoGpsTime,
-                                         .text = {},
-                                         .values = {NoF64, NoF64, NoF64, NoF64, NoF64, NoF64}};
-
-inline constexpr InsPvaRecord UnknownInsPva = {.tag = 0,
-                                               .timeText = {},
-                                               .dateText = {},
-                                               .utc = NoUtc,
-                                               .gpsTime = NoGpsTime,
-                                               .latitude = NoF64,
-                                               .longitude = NoF64,
-                                               .height = NoF64,
-                                               .velocity = {NoF64, NoF64, NoF64},
-                                               .attitude = {NoF32, NoF32, NoF32},
-                                               .spare = {}};
-
-// Their text member begins empty, inside the record.
-inline constexpr NavPosRecord UnknownNavPos = {.gpsTime = NoGpsTime,
-                                               .timeText = {},
-                                               .solutionStatus = NoI32,
-                                               .positionType = NoI32,
-                                               .datum = NoI32,
-                                               .stationNumber = NoI32,
-                                               .text = {},
-                                               .status = NoU8,
-                                               .count = NoU8,
-                                               .x = NoF64,
-                                               .y = NoF64,
-                                               .z = NoF64,
-                                               .sigmaX = NoF64,
-                                               .sigmaY = NoF64,
-                                               .sigmaZ = NoF64};
-
-inline constexpr NavVelRecord UnknownNavVel = {.gpsTime = NoGpsTime,
-                                               .timeText = {},
-                                               .solutionStatus = NoI32,
-                                               .positionType = NoI32,
-                                               .datum = NoI32,
-                                               .stationNumber = NoI32,
-                                               .text = {},
-                                               .status = NoU8,
-                                               .count = NoU8,
-                                               .velocity = {NoF64, NoF64, NoF64},
-                                               .speedAccuracy = NoF64};
+inline const NavVelRecord UnknownNavVel = {.gpsTime = NoGpsTime,
+                                           .timeText = {},
+                                           .solutionStatus = NoI32,
+                                           .positionType = NoI32,
+                                           .datum = NoI32,
+                                           .stationNumber = NoI32,
+                                           .text = {},
+                                           .status = NoU8,
+                                           .count = NoU8,
+                                           .velocity = {NoF64, NoF64, NoF64},
+                                           .speedAccuracy = NoF64};
 
 }  // namespace navframe::nmea

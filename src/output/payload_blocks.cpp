@@ -27,42 +27,38 @@ std::size_t UsableSize([[maybe_unused]] void* block) {
 }  // namespace
 
 PayloadBlocks::~PayloadBlocks() {
-  for (std::size_t units = 0; units < kept_.size(); ++units) {
-    while (kept_[units] != nullptr) std::free(TakeKept(units));
+  constexpr std::size_t NoUnits = 0;
+  for (BlockLists* lists : {&abandoned_, &freed_}) {
+    while (lists->Bytes() != 0) std::free(lists->TakeOther(NoUnits));
   }
 }
 
 void* PayloadBlocks::AllocateNew(std::size_t units) {
-  void* const block = std::malloc(units * Unit);
+  void* const block = std::malloc(units * BlockLists::Unit);
   if (block == nullptr) throw std::bad_alloc();
   return block;
 }
 
-void PayloadBlocks::Keep(void* block, std::size_t units) {
-  std::memcpy(block, &kept_[units], sizeof(void*));
-  kept_[units] = block;
-  keptBytes_ += units * Unit;
-}
-
-void* PayloadBlocks::TakeKept(std::size_t units) {
-  void* const block = kept_[units];
-  std::memcpy(&kept_[units], block, sizeof(void*));
-  keptBytes_ -= units * Unit;
-  return block;
-}
-
 void PayloadBlocks::Abandon(void* block, std::uint32_t size) {
-  if (!IsFixed(block)) Keep(block, Units(size));
+  if (!IsFixed(block)) abandoned_.Put(block, BlockLists::Units(size));
 }
 
 void PayloadBlocks::Free(void* block) {
   if (IsFixed(block)) return;
   const std::size_t usable = UsableSize(block);
-  if (usable >= SmallestFreedKept && usable <= LargestKept && keptBytes_ < MostKeptBytes) {
-    Keep(block, usable / Unit);
+  if (usable >= SmallestFreedKept && usable <= BlockLists::LargestBlock) {
+    KeepFreed(block, usable / BlockLists::Unit);
   } else {
     std::free(block);
   }
+}
+
+void PayloadBlocks::KeepFreed(void* block, std::size_t units) {
+  while (freed_.Bytes() >= MostFreedBytes) {
+    if (freed_.BytesOf(units) == freed_.Bytes()) return std::free(block);
+    std::free(freed_.TakeOther(units));
+  }
+  freed_.Put(block, units);
 }
 
 }  // namespace navframe

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <vector>
+
+#include "output/block_lists.h"
 
 namespace navframe {
 
@@ -29,8 +29,9 @@ class PayloadBlocks {
 
   // A block with undefined content. Throws std::bad_alloc when there is no memory.
   void* Allocate(std::uint32_t size) {
-    const std::size_t units = Units(size);
-    return units < kept_.size() && kept_[units] != nullptr ? TakeKept(units) : AllocateNew(units);
+    const std::size_t units = BlockLists::Units(size);
+    if (abandoned_.Has(units)) return abandoned_.Take(units);
+    return freed_.Has(units) ? freed_.Take(units) : AllocateNew(units);
   }
 
   // A block of Allocate(size) that will not be used, nor freed.
@@ -43,25 +44,19 @@ class PayloadBlocks {
   void DeclareFixed(const void* payload) { fixed_.push_back(payload); }
 
  private:
-  // Sizes are counted in these, rounded up; a block of n units never has room for fewer bytes.
-  static constexpr std::size_t Unit = 16;
-  static constexpr std::size_t LargestKept = 32768;
   // Smaller freed blocks go back to the allocator, which serves them quickly.
   static constexpr std::size_t SmallestFreedKept = 1024;
-  static constexpr std::size_t MostKeptBytes = 16 << 20;
-
-  static constexpr std::size_t Units(std::size_t size) { return (size + Unit - 1) / Unit; }
+  // As much as the input ring may take. When it is used up, sizes of the past make room.
+  static constexpr std::size_t MostFreedBytes = 16 << 20;
 
   bool IsFixed(const void* payload) const {
     return std::find(fixed_.begin(), fixed_.end(), payload) != fixed_.end();
   }
-  void* TakeKept(std::size_t units);
-  void Keep(void* block, std::size_t units);
+  void KeepFreed(void* block, std::size_t units);
   static void* AllocateNew(std::size_t units);
 
-  // By units: the first kept block, whose first bytes point at the next one.
-  std::array<void*, LargestKept / Unit + 1> kept_{};
-  std::size_t keptBytes_ = 0;
+  BlockLists abandoned_;
+  BlockLists freed_;
   std::vector<const void*> fixed_;
 };
 

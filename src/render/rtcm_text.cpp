@@ -73,9 +73,9 @@ void FormatClockOrbit(const ClockOrbitRecord& record, bool leadingFields, TextWr
 }
 
 void FormatSystemCounts(const SystemCountsRecord& record, TextWriter& writer) {
-  constexpr std::string_view Systems[] = {"GPS,", "BDS,", "GAL,", "QZS,"};
-  for (std::size_t i = 0; i < std::size(Systems); ++i) {
-    writer.Text(Systems[i]);
+  constexpr std::string_view Counted[] = {"GPS,", "BDS,", "GAL,", "QZS,"};
+  for (std::size_t i = 0; i < std::size(Counted); ++i) {
+    writer.Text(Counted[i]);
     writer.Int(record.counts[i]);
     writer.Text("\n");
   }

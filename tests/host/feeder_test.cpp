@@ -95,10 +95,19 @@ TEST_F(FeederTest, PoisonAnywhereLosesNothingElse) {
 }
 
 TEST_F(FeederTest, ReasonIsWhatTheConversionSaid) {
-  Feed(Poison + PoisonTime, SIZE_MAX);
-  ASSERT_EQ(rejected.size(), 2U);
-  EXPECT_EQ(rejected[0].reason, "invalid stod argument");
-  EXPECT_EQ(rejected[1].reason, "invalid string position");
+  const std::pair<std::string, const char*> cases[] = {
+      {Poison, "invalid stod argument"},
+      {PoisonTime, "invalid string position"},
+      {Sentence("PNAVMSG,1,2,0,0,0,0,0,0,,0,0,0,0,0,0,0,0"), "invalid stoi argument"},
+      {Sentence("PNAVMSG,1,2,0,0,0,0,0,0,80000000,0,0,0,0,0,0,0,0"), "stoi argument out of range"},
+      {Sentence("CWOUT,1,2,3,4,5,6,7,8,x"), "invalid stoi argument"},
+      {Sentence("CWOUT,1,2147483648,3,4,5,6,7,8,9"), "stoi argument out of range"}};
+  for (const auto& [sentence, reason] : cases) {
+    rejected.clear();
+    EXPECT_EQ(Feed(sentence + Gga(1), SIZE_MAX).size(), 1U) << "the next one comes through";
+    ASSERT_EQ(rejected.size(), 1U) << sentence;
+    EXPECT_EQ(rejected[0].reason, reason);
+  }
 }
 
 TEST_F(FeederTest, SatellitesInViewGoOnAroundABadSentence) {

@@ -1,8 +1,5 @@
-// The fields of each kind of sentence, present and absent.
+// Members that the text does not show, and the rules of fields.
 #include <gtest/gtest.h>
-
-#include <bit>
-#include <cstdio>
 
 #include "navframe/records.h"
 #include "support/streams.h"
@@ -10,157 +7,83 @@
 namespace navframe::test {
 namespace {
 
-// A member as text; "-" for exactly the unknown value of its type.
-std::string Shown(double value) {
-  if (std::bit_cast<std::uint64_t>(value) == 0xFFF8000000000000) return "-";
-  char text[40];
-  std::snprintf(text, sizeof text, "%.10g", value);
-  return text;
-}
-std::string Shown(float value) {
-  if (std::bit_cast<std::uint32_t>(value) == 0xFFC00000) return "-";
-  char text[40];
-  std::snprintf(text, sizeof text, "%.7g", static_cast<double>(value));
-  return text;
-}
-template <std::unsigned_integral T>
-std::string Shown(T value) {
-  return value == static_cast<T>(-1) ? "-" : std::to_string(value);
-}
-std::string Shown(const char* text) { return "'" + std::string(text) + "'"; }
-std::string Shown(const UTCTIME& t);
-
-template <class First, class... Rest>
-std::string Joined(const First& first, const Rest&... rest) {
-  return (Shown(first) + ... + (" " + Shown(rest)));
-}
-std::string Shown(const UTCTIME& t) {
-  return "[" + Joined(t.year, t.month, t.day, t.hour, t.minute, t.second, t.millisecond, t.flag) +
-         "]";
-}
-
-// The members of a record that its sentence fills, in the order of its fields.
-std::string Shown(const Record& record) {
-  const auto gga = [](const GgaRecord& r) {
-    return Joined(r.timeText, r.utc, r.latitude, r.longitude, r.fixQuality, r.satellites, r.hdop,
-                  r.altitude, r.geoidSeparation, r.correctionAge, r.stationId);
-  };
-  const auto rmc = [](const RmcRecord& r) {
-    return Joined(r.timeText, r.status, r.latitude, r.longitude, r.speedKnots, r.course, r.dateText,
-                  r.utc, r.mode, r.spare);
-  };
-  const auto gll = [](const GllRecord& r) {
-    return Joined(r.latitude, r.longitude, r.utc, r.status, r.mode);
-  };
-  const auto gst = [](const GstRecord& r) {
-    return Joined(r.timeText, r.utc, r.rangeRms, r.ellipseSemiMajor, r.ellipseSemiMinor,
-                  r.ellipseOrientation, r.latitudeDeviation, r.longitudeDeviation,
-                  r.altitudeDeviation);
-  };
-  const auto gbs = [](const GbsRecord& r) {
-    return Joined(r.timeText, r.utc, r.latitudeError, r.longitudeError, r.altitudeError,
-                  r.failedSatellite, r.bias, r.biasDeviation, r.systemId, r.signalId);
-  };
-  const auto vtg = [](const VtgRecord& r) {
-    return Joined(r.courseTrue, r.courseMagnetic, r.speedKnots, r.speedKmh, r.mode);
-  };
-  const auto zda = [](const ZdaRecord& r) {
-    return Joined(r.timeText, r.utc, r.zoneHours, r.zoneMinutes);
-  };
-  switch (record.id) {
-    case MsgIdGga:
-      return gga(record.As<GgaRecord>());
-    case MsgIdRmc:
-      return rmc(record.As<RmcRecord>());
-    case MsgIdGll:
-      return gll(record.As<GllRecord>());
-    case MsgIdGst:
-      return gst(record.As<GstRecord>());
-    case MsgIdGbs:
-      return gbs(record.As<GbsRecord>());
-    case MsgIdVtg:
-      return vtg(record.As<VtgRecord>());
-    case MsgIdZda:
-      return zda(record.As<ZdaRecord>());
-    default:
-      return "another kind";
-  }
-}
-
-std::string ShownOf(const std::string& body) {
+template <class T>
+T Only(const std::string& body) {
   const auto records = Decoded(Sentence(body));
-  return records.size() == 1 ? Shown(records[0]) : "not one record";
+  return records.size() == 1 ? records[0].As<T>() : T{};
 }
 
-TEST(NmeaFix, FieldsPresentAndAbsent) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"GNGGA,123519.25,4807.038,N,01131.000,W,5,12,0.9,545.4,M,-46.9,M,1.5,0123",
-       "'123519.25' [- - - 12 35 19 250 1] 48.1173 -11.51666667 5 12 0.9 545.4 -46.9 1.5 123"},
-      {"GNGGA,,,,,,,,,,,,,,", "'' [- - - - - - - 0] - - - - - - - - -"},
-      {"GNGGA", "'' [- - - - - - - 0] - - - - - - - - -"},
-      {"GPGGA,,,,,,1,08", "'' [- - - - - - - 0] - - 1 8 - - - - -"},
-      // Texts are bounded and terminated.
-      {"GPGGA,123519.000000000000001", "'123519.000000000' [- - - 12 35 19 1 1] - - - - - - - - -"},
-      {"GPRMC,120000.000,A,4807.038,S,01131.000,E,022.4,084.4,310724,003.1,W,R,V",
-       "'120000.000' 1 -48.1173 11.51666667 22.4 84.4 '310724' [2024 7 31 12 0 0 0 1] 4 -"},
-      {"GPRMC,,,,,,,,,,,,", "'' - - - - - '' [- - - - - - - 0] - -"},
-      {"GPRMC,,V,,,,,,,0102033333", "'' 0 - - - - '0102033' [2003 2 1 - - - - 0] - -"},
-      {"GPRMC,,AA", "'' 0 - - - - '' [- - - - - - - 0] - -"},
-      {"GPGLL,4916.45,N,12311.12,W,225444.00,A,D",
-       "49.27416667 -123.1853333 [- - - 22 54 44 0 1] 1 2"},
-      {"GPGLL,,,,,,V,N", "- - [- - - - - - - 0] 0 0"},
-      {"GPGLL,,,,,,X", "- - [- - - - - - - 0] - -"},
-      {"GPGST,172814.00,0.006,0.023,0.020,273.6,0.03,0.04,0.031",
-       "'172814.00' [- - - 17 28 14 0 1] 0.006 0.023 0.02 273.6 0.03 0.04 0.031"},
-      {"GPGST,", "'' [- - - - - - - 0] - - - - - - -"},
-      {"GPGBS,163317.00,0.2,0.3,0.5,03,x,-21.4,3.8,1,8",  // field 6 is not read
-       "'163317.00' [- - - 16 33 17 0 1] 0.2 0.3 0.5 3 -21.4 3.8 1 8"},
-      {"GPGBS,", "'' [- - - - - - - 0] - - - - - - - -"},
-      {"GPVTG,089.0,T,88.125,M,15.2,N,28.2,K,A", "89 88.125 15.2 28.2 1"},
-      {"GPVTG,,T,,M,,N,,K,N", "- - - - 0"},
-      {"GPZDA,172809.45,12,07,1996,-05,30", "'172809.45' [1996 7 12 17 28 9 450 1] 251 30"},
-      {"GPZDA,,,,,,", "'' [- - - - - - - 0] - -"},
-  };
-  for (const auto& [body, wanted] : cases) EXPECT_EQ(ShownOf(body), wanted) << body;
+using Times = std::vector<int>;
+Times TimesOf(const UTCTIME& t) {
+  return {t.year, t.month, t.day, t.hour, t.minute, t.second, t.millisecond, t.flag};
+}
+
+TEST(NmeaFix, MembersWithoutText) {
+  const Times none = {65535, 255, 255, 255, 255, 255, 65535, 0};
+  for (const char* body : {"GPGGA", "GPGGA,,", "GPGST,", "GPGBS,", "GPZDA,,,,,,"}) {
+    EXPECT_EQ(TimesOf(Only<ZdaRecord>(body).utc), none) << body;  // at the same place in all
+  }
+  EXPECT_EQ(TimesOf(Only<RmcRecord>("GPRMC,,V,,,,,,,0102033333").utc),
+            (Times{2003, 2, 1, 255, 255, 255, 65535, 0}));
+  EXPECT_STREQ(Only<RmcRecord>("GPRMC,,V,,,,,,,0102033333").dateText, "0102033") << "bounded";
+  EXPECT_STREQ(Only<GgaRecord>("GPGGA,123519.000000000000001").timeText, "123519.000000000");
+  EXPECT_EQ(Only<RmcRecord>("GPRMC,,AA,,,,,,,,,,").status, 0);
+  EXPECT_EQ(Only<RmcRecord>("GPRMC,,,,,,,,,,,,").status, 255);
+  EXPECT_EQ(Only<GllRecord>("GPGLL,,,,,,X").status, 255);
+  const auto gst = Only<GstRecord>("GPGST,172814.00,,0.5,0.25,273.5,,,0.125");
+  EXPECT_EQ(gst.ellipseSemiMajor, 0.5F);
+  EXPECT_EQ(gst.ellipseSemiMinor, 0.25F);
+  EXPECT_EQ(gst.ellipseOrientation, 273.5F);
+  EXPECT_EQ(gst.altitudeDeviation, 0.125F);
+  const auto gbs = Only<GbsRecord>("GPGBS,,,,,,x,-21.5,3.75,1,8");  // field 6 is not read
+  EXPECT_EQ(gbs.bias, -21.5F);
+  EXPECT_EQ(gbs.biasDeviation, 3.75F);
+  const auto zda = Only<ZdaRecord>("GPZDA,172809.45,12,07,1996,-05,30");
+  EXPECT_EQ(TimesOf(zda.utc), (Times{1996, 7, 12, 17, 28, 9, 450, 1}));
+  EXPECT_EQ(zda.zoneHours * 256 + zda.zoneMinutes, 251 * 256 + 30);
 }
 
 TEST(NmeaFix, TimesOfDay) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"123519.5", "12 35 19 5"},     {"123519.50", "12 35 19 500"},
-      {"123519.500", "12 35 19 500"}, {"123519.5000", "12 35 19 5000"},
-      {"235960.00", "23 59 60 0"},    {"123519x7", "12 35 19 7"},
-      {"-1+2 3.04", "- 2 3 40"},      {"123519.70000", "12 35 19 4464"},
-  };
+  const std::pair<const char*, Times> cases[] = {
+      {"123519.5", {12, 35, 19, 5}},     {"123519.50", {12, 35, 19, 500}},
+      {"123519.500", {12, 35, 19, 500}}, {"123519.5000", {12, 35, 19, 5000}},
+      {"235960.00", {23, 59, 60, 0}},    {"123519x7", {12, 35, 19, 7}},
+      {"-1+2 3.04", {255, 2, 3, 40}},    {"123519.70000", {12, 35, 19, 4464}}};
   for (const auto& [field, wanted] : cases) {
-    EXPECT_EQ(ShownOf("GPGLL,,,,," + std::string(field)),
-              "- - [- - - " + std::string(wanted) + " 1] - -")
-        << field;
+    const UTCTIME t = Only<GllRecord>("GPGLL,,,,," + std::string(field)).utc;
+    EXPECT_EQ((Times{t.hour, t.minute, t.second, t.millisecond}), wanted) << field;
   }
 }
 
 TEST(NmeaFix, Hemispheres) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"4830.0,N,01130.0,E", "48.5 11.5"},         {"4830.0,S,01130.0,W", "-48.5 -11.5"},
-      {"4830.0,,01130.0,", "-48.5 -11.5"},         {"4830.0,n,01130.0,e", "-48.5 -11.5"},
-      {"4830.0,NN,01130.0,EE", "-48.5 -11.5"},     {"4830.0,E,01130.0,N", "-48.5 -11.5"},
-      {"4890.0,N,18060.5e0,E", "49.5 181.0083333"}};
-  for (const auto& [text, wanted] : cases) {
-    const std::string fields = text;
-    EXPECT_NE(ShownOf("GPGGA,," + fields).find(wanted), std::string::npos) << fields;
-    EXPECT_NE(ShownOf("GPRMC,,," + fields).find(wanted), std::string::npos) << fields;
-    EXPECT_TRUE(ShownOf("GPGLL," + fields).starts_with(wanted)) << fields;
+  struct Case {
+    const char* fields;
+    double latitude, longitude;
+  };
+  const Case cases[] = {
+      {"4830.0,N,01130.0,E", 48.5, 11.5},     {"4830.0,S,01130.0,W", -48.5, -11.5},
+      {"4830.0,,01130.0,", -48.5, -11.5},     {"4830.0,n,01130.0,e", -48.5, -11.5},
+      {"4830.0,NN,01130.0,EE", -48.5, -11.5}, {"4890.0,N,18045e0,E", 49.5, 180.75}};
+  const auto expect = [](const auto& record, const Case& wanted) {
+    EXPECT_EQ(record.latitude, wanted.latitude) << wanted.fields;
+    EXPECT_EQ(record.longitude, wanted.longitude) << wanted.fields;
+  };
+  for (const Case& c : cases) {
+    expect(Only<GgaRecord>(std::string("GPGGA,,") + c.fields), c);
+    expect(Only<RmcRecord>(std::string("GPRMC,,,") + c.fields), c);
+    expect(Only<GllRecord>(std::string("GPGLL,") + c.fields), c);
   }
 }
 
 TEST(NmeaFix, Modes) {
-  const std::tuple<const char*, const char*, const char*> modes[] = {
-      {"N", "0", "0"}, {"A", "1", "1"}, {"D", "2", "2"},  {"R", "4", "-"}, {"F", "5", "-"},
-      {"E", "6", "6"}, {"P", "-", "-"}, {"AA", "-", "-"}, {"a", "-", "-"}, {"", "-", "-"}};
+  const std::tuple<const char*, int, int> modes[] = {{"N", 0, 0},     {"A", 1, 1},     {"D", 2, 2},
+                                                     {"R", 4, 255},   {"F", 5, 255},   {"E", 6, 6},
+                                                     {"P", 255, 255}, {"AA", 255, 255}};
   for (const auto& [text, rmc, others] : modes) {
     const std::string mode = text;
-    EXPECT_TRUE(ShownOf("GPRMC,,,,,,,,,,,," + mode + ",V").ends_with(rmc + std::string(" -")));
-    EXPECT_TRUE(ShownOf("GPGLL,,,,,,," + mode).ends_with(std::string(" ") + others)) << mode;
-    EXPECT_TRUE(ShownOf("GPVTG,,,,,,,,," + mode).ends_with(std::string(" ") + others)) << mode;
+    EXPECT_EQ(Only<RmcRecord>("GPRMC,,,,,,,,,,,," + mode + ",V").mode, rmc) << mode;
+    EXPECT_EQ(Only<GllRecord>("GPGLL,,,,,,," + mode).mode, others) << mode;
+    EXPECT_EQ(Only<VtgRecord>("GPVTG,,,,,,,,," + mode).mode, others) << mode;
   }
 }
 
@@ -168,8 +91,8 @@ TEST(NmeaFix, Modes) {
 // first is rounded twice, to the even one.
 TEST(NmeaFix, DoublesAreRoundedTwice) {
   const std::string field = "1.00000005960464477540";
-  EXPECT_EQ(Decoded(Sentence("GPVTG," + field)).at(0).As<VtgRecord>().courseTrue, 1.0F);
-  EXPECT_EQ(Decoded(Sentence("GPGST,," + field)).at(0).As<GstRecord>().rangeRms, 0x1.000002p0F);
+  EXPECT_EQ(Only<VtgRecord>("GPVTG," + field).courseTrue, 1.0F);
+  EXPECT_EQ(Only<GstRecord>("GPGST,," + field).rangeRms, 0x1.000002p0F);
 }
 
 }  // namespace

@@ -96,19 +96,5 @@ TEST(TimeKeeping, ZdaSetsTheDateUnlessItsTimeIsTheClocks) {
                {"GPZDA,000000.00,02,08,2024", "000000.00|2325:432019000"}});
 }
 
-TEST(TimeKeeping, RecordsAreStampedAfterTheirOwnTime) {
-  const auto records =
-      Decoded(Sentence("GPRMC,120000.000,A,,,,,,,310724") + Sentence("GPGGA,120001.00") +
-              Sentence("GPGLL,,,,,120009.00") + Sentence("GPGSA,A,3,,,,,,,,,,,,,1,2,3") +
-              Sentence("GPGST,120002.50"));
-  ASSERT_EQ(records.size(), 5U);
-  EXPECT_EQ(records[0].As<RmcRecord>().gpsTime.tow, 302'418'000U);
-  EXPECT_EQ(records[1].As<GgaRecord>().gpsTime.tow, 302'419'000U);
-  EXPECT_STREQ(records[2].As<GllRecord>().timeText, "120001.00");
-  EXPECT_EQ(records[2].As<GllRecord>().utc.second, 9);
-  EXPECT_STREQ(records[3].As<GsaRecord>().timeText, "120001.00");
-  EXPECT_EQ(records[4].As<GstRecord>().gpsTime.tow, 302'420'500U);
-}
-
 }  // namespace
 }  // namespace navframe::test

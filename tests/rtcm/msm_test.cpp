@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
+#include <map>
 
 #include "rtcm/msm_layout.h"
-#include "support/rtcm.h"
-#include "support/streams.h"
+#include "rtcm/msm_signals.h"
+#include "support/binary_frames.h"
 
 namespace navframe::test {
 namespace {
@@ -12,241 +14,295 @@ namespace {
 constexpr std::uint32_t Decodable[] = {1074, 1075, 1076, 1077, 1087, 1094, 1095, 1096, 1097,
                                        1114, 1115, 1116, 1117, 1124, 1125, 1126, 1127};
 
+// Fields in wire order, as they stand in the message: range in ms, extended information, range
+// modulo 1 ms, rate; pseudorange, phase, lock, half cycle, C/N0, rate.
+using Satellite = std::array<std::int64_t, 4>;
+using Cell = std::array<std::int64_t, 6>;
+// Their widths, for MSM4 to MSM7.
+constexpr int Widths[4][10] = {{8, 0, 10, 0, 15, 22, 4, 1, 6, 0},
+                               {8, 4, 10, 14, 15, 22, 4, 1, 6, 15},
+                               {8, 0, 10, 0, 20, 24, 10, 1, 10, 0},
+                               {8, 4, 10, 14, 20, 24, 10, 1, 10, 15}};
+
+const int* WidthsOf(std::uint32_t number) {
+  return Widths[number % 10 < 4 || number % 10 > 7 ? 3 : number % 10 - 4];
+}
+
+// A message in the making; one satellite with one signal unless said otherwise.
+struct Message {
+  std::uint32_t number = 1077;
+  std::uint64_t epoch = 1000;                                       // as it stands in the message
+  std::uint64_t satelliteMask = 1ULL << 59, signalMask = 1U << 30;  // 5 and 2
+  std::vector<bool> mask = {true};                                  // by satellite, then signal
+  std::vector<Satellite> satellites = {{70, 10, 512}};
+  std::vector<Cell> cells = {{}};
+  std::uint64_t more = 0;  // multiple-message bit
+
+  Bytes Payload() const {
+    BitWriter bits;
+    bits.Put(number, 12).Put(2003, 12).Put(epoch, 30).Put(more, 1).Put(0x15555, 18);
+    bits.Put(satelliteMask, 64).Put(signalMask, 32);
+    for (const bool cell : mask) bits.Put(cell, 1);
+    const int* width = WidthsOf(number);
+    for (std::size_t i = 0; i < 4; ++i, ++width) {
+      for (const Satellite& satellite : satellites) bits.Signed(satellite[i], *width);
+    }
+    for (std::size_t i = 0; i < 6; ++i, ++width) {
+      for (const Cell& cell : cells) bits.Signed(cell[i], *width);
+    }
+    return bits.Written();
+  }
+  Bytes Frame() const { return RtcmFrame(Payload()); }
+};
+
+// Masks and fields are any but the invalid codes.
+Message RandomMessage(std::uint32_t number, sample::Noise& noise) {
+  Message message{number, noise.Below(86'400'000), 0, 0, {}, {}, {}};
+  int satellites = 0, signals = 0;
+  while (satellites == 0 || signals == 0 || satellites * signals > 64) {
+    message.satelliteMask = noise.Next() & noise.Next();
+    message.signalMask = noise.Next() & noise.Next() & noise.Next() & 0xFFFFFFFF;
+    satellites = std::popcount(message.satelliteMask);
+    signals = std::popcount(message.signalMask);
+  }
+  const auto field = [&](int width, bool isSigned) {
+    const std::int64_t half = isSigned ? 1LL << width >> 1 : 0;
+    const std::int64_t value = noise.Below(1U << width);
+    return value == 0 ? 1 : value - half;  // the lowest is invalid
+  };
+  const int* const width = WidthsOf(number);
+  for (int i = 0; i < satellites; ++i) {
+    message.satellites.push_back({1 + noise.Below(254), 10, noise.Below(1024), field(14, true)});
+  }
+  for (int i = 0; i < satellites * signals; ++i) {
+    message.mask.push_back(noise.Below(4) != 0);
+    if (!message.mask.back()) continue;
+    message.cells.push_back({field(width[4], true), field(width[5], true), field(width[6], false),
+                             noise.Below(2), field(width[8], false), field(width[9], true)});
+  }
+  return message;
+}
+
+// The ids of a mask of `width` bits.
+std::vector<int> IdsOf(std::uint64_t mask, int width) {
+  std::vector<int> ids;
+  for (int id = 1; id <= width; ++id) {
+    if ((mask >> (width - id) & 1) != 0) ids.push_back(id);
+  }
+  return ids;
+}
+
 const MsmRecord& Only(const std::vector<Record>& records) {
   EXPECT_EQ(records.size(), 1U);
   EXPECT_EQ(records.at(0).size, sizeof(MsmRecord));
   return records.at(0).As<MsmRecord>();
 }
 
-// One satellite with one signal.
-MsmMessage OneCell(std::uint32_t number, int signal = 2) {
-  MsmMessage message;
-  message.number = number;
-  message.satellites = {5};
-  message.signals = {signal};
-  return message.Sized();
+// What an observation has to be, from the fields.
+void ExpectObservation(const MsmObservation& seen, std::uint32_t number, const Satellite& satellite,
+                       const Cell& cell) {
+  const auto real = [](std::int64_t raw, double unit) { return static_cast<double>(raw) * unit; };
+  const bool fine = number % 10 >= 6, rates = number % 2 == 1;
+  // MSM6 takes ordinary values for invalid ones.
+  const bool codeValid = number % 10 != 6 || cell[0] != -16384;
+  const bool phaseValid = number % 10 != 6 || cell[1] != -2097152;
+  const double ms = real(satellite[0] * 1024 + satellite[2], 0x1p-10);
+  const double code = real(cell[0], fine ? 0x1p-29 : 0x1p-24);
+  const double phase = real(cell[1], fine ? 0x1p-31 : 0x1p-29);
+  const double f = rtcm::FrequenciesOf(rtcm::MsmSystem{seen.system})[seen.signal];
+  ASSERT_EQ(Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid, seen.cn0,
+                   seen.halfCycleAmbiguity),
+            Values(codeValid, f != 0 && phaseValid && cell[3] == 0, rates,
+                   fine ? cell[4] / 16 : cell[4], cell[3]));
+  ASSERT_NEAR(seen.pseudorange, codeValid ? (ms + code) * 299792.458 : 0, 1e-6);
+  ASSERT_NEAR(seen.carrierPhase, phaseValid ? (ms + phase) / 1000 * f : 0, 1e-5);
+  ASSERT_NEAR(seen.phaseRangeRate, rates ? real(satellite[3], 1) + real(cell[5], 1e-4) : 0, 1e-9);
 }
 
-TEST(Msm, PhysicalValuesComeBackToTheResolutionOfTheirFields) {
-  std::mt19937 random(20240229);
+TEST(Msm, FieldsComeBackAsPhysicalValues) {
+  sample::Noise noise(20240229);
   for (int round = 0; round < 40; ++round) {
     for (const std::uint32_t number : Decodable) {
-      const int signals = 1 + static_cast<int>(random() % 8);
-      const int satellites = 1 + static_cast<int>(random() % static_cast<unsigned>(64 / signals));
-      std::vector<MsmTruth> truth;
-      const MsmMessage message = RandomMsm(number, random, truth, satellites, signals);
-      const MsmWidths widths = WidthsOf(message.Kind());
+      SCOPED_TRACE(number);
+      const Message message = RandomMessage(number, noise);
+      const auto satellites = IdsOf(message.satelliteMask, 64),
+                 signals = IdsOf(message.signalMask, 32);
       const auto records = Decoded(message.Frame());
       const MsmRecord& record = Only(records);
-      ASSERT_EQ(record.count, truth.size()) << number;
-      for (std::size_t i = 0; i < truth.size(); ++i) {
-        const MsmObservation& seen = record.observations[i];
-        const MsmTruth& wanted = truth[i];
-        ASSERT_EQ(seen.system, record.system);
-        ASSERT_EQ(seen.satellite, wanted.satellite);
-        ASSERT_EQ(seen.signal, wanted.signal);
-        ASSERT_EQ(seen.pseudorangeValid, 1);
-        ASSERT_NEAR(seen.pseudorange, wanted.pseudorange, widths.pseudorangeMetres * 0.51);
-        const double f = rtcm::FrequenciesOf(rtcm::MsmSystem{record.system})[seen.signal];
-        ASSERT_NEAR(seen.carrierPhase, wanted.phaseRange * f / 299792458,
-                    widths.phaseMetres * 0.51 * f / 299792458 + 1e-7);
-        ASSERT_EQ(seen.phaseStatus, f != 0 && wanted.halfCycle == 0 ? 1 : 0);
-        ASSERT_EQ(seen.halfCycleAmbiguity, wanted.halfCycle);
-        ASSERT_EQ(seen.cn0, std::floor(wanted.cn0));
-        ASSERT_EQ(seen.rateValid, widths.rate != 0 ? 1 : 0);
-        ASSERT_NEAR(seen.phaseRangeRate, widths.rate != 0 ? wanted.rate : 0, 0.000051);
+      ASSERT_EQ(record.count, message.cells.size());
+      std::size_t cell = 0;
+      for (std::size_t place = 0; place < message.mask.size(); ++place) {
+        if (!message.mask[place]) continue;
+        const std::size_t satellite = place / signals.size();
+        const MsmObservation& seen = record.observations[cell];
+        ASSERT_EQ(Values(seen.system, seen.satellite, seen.signal),
+                  Values(record.system, satellites[satellite], signals[place % signals.size()]));
+        ExpectObservation(seen, number, message.satellites[satellite], message.cells[cell++]);
       }
-      for (std::size_t i = truth.size(); i < std::size(record.observations); ++i) {
-        MsmObservation unused{};
-        unused.system = 1;
-        ASSERT_EQ(std::memcmp(&record.observations[i], &unused, sizeof unused), 0) << i;
+      MsmObservation unused{};
+      unused.system = 1;
+      for (; cell < std::size(record.observations); ++cell) {
+        ASSERT_EQ(std::memcmp(&record.observations[cell], &unused, sizeof unused), 0) << cell;
       }
+    }
+  }
+}
+
+TEST(Msm, FrequenciesOfSignals) {
+  // Signals 1 to 32 of each system.
+  const std::pair<int, std::string_view> systems[] = {{1, ".LLL...222....222....555.....LLL"},
+                                                      {2, "LLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLL"},
+                                                      {3, ".LLLLL.66666.777.888.555.......L"},
+                                                      {4, ".BBB...333...777.....5557....LLL"},
+                                                      {5, ".L............222....555.....LLL"}};
+  // 2 is what hosts expect, not what the systems transmit.
+  const std::map<char, double> frequencies = {
+      {'.', 0},          {'L', 1575420000}, {'B', 1561098000}, {'2', 1277600000}, {'3', 1268520000},
+      {'5', 1176450000}, {'6', 1287750000}, {'7', 1207140000}, {'8', 1191795000}};
+  for (const auto& [system, signals] : systems) {
+    for (std::size_t i = 0; i < 32; ++i) {
+      EXPECT_EQ(rtcm::FrequenciesOf(static_cast<rtcm::MsmSystem>(system))[i + 1],
+                frequencies.at(signals[i]))
+          << system << " " << i + 1;
     }
   }
 }
 
 TEST(Msm, OnlySomeNumbersAreDecoded) {
   for (std::uint32_t number = 1070; number <= 1140; ++number) {
-    const bool decodable =
-        std::find(std::begin(Decodable), std::end(Decodable), number) != std::end(Decodable);
-    MsmMessage message = OneCell(number);
-    if (message.Kind() < 4 || message.Kind() > 7) message.cellFields.resize(8);
-    EXPECT_EQ(Decoded(message.Frame()).size(), decodable ? 1U : 0U) << number;
+    Message message;
+    message.number = number;
+    message.cells.resize(8);  // longer than any kind needs
+    const auto wanted = static_cast<std::size_t>(std::ranges::count(Decodable, number));
+    EXPECT_EQ(Decoded(message.Frame()).size(), wanted) << number;
   }
 }
 
 TEST(Msm, ContentsThatDoNotFitLeaveNoTrace) {
-  MsmMessage wide = OneCell(1074);
-  wide.satellites = {1, 2, 3, 4, 5, 6, 7, 8};
-  wide.signals = {1, 2, 3, 4, 5, 6, 7, 8, 9};
-  wide.cells.clear();
-  EXPECT_TRUE(Decoded(wide.Sized().Frame()).empty());
+  const Message wide{1074, 1, 0xFF, 0x1FF, std::vector<bool>(72), std::vector<Satellite>(8), {}};
+  EXPECT_TRUE(Decoded(wide.Frame()).empty());
   for (const std::uint32_t number : Decodable) {
-    std::mt19937 random(number);
-    std::vector<MsmTruth> truth;
-    const Bytes payload = RandomMsm(number, random, truth, 5, 4).Payload();
+    sample::Noise noise(number);
+    const Bytes payload = RandomMessage(number, noise).Payload();
     for (std::size_t length = 2; length < payload.size(); ++length) {
       const auto decoder = std::make_unique<Decoder>();
-      const Bytes shortened(payload.begin(), payload.begin() + static_cast<std::ptrdiff_t>(length));
-      ASSERT_TRUE(Push(*decoder, RtcmFrame(shortened)).empty()) << number << " " << length;
-      std::uint32_t ids[64];
-      ASSERT_EQ(decoder->sink.DrainDecodedIds(ids), 0U);
+      ASSERT_TRUE(Push(*decoder, RtcmFrame(First(payload, length))).empty())
+          << number << " " << length;
+      ASSERT_TRUE(DecodedIds(*decoder).empty());
       ASSERT_EQ(decoder->time.getTOW(), 0xFFFFFFFF);
     }
   }
   // No satellite at all is an epoch like any other.
-  MsmMessage empty = OneCell(1117);
-  empty.satellites.clear();
-  empty.signals.clear();
-  empty.cells.clear();
-  const auto records = Decoded(empty.Sized().Frame());
-  EXPECT_EQ(Only(records).count, 0);
-  EXPECT_EQ(Only(records).system, 5);
+  const auto records = Decoded(Message{1117, 1, 0, 0, {}, {}, {}}.Frame());
+  EXPECT_EQ(Values(Only(records).count, Only(records).system), Values(0, 5));
 }
 
 TEST(Msm, InvalidCodes) {
   struct Case {
     std::uint32_t number;
-    std::int64_t finePseudorange, finePhase, roughRate, fineRate;
-    std::uint32_t rangeMs;
+    Satellite satellite;
+    Cell cell;
     int pseudorangeValid, phaseStatus, rateValid;
   };
+  const Satellite good = {70, 0, 512};
   const Case cases[] = {
-      {1074, -16384, 0, 0, 0, 70, 0, 1, 0},
-      {1075, 0, -2097152, 0, -16384, 70, 1, 0, 0},
-      {1077, -524288, 0, 0, 0, 70, 0, 1, 1},
-      {1077, 0, -8388608, -8192, 0, 70, 1, 0, 0},
-      {1077, -16384, -2097152, 0, -16384, 70, 1, 1, 0},
-      {1077, 0, 0, 0, 0, 255, 0, 0, 1},  // the rate does not need the range
-      {1077, 0, 0, 0, 0, 0, 0, 0, 1},
-      {1076, -524288, -8388608, 0, 0, 70, 1, 1, 0},  // MSM6 knows the codes of MSM4 alone
-      {1076, -16384, -2097152, 0, 0, 70, 0, 0, 0},
+      {1074, good, {-16384}, 0, 1, 0},
+      {1075, good, {0, -2097152, 0, 0, 0, -16384}, 1, 0, 0},
+      {1077, good, {-524288}, 0, 1, 1},
+      {1077, {70, 0, 512, -8192}, {0, -8388608}, 1, 0, 0},
+      {1077, good, {-16384, -2097152, 0, 0, 0, -16384}, 1, 1, 0},
+      {1077, {255, 0, 512}, {}, 0, 0, 1},  // the rate does not need the range
+      {1077, {0, 0, 512}, {}, 0, 0, 1},
+      {1076, good, {-524288, -8388608}, 1, 1, 0},  // MSM6 knows the codes of MSM4 alone
+      {1076, good, {-16384, -2097152}, 0, 0, 0},
   };
   for (const Case& c : cases) {
-    MsmMessage message = OneCell(c.number);
-    message.satelliteFields[0] = {c.rangeMs, 512, c.roughRate};
-    message.cellFields[0].finePseudorange = c.finePseudorange;
-    message.cellFields[0].finePhase = c.finePhase;
-    message.cellFields[0].fineRate = c.fineRate;
+    SCOPED_TRACE(&c - cases);
+    const Message message{.number = c.number, .satellites = {c.satellite}, .cells = {c.cell}};
     const auto records = Decoded(message.Frame());
     const MsmObservation& seen = Only(records).observations[0];
-    SCOPED_TRACE(&c - cases);
-    EXPECT_EQ(seen.pseudorangeValid, c.pseudorangeValid);
-    EXPECT_EQ(seen.pseudorange != 0, c.pseudorangeValid == 1);
-    EXPECT_EQ(seen.phaseStatus, c.phaseStatus);
-    EXPECT_EQ(seen.carrierPhase != 0, c.phaseStatus == 1);
-    EXPECT_EQ(seen.rateValid, c.rateValid);
+    EXPECT_EQ(Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid),
+              Values(c.pseudorangeValid, c.phaseStatus, c.rateValid));
+    EXPECT_EQ(Values(seen.pseudorange != 0, seen.carrierPhase != 0),
+              Values(c.pseudorangeValid, c.phaseStatus));
   }
 }
 
-TEST(Msm, Epochs) {
+TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
   struct Case {
     std::uint32_t number, wire, epoch;
   };
-  for (const Case& c :
+  for (const auto& [number, wire, epoch] :
        {Case{1077, 604'799'999, 604'799'999}, Case{1127, 604'790'000, 4'000},
         Case{1127, 604'785'999, 604'799'999}, Case{1127, 604'786'000, 0},
         Case{1087, 0, 594'018'000}, Case{1087, 3U << 27 | 45'000'000, 293'418'000}}) {
-    MsmMessage message = OneCell(c.number);
-    message.epoch = c.wire;
-    message.more = c.wire % 2 == 0;
+    SCOPED_TRACE(wire);
     const auto decoder = std::make_unique<Decoder>();
-    std::uint16_t week = 2325;
-    decoder->time.setWeek(week);
-    const auto records = Push(*decoder, message.Frame());
-    EXPECT_EQ(Only(records).epochTime, c.epoch) << c.number;
-    EXPECT_EQ(Only(records).epochComplete, c.wire % 2);
-    EXPECT_EQ(Only(records).week, 2325);
-    EXPECT_EQ(Only(records).timeText, decoder->time.timeText);
-    EXPECT_EQ(decoder->time.getTOW(), c.epoch);
+    decoder->time.gpsTime.week = 2325;
+    const auto records =
+        Push(*decoder, Message{.number = number, .epoch = wire, .more = wire % 2}.Frame());
+    const MsmRecord& record = Only(records);
+    EXPECT_EQ(Values(record.epochTime, record.epochComplete, record.week),
+              Values(epoch, 1 - wire % 2, 2325));
+    EXPECT_EQ(record.timeText, decoder->time.timeText);
+    EXPECT_EQ(decoder->time.getTOW(), epoch);
     EXPECT_EQ(decoder->time.timeText.size(), 10U);
   }
 }
 
 TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
-  // First indicator of each line: minimum lock time = a * i - b.
-  struct Line {
-    std::uint32_t first, a;
-    std::int64_t b;
-  };
-  const Line lines[] = {{0, 1, 0},
-                        {64, 2, 64},
-                        {96, 4, 256},
-                        {128, 8, 768},
-                        {160, 16, 2048},
-                        {192, 32, 5120},
-                        {224, 64, 12288},
-                        {256, 128, 28672},
-                        {288, 256, 65536},
-                        {320, 512, 147456},
-                        {352, 1024, 327680},
-                        {384, 2048, 720896},
-                        {416, 4096, 1572864},
-                        {448, 8192, 3407872},
-                        {480, 16384, 7340032},
-                        {512, 32768, 15728640},
-                        {544, 65536, 33554432},
-                        {576, 131072, 71303168},
-                        {608, 262144, 150994944},
-                        {640, 524288, 318767104},
-                        {672, 1048576, 671088640},
-                        {704, 2097152, 1409286144}};
-  for (std::size_t n = 0; n < std::size(lines); ++n) {
-    const std::uint32_t end = n + 1 < std::size(lines) ? lines[n + 1].first : 705;
-    for (std::uint32_t i = lines[n].first; i < end; ++i) {
-      ASSERT_EQ(rtcm::LockTime10(i), std::int64_t{lines[n].a} * i - lines[n].b) << i;
-    }
+  // Steps of 1 ms up to 64, then from 32 to 32 indicators twice as long.
+  std::uint32_t wanted = 0;
+  for (std::uint32_t i = 0; i < 704; ++i) {
+    ASSERT_EQ(rtcm::LockTime10(i), wanted) << i;
+    wanted += i < 64 ? 1 : 1U << (i / 32 - 1);
   }
-  const std::uint32_t short4[] = {0, 32, 64, 128, 256, 512, 1024, 2048};
-  for (std::uint32_t i = 0; i < 8; ++i) EXPECT_EQ(rtcm::LockTime4(i), short4[i]);
-  EXPECT_EQ(rtcm::LockTime4(15), 524288U);
+  EXPECT_EQ(Values(rtcm::LockTime10(704), rtcm::LockTime10(1023)), Values(67108864, 67108864));
+  EXPECT_EQ(Values(rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
+            Values(0, 32, 64, 524288));
 }
 
 TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
-  const auto decoder = std::make_unique<Decoder>();
-  const auto status = [&](std::uint32_t epoch, std::uint32_t lock, std::uint32_t halfCycle = 0,
-                          int signal = 2) {
-    MsmMessage message = OneCell(1077, signal);
-    message.epoch = epoch;
-    message.cellFields[0].lock = lock;
-    message.cellFields[0].halfCycle = halfCycle;
-    const auto records = Push(*decoder, message.Frame());
-    const MsmObservation& seen = Only(records).observations[0];
-    if (signal == 5) {
-      EXPECT_EQ(seen.carrierPhase, 0);
-    }
-    return int{seen.phaseStatus};
+  struct Step {
+    std::uint32_t epoch;
+    std::int64_t lock, halfCycle;
+    int signal, status;
   };
-  EXPECT_EQ(status(10'000, 704), 1);  // no interval yet
-  EXPECT_EQ(status(11'000, 704), 1);  // the interval of 1000 ms counts from the next message on
-  EXPECT_EQ(status(12'000, 252), 2);  // 3840 ms
-  EXPECT_EQ(status(13'000, 63), 1);
-  EXPECT_EQ(status(14'000, 704, 1), 0);
-  EXPECT_EQ(status(14'000, 704, 0, 5), 0);  // a signal without a frequency
-  EXPECT_EQ(status(16'000, 704), 2);        // a gap of 2 s keeps the interval
-  EXPECT_EQ(status(15'000, 704), 2);
-  EXPECT_EQ(status(15'000, 704), 1);  // it went backwards
+  const Step steps[] = {
+      {10'000, 704, 0, 2, 1},  // no interval yet
+      {11'000, 704, 0, 2, 1},  // the interval of 1000 ms counts from the next message on
+      {12'000, 252, 0, 2, 2},  // 3840 ms
+      {13'000, 63, 0, 2, 1},  {14'000, 704, 1, 2, 0},
+      {14'000, 704, 0, 5, 0},  // a signal without a frequency; the same epoch keeps the interval
+      {15'999, 704, 0, 2, 2}, {15'999, 200, 0, 2, 1},   // 1280 ms; the interval is 1999 ms now
+      {18'999, 223, 0, 2, 2},                           // 2016 ms
+      {18'999, 223, 0, 2, 2},                           // a gap of 3 s was no interval
+      {17'000, 704, 0, 2, 2}, {17'000, 704, 0, 2, 1}};  // it went backwards
+  const auto decoder = std::make_unique<Decoder>();
+  for (const Step& step : steps) {
+    SCOPED_TRACE(&step - steps);
+    const Message message{.epoch = step.epoch,
+                          .signalMask = 1ULL << (32 - step.signal),
+                          .cells = {{0, 0, step.lock, step.halfCycle}}};
+    const auto records = Push(*decoder, message.Frame());
+    EXPECT_EQ(Only(records).observations[0].phaseStatus, step.status);
+    EXPECT_EQ(Only(records).observations[0].carrierPhase == 0, step.signal == 5);
+  }
 }
 
 TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->sink.SetFilter(MsgIdMsmQzss);
-  const Bytes frame = OneCell(1077).Frame();
-  const auto push = [&](int count) {
-    for (int i = 0; i < count; ++i) {
-      decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
-    }
-  };
-  push(1000);
-  const std::size_t before = ResidentMemory();
-  push(100'000);
+  const Bytes frame = Message{}.Frame();
+  std::size_t before = 0;
+  for (int i = 0; i < 101'000; ++i) {
+    if (i == 1000) before = ResidentMemory();
+    decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
+  }
   EXPECT_LT(ResidentMemory(), before + 1'000'000);
-  EXPECT_EQ(decoder->sink.Waiting(), 0U);
-  EXPECT_EQ(decoder->time.getTOW(), 1000U);
-  std::uint32_t ids[64];
-  ASSERT_EQ(decoder->sink.DrainDecodedIds(ids), 1U);
-  EXPECT_EQ(ids[0], std::uint32_t{MsgIdMsmGps});
-  EXPECT_EQ(Push(*decoder, OneCell(1117).Frame()).size(), 1U);
+  EXPECT_EQ(Values(decoder->sink.Waiting(), decoder->time.getTOW()), Values(0, 1000));
+  EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
+  EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }
 
 }  // namespace

@@ -1,65 +1,77 @@
-// Frames of the binary protocols, byte by byte.
+// Frames of the binary protocols, with the writers of the samples, which share nothing with the
+// decoders.
 #pragma once
 
-#include <bit>
-#include <cstddef>
-#include <cstdint>
+#include <set>
 
+#include "generator/rtcm_stream.h"
+#include "generator/ubx_stream.h"
 #include "support/streams.h"
 
 namespace navframe::test {
 
-// A payload to write little-endian fields into; setters chain.
-class PayloadBuilder {
- public:
-  explicit PayloadBuilder(std::size_t length) : bytes_(length) {}
-  // Filled with bytes that follow no pattern, the same for the same seed.
-  PayloadBuilder(std::size_t length, std::uint32_t seed);
+using sample::BitWriter;
+using sample::Frame55Aa;
+using sample::RtcmFrame;
+using sample::UbxFrame;
 
-  PayloadBuilder& U8(std::size_t offset, std::uint8_t value) { return Put(offset, value, 1); }
-  PayloadBuilder& U16(std::size_t offset, std::uint16_t value) { return Put(offset, value, 2); }
-  PayloadBuilder& U32(std::size_t offset, std::uint32_t value) { return Put(offset, value, 4); }
-  PayloadBuilder& I32(std::size_t offset, std::int32_t value) {
-    return U32(offset, static_cast<std::uint32_t>(value));
+inline Bytes RtcmFrame(const BitWriter& payload) { return RtcmFrame(payload.Written()); }
+
+// Bytes that follow no pattern, the same for the same seed.
+inline Bytes NoiseBytes(std::size_t length, std::uint64_t seed) {
+  Bytes bytes(length);
+  for (sample::Noise noise(seed); std::uint8_t & byte : bytes) {
+    byte = static_cast<std::uint8_t>(noise.Next());
   }
-  PayloadBuilder& F32(std::size_t offset, float value) {
-    return U32(offset, std::bit_cast<std::uint32_t>(value));
-  }
-  PayloadBuilder& F64(std::size_t offset, double value) {
-    return Put(offset, std::bit_cast<std::uint64_t>(value), 8);
+  return bytes;
+}
+
+// A payload with little-endian fields at chosen offsets; setters chain.
+class Payload {
+ public:
+  Payload(std::size_t length) : bytes_(length) {}
+  Payload(Bytes bytes) : bytes_(std::move(bytes)) {}
+
+  Payload& U8(std::size_t at, std::int64_t value) { return Put(at, value, 1); }
+  Payload& U16(std::size_t at, std::int64_t value) { return Put(at, value, 2); }
+  Payload& U32(std::size_t at, std::int64_t value) { return Put(at, value, 4); }
+  Payload& F32(std::size_t at, float value) { return U32(at, std::bit_cast<std::int32_t>(value)); }
+  Payload& F64(std::size_t at, double value) {
+    return Put(at, std::bit_cast<std::int64_t>(value), 8);
   }
 
   operator const Bytes&() const { return bytes_; }
 
  private:
-  PayloadBuilder& Put(std::size_t offset, std::uint64_t value, std::size_t width);
+  Payload& Put(std::size_t at, std::int64_t value, std::size_t width) {
+    for (std::size_t i = 0; i < width; ++i) {
+      bytes_.at(at + i) = static_cast<std::uint8_t>(value >> (8 * i));
+    }
+    return *this;
+  }
   Bytes bytes_;
 };
 
-// A whole UBX frame with a right checksum.
-Bytes UbxFrame(std::uint8_t messageClass, std::uint8_t id, const Bytes& payload);
-// A whole 0x55 0xAA frame with a right checksum.
-Bytes Frame55Aa(const Bytes& payload);
-
 // The frame with one bit of its last byte, or of one further in front, the other way round.
-Bytes Damaged(Bytes frame, std::size_t beforeLast = 0);
+inline Bytes Damaged(Bytes frame, std::size_t beforeLast = 0) {
+  frame.at(frame.size() - 1 - beforeLast) ^= 0x40;
+  return frame;
+}
 
-// Plausible messages, all fields of which depend on the seed.
-PayloadBuilder NavigationPayload(std::uint32_t seed);
-PayloadBuilder SatellitesPayload(std::uint8_t count, std::uint32_t seed);
-PayloadBuilder RawMeasurementsPayload(std::uint8_t count, std::uint32_t seed);
-PayloadBuilder ProtectionLevelsPayload(std::uint32_t seed);
-PayloadBuilder AttitudePayload(std::uint32_t seed);
+inline Bytes First(const Bytes& bytes, std::size_t count) {
+  return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(count)};
+}
 
-// Their frames.
-Bytes NavigationFrame(const Bytes& payload);
-Bytes SatellitesFrame(const Bytes& payload);
-Bytes RawMeasurementsFrame(const Bytes& payload);
-Bytes ProtectionLevelsFrame(const Bytes& payload);
-Bytes AttitudeFrame(const Bytes& payload);
+// Numbers of any type, to compare many at once.
+template <class... T>
+std::vector<double> Values(T... values) {
+  return {static_cast<double>(values)...};
+}
 
-// Pushes zeros and a frame, in two chunks, so that the frame wraps around the end of the ring with
-// `before` bytes (2 or more) in front of it. Pops nothing.
-void PushAcrossTheEndOfTheRing(Decoder& decoder, const Bytes& frame, std::uint32_t before);
+// The kinds decoded since the last call.
+inline std::set<std::uint32_t> DecodedIds(Decoder& decoder) {
+  std::array<std::uint32_t, 64> ids;
+  return {ids.begin(), ids.begin() + decoder.sink.DrainDecodedIds(ids.data())};
+}
 
 }  // namespace navframe::test

@@ -41,74 +41,62 @@ std::vector<Record> DecodedOver(int dirt, const Message& message, const Bytes& p
 TEST(UbxHostile, EveryMessageAtEveryLength) {
   for (const Message& message : Messages) {
     for (std::size_t length = 0; length <= Longest; length += length < 600 ? 1 : 97) {
-      PayloadBuilder payload(length, static_cast<std::uint32_t>(length));
+      SCOPED_TRACE(testing::Message() << message.msgId << " " << length);
+      Payload payload(NoiseBytes(length, length));
       if (length > 5 && message.msgId == MsgIdUbxSatellites) payload.U8(5, 255);
       if (length > 11 && message.msgId == MsgIdUbxRawMeasurements) payload.U8(11, 255);
       const bool taken = length >= message.fewest && length <= message.most;
       const auto records = DecodedOver(0x00, message, payload);
-      ASSERT_EQ(records.size(), taken ? 1U : 0U) << message.msgId << " " << length;
+      ASSERT_EQ(records.size(), taken ? 1U : 0U);
       if (!taken) continue;
-      ASSERT_EQ(records[0].id, message.msgId);
-      ASSERT_EQ(records[0].size, message.recordSize);
+      ASSERT_EQ(Values(records[0].id, records[0].size), Values(message.msgId, message.recordSize));
       ASSERT_TRUE(SameRecords(records, DecodedOver(0xA5, message, payload)))
-          << message.msgId << " " << length << ": a byte of the record is not written";
+          << "a byte of the record is not written";
     }
   }
 }
 
-TEST(UbxHostile, CountOfSatellitesEndsWithFrameAndRoom) {
-  const auto counted = [](std::uint8_t count, std::size_t held) {
-    const Bytes payload = PayloadBuilder(8 + 12 * held + 11, 3).U8(5, count);
-    const auto record = Decoded(SatellitesFrame(payload)).at(0).As<UbxSatellitesRecord>();
-    UbxSatellite unknown;
-    std::memset(&unknown, 0xFF, sizeof(unknown));
-    unknown.residual = INT16_MIN;
-    for (std::size_t i = record.count; i < 96; ++i) {
-      EXPECT_EQ(std::memcmp(&record.satellites[i], &unknown, sizeof(unknown)), 0) << i;
-    }
-    return record.count;
+TEST(UbxHostile, CountsEndWithFrameAndRoom) {
+  struct Case {
+    std::uint8_t count;
+    std::size_t held;
+    int stored;
   };
-  EXPECT_EQ(counted(255, 1), 1);
-  EXPECT_EQ(counted(255, 255), 96);
-  EXPECT_EQ(counted(3, 20), 3);
-  EXPECT_EQ(counted(0, 0), 0);
-  const Bytes shortest = PayloadBuilder(7).U8(5, 255);
-  EXPECT_EQ(Decoded(SatellitesFrame(shortest)).at(0).As<UbxSatellitesRecord>().count, 0);
-}
-
-TEST(UbxHostile, CountOfMeasurementsEndsWithFrame) {
-  const auto counted = [](std::uint8_t count, std::size_t held) {
-    const Bytes payload = PayloadBuilder(16 + 32 * held + 31, 3).U8(11, count);
-    const auto record = Decoded(RawMeasurementsFrame(payload)).at(0).As<UbxRawMeasurementsRecord>();
+  UbxSatellite noSatellite;
+  std::memset(&noSatellite, 0xFF, sizeof(noSatellite));
+  noSatellite.residual = INT16_MIN;
+  for (const Case& c : {Case{255, 1, 1}, {255, 255, 96}, {3, 20, 3}, {0, 0, 0}}) {
+    const Bytes payload = Payload(NoiseBytes(8 + 12 * c.held + 11, 3)).U8(5, c.count);
+    const auto record = Decoded(UbxFrame(0x01, 0x35, payload)).at(0).As<UbxSatellitesRecord>();
+    EXPECT_EQ(record.count, c.stored);
+    for (std::size_t i = record.count; i < 96; ++i) {
+      EXPECT_EQ(std::memcmp(&record.satellites[i], &noSatellite, sizeof(noSatellite)), 0) << i;
+    }
+  }
+  for (const Case& c : {Case{255, 1, 1}, {255, 125, 125}, {2, 9, 2}}) {
+    const Bytes payload = Payload(NoiseBytes(16 + 32 * c.held + 31, 3)).U8(11, c.count);
+    const auto record = Decoded(UbxFrame(0x02, 0x15, payload)).at(0).As<UbxRawMeasurementsRecord>();
+    EXPECT_EQ(record.count, c.stored);
     for (std::size_t i = record.count; i < 255; ++i) {
       const UbxRawMeasurement& entry = record.measurements[i];
       EXPECT_EQ(std::bit_cast<std::uint64_t>(entry.pseudorange), 0xFFF8000000000000);
       EXPECT_EQ(std::bit_cast<std::uint32_t>(entry.dopplerDeviation), 0xFFC00000);
-      EXPECT_EQ(entry.lockTime, 65535);
-      EXPECT_EQ(entry.halfCycleSubtracted, 255);
+      EXPECT_EQ(Values(entry.lockTime, entry.halfCycleSubtracted), Values(65535, 255));
     }
-    return record.count;
-  };
-  EXPECT_EQ(counted(255, 1), 1);
-  EXPECT_EQ(counted(255, 125), 125);  // as many as the longest frame has
-  EXPECT_EQ(counted(2, 9), 2);
+  }
 }
 
 TEST(UbxHostile, RawMeasurementsThatEndInTheHeadKeepWhatTheyHold) {
-  const Bytes whole = RawMeasurementsPayload(0, 1);
-  const auto record = [&](std::ptrdiff_t length) {
-    const Bytes payload(whole.begin(), whole.begin() + length);
-    return Decoded(RawMeasurementsFrame(payload)).at(0).As<UbxRawMeasurementsRecord>();
-  };
-  EXPECT_EQ(record(7).tow, 0xFFFFFFFF);
-  EXPECT_EQ(record(9).tow, 302'419'000U);
-  EXPECT_EQ(record(9).week, 65535);
-  EXPECT_EQ(record(10).leapSeconds, -128);
-  EXPECT_EQ(record(12).leapSeconds, 18);
-  EXPECT_EQ(record(12).clockReset, 255);
-  EXPECT_EQ(record(13).leapKnown, 1);
-  EXPECT_EQ(record(13).version, 255);
-  EXPECT_EQ(record(0).count, 0);
+  const Bytes whole = Payload(16).F64(0, 302'419.0).U16(8, 2325).U8(10, 18).U8(12, 1).U8(13, 1);
+  for (std::size_t length = 0; length <= 16; ++length) {
+    const auto frame = UbxFrame(0x02, 0x15, First(whole, length));
+    const auto record = Decoded(frame).at(0).As<UbxRawMeasurementsRecord>();
+    EXPECT_EQ(Values(record.tow, record.week, record.leapSeconds, record.count, record.leapKnown,
+                     record.clockReset, record.version),
+              Values(length < 8 ? 0xFFFFFFFF : 302'419'000, length < 10 ? 65535 : 2325,
+                     length < 11 ? -128 : 18, 0, length < 13 ? 255 : 1, length < 13 ? 255 : 0,
+                     length < 14 ? 255 : 1));
+  }
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "support/binary_frames.h"
@@ -14,11 +13,11 @@ constexpr std::uint16_t Week = 2222;
 
 // The only record of a frame, decoded while the clock shows week 2222 and the text "clock".
 template <class T>
-T Only(const Bytes& frame) {
+T Only(std::uint8_t messageClass, std::uint8_t id, const Bytes& payload) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->time.gpsTime.week = Week;
   decoder->time.timeText = "clock";
-  const auto records = Push(*decoder, frame);
+  const auto records = Push(*decoder, UbxFrame(messageClass, id, payload));
   EXPECT_EQ(records.size(), 1U);
   EXPECT_EQ(records.at(0).size, sizeof(T));
   EXPECT_STREQ(records[0].As<T>().timeText, "clock");
@@ -26,219 +25,140 @@ T Only(const Bytes& frame) {
 }
 
 // No field of it is 0 or has a neighbour's value.
-PayloadBuilder Navigation() {
-  PayloadBuilder payload(92);
+Payload NavigationPayload() {
+  Payload payload(92);
   payload.U32(0, 400'000'111).U16(4, 2031).U8(6, 5).U8(7, 6).U8(8, 7).U8(9, 8).U8(10, 9);
-  payload.U8(11, 0x0C).U32(12, 1201).I32(16, 987'654'321).U8(20, 3).U8(21, 0xAD).U8(22, 0xA0);
-  payload.U8(23, 29).I32(24, -1'234'567'891).I32(28, 481'234'567).I32(32, 8'848'861);
-  payload.I32(36, -12'345).U32(40, 4001).U32(44, 4002).I32(48, -4803).I32(52, 5204);
-  payload.I32(56, -5605).I32(60, 6006).I32(64, 35'999'999).U32(68, 6807).U32(72, 7208);
+  payload.U8(11, 0x0C).U32(12, 1201).U32(16, 987'654'321).U8(20, 3).U8(21, 0xAD).U8(22, 0xA0);
+  payload.U8(23, 29).U32(24, -1'234'567'891).U32(28, 481'234'567).U32(32, 8'848'861);
+  payload.U32(36, -12'345).U32(40, 4001).U32(44, 4002).U32(48, -4803).U32(52, 5204);
+  payload.U32(56, -5605).U32(60, 6006).U32(64, 35'999'999).U32(68, 6807).U32(72, 7208);
   payload.U16(76, 123).U16(78, 0x17).U32(80, 0x80818283).U32(84, 0x12345678);
   return payload;
 }
+UbxNavigationRecord Navigation(const Bytes& payload) {
+  return Only<UbxNavigationRecord>(0x01, 0x07, payload);
+}
 
 TEST(UbxNavigation, EveryFieldComesFromItsPlace) {
-  const auto record = Only<UbxNavigationRecord>(NavigationFrame(Navigation()));
-  EXPECT_EQ(record.tow, 400'000'111U);
-  EXPECT_EQ(record.week, Week);
-  EXPECT_EQ(record.year, 2031);
-  const std::uint8_t bytes[] = {record.month,
-                                record.day,
-                                record.hour,
-                                record.minute,
-                                record.second,
-                                record.dateValid,
-                                record.timeValid,
-                                record.fullyResolved,
-                                record.magValid,
-                                record.fixType,
-                                record.fixOk,
-                                record.diffSolution,
-                                record.powerSaveState,
-                                record.headingValid,
-                                record.carrierSolution,
-                                record.confirmedAvailable,
-                                record.confirmedDate,
-                                record.confirmedTime,
-                                record.satellites,
-                                record.invalidHeight,
-                                record.correctionAge};
-  const std::uint8_t expected[] = {5, 6, 7, 8, 9, 0, 0, 1, 1, 3, 1, 0, 3, 1, 2, 1, 0, 1, 29, 1, 11};
-  EXPECT_TRUE(std::ranges::equal(bytes, expected));
-  EXPECT_EQ(record.millisecond, 987U);
-  EXPECT_EQ(record.timeAccuracy, 1201U);
-  EXPECT_EQ(record.nanoseconds, 987'654'321);
-  EXPECT_EQ(record.longitude, -123.4567891);
-  EXPECT_EQ(record.latitude, 48.1234567);
-  EXPECT_EQ(record.height, 8848.861F);
-  EXPECT_EQ(record.heightMsl, -12.345F);
-  EXPECT_EQ(record.horizontalAccuracy, 4001U);
-  EXPECT_EQ(record.verticalAccuracy, 4002U);
-  EXPECT_EQ(record.velocityEast, 5204);
-  EXPECT_EQ(record.velocityNorth, -4803);
-  EXPECT_EQ(record.velocityUp, 5605);
-  EXPECT_EQ(record.groundSpeed, 6006);
-  EXPECT_EQ(record.motionHeading, 35'999'999);
-  EXPECT_EQ(record.speedAccuracy, 6807U);
-  EXPECT_EQ(record.headingAccuracy, 7208U);
-  EXPECT_EQ(record.positionDop, 0.123F);
-  EXPECT_EQ(record.reservedWord, 0x80818283U);
-  EXPECT_EQ(record.vehicleHeading, 0x5678);
+  const auto r = Navigation(NavigationPayload());
+  EXPECT_EQ(Values(r.tow, r.week, r.year, r.month, r.day, r.hour, r.minute, r.second),
+            Values(400'000'111, Week, 2031, 5, 6, 7, 8, 9));
+  EXPECT_EQ(Values(r.dateValid, r.timeValid, r.fullyResolved, r.magValid, r.fixType, r.fixOk,
+                   r.diffSolution, r.powerSaveState, r.headingValid, r.carrierSolution,
+                   r.confirmedAvailable, r.confirmedDate, r.confirmedTime, r.satellites,
+                   r.invalidHeight, r.correctionAge),
+            Values(0, 0, 1, 1, 3, 1, 0, 3, 1, 2, 1, 0, 1, 29, 1, 11));
+  EXPECT_EQ(Values(r.millisecond, r.timeAccuracy, r.nanoseconds), Values(987, 1201, 987'654'321));
+  EXPECT_EQ(Values(r.longitude, r.latitude, r.height, r.heightMsl, r.positionDop),
+            Values(-123.4567891, 48.1234567, 8848.861F, -12.345F, 0.123F));
+  EXPECT_EQ(
+      Values(r.horizontalAccuracy, r.verticalAccuracy, r.velocityEast, r.velocityNorth,
+             r.velocityUp, r.groundSpeed, r.motionHeading, r.speedAccuracy, r.headingAccuracy),
+      Values(4001, 4002, 5204, -4803, 5605, 6006, 35'999'999, 6807, 7208));
+  EXPECT_EQ(Values(r.reservedWord, r.vehicleHeading), Values(0x80818283, 0x5678));
 }
 
 TEST(UbxNavigation, SingleFlagsAreNotMixedUp) {
-  const auto flags = [](std::size_t offset, std::uint8_t value) {
-    return Only<UbxNavigationRecord>(NavigationFrame(Navigation().U8(offset, value)));
-  };
-  EXPECT_EQ(flags(11, 0xF1).dateValid, 1);
-  EXPECT_EQ(flags(21, 0x02).diffSolution, 1);
-  EXPECT_EQ(flags(21, 0x1C).powerSaveState, 7);
-  EXPECT_EQ(flags(22, 0x40).confirmedDate, 1);
-  EXPECT_EQ(flags(22, 0x1F).confirmedAvailable, 0);
-  EXPECT_EQ(flags(78, 0xFE).correctionAge, 15);
+  const auto r = Navigation(NavigationPayload().U8(21, 0x02).U8(22, 0x5F).U8(78, 0xFE));
+  EXPECT_EQ(Values(r.fixOk, r.diffSolution, r.powerSaveState, r.carrierSolution,
+                   r.confirmedAvailable, r.confirmedDate, r.invalidHeight, r.correctionAge),
+            Values(0, 1, 0, 0, 0, 1, 0, 15));
+  EXPECT_EQ(Navigation(NavigationPayload().U8(21, 0x1C)).powerSaveState, 7);
 }
 
 TEST(UbxNavigation, WithoutAFixThePositionIsUnknown) {
-  const auto record = Only<UbxNavigationRecord>(NavigationFrame(Navigation().U8(20, 0)));
-  const double doubles[] = {record.longitude, record.latitude};
-  const float floats[] = {record.height, record.heightMsl, record.positionDop};
-  for (const double value : doubles) {
+  const auto record = Navigation(NavigationPayload().U8(20, 0).U32(56, INT32_MIN));
+  for (const double value : {record.longitude, record.latitude}) {
     EXPECT_EQ(std::bit_cast<std::uint64_t>(value), 0xFFF8000000000000);
   }
-  for (const float value : floats) EXPECT_EQ(std::bit_cast<std::uint32_t>(value), 0xFFC00000);
-  EXPECT_EQ(record.horizontalAccuracy, 4001U);
-  const Bytes lowest = Navigation().I32(56, INT32_MIN);
-  EXPECT_EQ(Only<UbxNavigationRecord>(NavigationFrame(lowest)).velocityUp, INT32_MIN);
+  for (const float value : {record.height, record.heightMsl, record.positionDop}) {
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(value), 0xFFC00000);
+  }
+  EXPECT_EQ(Values(record.horizontalAccuracy, record.velocityUp), Values(4001, INT32_MIN));
 }
 
 TEST(UbxSatellites, EveryFieldOfAnEntryComesFromItsPlace) {
-  PayloadBuilder payload(8 + 24);
+  Payload payload(8 + 24);
   payload.U32(0, 300'000'000).U8(4, 1).U8(5, 2);
   payload.U8(20, 3).U8(21, 14).U8(22, 41).U8(23, 90).U16(24, 359).U16(26, 0xFF85).U32(28, 0x5AD);
-  const auto record = Only<UbxSatellitesRecord>(SatellitesFrame(payload));
-  EXPECT_EQ(record.tow, 300'000'000U);
-  EXPECT_EQ(record.week, Week);
-  EXPECT_EQ(record.version, 1);
-  EXPECT_EQ(record.count, 2);
-  const UbxSatellite& satellite = record.satellites[1];
-  EXPECT_EQ(satellite.systemId, 3);
-  EXPECT_EQ(satellite.satelliteId, 14);
-  EXPECT_EQ(satellite.cn0, 41);
-  EXPECT_EQ(satellite.elevation, 90);
-  EXPECT_EQ(satellite.azimuth, 359);
-  EXPECT_EQ(satellite.residual, -123);
-  EXPECT_EQ(satellite.quality, 5);
-  EXPECT_EQ(satellite.used, 1);
-  EXPECT_EQ(satellite.health, 2);
-  EXPECT_EQ(satellite.corrected, 0);
-  EXPECT_EQ(satellite.smoothed, 1);
-  EXPECT_EQ(satellite.orbitSource, 5);
-  EXPECT_EQ(record.satellites[0].cn0, 255);  // 0 sent
+  const auto r = Only<UbxSatellitesRecord>(0x01, 0x35, payload);
+  EXPECT_EQ(Values(r.tow, r.week, r.version, r.count), Values(300'000'000, Week, 1, 2));
+  const UbxSatellite& s = r.satellites[1];
+  EXPECT_EQ(Values(s.systemId, s.satelliteId, s.cn0, s.elevation, s.azimuth, s.residual, s.quality,
+                   s.used, s.health, s.corrected, s.smoothed, s.orbitSource),
+            Values(3, 14, 41, 90, 359, -123, 5, 1, 2, 0, 1, 5));
+  EXPECT_EQ(r.satellites[0].cn0, 255);  // 0 sent
 
   // Each of the bits 11 to 22 is one flag, in their order; those above are none.
   for (unsigned bit = 11; bit < 32; ++bit) {
-    payload.U32(28, 1U << bit);
-    const auto flags = Only<UbxSatellitesRecord>(SatellitesFrame(payload)).satellites[1];
+    payload.U32(28, std::int64_t{1} << bit);
+    const auto flags = Only<UbxSatellitesRecord>(0x01, 0x35, payload).satellites[1];
     const std::uint8_t* const first = &flags.quality;
     for (unsigned i = 0; i < 18; ++i) EXPECT_EQ(first[i], i + 5 == bit) << bit << " " << i;
   }
-}
-
-TEST(UbxSatellites, ElevationOutsideTheSkyLeavesDirectionUnknown) {
-  for (const int elevation : {91, 127, -1, -90}) {
-    PayloadBuilder payload(8 + 12);
-    payload.U8(5, 1).U8(11, static_cast<std::uint8_t>(elevation)).U16(12, 77).U16(14, 88);
-    const auto record = Only<UbxSatellitesRecord>(SatellitesFrame(payload));
-    EXPECT_EQ(record.satellites[0].elevation, 255) << elevation;
-    EXPECT_EQ(record.satellites[0].azimuth, 65535) << elevation;
-    EXPECT_EQ(record.satellites[0].residual, 88) << elevation;
+  for (const int elevation : {91, 127, -1, -90}) {  // outside the sky: no direction
+    payload.U8(23, elevation);
+    const auto below = Only<UbxSatellitesRecord>(0x01, 0x35, payload).satellites[1];
+    EXPECT_EQ(Values(below.elevation, below.azimuth, below.residual), Values(255, 65535, -123));
   }
 }
 
 TEST(UbxRawMeasurements, EveryFieldOfHeadAndEntryComesFromItsPlace) {
-  PayloadBuilder payload(16 + 64);
+  Payload payload(16 + 64);
   payload.F64(0, 345'678.1236).U16(8, 2320).U8(10, 0xEE).U8(11, 2).U8(12, 0x02).U8(13, 3);
   payload.F64(48, 2.123456789e7).F64(56, -1.5).F32(64, 1234.5F).U8(68, 6).U8(69, 11).U8(70, 2);
   payload.U8(71, 13).U16(72, 64'500).U8(74, 47).U8(75, 0xF5).U8(76, 0xF7).U8(77, 0xFF);
   payload.U8(78, 0x05).U8(79, 0xFF);
-  const auto record = Only<UbxRawMeasurementsRecord>(RawMeasurementsFrame(payload));
-  EXPECT_EQ(record.tow, 345'678'124U);
-  EXPECT_EQ(record.week, 2320);  // the message's own
-  EXPECT_EQ(record.leapSeconds, -18);
-  EXPECT_EQ(record.count, 2);
-  EXPECT_EQ(record.leapKnown, 0);
-  EXPECT_EQ(record.clockReset, 1);
-  EXPECT_EQ(record.version, 3);
-  const UbxRawMeasurement expected = {.pseudorange = 2.123456789e7,
-                                      .carrierPhase = -1.5,
-                                      .doppler = 1234.5F,
-                                      .pseudorangeDeviation = 0.32F,
-                                      .carrierPhaseDeviation = 0.028F,
-                                      .dopplerDeviation = 65.536F,
-                                      .systemId = 6,
-                                      .satelliteId = 11,
-                                      .signalId = 2,
-                                      .frequencySlot = 13,
-                                      .lockTime = 64'500,
-                                      .cn0 = 47,
-                                      .pseudorangeValid = 1,
-                                      .carrierPhaseValid = 0,
-                                      .halfCycleResolved = 1,
-                                      .halfCycleSubtracted = 0,
-                                      .reserved = {}};
-  EXPECT_EQ(std::memcmp(&record.measurements[1], &expected, sizeof(expected)), 0);
-  payload.U8(78, 0x0A);
-  const auto flipped = Only<UbxRawMeasurementsRecord>(RawMeasurementsFrame(payload));
+  const auto r = Only<UbxRawMeasurementsRecord>(0x02, 0x15, payload);
+  EXPECT_EQ(Values(r.tow, r.week, r.leapSeconds, r.count, r.leapKnown, r.clockReset, r.version),
+            Values(345'678'124, 2320, -18, 2, 0, 1, 3));
+  const UbxRawMeasurement& m = r.measurements[1];
+  EXPECT_EQ(Values(m.pseudorange, m.carrierPhase, m.doppler), Values(2.123456789e7, -1.5, 1234.5));
+  EXPECT_EQ(Values(m.pseudorangeDeviation, m.carrierPhaseDeviation, m.dopplerDeviation),
+            Values(0.32F, 0.028F, 65.536F));
+  EXPECT_EQ(Values(m.systemId, m.satelliteId, m.signalId, m.frequencySlot, m.lockTime, m.cn0),
+            Values(6, 11, 2, 13, 64'500, 47));
+  EXPECT_EQ(Values(m.pseudorangeValid, m.carrierPhaseValid, m.halfCycleResolved,
+                   m.halfCycleSubtracted, m.reserved[0], m.reserved[4]),
+            Values(1, 0, 1, 0, 0, 0));
+  const auto flipped = Only<UbxRawMeasurementsRecord>(0x02, 0x15, payload.U8(78, 0x0A));
   EXPECT_EQ(flipped.measurements[1].carrierPhaseValid, 1);
   EXPECT_EQ(flipped.measurements[1].halfCycleSubtracted, 1);
-}
 
-TEST(UbxRawMeasurements, ReceiverTimeThatIsNoTimeOfAWeekIsUnknown) {
-  const auto tow = [](double seconds) {
-    PayloadBuilder payload = RawMeasurementsPayload(1, 1);
-    return Only<UbxRawMeasurementsRecord>(RawMeasurementsFrame(payload.F64(0, seconds))).tow;
+  const auto tow = [&](double seconds) {
+    return Only<UbxRawMeasurementsRecord>(0x02, 0x15, payload.F64(0, seconds)).tow;
   };
-  EXPECT_EQ(tow(0.0), 0U);
-  EXPECT_EQ(tow(604'799.9996), 604'800'000U);
+  EXPECT_EQ(Values(tow(0.0), tow(604'799.9996)), Values(0, 604'800'000));
   for (const double none : {-1.0, 604'801.0, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
     EXPECT_EQ(tow(none), 0xFFFFFFFF) << none;
   }
 }
 
 TEST(UbxProtectionLevels, EveryFieldComesFromItsPlace) {
-  PayloadBuilder payload(52);
-  for (std::uint8_t i = 0; i < 11; ++i) payload.U8(i, static_cast<std::uint8_t>(0xF0 + i));
+  Payload payload(52);
+  for (std::size_t i = 0; i < 11; ++i) payload.U8(i, static_cast<std::int64_t>(0xF0 + i));
   payload.U32(12, 222'222'222).U16(40, 4040).U16(42, 4242).U32(44, 444'444).U32(48, 0x48484848);
-  for (std::uint32_t i = 0; i < 6; ++i) payload.U32(16 + 4 * i, 100'000 + i);
-  const auto record = Only<UbxProtectionLevelsRecord>(ProtectionLevelsFrame(payload));
-  EXPECT_EQ(record.tow, 222'222'222U);
-  EXPECT_EQ(record.week, Week);
-  EXPECT_EQ(std::memcmp(&record.version, &static_cast<const Bytes&>(payload)[0], 11), 0);
-  EXPECT_EQ(record.riskExponent, -14);
-  for (std::uint32_t axis = 0; axis < 3; ++axis) {
-    EXPECT_EQ(record.positionLevels[axis], 100'000 + axis);
-    EXPECT_EQ(record.velocityLevels[axis], 100'003 + axis);
-  }
-  EXPECT_EQ(record.positionOrientation, 4040);
-  EXPECT_EQ(record.velocityOrientation, 4242);
-  EXPECT_EQ(record.timeLevel, 444'444U);
-  EXPECT_EQ(record.reservedAtEnd, 0x48484848U);
+  for (std::size_t i = 0; i < 6; ++i)
+    payload.U32(16 + 4 * i, static_cast<std::int64_t>(100'000 + i));
+  const auto r = Only<UbxProtectionLevelsRecord>(0x01, 0x62, payload);
+  EXPECT_EQ(Values(r.tow, r.week, r.riskExponent), Values(222'222'222, Week, -14));
+  EXPECT_EQ(std::memcmp(&r.version, &static_cast<const Bytes&>(payload)[0], 11), 0);
+  EXPECT_EQ(Values(r.positionLevels[0], r.positionLevels[1], r.positionLevels[2],
+                   r.velocityLevels[0], r.velocityLevels[1], r.velocityLevels[2]),
+            Values(100'000, 100'001, 100'002, 100'003, 100'004, 100'005));
+  EXPECT_EQ(Values(r.positionOrientation, r.velocityOrientation, r.timeLevel, r.reservedAtEnd),
+            Values(4040, 4242, 444'444, 0x48484848));
 }
 
 TEST(UbxAttitude, EveryFieldComesFromItsPlace) {
-  PayloadBuilder payload(32);
-  payload.U32(0, 7654).U8(4, 1).I32(8, -125'000).I32(12, 4'512'345).I32(16, 35'999'999);
+  Payload payload(32);
+  payload.U32(0, 7654).U8(4, 1).U32(8, -125'000).U32(12, 4'512'345).U32(16, 35'999'999);
   payload.U32(20, 1).U32(24, 250'001).U32(28, 0xFFFFFFFF);
-  const auto record = Only<UbxAttitudeRecord>(AttitudeFrame(payload));
-  EXPECT_EQ(record.tow, 7654U);
-  EXPECT_EQ(record.week, Week);
-  EXPECT_EQ(record.version, 1);
-  EXPECT_EQ(record.roll, -1.25);
-  EXPECT_EQ(record.pitch, 45.12345);
-  EXPECT_EQ(record.heading, 359.99999);
-  EXPECT_EQ(record.rollAccuracy, 0.00001);
-  EXPECT_EQ(record.pitchAccuracy, 2.50001);
-  EXPECT_EQ(record.headingAccuracy, 42949.67295);
+  const auto r = Only<UbxAttitudeRecord>(0x01, 0x05, payload);
+  EXPECT_EQ(Values(r.tow, r.week, r.version), Values(7654, Week, 1));
+  EXPECT_EQ(Values(r.roll, r.pitch, r.heading), Values(-1.25, 45.12345, 359.99999));
+  EXPECT_EQ(Values(r.rollAccuracy, r.pitchAccuracy, r.headingAccuracy),
+            Values(0.00001, 2.50001, 42949.67295));
 }
 
 }  // namespace

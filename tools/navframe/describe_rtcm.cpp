@@ -21,17 +21,22 @@ void Print(std::string& out, const char* format, ...) {
   out += piece.data();
 }
 
+void PrintTow(std::string& out, std::uint32_t tow) {
+  if (tow == 0xFFFFFFFF) {
+    out += "tow -";
+  } else {
+    Print(out, "tow %" PRIu32 ".%03" PRIu32 " s", tow / 1000, tow % 1000);
+  }
+}
+
 void PrintTime(std::string& out, std::uint32_t tow, std::uint32_t week) {
   if (week == 65535) {
     out += "week -";
   } else {
     Print(out, "week %" PRIu32, week);
   }
-  if (tow == 0xFFFFFFFF) {
-    out += " tow -";
-  } else {
-    Print(out, " tow %" PRIu32 ".%03" PRIu32 " s", tow / 1000, tow % 1000);
-  }
+  out += " ";
+  PrintTow(out, tow);
 }
 
 template <std::size_t Count>
@@ -46,7 +51,6 @@ double Metres(std::int64_t raw) {
 }
 
 struct SystemNames {
-  const char* name;
   char letter;                          // of its satellites
   std::array<const char*, 33> signals;  // RINEX-style, by MSM signal id
 };
@@ -83,12 +87,12 @@ constexpr SignalRow SignalRows[] = {
 };
 
 constexpr auto Systems = [] {
-  std::array<SystemNames, 6> systems = {{{"unknown", '?', NoSignals},
-                                         {"GPS", 'G', NoSignals},
-                                         {"GLO", 'R', NoSignals},
-                                         {"GAL", 'E', NoSignals},
-                                         {"BDS", 'C', NoSignals},
-                                         {"QZSS", 'J', NoSignals}}};
+  std::array<SystemNames, 6> systems = {{{'?', NoSignals},
+                                         {'G', NoSignals},
+                                         {'R', NoSignals},
+                                         {'E', NoSignals},
+                                         {'C', NoSignals},
+                                         {'J', NoSignals}}};
   for (const SignalRow& row : SignalRows) {
     for (std::size_t i = 0; i < row.codes.size() && row.codes[i] != nullptr; ++i) {
       systems[row.system].signals[row.firstId + i] = row.codes[i];
@@ -105,7 +109,7 @@ void DescribeObservation(const MsmObservation& observation, std::string& out) {
   const SystemNames& names = NamesOf(observation.system);
   const char* const code =
       observation.signal < names.signals.size() ? names.signals[observation.signal] : nullptr;
-  Print(out, "\n  %s %c%02u ", names.name, names.letter, unsigned{observation.satellite});
+  Print(out, "\n%c%02u ", names.letter, unsigned{observation.satellite});
   if (code != nullptr) {
     Print(out, "%s", code);
   } else {
@@ -130,7 +134,7 @@ void DescribeObservation(const MsmObservation& observation, std::string& out) {
 }  // namespace
 
 void DescribeStationPosition(const StationPositionRecord& record, std::string& out) {
-  Print(out, "1005 station %" PRIu32 " ", record.stationId);
+  Print(out, "id %" PRIu32 " ", record.stationId);
   Print(out, "ECEF %.4f %.4f %.4f m", Metres(record.x), Metres(record.y), Metres(record.z));
   Print(out, " ITRF year %u%s%s%s%s", unsigned{record.itrfYear}, record.gps != 0 ? " GPS" : "",
         record.glonass != 0 ? " GLO" : "", record.galileo != 0 ? " GAL" : "",
@@ -138,18 +142,17 @@ void DescribeStationPosition(const StationPositionRecord& record, std::string& o
 }
 
 void DescribeSystemParameters(const SystemParametersRecord& record, std::string& out) {
-  Print(out, "1013 station %u MJD %u second %" PRIu32 " leap seconds %u, %u announcements",
+  Print(out, "id %u MJD %u second %" PRIu32 " leap seconds %u, %u announcements",
         unsigned{record.stationId}, unsigned{record.modifiedJulianDay}, record.secondsOfDay,
         unsigned{record.leapSeconds}, unsigned{record.count});
   for (std::size_t i = 0; i < record.count && i < std::size(record.announcements); ++i) {
     const MessageAnnouncement& announcement = record.announcements[i];
-    Print(out, "\n  %u every %.1f s%s", unsigned{announcement.messageId},
-          announcement.interval * 0.1, announcement.synchronous != 0 ? ", synchronous" : "");
+    Print(out, "\n%u every %.1f s%s", unsigned{announcement.messageId}, announcement.interval * 0.1,
+          announcement.synchronous != 0 ? ", synchronous" : "");
   }
 }
 
 void DescribeMsm(const MsmRecord& record, std::string& out) {
-  Print(out, "MSM %s ", NamesOf(record.system).name);
   PrintTime(out, record.epochTime, record.week);
   Print(out, " time %s, %u observations%s", record.timeText, unsigned{record.count},
         record.epochComplete != 0 ? ", epoch complete" : "");
@@ -159,35 +162,36 @@ void DescribeMsm(const MsmRecord& record, std::string& out) {
 }
 
 void DescribeTimeStatus(const TimeStatusRecord& record, std::string& out) {
-  out += "4074.243 ";
   PrintTime(out, record.tow, record.week);
   out += " status";
   PrintBytes(out, record.status);
 }
 
-void DescribeSub249(const Sub249Record& /*record*/, std::string& out) { out += "4074.249"; }
+void DescribeSub249(const Sub249Record& record, std::string& out) {
+  PrintTime(out, record.tow, record.week);
+}
 
 void DescribeSub17(const Sub17Record& record, std::string& out) {
-  out += "910.17";
+  PrintTow(out, record.tow);
+  out += " values";
   PrintBytes(out, record.first);
-  out += " /";
+  out += " and";
   PrintBytes(out, record.second);
 }
 
 void DescribeSub33(const Sub33Record& record, std::string& out) {
-  out += "910.33";
+  PrintTow(out, record.tow);
+  out += " values";
   PrintBytes(out, record.values);
 }
 
 void DescribeSub34(const Sub34Record& record, std::string& out) {
-  out += "910.34 ";
   PrintTime(out, record.tow, record.week);
   Print(out, " state %u mode %u values", unsigned{record.state}, unsigned{record.mode});
   PrintBytes(out, record.values);
 }
 
 void DescribeSub21(const Sub21Record& record, std::string& out) {
-  out += "999.21 ";
   PrintTime(out, record.tow, record.week);
   out += " body";
   PrintBytes(out, record.body);

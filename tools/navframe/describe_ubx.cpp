@@ -43,12 +43,11 @@ std::string SatelliteName(std::uint8_t systemId, std::uint8_t satelliteId) {
   return letter + Known(satelliteId);
 }
 
-// The kind and the time that all UBX records begin with.
+// The time that all UBX records begin with.
 template <class Record>
-void AppendHead(std::string_view kind, const Record& record, std::string& out) {
+void AppendHead(const Record& record, std::string& out) {
   const bool known = record.tow != 0xFFFFFFFF;
-  out += kind;
-  out += " week " + Known(record.week) + " tow ";
+  out += "week " + Known(record.week) + " tow ";
   out += known ? Fixed(record.tow / MillisecondsPerSecond, 3) : "-";
   const std::string clock(record.timeText,
                           std::find(record.timeText, std::end(record.timeText), '\0'));
@@ -67,7 +66,7 @@ std::string UtcText(const UbxNavigationRecord& record) {
 }  // namespace
 
 void DescribeUbxProtectionLevels(const UbxProtectionLevelsRecord& record, std::string& out) {
-  AppendHead("UBX protection levels", record, out);
+  AppendHead(record, out);
   const auto levels = [&](std::string_view name, bool valid, const std::uint32_t(&axes)[3]) {
     out += ", ";
     out += name;
@@ -88,7 +87,7 @@ void DescribeUbxNavigation(const UbxNavigationRecord& record, std::string& out) 
   constexpr std::string_view Fixes[] = {"none", "dead reckoning",         "2D",
                                         "3D",   "3D with dead reckoning", "time only"};
   constexpr std::string_view Carriers[] = {"", " float", " fixed", ""};
-  AppendHead("UBX navigation", record, out);
+  AppendHead(record, out);
   out += " utc " + UtcText(record) + " fix ";
   out += NameOf(record.fixType, Fixes);
   out += record.fixOk != 0 ? "" : " (not ok)";
@@ -106,11 +105,11 @@ void DescribeUbxNavigation(const UbxNavigationRecord& record, std::string& out) 
 
 void DescribeUbxSatellites(const UbxSatellitesRecord& record, std::string& out) {
   constexpr std::string_view Healths[] = {"health unknown", "healthy", "unhealthy", "health 3"};
-  AppendHead("UBX satellites", record, out);
+  AppendHead(record, out);
   out += " count " + std::to_string(record.count);
   for (std::size_t i = 0; i < std::min<std::size_t>(record.count, 96); ++i) {
     const UbxSatellite& satellite = record.satellites[i];
-    out += "\n  " + SatelliteName(satellite.systemId, satellite.satelliteId);
+    out += "\n" + SatelliteName(satellite.systemId, satellite.satelliteId);
     out += " cn0 " + Known(satellite.cn0) + " elevation " + Known(satellite.elevation);
     out += " azimuth " + Known(satellite.azimuth);
     out += " residual " + Fixed(satellite.residual * 0.1, 1) + " m";
@@ -121,13 +120,13 @@ void DescribeUbxSatellites(const UbxSatellitesRecord& record, std::string& out) 
 }
 
 void DescribeUbxRawMeasurements(const UbxRawMeasurementsRecord& record, std::string& out) {
-  AppendHead("UBX raw measurements", record, out);
+  AppendHead(record, out);
   out += " count " + std::to_string(record.count);
   if (record.leapKnown == 1) out += " leap seconds " + std::to_string(record.leapSeconds);
   if (record.clockReset == 1) out += " clock reset";
   for (std::size_t i = 0; i < record.count; ++i) {
     const UbxRawMeasurement& measurement = record.measurements[i];
-    out += "\n  " + SatelliteName(measurement.systemId, measurement.satelliteId);
+    out += "\n" + SatelliteName(measurement.systemId, measurement.satelliteId);
     out += " signal " + std::to_string(measurement.signalId);
     out += " range " + Fixed(measurement.pseudorange, 3) + " m";
     out += measurement.pseudorangeValid != 0 ? "" : " (not valid)";
@@ -140,7 +139,7 @@ void DescribeUbxRawMeasurements(const UbxRawMeasurementsRecord& record, std::str
 }
 
 void DescribeUbxAttitude(const UbxAttitudeRecord& record, std::string& out) {
-  AppendHead("UBX attitude", record, out);
+  AppendHead(record, out);
   const auto angle = [&](std::string_view name, double degrees, double accuracy) {
     out += name;
     out += Fixed(degrees, 5) + " +- " + Fixed(accuracy, 5);
@@ -154,8 +153,8 @@ void DescribeUbxAttitude(const UbxAttitudeRecord& record, std::string& out) {
 void DescribeBinary55Aa(const Binary55AaRecord& record, std::string& out) {
   constexpr double DegreesPerRadian = 57.29577951308232;
   std::array<char, 64> stamp;
-  std::snprintf(stamp.data(), stamp.size(), "0x55 0xAA frame of %u bytes, stamp %u.%02u",
-                record.payloadLength, record.stampWhole, record.stampHundredths);
+  std::snprintf(stamp.data(), stamp.size(), "%u bytes, stamp %u.%02u", record.payloadLength,
+                record.stampWhole, record.stampHundredths);
   out += stamp.data();
   out += ", angles";
   for (const double angle : record.angles) out += " " + Fixed(angle * DegreesPerRadian, 3);
@@ -166,7 +165,7 @@ void DescribeBinary55Aa(const Binary55AaRecord& record, std::string& out) {
 }
 
 void DescribeDiagnostic(const DiagnosticRecord& record, std::string& out) {
-  out += "diagnostic " + std::to_string(record.code) + ": ";
+  out += "code " + std::to_string(record.code) + ": ";
   out.append(record.text, std::find(record.text, std::end(record.text), '\0'));
   out +=
       " at tow " + (record.tow != 0xFFFFFFFF ? Fixed(record.tow / MillisecondsPerSecond, 3) : "-");

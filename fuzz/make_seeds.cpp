@@ -1,0 +1,186 @@
+// Writes the seeds of all targets: make_seeds FOLDER. The targets seal what needs a checksum.
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "fuzz.h"
+#include "generator/nmea_stream.h"
+#include "generator/rtcm_stream.h"
+#include "generator/ubx_stream.h"
+
+namespace {
+
+using namespace navframe;
+using sample::Bytes;
+
+class Seeds {
+ public:
+  explicit Seeds(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+  void Write(const std::string& target, const Bytes& bytes) {
+    const std::filesystem::path folder = folder_ / target;
+    std::filesystem::create_directories(folder);
+    std::ofstream file(folder / std::to_string(++count_), std::ios::binary);
+    file.write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+    if (!file.flush()) ok_ = false;
+  }
+
+  // For the targets that take a stream behind their steering bytes.
+  void Stream(const Bytes& stream) {
+    const auto length = static_cast<std::ptrdiff_t>(std::min(stream.size(), fuzz::LongestStream));
+    for (const std::uint8_t steering : Bytes{0, 2}) {
+      Bytes bytes(fuzz::SteeringLength, steering);
+      sample::Append(bytes, Bytes(stream.begin(), stream.begin() + length));
+      for (const char* target : {"exports_fuzz", "frames_fuzz", "chunks_fuzz"}) {
+        Write(target, bytes);
+      }
+    }
+  }
+  void Stream(const std::string& text) { Stream(Bytes(text.begin(), text.end())); }
+
+  bool Ok() const { return ok_; }
+
+ private:
+  std::filesystem::path folder_;
+  int count_ = 0;
+  bool ok_ = true;
+};
+
+constexpr std::string_view ProprietarySentences[] = {
+    "GYOACC,123519.00,0.012,-0.034,0.001,0.050,0.060,9.810",
+    "GYOACC-V,123519.00,0.012,-0.034,0.001,0.050,0.060,9.810",
+    "IMURAW,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810",
+    "IMUVEH,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810",
+    "NAVATT,123519.00,1.250,-0.500,84.200,0.050,0.050,0.120",
+    "INSPVA,140326,123519.00,47.37640000,8.54760000,431.20,1.2,11.8,0.0,1.25,-0.50,84.20",
+    "PNAVMSG,1,2,0A,1B,2C,3D,4E,5F,60,71,82,93,A4,B5,C6,D7,E8",
+    "CWOUT,1,-60,2,-61,3,-62,4,-63,5",
+    "NAVACC,123519.00,A,12,34,56",
+    "NAVPOS,0,16,61,3,SOL,1,12,4027881.532,306998.672,4919499.421,0.010,0.012,0.015",
+    "NAVVEL,0,16,61,3,SOL,26,12,0.012,-0.034,0.001,0.050",
+    "NAVTIME,0,1,0.000000001,0,1,0.000000002,0,1,0.000000003,0,1,0.000000004",
+    "SNRSTAT,1,0,-3,2,5",
+    "GPGGA,123519.00,48x7.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,",
+};
+
+// Message, width of the sub-type, sub-types; each in a short frame and in a long one.
+struct Family {
+  std::uint32_t number;
+  int bits;
+  std::initializer_list<std::uint32_t> subTypes;
+};
+
+Bytes ProprietaryMessages(std::size_t length) {
+  const Family families[] = {{910, 8, {17, 33, 34}},
+                             {999, 8, {21}},
+                             {4074, 12, {11, 12, 13, 14, 15, 243, 249, 251, 253, 254, 255}}};
+  Bytes stream;
+  for (const Family& family : families) {
+    for (const std::uint32_t subType : family.subTypes) {
+      sample::BitWriter bits;
+      bits.Put(family.number, 12).Put(subType, family.bits);
+      Bytes payload = bits.Written();
+      // Frame lengths that two of the messages must have.
+      payload.resize(family.number == 999 ? 57 : subType == 33 ? 7 : length, 0x11);
+      sample::Append(stream, sample::RtcmFrame(payload));
+    }
+  }
+  return stream;
+}
+
+void WriteStreams(Seeds& seeds) {
+  sample::Drive drive;
+  const sample::Epoch epoch = drive.Next();
+  seeds.Stream(sample::NmeaEpoch(epoch));
+  std::string proprietary = "\\s:rover\\";
+  for (const std::string_view body : ProprietarySentences) proprietary += sample::Sentence(body);
+  seeds.Stream(proprietary);
+  Bytes station = sample::RtcmStation();
+  sample::Append(station, sample::RtcmSystemParameters(epoch));
+  seeds.Stream(station);
+  for (const sample::Msm msm : {sample::Msm::Msm4, sample::Msm::Msm7}) {
+    seeds.Stream(sample::RtcmEpoch(epoch, msm));
+  }
+  for (const std::size_t length : {6U, 14U, 40U, 200U}) seeds.Stream(ProprietaryMessages(length));
+  for (const auto make : {sample::UbxNavigation, sample::UbxSatellites, sample::UbxRawMeasurements,
+                          sample::UbxAttitude, sample::UbxProtectionLevels, sample::Binary55Aa}) {
+    seeds.Stream(make(epoch));
+  }
+}
+
+constexpr std::string_view Logs[] = {
+    "BESTPOSA;SOL_COMPUTED,NARROW_INT,51.11,-114.03,1063.8,-16.25,WGS84,1.25,1.5,2.1,\"A1\",0.5,"
+    "0.75,12,11,10,9,8,1f,0A,fF",
+    "BESTVELA;PENDING,DOPPLER_VELOCITY,0.25,4,0.2077,332.44,-0.0149,0.5",
+    "PSRDOPA;1.5,1.25,0.875,1.125,0.75,5.0,3,10,22,140",
+    "TIMEA;CONVERGING,1.5e-10,-2.5e-9,-17.99999999630,2017,9,15,18,33,30250,VALID",
+    "BESTXYZA;SOL_COMPUTED,NARROW_INT,-1634531.5,-3664618.0,4942496.3,0.5,0.25,0.125,PENDING,"
+    "SINGLE,0.0011,-0.0049,-0.0001,1.5,1.25,1.125,\"AAAA\",0.75,1,2,12,11,10,9,0,01,0,33",
+    "HEADINGA;PENDING,L1_INT,5.5,271.25,-0.75,0,0.125,0.25,\"9,9\",10,9,8,7,0c,00,0,11",
+    "INSPVAA;1264,144088.5,51.25,-114.5,1038.25,-1,2,3,0.5,-1.5,106.25,INS_SOLUTION_GOOD",
+    "RANGEA;1,14,0,23145913.339,0.108,-121633909.5,0.008,1376.180,44.5,2642.920,0810dc04",
+    "SATVIS2A;GLONASS,TRUE,TRUE,2,13-2,1,51.5,122.25,-1,-2,8+6,0,1,2,3,4",
+    "SATVISA;TRUE,FALSE,2,14,0,1,51.5,122.25,-1,-2,45,-7,0,1,2,3,4",
+    "AGRICA;GNSS,236,19,7,26,6,16,27,4,4,12",
+    "GALIONA;1.5,2.5,3.5,0",
+    "GALUTCA;2190,405504,1.5e-9,-8e-16,2185,7,-18,18,0",
+    "X;2,GPS,14,GOOD,00000003,BEIDOU,19,NOSIGNALMATCH,8000000f",
+    "GPSEPHEMA;1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,26,27,28,29,TRUE,"
+    "31,32",
+};
+
+void WriteLogs(Seeds& seeds) {
+  constexpr std::string_view Headers[] = {",COM2,65,41.5,FINESTEERING,2101,345678.250,32,25,1500;",
+                                          ",41.5,GPS,FINESTEERING,2101,345678250,0,0,18,38;"};
+  for (const std::string_view log : Logs) {
+    const std::size_t end = log.find(';');
+    for (const std::string_view header : Headers) {
+      std::string line(fuzz::SteeringLength, '\0');
+      line += '#';
+      line += log.substr(0, end);
+      line += header;
+      line += log.substr(end + 1);
+      line += "*00000000\r\n";
+      for (const char variant : {'\0', '\3', '\4'}) {
+        line[0] = variant;
+        seeds.Write("asciilog_fuzz", Bytes(line.begin(), line.end()));
+      }
+    }
+  }
+  for (const std::uint8_t variant : Bytes{1, 2}) {
+    Bytes frame(fuzz::SteeringLength + 64);
+    frame[0] = variant;
+    frame[fuzz::SteeringLength] = 0xAA;
+    frame[fuzz::SteeringLength + 1] = variant;
+    frame[fuzz::SteeringLength + 3] = 28;
+    seeds.Write("asciilog_fuzz", frame);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: make_seeds FOLDER\n");
+    return 2;
+  }
+  Seeds seeds(argv[1]);
+  WriteStreams(seeds);
+  WriteLogs(seeds);
+  for (unsigned id = 0; id < 84; ++id) {
+    for (const std::uint8_t fill : Bytes{0x00, 0x41, 0xFF}) {
+      seeds.Write("render_fuzz", {static_cast<std::uint8_t>(id), 1, fill});
+    }
+  }
+  for (const std::uint8_t fill : Bytes{0x00, 0x01, 0x17, 0xFF}) {
+    Bytes steps(27 * 14, fill);
+    for (std::size_t step = 0; step < 14; ++step) {
+      steps[27 * step + 26] = static_cast<std::uint8_t>(step);
+    }
+    seeds.Write("time_fuzz", steps);
+  }
+  return seeds.Ok() ? 0 : 1;
+}

@@ -1,0 +1,79 @@
+// The renderer over records of every kind with any content: counts above the room, texts without
+// an end, numbers that are none.
+#include "fuzz.h"
+#include "render/names.h"
+#include "render/render.h"
+
+using namespace navframe;
+
+namespace {
+
+struct Kind {
+  std::uint32_t id;
+  std::size_t size;
+};
+constexpr Kind Kinds[] = {
+    {1, sizeof(GgaRecord)},         {2, sizeof(RmcRecord)},
+    {3, sizeof(GsaRecord)},         {4, sizeof(GsvRecord)},
+    {5, sizeof(GllRecord)},         {6, sizeof(GstRecord)},
+    {7, sizeof(GbsRecord)},         {8, sizeof(VtgRecord)},
+    {9, sizeof(ZdaRecord)},         {30, sizeof(NavPosRecord)},
+    {31, sizeof(NavVelRecord)},     {32, sizeof(NavTimeRecord)},
+    {33, sizeof(NavAccRecord)},     {35, sizeof(PNavMsgRecord)},
+    {36, sizeof(CwOutRecord)},      {41, sizeof(GyoAccRecord)},
+    {42, sizeof(SnrStatRecord)},    {43, sizeof(ImuRecord)},
+    {44, sizeof(NavAttRecord)},     {45, sizeof(InsPvaRecord)},
+    {46, sizeof(ImuRecord)},        {50, sizeof(GyoAccRecord)},
+    {71, sizeof(GyoAccRecord)},     {72, sizeof(RtcmSnrStatRecord)},
+    {73, sizeof(NavAttRecord)},     {74, sizeof(ImuRecord)},
+    {75, sizeof(InsPvaRecord)},     {76, sizeof(ImuRecord)},
+    {79, sizeof(ClockOrbitRecord)}, {80, sizeof(SystemCountsRecord)},
+    {82, sizeof(IntegerSetRecord)}, {81, sizeof(SignalObservationsRecord)},
+};
+
+std::size_t SizeOf(std::uint32_t id) {
+  const std::uint32_t plain = id > 20 && id < 30 ? id - 20 : id;
+  for (const Kind& kind : Kinds) {
+    if (kind.id == plain) return kind.size;
+  }
+  return 0;
+}
+
+// A text of at most 15 characters, as such records have it, which owns no memory to give back.
+void MakeText(void* record, std::size_t offset, fuzz::Input& input) {
+  const auto bytes = input.Next(input.Byte() % 16);
+  new (static_cast<char*>(record) + offset) RecordText(bytes.begin(), bytes.end());
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  fuzz::Input input({data, size});
+  const std::uint32_t id = input.Byte();
+  const bool leadingFields = input.Byte() % 2 != 0;
+  const int fill = input.Byte();  // of what the input does not reach
+  const std::size_t length = SizeOf(id);
+  const std::unique_ptr<std::uint8_t[]> record(new std::uint8_t[length + 1]);
+  std::uint8_t* const payload = record.get();
+  const auto content = input.Next(length);
+  std::memset(payload, fill, length);
+  std::copy(content.begin(), content.end(), payload);
+  if (id == MsgIdNavPos) MakeText(payload, offsetof(NavPosRecord, text), input);
+  if (id == MsgIdNavVel) MakeText(payload, offsetof(NavVelRecord, text), input);
+
+  const std::unique_ptr<char[]> text(new char[1 << 17]);
+  const bool rendered = RenderRecord({id, SourceStream, payload}, text.get(), leadingFields);
+  fuzz::Require(rendered == (length != 0), "the kinds with a text form are known");
+  fuzz::ReadAll(text.get(), static_cast<std::uint32_t>(std::strlen(text.get())));
+
+  const std::unique_ptr<char[]> name(new char[7]);
+  const auto system = input.Take<std::int32_t>();
+  const auto signal = input.Take<std::uint32_t>();
+  for (const std::int32_t systemId : {system, system % 16}) {
+    fuzz::Require(CopyName(SystemName(systemId), name.get()) <= 6, "names of systems are short");
+    fuzz::Require(CopyName(SignalName(systemId, signal % 32), name.get()) <= 6 &&
+                      CopyName(SignalName(systemId, signal), name.get()) <= 6,
+                  "names of signals are short");
+  }
+  return 0;
+}

@@ -1,0 +1,131 @@
+#include <array>
+
+#include "asciilog/crc32.h"
+#include "frame55aa/byte_sum.h"
+#include "fuzz.h"
+#include "rtcm/crc24q.h"
+#include "ubx/fletcher.h"
+
+namespace navframe::fuzz {
+namespace {
+
+using Frame = std::span<std::uint8_t>;
+
+// Each takes what is left of the stream, whose first byte selects the protocol, and returns the
+// length of the frame that it made; 1 without room for one.
+
+std::size_t SealSentence(Frame rest) {
+  const auto star = std::find(rest.begin(), rest.end(), '*');
+  const auto length = static_cast<std::size_t>(star - rest.begin());
+  if (length + 3 > rest.size()) return 1;
+  unsigned checksum = 0;
+  for (const std::uint8_t byte : rest.subspan(1, length - 1)) checksum ^= byte;
+  constexpr char Digits[] = "0123456789ABCDEF";
+  rest[length + 1] = static_cast<std::uint8_t>(Digits[checksum >> 4]);
+  rest[length + 2] = static_cast<std::uint8_t>(Digits[checksum & 0xF]);
+  return length + 3;
+}
+
+std::size_t SealRtcm(Frame rest) {
+  if (rest.size() < 6) return 1;
+  const std::size_t announced = (rest[1] & 3U) << 8 | rest[2];
+  const std::size_t length = std::min(announced, rest.size() - 6);
+  rest[1] = static_cast<std::uint8_t>(length >> 8);
+  rest[2] = static_cast<std::uint8_t>(length & 0xFF);
+  const std::uint32_t crc = rtcm::Crc24q(rest.data(), length + 3);
+  for (unsigned i = 0; i < 3; ++i) {
+    rest[length + 3 + i] = static_cast<std::uint8_t>(crc >> (16 - 8 * i) & 0xFF);
+  }
+  return length + 6;
+}
+
+std::size_t SealUbx(Frame rest) {
+  if (rest.size() < 8) return 1;
+  const std::size_t announced = rest[4] | std::size_t{rest[5]} << 8;
+  const std::size_t length = std::min<std::size_t>({announced, rest.size() - 8, 4048});
+  rest[1] = 0x62;
+  rest[4] = static_cast<std::uint8_t>(length & 0xFF);
+  rest[5] = static_cast<std::uint8_t>(length >> 8);
+  const ubx::FletcherSum sum = ubx::Fletcher(rest.data() + 2, length + 4);
+  rest[length + 6] = sum.a;
+  rest[length + 7] = sum.b;
+  return length + 8;
+}
+
+std::size_t Seal55Aa(Frame rest) {
+  constexpr std::array<std::size_t, 8> Lengths = {8, 164, 204, 224, 264, 420, 460, 480};
+  if (rest.size() < 6) return 1;
+  const std::size_t announced = rest[2] | std::size_t{rest[3]} << 8;
+  const bool known = std::find(Lengths.begin(), Lengths.end(), announced) != Lengths.end();
+  const std::size_t length = known ? announced : Lengths[announced % Lengths.size()];
+  if (length + 7 > rest.size()) return 1;
+  rest[1] = 0xAA;
+  rest[2] = static_cast<std::uint8_t>(length & 0xFF);
+  rest[3] = static_cast<std::uint8_t>(length >> 8);
+  rest[4] = rest[5] = 0;
+  rest[length + 6] = frame55aa::ByteSum(rest.data() + 2, length + 4);
+  return length + 7;
+}
+
+struct Protocol {
+  std::uint8_t sync;
+  std::uint32_t mask;
+  std::size_t (*seal)(Frame rest);
+};
+constexpr Protocol Protocols[] = {{'$', ProtocolNmea, SealSentence},
+                                  {0xD3, ProtocolRtcm3, SealRtcm},
+                                  {0xB5, ProtocolUbx, SealUbx},
+                                  {0x55, Protocol55Aa, Seal55Aa}};
+
+std::size_t SealLine(Frame rest) {
+  const auto star = std::find(rest.begin(), rest.end(), '*');
+  const auto length = static_cast<std::size_t>(star - rest.begin());
+  if (length + 11 > rest.size()) return 1;
+  char trailer[11];
+  std::snprintf(trailer, sizeof(trailer), "%08x\r\n", asciilog::Crc32(rest.subspan(1, length - 1)));
+  std::memcpy(rest.data() + length + 1, trailer, 10);
+  return length + 11;
+}
+
+// Of the form with a header of its own length; the other has its length elsewhere, and both are
+// valid when they agree.
+std::size_t SealBinaryLog(Frame rest) {
+  if (rest.size() < 32) return 1;
+  const bool fixed = rest[1] % 2 == 0;
+  const std::size_t header = fixed ? 24 : std::min<std::size_t>(rest[3], 28);
+  const std::size_t at = fixed ? 6 : 8;
+  const std::size_t announced = rest[at] | std::size_t{rest[at + 1]} << 8;
+  const std::size_t length = std::min(announced, rest.size() - 32);
+  rest[3] = static_cast<std::uint8_t>(header);
+  rest[at] = static_cast<std::uint8_t>(length & 0xFF);
+  rest[at + 1] = static_cast<std::uint8_t>(length >> 8);
+  const std::uint32_t crc = asciilog::Crc32(rest.first(header + length));
+  for (unsigned i = 0; i < 4; ++i) {
+    rest[header + length + i] = static_cast<std::uint8_t>(crc >> (8 * i) & 0xFF);
+  }
+  return header + length + 4;
+}
+
+}  // namespace
+
+void Seal(std::span<std::uint8_t> stream, std::uint32_t mask) {
+  for (std::size_t at = 0; at < stream.size();) {
+    std::size_t length = 1;
+    for (const Protocol& protocol : Protocols) {
+      if (protocol.sync == stream[at] && (mask & protocol.mask) != 0) {
+        length = protocol.seal(stream.subspan(at));
+      }
+    }
+    at += length;
+  }
+}
+
+void SealLogs(std::span<std::uint8_t> stream, bool binary) {
+  for (std::size_t at = 0; at < stream.size();) {
+    const bool sync = stream[at] == (binary ? 0xAA : '#');
+    const auto rest = stream.subspan(at);
+    at += !sync ? 1 : binary ? SealBinaryLog(rest) : SealLine(rest);
+  }
+}
+
+}  // namespace navframe::fuzz

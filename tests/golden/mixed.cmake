@@ -1,0 +1,16 @@
+# cmake -DTOOL=... -DROOT=... -DFOLDER=... -P mixed.cmake
+# In chunks of any size the tool prints the golden file.
+set(golden "${ROOT}/tests/golden/mixed.txt")
+foreach(chunk 65536 1 37)
+  set(printed "${FOLDER}/mixed-${chunk}.txt")
+  execute_process(COMMAND "${TOOL}" --chunk ${chunk} "${ROOT}/samples/mixed.bin"
+                  OUTPUT_FILE "${printed}" ERROR_VARIABLE said RESULT_VARIABLE status)
+  if(NOT status EQUAL 0 OR NOT said STREQUAL "")
+    message(FATAL_ERROR "navframe says ${status} with chunks of ${chunk}: ${said}")
+  endif()
+  execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${printed}" "${golden}"
+                  RESULT_VARIABLE differs)
+  if(NOT differs EQUAL 0)
+    message(FATAL_ERROR "With chunks of ${chunk} not the golden file: diff ${golden} ${printed}")
+  endif()
+endforeach()
