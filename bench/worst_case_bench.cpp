@@ -1,60 +1,152 @@
-// Streams made to cost as much as possible, each of the same size as the ordinary traffic beside.
+// Streams made to cost as much as possible, beside ordinary traffic of about the same size; ends
+// with a table of what a byte of each costs in bytes of ordinary traffic.
+#include <cstdio>
+#include <map>
 #include <string>
 
 #include "generator/nmea_stream.h"
+#include "generator/ubx_stream.h"
+#include "navframe/feeder.hpp"
 #include "report.h"
+#include "streams.h"
 
 namespace navframe::bench {
 namespace {
 
+using namespace std::string_literals;
+
 constexpr std::size_t Size = 1 << 20;
+constexpr const char* OrdinaryName = "ordinary";
 
-Bytes Repeated(const std::string& text) {
+// Ends in what decides every head that waits, so that no stream is met by a state of the last.
+Bytes Repeated(const Bytes& piece, std::size_t size = Size) {
   Bytes bytes;
-  while (bytes.size() < Size) bytes.insert(bytes.end(), text.begin(), text.end());
-  bytes.resize(Size);
+  while (bytes.size() < size) bytes.insert(bytes.end(), piece.begin(), piece.end());
+  bytes.push_back('*');
+  bytes.insert(bytes.end(), 8192, 0);
   return bytes;
 }
 
-const Bytes& Ordinary() {
-  static const Bytes bytes = Repeated(sample::NmeaStream(20));
-  return bytes;
-}
-const Bytes& Dollars() {
-  static const Bytes bytes = Repeated("$");
-  return bytes;
-}
-// No sentence, by one byte.
-const Bytes& LateStars() {
-  static const Bytes bytes = Repeated("$" + std::string(252, 'A') + "*");
-  return bytes;
+// `bound` is how many bytes of ordinary traffic a byte of the stream may cost.
+struct WorstCase {
+  const char* name;
+  Bytes bytes;
+  std::size_t chunk;
+  double bound;
+};
+
+std::vector<WorstCase> WorstCases() {
+  const Bytes ordinary = MakeTraffic(1).back().bytes;
+  const Bytes nmea = ToBytes(sample::NmeaStream(20));
+  const auto made = [](const std::string& piece) { return Repeated(ToBytes(piece)); };
+  return {
+      {OrdinaryName, ordinary, DefaultChunk, 1},
+      {"nmea", nmea, DefaultChunk, 4},
+      // A call a byte, and a look at up to 253 waiting bytes.
+      {"one byte a call, ordinary", ordinary, 1, 40},
+      {"one byte a call, nmea", nmea, 1, 60},
+      // Nothing but starts.
+      {"$", made("$"), DefaultChunk, 20},
+      {"$ one byte a call", made("$"), 1, 80},
+      // No sentence, by one byte.
+      {"$ with * at 253", made("$" + std::string(252, 'A') + "*"), DefaultChunk, 4},
+      {"0xB5 0x62", made("\xB5\x62"), DefaultChunk, 20},
+      // Bodies of 4048 bytes that overlap, each wrong, each with a diagnostic record.
+      {"0xB5 0x62, 4048 announced", made("\xB5\x62\x01\x07\xD0\x0F"s), DefaultChunk, 40},
+      // The closest that such headers come: 0x0F62 bytes are announced every third byte.
+      {"0xB5 0x62 0x0F", made("\xB5\x62\x0F"), DefaultChunk, 60},
+      {"0xD3 0x03 0xFF, 1023 announced", made("\xD3\x03\xFF"), DefaultChunk, 60},
+      // The closest that such headers come: 0x03D3 bytes are announced every second byte.
+      {"0xD3 0x03", made("\xD3\x03"), DefaultChunk, 60},
+      {"0x55 0xAA 0xE0", made("\x55\xAA\xE0"), DefaultChunk, 20},
+      {"0x55 0xAA, 480 announced", made("\x55\xAA\xE0\x01\0\0"s), DefaultChunk, 20},
+      {"tag blocks", made("\\s:1234\\"), DefaultChunk, 10},
+      // The fewest bytes for the largest record: 12,272 bytes for 24.
+      {"empty raw measurements", Repeated(sample::UbxFrame(0x02, 0x15, Bytes(16))), DefaultChunk,
+       60},
+  };
 }
 
-void Decode(benchmark::State& state, const Bytes& bytes) {
-  const auto chunk = static_cast<std::size_t>(state.range(0));
+void Decode(benchmark::State& state, const WorstCase& worst) {
   std::uint64_t records = 0;
-  for (auto _ : state) records = DecodeAll(bytes, chunk);
-  Report(state, bytes.size(), records);
+  for (auto _ : state) records = DecodeAll(worst.bytes, worst.chunk);
+  Report(state, worst.bytes.size(), records);
 }
 
 // A tag block that waits for its "*" while the whole ring fills up in small chunks.
-void EndlessTagBlock(benchmark::State& state) {
-  const std::string start = "\\s:1234\\";
+void EndlessTagBlock(benchmark::State& state, std::size_t chunk) {
+  const Bytes start = ToBytes("\\s:1234\\");
   const Bytes rest(NAVFRAME_RING_CAPACITY - 1024, 'A');
   const Bytes end = ToBytes("*");
   for (auto _ : state) {
-    DecodeAll(ToBytes(start), DefaultChunk);
-    DecodeAll(rest, static_cast<std::size_t>(state.range(0)));
+    DecodeAll(start, DefaultChunk);
+    DecodeAll(rest, chunk);
     DecodeAll(end, DefaultChunk);
   }
   Report(state, start.size() + rest.size() + end.size(), 0);
 }
 
-BENCHMARK_CAPTURE(Decode, ordinary, Ordinary())->Arg(DefaultChunk);
-BENCHMARK_CAPTURE(Decode, one_byte_a_call, Ordinary())->Arg(1);
-BENCHMARK_CAPTURE(Decode, dollars, Dollars())->Arg(DefaultChunk);
-BENCHMARK_CAPTURE(Decode, late_stars, LateStars())->Arg(DefaultChunk);
-BENCHMARK(EndlessTagBlock)->Arg(64)->Arg(4096);
+// Nothing but sentences with a field that cannot be converted, which a feeder takes out.
+void MalformedSentences(benchmark::State& state) {
+  const Bytes bytes = Repeated(ToBytes(sample::Sentence("GPGGA,,,,,,x,,,,,,,,")));
+  Feeder feeder;
+  for (auto _ : state) {
+    feeder.Push(bytes.data(), bytes.size());
+    Drain();
+  }
+  Report(state, bytes.size(), 0);
+}
+
+// Prints every run, and at the end the table.
+class TableReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration) continue;
+      double& best = bytesPerSecond_[run.run_name.function_name];
+      best = std::max(best, double{run.counters.at("bytes_per_second")});
+    }
+  }
+
+  void PrintTable(const std::vector<std::pair<std::string, double>>& bounds) const {
+    const auto ordinary = bytesPerSecond_.find(OrdinaryName);
+    if (ordinary == bytesPerSecond_.end()) return;
+    std::printf("\n| stream | MB/s | times ordinary | bound |\n| --- | --: | --: | --: |\n");
+    for (const auto& [name, bound] : bounds) {
+      const auto found = bytesPerSecond_.find(name);
+      if (found == bytesPerSecond_.end()) continue;
+      std::printf("| %s | %.3g | %.2f | %.0f |\n", name.c_str(), found->second * 1e-6,
+                  ordinary->second / found->second, bound);
+    }
+  }
+
+ private:
+  std::map<std::string, double> bytesPerSecond_;
+};
 
 }  // namespace
 }  // namespace navframe::bench
+
+int main(int argc, char** argv) {
+  using namespace navframe::bench;
+  const auto worstCases = WorstCases();
+  std::vector<std::pair<std::string, double>> bounds;
+  for (const WorstCase& worst : worstCases) {
+    bounds.emplace_back(worst.name, worst.bound);
+    benchmark::RegisterBenchmark(worst.name,
+                                 [&worst](benchmark::State& state) { Decode(state, worst); });
+  }
+  for (const std::size_t chunk : {64, 4096}) {
+    bounds.emplace_back("endless tag block in chunks of " + std::to_string(chunk), 10);
+    benchmark::RegisterBenchmark(bounds.back().first.c_str(), [chunk](benchmark::State& state) {
+      EndlessTagBlock(state, chunk);
+    });
+  }
+  bounds.emplace_back("malformed sentences", 400);
+  benchmark::RegisterBenchmark(bounds.back().first.c_str(), MalformedSentences);
+  benchmark::Initialize(&argc, argv);
+  TableReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  reporter.PrintTable(bounds);
+}

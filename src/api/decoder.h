@@ -12,6 +12,7 @@
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
+#include "rtcm/overlapping_crc.h"
 #include "rtcm/rtcm_decoder.h"
 #include "ubx/ubx_decoder.h"
 
@@ -35,6 +36,7 @@ class Decoder {
   asciilog::AsciiLogDecoder asciiLog{sink};
   ubx::UbxDecoder ubx{sink, time};
   frame55aa::FrameDecoder binary55Aa{sink};
+  rtcm::OverlappingCrc rtcmCrc;
   rtcm::RtcmDecoder rtcm{sink, time};
 
  private:

@@ -9,12 +9,16 @@ InputRing::InputRing()
 
 void InputRing::Append(const std::uint8_t* data, std::uint32_t length) {
   if (length == 0 || length > Free()) return;
-  const std::uint32_t position = write_ & Mask;
+  write_ += length;
+  // Exactly full reads as empty: no byte of the ring will be seen again, so none is copied. Behind
+  // the end of the 32-bit indices places would repeat, so that none is remembered across it.
+  const bool full = Available() == 0;
+  if (full || write_ < length) ++generation_;
+  if (full) return;
+  const std::uint32_t position = (write_ - length) & Mask;
   const std::uint32_t first = std::min(length, Capacity - position);
   std::memcpy(buffer_.get() + position, data, first);
   if (length > first) std::memcpy(buffer_.get(), data + first, length - first);
-  write_ += length;
-  if (Available() == 0) ++generation_;  // exactly full: what was there is gone
 }
 
 const std::uint8_t* InputRing::CopyWrapped(std::uint32_t length) {

@@ -34,6 +34,17 @@ constexpr auto Tables = [] {
   return tables;
 }();
 
+// x to the power of 8 n, modulo the polynomial: what n zero bytes multiply a value by.
+constexpr auto ZeroBytes = [] {
+  std::array<std::uint32_t, LongestProtected + 1> powers{};
+  std::uint32_t value = 1 << 8;
+  for (std::uint32_t& power : powers) {
+    power = value >> 8;
+    value = (value << 8) ^ Tables[0][value >> 24];
+  }
+  return powers;
+}();
+
 // The contribution of 8 bytes with `Behind` more of the slice behind them.
 template <std::size_t Behind>
 std::uint32_t OfEightBytes(std::uint64_t bytes) {
@@ -52,6 +63,21 @@ std::uint32_t Crc24q(const std::uint8_t* bytes, std::size_t length) {
   }
   for (; length != 0; ++bytes, --length) value = (value << 8) ^ Tables[0][value >> 24 ^ *bytes];
   return value >> 8;
+}
+
+std::uint32_t Crc24qWith(std::uint32_t crc, std::uint8_t byte) {
+  return (crc << 8 ^ Tables[0][crc >> 16 ^ byte] >> 8) & 0xFFFFFF;
+}
+
+std::uint32_t Crc24qWithZeros(std::uint32_t crc, std::size_t count) {
+  std::uint64_t product = 0;
+  for (int bit = 0; bit < 24; ++bit) {
+    product ^= (std::uint64_t{ZeroBytes[count]} << bit) & -(std::uint64_t{crc} >> bit & 1);
+  }
+  const std::uint64_t high = product >> 24;
+  const std::uint32_t rest =
+      Tables[2][high >> 16] ^ Tables[1][high >> 8 & 0xFF] ^ Tables[0][high & 0xFF];
+  return (static_cast<std::uint32_t>(product) ^ rest >> 8) & 0xFFFFFF;
 }
 
 }  // namespace navframe::rtcm

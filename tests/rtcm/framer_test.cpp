@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "rtcm/crc24q.h"
+#include "rtcm/overlapping_crc.h"
 #include "support/binary_frames.h"
 
 namespace navframe::test {
@@ -16,6 +17,21 @@ TEST(Crc24q, AgreesWithTheBitwiseOneAtEveryLength) {
     const std::uint8_t* const end = frame.data() + length + 3;
     ASSERT_EQ(rtcm::Crc24q(frame.data(), length + 3),
               std::uint32_t{end[0]} << 16 | std::uint32_t{end[1]} << 8 | end[2]);
+  }
+}
+
+TEST(OverlappingCrc, IsThatOfTheFrameAlone) {
+  std::mt19937 random(2);
+  InputRing ring;
+  rtcm::OverlappingCrc crc;
+  for (unsigned i = 0; i < 3000; ++i) {
+    while (ring.Available() < rtcm::LongestProtected) {
+      ring.Append(NoiseBytes(2048, i).data(), 2048);
+    }
+    const auto length = static_cast<std::uint32_t>(random() % (rtcm::LongestProtected + 1));
+    const std::uint8_t* const view = ring.View(length);
+    ASSERT_EQ(crc.Of(ring, view, length), rtcm::Crc24q(view, length)) << i;
+    ring.Advance(1 + (i % 50 == 0 ? 4000 : random() % 40));  // at times the ring is emptied
   }
 }
 
