@@ -185,7 +185,7 @@ class Soak {
       at += length;
     }
   }
-  // The feeder then fills the ring to get rid of it, so that all of its pages are in memory.
+  // Taken out by the feeder, whose memory for that is then part of the warm-up.
   static void PutMalformedSentence(Bytes& bytes) {
     const Bytes sentence = ToBytes(sample::Sentence("GPGGA,120000,4722.5,N,00832.8,E,x,,,,,,,,"));
     bytes.insert(bytes.begin(), sentence.begin(), sentence.end());

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "rtcm/crc24q.h"
 #include "rtcm/overlapping_crc.h"
 #include "support/binary_frames.h"
@@ -31,7 +33,9 @@ TEST(OverlappingCrc, IsThatOfTheFrameAlone) {
     const auto length = static_cast<std::uint32_t>(random() % (rtcm::LongestProtected + 1));
     const std::uint8_t* const view = ring.View(length);
     ASSERT_EQ(crc.Of(ring, view, length), rtcm::Crc24q(view, length)) << i;
-    ring.Advance(1 + (i % 50 == 0 ? 4000 : random() % 40));  // at times the ring is emptied
+    ring.Advance(i % 50 == 0 ? 4000U
+                             : 1 + static_cast<std::uint32_t>(random() %
+                                                              40));  // at times the ring is emptied
   }
 }
 
