@@ -1,6 +1,6 @@
 # cmake -DTOOL=... -DROOT=... -DFOLDER=... -P mixed.cmake
 # In chunks of any size the tool prints the golden file.
-set(golden "${ROOT}/tests/golden/mixed.txt")
+set(golden "${ROOT}/samples/mixed.txt")
 foreach(chunk 65536 1 37)
   set(printed "${FOLDER}/mixed-${chunk}.txt")
   execute_process(COMMAND "${TOOL}" --chunk ${chunk} "${ROOT}/samples/mixed.bin"
