@@ -34,7 +34,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
       {ParserState::AsciiLogDollarLine, asciilog::LogVariant::DollarLine}};
   fuzz::Input input({data, size});
   fuzz::Input steering(input.Next(fuzz::SteeringLength));
-  const std::uint8_t choice = steering.Byte() % (std::size(Variants) + 1);
+  const std::size_t choice = steering.Byte() % (std::size(Variants) + 1);
   const bool byIdentifier = choice == std::size(Variants);
   const auto [state, variant] = Variants[byIdentifier ? 0 : choice];
   const bool sealed = steering.Byte() % 8 != 1;

@@ -40,7 +40,9 @@ constexpr FramerRow FramerRows[] = {
     {ParserState::Binary55Aa,
      [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
     {ParserState::Rtcm3,
-     [](Decoder& decoder) { return rtcm::FrameRtcm3(decoder.stream, decoder.rtcmCrc, decoder.rtcm); }},
+     [](Decoder& decoder) {
+       return rtcm::FrameRtcm3(decoder.stream, decoder.rtcmCrc, decoder.rtcm);
+     }},
 };
 
 // A state without a framer of its own: its sync byte starts nothing.
