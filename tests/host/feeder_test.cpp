@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "generator/nmea_stream.h"
+#include "generator/rtcm_stream.h"
+#include "generator/ubx_stream.h"
 #include "navframe/navframe.h"
 
 namespace navframe {
@@ -68,14 +70,19 @@ std::string Joined(const std::vector<std::string>& pieces) {
   return all;
 }
 
+std::string Text(const sample::Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
+
 TEST_F(FeederTest, PoisonAnywhereLosesNothingElse) {
-  const std::vector<std::string> pieces = {Gga(1), Binary, Gga(2), Gga(3), Binary, Gga(4)};
+  const std::string frames = Text(sample::RtcmStation()) + Text(sample::UbxAttitude({}));
+  const std::vector<std::string> pieces = {Gga(1), Binary, Gga(2), frames, Gga(3), Binary, Gga(4)};
   Feed(Settling, SIZE_MAX);
   for (const std::size_t chunk : {std::size_t{1}, std::size_t{7}, std::size_t{64}, SIZE_MAX}) {
     const auto expected = Feed(Joined(pieces) + Settling, chunk);
-    EXPECT_EQ(std::count_if(expected.begin(), expected.end(),
-                            [](const std::string& line) { return line.starts_with("1:"); }),
-              4);
+    for (const auto& [kind, count] : {std::pair{"1:", 4}, {"53:", 1}, {"105:", 1}}) {
+      EXPECT_EQ(std::count_if(expected.begin(), expected.end(),
+                              [&](const std::string& line) { return line.starts_with(kind); }),
+                count);
+    }
     for (const std::string& poison : {Poison, PoisonTime}) {
       for (std::size_t place = 0; place <= pieces.size(); ++place) {
         auto poisoned = pieces;
