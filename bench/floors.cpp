@@ -25,11 +25,11 @@ std::uint8_t XorByteByByte(const std::uint8_t* bytes, std::size_t length) {
 std::uint32_t ChecksumOf(const std::uint8_t* frame, std::size_t length) {
   switch (frame[0]) {
     case 0xB5: {
-      const auto sum = ubx::Fletcher(frame + 2, length - 4);
+      const auto sum = ubx::Fletcher::Of(frame + 2, length - 4);
       return sum.a + 256U * sum.b;
     }
     case 0xD3:
-      return rtcm::Crc24q(frame, length - 3);
+      return rtcm::Crc24q::Of(frame, length - 3);
     case 0x55:
       return std::accumulate(frame + 2, frame + length - 1, 0U);
     default:

@@ -52,9 +52,9 @@ std::vector<WorstCase> WorstCases() {
       {"$ with * at 253", made("$" + std::string(252, 'A') + "*"), DefaultChunk, 4},
       {"0xB5 0x62", made("\xB5\x62"), DefaultChunk, 20},
       // Bodies of 4048 bytes that overlap, each wrong, each with a diagnostic record.
-      {"0xB5 0x62, 4048 announced", made("\xB5\x62\x01\x07\xD0\x0F"s), DefaultChunk, 40},
+      {"0xB5 0x62, 4048 announced", made("\xB5\x62\x01\x07\xD0\x0F"s), DefaultChunk, 20},
       // The closest that such headers come: 0x0F62 bytes are announced every third byte.
-      {"0xB5 0x62 0x0F", made("\xB5\x62\x0F"), DefaultChunk, 60},
+      {"0xB5 0x62 0x0F", made("\xB5\x62\x0F"), DefaultChunk, 40},
       {"0xD3 0x03 0xFF, 1023 announced", made("\xD3\x03\xFF"), DefaultChunk, 60},
       // The closest that such headers come: 0x03D3 bytes are announced every second byte.
       {"0xD3 0x03", made("\xD3\x03"), DefaultChunk, 60},

@@ -32,7 +32,7 @@ std::size_t SealRtcm(Frame rest) {
   const std::size_t length = std::min(announced, rest.size() - 6);
   rest[1] = static_cast<std::uint8_t>(length >> 8);
   rest[2] = static_cast<std::uint8_t>(length & 0xFF);
-  const std::uint32_t crc = rtcm::Crc24q(rest.data(), length + 3);
+  const std::uint32_t crc = rtcm::Crc24q::Of(rest.data(), length + 3);
   for (unsigned i = 0; i < 3; ++i) {
     rest[length + 3 + i] = static_cast<std::uint8_t>(crc >> (16 - 8 * i) & 0xFF);
   }
@@ -46,7 +46,7 @@ std::size_t SealUbx(Frame rest) {
   rest[1] = 0x62;
   rest[4] = static_cast<std::uint8_t>(length & 0xFF);
   rest[5] = static_cast<std::uint8_t>(length >> 8);
-  const ubx::FletcherSum sum = ubx::Fletcher(rest.data() + 2, length + 4);
+  const ubx::FletcherSum sum = ubx::Fletcher::Of(rest.data() + 2, length + 4);
   rest[length + 6] = sum.a;
   rest[length + 7] = sum.b;
   return length + 8;

@@ -36,7 +36,10 @@ constexpr FramerRow FramerRows[] = {
     {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
     {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},
     {ParserState::AsciiLogDollarLine, FrameLog<LogVariant::DollarLine>},
-    {ParserState::Ubx, [](Decoder& decoder) { return ubx::FrameUbx(decoder.stream, decoder.ubx); }},
+    {ParserState::Ubx,
+     [](Decoder& decoder) {
+       return ubx::FrameUbx(decoder.stream, decoder.ubxChecksum, decoder.ubx);
+     }},
     {ParserState::Binary55Aa,
      [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
     {ParserState::Rtcm3,

@@ -6,14 +6,16 @@
 #include "asciilog/ascii_log_decoder.h"
 #include "frame55aa/frame_decoder.h"
 #include "framing/forward_search.h"
+#include "framing/overlapping_checksum.h"
 #include "framing/stream.h"
 #include "framing/sync_scan.h"
 #include "navframe/time_manager.h"
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "output/record_sink.h"
-#include "rtcm/overlapping_crc.h"
+#include "rtcm/crc24q.h"
 #include "rtcm/rtcm_decoder.h"
+#include "ubx/fletcher.h"
 #include "ubx/ubx_decoder.h"
 
 namespace navframe {
@@ -34,9 +36,10 @@ class Decoder {
   nmea::NmeaDecoder nmea{sink, time};
   ForwardSearch tagBlockStarSearch{'*'};
   asciilog::AsciiLogDecoder asciiLog{sink};
+  OverlappingChecksum<ubx::Fletcher> ubxChecksum;
   ubx::UbxDecoder ubx{sink, time};
   frame55aa::FrameDecoder binary55Aa{sink};
-  rtcm::OverlappingCrc rtcmCrc;
+  OverlappingChecksum<rtcm::Crc24q> rtcmCrc;
   rtcm::RtcmDecoder rtcm{sink, time};
 
  private:

@@ -36,7 +36,7 @@ constexpr auto Tables = [] {
 
 // x to the power of 8 n, modulo the polynomial: what n zero bytes multiply a value by.
 constexpr auto ZeroBytes = [] {
-  std::array<std::uint32_t, LongestProtected + 1> powers{};
+  std::array<std::uint32_t, Crc24q::LongestProtected + 1> powers{};
   std::uint32_t value = 1 << 8;
   for (std::uint32_t& power : powers) {
     power = value >> 8;
@@ -55,7 +55,7 @@ std::uint32_t OfEightBytes(std::uint64_t bytes) {
 
 }  // namespace
 
-std::uint32_t Crc24q(const std::uint8_t* bytes, std::size_t length) {
+Crc24q::Value Crc24q::Of(const std::uint8_t* bytes, std::size_t length) {
   std::uint32_t value = 0;
   for (; length >= Slices; bytes += Slices, length -= Slices) {
     const std::uint64_t head = LoadBigEndian64(bytes) ^ std::uint64_t{value} << 32;
@@ -65,19 +65,20 @@ std::uint32_t Crc24q(const std::uint8_t* bytes, std::size_t length) {
   return value >> 8;
 }
 
-std::uint32_t Crc24qWith(std::uint32_t crc, std::uint8_t byte) {
-  return (crc << 8 ^ Tables[0][crc >> 16 ^ byte] >> 8) & 0xFFFFFF;
+Crc24q::Value Crc24q::With(Value value, std::uint8_t byte) {
+  return (value << 8 ^ Tables[0][value >> 16 ^ byte] >> 8) & 0xFFFFFF;
 }
 
-std::uint32_t Crc24qWithZeros(std::uint32_t crc, std::size_t count) {
+// The bytes in front count as if zeros stood in place of the last ones.
+Crc24q::Value Crc24q::Between(Value from, Value until, std::size_t length) {
   std::uint64_t product = 0;
   for (int bit = 0; bit < 24; ++bit) {
-    product ^= (std::uint64_t{ZeroBytes[count]} << bit) & -(std::uint64_t{crc} >> bit & 1);
+    product ^= (std::uint64_t{ZeroBytes[length]} << bit) & -(std::uint64_t{from} >> bit & 1);
   }
   const std::uint64_t high = product >> 24;
   const std::uint32_t rest =
       Tables[2][high >> 16] ^ Tables[1][high >> 8 & 0xFF] ^ Tables[0][high & 0xFF];
-  return (static_cast<std::uint32_t>(product) ^ rest >> 8) & 0xFFFFFF;
+  return (until ^ static_cast<std::uint32_t>(product) ^ rest >> 8) & 0xFFFFFF;
 }
 
 }  // namespace navframe::rtcm

@@ -12,7 +12,7 @@ constexpr std::uint32_t PayloadLengthMask = 0x03FF;
 
 }  // namespace
 
-FramerResult FrameRtcm3(Stream& stream, OverlappingCrc& crc, RtcmDecoder& decoder) {
+FramerResult FrameRtcm3(Stream& stream, OverlappingChecksum<Crc24q>& crc, RtcmDecoder& decoder) {
   InputRing& ring = stream.ring;
   const std::uint32_t available = ring.Available();
   if (available < HeaderLength) return FramerResult::NeedMore;
@@ -24,7 +24,7 @@ FramerResult FrameRtcm3(Stream& stream, OverlappingCrc& crc, RtcmDecoder& decode
 
   const std::uint8_t* const bytes = ring.View(length);
   const std::uint64_t stored = UnsignedBits(bytes, protectedLength * 8, ChecksumLength * 8);
-  if (crc.Of(ring, bytes, protectedLength) != stored) return SkipOneByte(stream);
+  if (crc.Of(ring, 0, {bytes, protectedLength}) != stored) return SkipOneByte(stream);
   decoder.Decode({bytes, length});
   AcceptFrame(stream, length);
   return FramerResult::Done;

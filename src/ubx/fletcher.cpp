@@ -13,10 +13,7 @@ constexpr std::size_t ShortestInLanes = 2 * Lanes;
 
 FletcherSum ByteByByte(const std::uint8_t* bytes, std::size_t length) {
   FletcherSum sum;
-  for (std::size_t i = 0; i < length; ++i) {
-    sum.a = static_cast<std::uint8_t>(sum.a + bytes[i]);
-    sum.b = static_cast<std::uint8_t>(sum.b + sum.a);
-  }
+  for (std::size_t i = 0; i < length; ++i) sum = Fletcher::With(sum, bytes[i]);
   return sum;
 }
 
@@ -25,7 +22,7 @@ FletcherSum ByteByByte(const std::uint8_t* bytes, std::size_t length) {
 // Each lane sums every 32nd byte. A byte that is the k-th last of its lane counts k times in the
 // lane's b, and 32 k - lane times in the whole b. Zero bytes in front change neither sum, so that
 // they fill up the first block.
-FletcherSum Fletcher(const std::uint8_t* bytes, std::size_t length) {
+FletcherSum Fletcher::Of(const std::uint8_t* bytes, std::size_t length) {
   if (length < ShortestInLanes) return ByteByByte(bytes, length);
   std::array<std::uint8_t, Lanes> a{};
   const std::size_t first = length % Lanes;
@@ -45,6 +42,12 @@ FletcherSum Fletcher(const std::uint8_t* bytes, std::size_t length) {
     sumB = static_cast<std::uint16_t>(sumB + Lanes * b[lane] - lane * a[lane]);
   }
   return {static_cast<std::uint8_t>(sumA), static_cast<std::uint8_t>(sumB)};
+}
+
+// Every byte behind them adds the `a` of the bytes in front to `b` once more.
+FletcherSum Fletcher::Between(FletcherSum from, FletcherSum until, std::size_t length) {
+  return {static_cast<std::uint8_t>(until.a - from.a),
+          static_cast<std::uint8_t>(until.b - from.b - length * from.a)};
 }
 
 }  // namespace navframe::ubx

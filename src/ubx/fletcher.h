@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "ubx/frame.h"
+
 namespace navframe::ubx {
 
 struct FletcherSum {
@@ -12,7 +14,17 @@ struct FletcherSum {
   bool operator==(const FletcherSum&) const = default;
 };
 
-// Both sums modulo 256.
-FletcherSum Fletcher(const std::uint8_t* bytes, std::size_t length);
+// Both sums modulo 256. Has what OverlappingChecksum wants.
+struct Fletcher {
+  using Value = FletcherSum;
+  static constexpr std::uint32_t LongestProtected = HeaderLength - ClassOffset + LongestPayload;
+
+  static FletcherSum Of(const std::uint8_t* bytes, std::size_t length);
+  static FletcherSum With(FletcherSum sum, std::uint8_t byte) {
+    const auto a = static_cast<std::uint8_t>(sum.a + byte);
+    return {a, static_cast<std::uint8_t>(sum.b + a)};
+  }
+  static FletcherSum Between(FletcherSum from, FletcherSum until, std::size_t length);
+};
 
 }  // namespace navframe::ubx

@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "rtcm/crc24q.h"
-#include "rtcm/overlapping_crc.h"
 #include "support/binary_frames.h"
 
 namespace navframe::test {
@@ -17,25 +14,8 @@ TEST(Crc24q, AgreesWithTheBitwiseOneAtEveryLength) {
   for (std::size_t length = 0; length <= 1023; ++length) {
     const Bytes frame = RtcmFrame(NoiseBytes(length, length));
     const std::uint8_t* const end = frame.data() + length + 3;
-    ASSERT_EQ(rtcm::Crc24q(frame.data(), length + 3),
+    ASSERT_EQ(rtcm::Crc24q::Of(frame.data(), length + 3),
               std::uint32_t{end[0]} << 16 | std::uint32_t{end[1]} << 8 | end[2]);
-  }
-}
-
-TEST(OverlappingCrc, IsThatOfTheFrameAlone) {
-  std::mt19937 random(2);
-  InputRing ring;
-  rtcm::OverlappingCrc crc;
-  for (unsigned i = 0; i < 3000; ++i) {
-    while (ring.Available() < rtcm::LongestProtected) {
-      ring.Append(NoiseBytes(2048, i).data(), 2048);
-    }
-    const auto length = static_cast<std::uint32_t>(random() % (rtcm::LongestProtected + 1));
-    const std::uint8_t* const view = ring.View(length);
-    ASSERT_EQ(crc.Of(ring, view, length), rtcm::Crc24q(view, length)) << i;
-    ring.Advance(i % 50 == 0 ? 4000U
-                             : 1 + static_cast<std::uint32_t>(random() %
-                                                              40));  // at times the ring is emptied
   }
 }
 

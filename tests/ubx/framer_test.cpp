@@ -14,7 +14,7 @@ TEST(Fletcher, AgreesWithTheByteLoopAtEveryLength) {
     // The last one has the largest sums.
     const Bytes frame =
         UbxFrame(9, 9, length < 4049 ? NoiseBytes(length, length) : Bytes(4048, 255));
-    ASSERT_EQ(ubx::Fletcher(frame.data() + 2, frame.size() - 4),
+    ASSERT_EQ(ubx::Fletcher::Of(frame.data() + 2, frame.size() - 4),
               (ubx::FletcherSum{frame.end()[-2], frame.end()[-1]}));
   }
 }
