@@ -46,8 +46,9 @@ FletcherSum Fletcher::Of(const std::uint8_t* bytes, std::size_t length) {
 
 // Every byte behind them adds the `a` of the bytes in front to `b` once more.
 FletcherSum Fletcher::Between(FletcherSum from, FletcherSum until, std::size_t length) {
+  const auto repeated = static_cast<std::uint8_t>(length * from.a);
   return {static_cast<std::uint8_t>(until.a - from.a),
-          static_cast<std::uint8_t>(until.b - from.b - length * from.a)};
+          static_cast<std::uint8_t>(until.b - from.b - repeated)};
 }
 
 }  // namespace navframe::ubx
