@@ -109,16 +109,21 @@ class TableReporter : public benchmark::ConsoleReporter {
     }
   }
 
-  void PrintTable(const std::vector<std::pair<std::string, double>>& bounds) const {
+  // Whether every cost that was measured is within its bound.
+  bool PrintTable(const std::vector<std::pair<std::string, double>>& bounds) const {
     const auto ordinary = bytesPerSecond_.find(OrdinaryName);
-    if (ordinary == bytesPerSecond_.end()) return;
+    if (ordinary == bytesPerSecond_.end()) return true;
+    bool within = true;
     std::printf("\n| stream | MB/s | times ordinary | bound |\n| --- | --: | --: | --: |\n");
     for (const auto& [name, bound] : bounds) {
       const auto found = bytesPerSecond_.find(name);
       if (found == bytesPerSecond_.end()) continue;
-      std::printf("| %s | %.3g | %.2f | %.0f |\n", name.c_str(), found->second * 1e-6,
-                  ordinary->second / found->second, bound);
+      const double cost = ordinary->second / found->second;
+      within = within && cost <= bound;
+      std::printf("| %s | %.3g | %.2f | %.0f%s |\n", name.c_str(), found->second * 1e-6, cost,
+                  bound, cost <= bound ? "" : " EXCEEDED");
     }
+    return within;
   }
 
  private:
@@ -148,5 +153,5 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   TableReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
-  reporter.PrintTable(bounds);
+  return reporter.PrintTable(bounds) ? 0 : 1;
 }
