@@ -46,7 +46,8 @@ class OverlappingChecksum {
   }
 
  private:
-  static constexpr std::uint32_t Size = 2 * std::bit_ceil(Checksum::LongestProtected);
+  // Room for the prefixes of the longest frame, that of no bytes among them.
+  static constexpr std::uint32_t Size = std::bit_ceil(Checksum::LongestProtected + 1);
 
   Value& PrefixUpTo(std::uint32_t index) { return prefixes_[index % Size]; }
 

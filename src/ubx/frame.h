@@ -19,6 +19,11 @@ inline constexpr std::uint32_t LongestPayload = 4048;
 struct Payload {
   const std::uint8_t* bytes;
   std::size_t length;
+
+  // How many whole entries of `entryLength` bytes there are from `offset` on.
+  constexpr std::size_t Entries(std::size_t offset, std::size_t entryLength) const {
+    return length < offset ? 0 : (length - offset) / entryLength;
+  }
 };
 
 }  // namespace navframe::ubx

@@ -105,7 +105,7 @@ void DecodeMeasurement(const std::uint8_t* entry, UbxRawMeasurement& measurement
 void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
                            UbxRawMeasurementsRecord& record) {
   DecodeHead(payload, time, record);
-  const std::size_t held = (std::max(payload.length, EntriesOffset) - EntriesOffset) / EntryLength;
+  const std::size_t held = payload.Entries(EntriesOffset, EntryLength);
   const std::size_t count = std::min<std::size_t>(ReadOr<std::uint8_t>(payload, 11, 0), held);
   record.count = static_cast<std::uint8_t>(count);
   for (std::size_t i = 0; i < count; ++i) {

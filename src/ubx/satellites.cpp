@@ -75,7 +75,7 @@ void DecodeSatellite(const std::uint8_t* entry, UbxSatellite& satellite) {
 void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record) {
   WriteHead(ReadLe<std::uint32_t>(payload.bytes, 0), time.getWeek(), time, record);
   record.version = payload.bytes[4];
-  const std::size_t held = (std::max(payload.length, EntriesOffset) - EntriesOffset) / EntryLength;
+  const std::size_t held = payload.Entries(EntriesOffset, EntryLength);
   const std::size_t count = std::min({std::size_t{payload.bytes[5]}, held, Room});
   record.count = static_cast<std::uint8_t>(count);
   for (std::size_t i = 0; i < count; ++i) {

@@ -4,6 +4,7 @@
 #include "ubx/frame.h"
 
 namespace navframe::ubx {
+
 FramerResult FrameUbx(Stream& stream, OverlappingChecksum<Fletcher>& checksum,
                       UbxDecoder& decoder) {
   InputRing& ring = stream.ring;
