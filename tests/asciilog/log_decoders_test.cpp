@@ -8,7 +8,6 @@
 namespace navframe::test {
 namespace {
 
-using asciilog::LogRow;
 using enum ParserState;
 using Numbers = std::vector<double>;
 constexpr auto NotFound = std::string::npos;
@@ -16,10 +15,10 @@ constexpr auto NotFound = std::string::npos;
 // Decodes a line that ends with its allocation into a record that ends with its own, so that the
 // address sanitizer sees one byte too far on either side.
 bool Decode(std::uint32_t id, std::string_view line, Bytes& record) {
-  const LogRow& row = *asciilog::RowOf(id);
+  const asciilog::LogRow& row = *asciilog::RowOf(id);
   const std::vector<char> text(line.begin(), line.end() - 2);
   record.assign(row.recordSize, 0);
-  return DecodeLog(row, {text.data(), text.size()}, record.data()) ==
+  return asciilog::DecodeLog(row, {text.data(), text.size()}, record.data()) ==
          asciilog::DecodeResult::Success;
 }
 
