@@ -25,7 +25,7 @@ struct LogRow {
   const LogFormat* format;
 };
 
-// All rows, for tests.
+// All rows, by identifier.
 std::span<const LogRow> LogRows();
 
 // Null for a log that is recognised but not decoded, and for an unknown one.

@@ -30,23 +30,15 @@ Counts Accepted(std::string_view text, std::size_t bytes, std::size_t records) {
 // One byte is skipped and the call ends.
 Counts Abandoned(std::string_view text) { return Outcome(0, 0, 1, text.size() - 1, Scanning); }
 
-// One call with the bytes at the head of a fresh ring, of protocols nothing else enabled.
+// One call with the bytes at the head of a fresh ring; behind them only "$" starts anything.
 Counts Feed(ParserState state, const Bytes& bytes) {
   const auto decoder = std::make_unique<Decoder>();
+  decoder->SetBoardType(7);
   decoder->SetMsgTypes(0);
   PushAs(*decoder, state, bytes);
   return OutcomeOf(*decoder);
 }
 Counts Feed(ParserState state, std::string_view text) { return Feed(state, ToBytes(text)); }
-
-// A text that begins with "$", while the board type makes "$" the start of a log line.
-Counts FeedDollar(std::string_view text, std::uint32_t mask = 0) {
-  const auto decoder = std::make_unique<Decoder>();
-  decoder->SetBoardType(7);
-  decoder->SetMsgTypes(mask);
-  Push(*decoder, text);
-  return OutcomeOf(*decoder);
-}
 
 TEST(LogFramer, LineIsTakenOrCostsOneByte) {
   const std::string good = LongLog("BESTVELA", VelocityBody);
@@ -96,91 +88,85 @@ TEST(LogFramer, LinesAroundTheBufferSize) {
     // One byte of the buffer is for the end of the text.
     const bool fits = length < Capacity;
     EXPECT_EQ(Feed(AsciiLogLine, line), Accepted(line, fits ? length : 0, fits ? 1 : 0)) << length;
-    EXPECT_EQ(FeedDollar("$" + line.substr(1)), Accepted(line, fits ? length : 0, 0)) << length;
+    EXPECT_EQ(Feed(AsciiLogDollarLine, "$" + line.substr(1)), Accepted(line, fits ? length : 0, 0))
+        << length;
   }
 }
 
 TEST(LogFramer, LineAcrossTheEndOfTheRingIsTakenAndOfTheIndicesIsNot) {
   const std::string line = LongLog("BESTVELA", VelocityBody);
-  const Bytes filler(InputRing::Capacity / 2, 'x');
-  for (const std::uint64_t end : {std::uint64_t{1} << 24, std::uint64_t{1} << 32}) {
+  const Bytes half(InputRing::Capacity / 2, 'x');
+  for (const int halves : {0, 510}) {  // from the end of the ring to that of the 32-bit indices
     const auto decoder = std::make_unique<Decoder>();
     InputRing& ring = decoder->stream.ring;
-    ring.Append(filler.data(), 1);
-    for (std::uint64_t at = 0; at < end; at += filler.size()) {
-      const auto length = static_cast<std::uint32_t>(filler.size() - (at == 0 ? 30 : 0));
-      ring.Append(filler.data(), length);
-      ring.Advance(length);
+    PlaceHead(decoder->stream, InputRing::Capacity - 30);
+    for (int i = 0; i < halves; ++i) {
+      ring.Append(half.data(), InputRing::Capacity / 2);
+      ring.Advance(InputRing::Capacity / 2);
     }
     ring.Append(ToBytes(line).data(), 1);
     ring.Advance(1);
     PushAs(*decoder, AsciiLogLine, std::string_view(line).substr(1));
     EXPECT_EQ(OutcomeOf(*decoder),
-              end == InputRing::Capacity ? Accepted(line, line.size() - 2, 1) : Abandoned(line));
+              halves == 0 ? Accepted(line, line.size() - 2, 1) : Abandoned(line));
   }
 }
 
-// What has not arrived reads as zeros: only a frame that ends in them is taken early.
 TEST(LogFramer, BinaryFrameIsQueuedAsItStandsInTheLineBuffer) {
-  for (const auto& [state, header] : {std::pair(AsciiLogBinary, 28), std::pair(AsciiLogBinary, 12),
-                                      std::pair(AsciiLogBinaryFixed, 24)}) {
-    Bytes frame = {1};
-    std::uint16_t id = 1000;
-    for (; frame.back() != 0; ++id) {
-      frame = state == AsciiLogBinary
-                  ? BinaryLog(id, Bytes(40, 7), static_cast<std::uint8_t>(header))
-                  : FixedBinaryLog(id, Bytes(40, 7));
-    }
-    const auto decoder = std::make_unique<Decoder>();
+  const std::pair<ParserState, Bytes> frames[] = {
+      {AsciiLogBinary, BinaryLog(AsciiLogBinary, 1000, Bytes(80, 7))},
+      {AsciiLogBinary, BinaryLog(AsciiLogBinary, 1000, Bytes(60, 7), 12)},
+      {AsciiLogBinaryFixed, BinaryLog(AsciiLogBinaryFixed, 1000, Bytes(40, 7))}};
+  const auto decoder = std::make_unique<Decoder>();
+  for (const auto& [state, frame] : frames) {
     PushAs(*decoder, state, frame);
-    Bytes payload(Capacity);
-    TakeOnlyRecord(*decoder, id - 1U, payload.data(), Capacity);
-    frame.resize(Capacity);
-    EXPECT_EQ(payload, frame);
-    frame.resize(static_cast<std::size_t>(header) + 44);
-    for (Bytes piece = frame; piece.size() >= 10; piece.pop_back()) {
-      const std::size_t size = piece.size();
-      const bool taken = size + 1 >= frame.size();
-      EXPECT_EQ(Feed(state, piece),
-                Outcome(taken, taken ? size : 0, taken ? 0 : size, 0, Scanning));
+    QueuedMessage record = decoder->sink.PopOldest().value();
+    EXPECT_TRUE(record.message.id == 1000 && record.message.source == SourceAsciiLog);
+    ASSERT_EQ(record.payloadSize, Capacity);
+    Bytes buffer = frame;
+    buffer.resize(Capacity);
+    EXPECT_EQ(std::memcmp(record.message.data, buffer.data(), Capacity), 0);
+    decoder->sink.Release(record.message);
+    for (std::size_t size = 10; size < frame.size(); ++size) {
+      const Bytes piece(frame.begin(), frame.begin() + static_cast<std::ptrdiff_t>(size));
+      EXPECT_EQ(Feed(state, piece), Outcome(0, 0, size, 0, Scanning));
     }
   }
+  // What has not arrived reads as zeros: a frame that ends in them is taken early.
+  EXPECT_EQ(Feed(AsciiLogBinary, Bytes(10)), Outcome(1, 4, 6, 0, Scanning));
+  EXPECT_EQ(Feed(AsciiLogBinaryFixed, Bytes(10)), Outcome(1, 10, 0, 0, Scanning));
 }
 
 TEST(LogFramer, BinaryLengthsAreBoundedByTheLineBuffer) {
-  for (const auto& [length, header, taken] :
-       {std::tuple(Capacity - 32, 28, true), std::tuple(Capacity - 31, 28, false),
-        std::tuple(Capacity - 16, 12, true), std::tuple(std::size_t{65535}, 28, false),
-        std::tuple(std::size_t{40}, 40, false)}) {  // its CRC is not copied
-    const Bytes frame = BinaryLog(5, Bytes(length, 1), static_cast<std::uint8_t>(header));
-    EXPECT_EQ(Feed(AsciiLogBinary, frame) == Outcome(1, frame.size(), 0, 0, Scanning), taken);
+  for (const auto& [state, length, header, taken] :
+       {std::tuple(AsciiLogBinary, Capacity - 32, 28, true),
+        std::tuple(AsciiLogBinary, Capacity - 31, 28, false),
+        std::tuple(AsciiLogBinary, Capacity - 16, 12, true),
+        std::tuple(AsciiLogBinary, std::size_t{65535}, 28, false),
+        std::tuple(AsciiLogBinary, std::size_t{40}, 40, false),  // its CRC is not copied
+        std::tuple(AsciiLogBinaryFixed, Capacity - 28, 24, true),
+        std::tuple(AsciiLogBinaryFixed, Capacity - 27, 24, false)}) {
+    const Bytes frame = BinaryLog(state, 5, Bytes(length, 1), static_cast<std::uint8_t>(header));
+    EXPECT_EQ(Feed(state, frame) == Outcome(1, frame.size(), 0, 0, Scanning), taken) << length;
   }
-  EXPECT_EQ(Feed(AsciiLogBinaryFixed, FixedBinaryLog(5, Bytes(Capacity - 28)))[0], 1U);
-  EXPECT_EQ(Feed(AsciiLogBinaryFixed, FixedBinaryLog(5, Bytes(Capacity - 27)))[0], 0U);
 }
 
-TEST(DollarLine, TakesFourBytesOfWhatFollows) {
-  const std::string first = Sentence("GPGGA,123519.00,,,,,0,00,99.9,,M,,M,,");
-  const std::string both = first + Sentence("GPGLL,,,,,,V,N");
-  // The second line has lost its "$", so nothing starts there.
-  for (const std::uint32_t mask : {0U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(FeedDollar(both, mask), Accepted(both, first.size() + 4, 0));
-  }
-  EXPECT_EQ(FeedDollar(first), Accepted(first, first.size(), 0)) << "it takes what is there";
+TEST(DollarLine, IsTakenThroughEightBytesBehindTheStar) {
   // Neither checksum nor CRC counts; a NUL ends the line's text early.
-  EXPECT_EQ(FeedDollar("$GPTXT,hello*zz\r\n"), Outcome(0, 17, 0, 0, Scanning));
-  EXPECT_EQ(FeedDollar("$GP*12345678\r\n"), Outcome(0, 12, 2, 0, Scanning));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, "$GPTXT,hello*zz\r\n"), Outcome(0, 17, 0, 0, Scanning));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, "$GP*12345678\r\n"), Outcome(0, 12, 2, 0, Scanning));
   constexpr std::string_view Nul("$GP\0XYZ*12345678\r\n", 18);
-  EXPECT_EQ(FeedDollar(Nul), Accepted(Nul, 3, 0));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, Nul), Accepted(Nul, 3, 0));
   // The line feed may stand before the star; then two characters behind the star are waited for.
-  EXPECT_EQ(FeedDollar("$GPGGA\n1234567*4"), Outcome(0, 0, 0, 16, AsciiLogDollarLine));
-  EXPECT_EQ(FeedDollar("$GPGGA\n1234567*47"), Outcome(0, 17, 0, 0, Scanning));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, "$GPGGA\n1234567*4"),
+            Outcome(0, 0, 0, 16, AsciiLogDollarLine));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, "$GPGGA\n1234567*47"), Outcome(0, 17, 0, 0, Scanning));
 }
 
 // Each false start looks for the same far "*"; done anew each time this takes hours.
 TEST(DollarLine, RunOfFalseStartsIsNotSearchedAgainAndAgain) {
   const std::string run = std::string(8 << 20, '$') + "*12345678\r\n";
-  EXPECT_EQ(FeedDollar(run), Accepted(run, Capacity - 1, 0));
+  EXPECT_EQ(Feed(AsciiLogDollarLine, run), Accepted(run, Capacity - 1, 0));
 }
 
 }  // namespace

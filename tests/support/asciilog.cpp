@@ -1,27 +1,23 @@
 #include "support/asciilog.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cstdio>
 
 namespace navframe::test {
 
+namespace {
+
+// Bit by bit, apart from the library's table.
 std::uint32_t LogCrc(std::string_view covered) {
-  // A shift register of 32 bits, highest power first, fed with each byte's lowest bit first; the
-  // reflected CRC is its mirror image.
-  std::uint32_t shift = 0;
+  std::uint32_t crc = 0;
   for (const char c : covered) {
-    for (int bit = 0; bit < 8; ++bit) {
-      const std::uint32_t in = static_cast<std::uint32_t>(c) >> bit & 1U;
-      const bool feedback = ((shift >> 31) ^ in) != 0;
-      shift = (shift << 1) ^ (feedback ? 0x04C11DB7U : 0U);
-    }
+    crc ^= static_cast<std::uint8_t>(c);
+    for (int bit = 0; bit < 8; ++bit) crc = crc >> 1 ^ (crc % 2 != 0 ? 0xEDB88320U : 0U);
   }
-  std::uint32_t mirrored = 0;
-  for (int bit = 0; bit < 32; ++bit) mirrored |= (shift >> bit & 1U) << (31 - bit);
-  return mirrored;
+  return crc;
 }
+
+}  // namespace
 
 std::string Log(std::string_view text) {
   std::array<char, 16> trailer;
@@ -39,41 +35,21 @@ std::string ShortLog(std::string_view name, std::string_view body) {
              std::string(body));
 }
 
-std::string WithoutLineEnd(std::string line) {
-  line.resize(line.size() - 2);
-  return line;
-}
-
-namespace {
-
-Bytes Sealed(Bytes frame) {
+Bytes BinaryLog(ParserState state, std::uint16_t id, const Bytes& message,
+                std::uint8_t headerLength) {
+  const bool fixed = state == ParserState::AsciiLogBinaryFixed;
+  Bytes frame = Bytes(fixed ? 24 : headerLength) + message;
+  const auto put = [&frame](std::size_t at, std::size_t value, int bytes) {
+    for (; bytes > 0; --bytes, value >>= 8) frame[at++] = static_cast<std::uint8_t>(value);
+  };
+  put(0, 0xAA, 1);
+  put(3, headerLength, 1);
+  put(4, id, 2);
+  put(fixed ? 6 : 8, message.size(), 2);
   const std::uint32_t crc = LogCrc({reinterpret_cast<const char*>(frame.data()), frame.size()});
-  for (int i = 0; i < 4; ++i) frame.push_back(static_cast<std::uint8_t>(crc >> (8 * i)));
+  frame.resize(frame.size() + 4);
+  put(frame.size() - 4, crc, 4);
   return frame;
-}
-
-void PutWord(Bytes& frame, std::size_t at, std::size_t value) {
-  frame[at] = static_cast<std::uint8_t>(value);
-  frame[at + 1] = static_cast<std::uint8_t>(value >> 8);
-}
-
-}  // namespace
-
-Bytes BinaryLog(std::uint16_t id, const Bytes& message, std::uint8_t headerLength) {
-  Bytes header(headerLength);
-  header[0] = 0xAA;
-  header[3] = headerLength;
-  PutWord(header, 4, id);
-  PutWord(header, 8, message.size());
-  return Sealed(header + message);
-}
-
-Bytes FixedBinaryLog(std::uint16_t id, const Bytes& message) {
-  Bytes header(24);
-  header[0] = 0xAA;
-  PutWord(header, 4, id);
-  PutWord(header, 6, message.size());
-  return Sealed(header + message);
 }
 
 void PushAs(Decoder& decoder, ParserState state, const Bytes& bytes) {
@@ -90,17 +66,6 @@ std::size_t ReleaseAll(Decoder& decoder) {
   GnssMessage record;
   for (; decoder.sink.Pop(record, 0) == 0; ++count) decoder.sink.Release(record);
   return count;
-}
-
-void TakeOnlyRecord(Decoder& decoder, std::uint32_t id, void* record, std::size_t size) {
-  ASSERT_EQ(decoder.sink.Waiting(), 1U);
-  QueuedMessage oldest = *decoder.sink.PopOldest();
-  EXPECT_EQ(oldest.message.id, id);
-  EXPECT_EQ(oldest.message.source, SourceAsciiLog);
-  EXPECT_EQ(oldest.payloadSize, size);
-  std::memcpy(record, oldest.message.data, std::min<std::size_t>(size, oldest.payloadSize));
-  decoder.sink.Release(oldest.message);
-  EXPECT_EQ(oldest.message.data, nullptr);
 }
 
 }  // namespace navframe::test
