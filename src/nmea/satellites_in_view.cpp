@@ -39,6 +39,7 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
   slots_[slot] = numberedCount_;
   keys_[place] = key;
   numbered_[place] = UnknownSatellite;
+  numbered_[place].number = static_cast<std::uint8_t>(number);
   return &numbered_[place];
 }
 
@@ -70,7 +71,6 @@ void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvB
 void SatellitesInView::MarkUsed(int systemId, int number) {
   SatelliteInView* const entry = Entry(systemId, number);
   if (entry == nullptr) return;
-  if (entry->number == UnknownSatellite.number) entry->number = static_cast<std::uint8_t>(number);
   entry->systemId = static_cast<std::uint8_t>(systemId);
   entry->used = 1;
 }

@@ -121,6 +121,10 @@ TEST(SatellitesInView, GsaMarksUsedSatellites) {
   EXPECT_EQ(ListedIn(Sentence("GNGSA,A,3,05,06,,,,,,,,,,,1,1,1,1") +
                      Sentence("GPGSV,1,1,02,03,10,111,40,06,15,270,41,1")),
             "1/5 65535 65535 1[] 1/6 270 15 1[1:41] 1/3 111 10 0[1:40] ");
+  // Satellites are told apart by 1000 times the system, and the number; the first number stays.
+  EXPECT_EQ(ListedIn(Sentence("GNGSA,A,3,255,,,,,,,,,,,,1,1,1,2") +
+                     Sentence("GNGSA,A,3,1255,,,,,,,,,,,,1,1,1,1") + Sentence("GNGSV,1,1,00,1")),
+            "1/255 65535 65535 1[] ");
   // The record of the cycle before is out when a GSA comes; what it marks belongs to the next.
   const auto records =
       Decoded(Sentence("GPGSV,1,1,01,03,10,111,40,1") + Sentence("GPGSA,A,3,03,,,,,,,,,,,,1,1,1") +
