@@ -11,6 +11,13 @@ namespace {
 
 constexpr std::size_t MostSignals = std::size(SatelliteInView{}.signals);
 
+// What satellites are told apart by. Those without a number have a key too, and a GSV block with a
+// (negative) number that gives it counts as one without.
+constexpr std::int64_t KeyOf(int systemId, int number) {
+  return std::int64_t{systemId} * 1000 + number;
+}
+constexpr std::int64_t UnnumberedKey = -1;
+
 }  // namespace
 
 void SatellitesInView::Reset() {
@@ -28,7 +35,7 @@ void SatellitesInView::StampHeader(const TimeManager& time) {
 }
 
 SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
-  const std::int64_t key = std::int64_t{systemId} * 1000 + number;
+  const std::int64_t key = KeyOf(systemId, number);
   std::size_t slot = static_cast<std::size_t>(key * 37) % Slots;
   for (; slots_[slot] != 0; slot = (slot + 1) % Slots) {
     const std::size_t place = slots_[slot] - std::size_t{1};
@@ -54,7 +61,7 @@ void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId
 }
 
 void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
-  if (block.numbered) {
+  if (block.numbered && KeyOf(systemId, block.number) != UnnumberedKey) {
     SatelliteInView* const entry = Entry(systemId, block.number);
     if (entry == nullptr) return;
     entry->systemId = static_cast<std::uint8_t>(systemId);

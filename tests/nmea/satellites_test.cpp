@@ -67,6 +67,9 @@ TEST(SatellitesInView, SatellitesWithoutANumber) {
   EXPECT_EQ(ListedIn(unnumbered + unnumbered + Sentence("GLGSV,1,1,01,,,,,3")),
             "2/70 270 15 0[1:41 1:41] 2/255 111 10 0[1:40] 2/255 111 10 0[1:40] "
             "2/255 65535 65535 0[3:255] ");
+  const std::string negative = Sentence("GPGSV,1,1,02,-1000,1,1,40,-1001,1,1,41,1");
+  EXPECT_EQ(ListedIn(negative + negative),
+            "1/24 1 1 0[1:40 1:40] 1/255 1 1 0[1:41] 1/255 1 1 0[1:41] ");
 }
 
 TEST(SatellitesInView, RoomFor96) {
