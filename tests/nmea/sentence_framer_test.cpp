@@ -158,6 +158,12 @@ TEST(SentenceFramer, HeadIsNotTrustedAfterAnExactFill) {
   forged.replace(forged.find('*') + 1, 2, digits.data());
   EXPECT_TRUE(Push(*decoder, forged).empty());
   EXPECT_EQ(Push(*decoder, Vtg).size(), 1U);
+
+  const auto other = std::make_unique<Decoder>();
+  Push(*other, "$GPVTG,");
+  Push(*other, Bytes(other->stream.ring.Free(), 'x'));
+  Push(*other, "*xxxxx");
+  EXPECT_EQ(StateOf(*other), (Framed{0, 0, 6, 0, 0})) << "a star at the head is its star";
 }
 
 TEST(TagBlockFramer, SkipsTheBlockAndLeavesThePlainSentence) {
