@@ -125,10 +125,11 @@ TEST(SentenceFramer, LikeThePlainFramer) {
   const std::string single("$*\\s:\n,\0U\xB5\xD3#", 12);
   const std::string fragments[] = {
       "\r\n", "GP", "7F", "\\s:1234\\", "\\s:ab$*\\", Vtg, Vtg.substr(0, 9), Sealed("$GLZZZ,1"),
-      // A small letter in the checksum, no letters in front, a NUL, the star at 252 and at 253.
-      "$GPVTG,,,,,,,,,A*2f", Sealed("$1GZZZ,"), Sealed("$G\xC1ZZZ,"),
+      // A small letter in the checksum, no letters in front, a NUL, the star at 252 and at 253,
+      // and at 256 of a tag block.
+      "$GPVTG,,,,,,,,,A*3f", Sealed("$1GZZZ,"), Sealed("$G\xC1ZZZ,"),
       Sealed(std::string("$GPZZZ,\0,", 9)), Sealed("$GPYYY," + std::string(245, 'y')),
-      Sealed("$GPYYY," + std::string(246, 'y'))};
+      Sealed("$GPYYY," + std::string(246, 'y')), "\\s:1234\\" + std::string(248, 'x') + "*"};
   const int streams = Sanitized ? 150 : 1500;
   for (int i = 0; i < streams; ++i) {
     const auto decoder = std::make_unique<Decoder>();
