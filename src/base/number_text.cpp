@@ -47,7 +47,6 @@ Conversion ConvertInt(std::string_view text, int base, int& value) {
   auto [first, last, negative] = SkipToDigits(text);
   if (base == 16 && HasHexPrefix(first, last) && IsHexDigit(first[2])) first += 2;
   std::uint64_t magnitude = 0;
-  if (first == last || *first == '-') return Conversion::Invalid;
   const auto [end, error] = std::from_chars(first, last, magnitude, base);
   if (error == std::errc::invalid_argument) return Conversion::Invalid;
   const std::uint64_t limit = std::uint64_t{std::numeric_limits<int>::max()} + (negative ? 1 : 0);

@@ -3,6 +3,8 @@
 #include <array>
 #include <optional>
 
+#include "base/characters.h"
+#include "base/unknown.h"
 #include "nmea/field.h"
 
 namespace navframe::nmea {
@@ -46,11 +48,8 @@ constexpr int SystemOfNumber(int number) {
   return 5;
 }
 
-constexpr std::uint8_t NoCarrierToNoise = 255;
-
 // A whole number or a decimal one, of which the integer part counts.
 std::uint8_t CarrierToNoise(std::string_view field) {
-  constexpr auto IsDigit = [](char c) { return c >= '0' && c <= '9'; };
   if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
     return static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
   }
@@ -76,7 +75,7 @@ GsvBlock ReadBlock(const Fields& fields, std::size_t index) {
   ReadInt(number, block.number);
   ReadInt(elevation, block.elevation);
   ReadInt(azimuth, block.azimuth);
-  block.cn0 = cn0.empty() ? NoCarrierToNoise : CarrierToNoise(cn0);
+  block.cn0 = cn0.empty() ? Unknown<std::uint8_t>() : CarrierToNoise(cn0);
   return block;
 }
 

@@ -11,6 +11,13 @@ namespace {
 
 constexpr std::size_t MostSignals = std::size(SatelliteInView{}.signals);
 
+// What satellites are told apart by. Those without a number have a key too, and a GSV block with a
+// (negative) number that gives it counts as one without.
+constexpr std::int64_t KeyOf(int systemId, int number) {
+  return std::int64_t{systemId} * 1000 + number;
+}
+constexpr std::int64_t UnnumberedKey = -1;
+
 }  // namespace
 
 void SatellitesInView::Reset() {
@@ -28,7 +35,7 @@ void SatellitesInView::StampHeader(const TimeManager& time) {
 }
 
 SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
-  const std::int64_t key = std::int64_t{systemId} * 1000 + number;
+  const std::int64_t key = KeyOf(systemId, number);
   std::size_t slot = static_cast<std::size_t>(key * 37) % Slots;
   for (; slots_[slot] != 0; slot = (slot + 1) % Slots) {
     const std::size_t place = slots_[slot] - std::size_t{1};
@@ -39,6 +46,7 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
   slots_[slot] = numberedCount_;
   keys_[place] = key;
   numbered_[place] = UnknownSatellite;
+  numbered_[place].number = static_cast<std::uint8_t>(number);
   return &numbered_[place];
 }
 
@@ -53,7 +61,7 @@ void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId
 }
 
 void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
-  if (block.numbered) {
+  if (block.numbered && KeyOf(systemId, block.number) != UnnumberedKey) {
     SatelliteInView* const entry = Entry(systemId, block.number);
     if (entry == nullptr) return;
     entry->systemId = static_cast<std::uint8_t>(systemId);
@@ -70,7 +78,6 @@ void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvB
 void SatellitesInView::MarkUsed(int systemId, int number) {
   SatelliteInView* const entry = Entry(systemId, number);
   if (entry == nullptr) return;
-  if (entry->number == UnknownSatellite.number) entry->number = static_cast<std::uint8_t>(number);
   entry->systemId = static_cast<std::uint8_t>(systemId);
   entry->used = 1;
 }

@@ -41,7 +41,7 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
     const ByteBlock block(bytes + base);
     std::uint32_t count = std::min(length - base, Block);
     std::uint64_t ends = block.EqualToAny(Ends) & LowBits(count);
-    if (base == 0) ends &= ~std::uint64_t{1};
+    if (base == 0) ends &= ~std::uint64_t{bytes[0] == '$'};
     for (; ends != 0; ends &= ends - 1) {
       const auto offset = static_cast<std::uint32_t>(std::countr_zero(ends));
       const std::uint8_t end = bytes[base + offset];

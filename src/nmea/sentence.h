@@ -28,8 +28,8 @@ struct SentenceSweep {
   std::array<std::uint8_t, LongestStarOffset + 64> commas;  // offsets of the first commaCount
 };
 
-// Looks at `length` bytes (at most LongestStarOffset + 1), the first of which is "$". Up to 63
-// bytes behind them may be loaded, though never used.
+// Looks at `length` bytes (at most LongestStarOffset + 1), the first of which may be a "$". Up to
+// 63 bytes behind them may be loaded, though never used.
 void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep);
 
 // The comma-separated fields of a sentence. Field 0 is the address field with its "$"; the last

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/characters.h"
 #include "nmea/sentence.h"
 
 namespace navframe::nmea {
@@ -10,8 +11,6 @@ namespace {
 
 // Bytes of "*" and the checksum digits.
 constexpr std::uint32_t TrailerLength = 3;
-
-constexpr bool IsLetter(std::uint8_t c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
 
 // Takes the two bytes of a line end behind a sentence when the second is LF, whatever the first.
 void ConsumeLineEnd(InputRing& ring) {
@@ -37,22 +36,21 @@ FramerResult FrameSentence(Stream& stream, NmeaDecoder& decoder) {
   const std::uint32_t available = ring.Available();
   const std::uint8_t* const text = ring.View(std::min(available, Reach));
   // Behind the last byte that is there lies nothing to judge by.
-  const bool hasTalker = available > 2 && IsLetter(text[1]) && IsLetter(text[2]);
+  const bool hasTalker =
+      available > 2 && IsLetter(static_cast<char>(text[1])) && IsLetter(static_cast<char>(text[2]));
   if (available >= Reach && !hasTalker) return SkipOneByte(stream);
+  const std::uint32_t swept = std::min(available, LongestStarOffset + 1);
   SentenceSweep sweep;
-  Sweep(text, std::min(available, LongestStarOffset + 1), sweep);
+  Sweep(text, swept, sweep);
   if (sweep.outcome == SentenceSweep::Outcome::SecondStart && available < Reach) {
     // Cut off by the next sentence; still, it is skipped only once its "*" has decided so.
-    const void* const star = std::memchr(text, '*', std::min(available, LongestStarOffset + 1));
-    const std::uint32_t offset =
-        star == nullptr ? available
-                        : static_cast<std::uint32_t>(static_cast<const std::uint8_t*>(star) - text);
+    const auto* const star = static_cast<const std::uint8_t*>(std::memchr(text, '*', swept));
     const bool decided =
-        star == nullptr ? available > LongestStarOffset + 1 : offset + TrailerLength <= available;
+        star == nullptr ? available > swept : star + TrailerLength <= text + available;
     return decided ? SkipOneByte(stream) : FramerResult::NeedMore;
   }
   if (sweep.outcome == SentenceSweep::Outcome::Neither) {
-    return available > LongestStarOffset + 1 ? SkipOneByte(stream) : FramerResult::NeedMore;
+    return available > swept ? SkipOneByte(stream) : FramerResult::NeedMore;
   }
   const std::uint32_t length = sweep.starOffset + TrailerLength;
   if (sweep.outcome == SentenceSweep::Outcome::Star && length > available) {

@@ -2,14 +2,16 @@
 
 #include <string>
 
+#include "base/unknown.h"
+
 namespace navframe::nmea {
 namespace {
 
 // From this repetition on a sentence that opens no epoch moves the clock all the same.
 constexpr std::uint8_t RepetitionsToMove = 2;
 
-constexpr bool HasDate(const UTCTIME& utc) { return utc.year != 65535; }
-constexpr bool HasTime(const UTCTIME& utc) { return utc.hour < 255; }
+bool HasDate(const UTCTIME& utc) { return !IsUnknown(utc.year); }
+bool HasTime(const UTCTIME& utc) { return !IsUnknown(utc.hour); }
 
 bool MovesClock(bool opensEpoch, std::uint8_t& counter) {
   if (opensEpoch) {

@@ -18,24 +18,16 @@
 namespace navframe::test {
 namespace {
 
-std::uint64_t BitsOf(int value) { return static_cast<std::uint32_t>(value); }
-// Which NaN "nan(...)" gives is the platform's choice; its sign is not.
+// Of a double, or of an int or float in the double that has its value. Which NaN "nan(...)" gives
+// is the platform's choice; its sign is not.
 std::uint64_t BitsOf(double value) {
   if (std::isnan(value)) return std::signbit(value) ? 2 : 1;
   return std::bit_cast<std::uint64_t>(value);
 }
-std::uint64_t BitsOf(float value) { return BitsOf(static_cast<double>(value)); }
 
-struct Outcome {
-  std::uint64_t bits = 0;
-  std::string thrown;
-  bool operator==(const Outcome&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
-  return out << std::hex << outcome.bits << ' ' << outcome.thrown;
-}
-
-// `name` stands for what() where the standard function throws, as that text differs by library.
+// The bits of the result, or what was thrown. `name` stands for what() where the standard function
+// throws, as that text differs by library.
+using Outcome = std::pair<std::uint64_t, std::string>;
 template <class Convert>
 Outcome OutcomeOf(Convert convert, const char* name = nullptr) {
   try {
@@ -48,15 +40,13 @@ Outcome OutcomeOf(Convert convert, const char* name = nullptr) {
 }
 
 void ExpectLikeStandard(const std::string& text) {
-  EXPECT_EQ(OutcomeOf([&] { return ToInt(text); }),
-            OutcomeOf([&] { return std::stoi(text); }, "stoi"))
-      << '"' << text << '"';
-  EXPECT_EQ(OutcomeOf([&] { return ToDouble(text); }),
-            OutcomeOf([&] { return std::stod(text); }, "stod"))
-      << '"' << text << '"';
-  EXPECT_EQ(OutcomeOf([&] { return ToFloat(text); }),
-            OutcomeOf([&] { return std::stof(text); }, "stof"))
-      << '"' << text << '"';
+  const auto expect = [&](auto ours, auto standard, const char* name) {
+    EXPECT_EQ(OutcomeOf(ours), OutcomeOf(standard, name)) << '"' << text << '"';
+  };
+  expect([&] { return ToInt(text); }, [&] { return std::stoi(text); }, "stoi");
+  expect([&] { return ToIntBase16(text); }, [&] { return std::stoi(text, nullptr, 16); }, "stoi");
+  expect([&] { return ToDouble(text); }, [&] { return std::stod(text); }, "stod");
+  expect([&] { return ToFloat(text); }, [&] { return std::stof(text); }, "stof");
 }
 
 class Generator {
@@ -81,19 +71,15 @@ class Generator {
 constexpr std::string_view Digits = "0123456789";
 constexpr std::size_t Rounds = Sanitized ? 3000 : 30000;
 
-TEST(NumberText, DecimalsOfReceivers) {
+TEST(NumberText, DecimalsOfReceiversAndGarbage) {
   Generator any;
   for (std::size_t i = 0; i < Rounds; ++i) {
     std::string text = any.From("-+", any.Below(4) == 0) + any.From(Digits, any.Below(12));
     if (any.Below(4) != 0) text += "." + any.From(Digits, any.Below(12));
     ExpectLikeStandard(text);
-  }
-}
-
-TEST(NumberText, Garbage) {
-  Generator any;
-  for (std::size_t i = 0; i < Rounds * 4; ++i) {
-    ExpectLikeStandard(any.From("0011259+-..eExXpPafinty() \t", any.Below(11)));
+    for (int j = 0; j < 4; ++j) {
+      ExpectLikeStandard(any.From("0011259+-..eExXpPafinty() \t", any.Below(11)));
+    }
   }
 }
 
@@ -142,15 +128,14 @@ TEST(NumberText, ExactDecimalsBelowTheRangeOfFloat) {
   Generator any;
   for (std::size_t i = 0; i < 300; ++i) {
     const auto bits = static_cast<std::uint32_t>(any.Bits()) & (0x7FFFFFU >> (i % 23));
-    std::array<char, 256> text;
-    std::snprintf(text.data(), text.size(), "%.160e",
-                  static_cast<double>(std::bit_cast<float>(bits)));
-    ExpectLikeStandard(text.data());
-    *std::strchr(text.data() + 20, 'e') = '1';  // no longer exact, and far larger
-    ExpectLikeStandard(text.data());
-    std::snprintf(text.data(), text.size(), "%.40e",
-                  static_cast<double>(std::bit_cast<float>(bits)));
-    ExpectLikeStandard(text.data());  // the same double, but not exact
+    const auto value = static_cast<double>(std::bit_cast<float>(bits));
+    for (const int decimals : {160, 40}) {  // with 40 the same double, but not exact
+      std::array<char, 256> text;
+      std::snprintf(text.data(), text.size(), "%.*e", decimals, value);
+      ExpectLikeStandard(text.data());
+      *std::strchr(text.data() + 20, 'e') = '1';  // far larger
+      ExpectLikeStandard(text.data());
+    }
   }
 }
 
@@ -161,19 +146,12 @@ TEST(NumberText, HostsLocaleChangesNothing) {
   }
   if (chosen == nullptr) GTEST_SKIP() << "no locale with a decimal comma is installed";
   ASSERT_STREQ(std::localeconv()->decimal_point, ",");
-  EXPECT_EQ(ToDouble("1.5"), 1.5);
-  EXPECT_EQ(ToDouble("1,5"), 1.0);
   EXPECT_EQ(ToDouble("-1234567890.1234567890"), -1234567890.1234567890);
-  EXPECT_EQ(ToFloat("0x1.8p1"), 3.0F);
   const auto records =
       Decoded(Sentence("GPGGA,123519.25,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,"));
   const std::string text = records.empty() ? "" : Rendered(records[0]);
-  TimeManager time;
-  unsigned tow = 18'250;
-  time.updateTOW(tow);
   std::setlocale(LC_ALL, "C");
   EXPECT_EQ(text, "123519.25,48.11730000,N,11.51666667,E,1,8,0.90,545.400,M,46.900,M,,");
-  EXPECT_EQ(time.timeText, "000000.250");
 }
 
 TEST(NumberText, FormsThatDoNotThrow) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <sstream>
 
 #include "generator/mixed_stream.h"
 #include "navframe/records.h"
@@ -30,14 +31,9 @@ std::string TextOf(const std::string& body) {
 }
 
 std::vector<std::string> Split(const std::string& text) {
-  std::vector<std::string> pieces(1);
-  for (const char c : text) {
-    if (c == ',') {
-      pieces.emplace_back();
-    } else {
-      pieces.back() += c;
-    }
-  }
+  std::vector<std::string> pieces;
+  std::istringstream list(text + ",");
+  for (std::string piece; std::getline(list, piece, ',');) pieces.push_back(piece);
   return pieces;
 }
 
