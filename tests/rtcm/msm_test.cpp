@@ -209,7 +209,7 @@ TEST(Msm, InvalidCodes) {
       {1074, good, {-16384}, 0, 1, 0},
       {1075, good, {0, -2097152, 0, 0, 0, -16384}, 1, 0, 0},
       {1077, good, {-524288}, 0, 1, 1},
-      {1077, {70, 0, 512, -8192}, {0, -8388608}, 1, 0, 0},
+      {1077, {70, 0, 512, -8192}, {0, -8388608, 0, 0, 0, 5000}, 1, 0, 1},  // the fine rate alone
       {1077, good, {-16384, -2097152, 0, 0, 0, -16384}, 1, 1, 0},
       {1077, {255, 0, 512}, {}, 0, 0, 1},  // the rate does not need the range
       {1077, {0, 0, 512}, {}, 0, 0, 1},
@@ -225,6 +225,7 @@ TEST(Msm, InvalidCodes) {
               Values(c.pseudorangeValid, c.phaseStatus, c.rateValid));
     EXPECT_EQ(Values(seen.pseudorange != 0, seen.carrierPhase != 0),
               Values(c.pseudorangeValid, c.phaseStatus));
+    EXPECT_NEAR(seen.phaseRangeRate, c.rateValid * 1e-4 * static_cast<double>(c.cell[5]), 1e-9);
   }
 }
 
