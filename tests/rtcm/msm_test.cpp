@@ -266,8 +266,8 @@ TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
       {12'000, 252, 0, 2, 2},  // 3840 ms
       {14'000, 704, 1, 2, 0},
       {14'000, 704, 0, 5, 0},  // a signal without a frequency; the same epoch keeps the interval
-      {15'999, 704, 0, 2, 2},
-      {15'999, 200, 0, 2, 1},  // 1280 ms; the interval is 1999 ms now
+      {15'999, 200, 0, 2, 2},  // 1280 ms; a gap of 2 s was no interval
+      {15'999, 200, 0, 2, 1},  // the interval is 1999 ms now
       {18'999, 223, 0, 2, 2},  // 2016 ms
       {18'999, 223, 0, 2, 2},  // a gap of 3 s was no interval
       {17'000, 704, 0, 2, 2},
