@@ -2,6 +2,7 @@
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -10,15 +11,13 @@ namespace navframe::rtcm {
 // Compilers turn this into one load and one byte swap.
 inline std::uint64_t LoadBigEndian64(const std::uint8_t* bytes) {
   std::uint64_t value;
+  std::memcpy(&value, bytes, sizeof value);
   if constexpr (std::endian::native == std::endian::little) {
-    std::memcpy(&value, bytes, sizeof value);
     value = (value & 0x00000000FFFFFFFF) << 32 | value >> 32;
     value = (value & 0x0000FFFF0000FFFF) << 16 | (value >> 16 & 0x0000FFFF0000FFFF);
-    return (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
-  } else {
-    std::memcpy(&value, bytes, sizeof value);
-    return value;
+    value = (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
   }
+  return value;
 }
 
 // What starts at `bit`, moved to the top of 64 bits. At least 57 bits of it are the frame's. Loads
@@ -80,15 +79,6 @@ class FieldCursor {
   template <class Member, std::size_t Count>
   void Read(std::uint32_t width, Member (&members)[Count]) {
     for (Member& member : members) Read(width, member);
-  }
-
-  // A two's complement field of at most 57 bits.
-  bool ReadSigned(std::uint32_t width, std::int64_t& member) {
-    const std::uint32_t at = bit_;
-    bit_ += width;
-    if (!frame_.Has(at, width)) return false;
-    member = SignedBits(frame_.bytes, at, width);
-    return true;
   }
 
   // A two's complement field of 64 bits.

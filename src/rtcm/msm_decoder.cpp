@@ -1,10 +1,10 @@
 #include "rtcm/msm_decoder.h"
 
 #include <array>
-#include <bit>
 #include <cstring>
 
 #include "base/text.h"
+#include "base/unknown.h"
 #include "navframe/navframe.h"
 #include "rtcm/msm_cells.h"
 #include "rtcm/msm_layout.h"
@@ -58,7 +58,7 @@ void ClearUnused(MsmRecord& record, std::uint32_t used) {
 }
 
 void StampTime(MsmRecord& record, TimeManager& time) {
-  if (record.epochTime != 0xFFFFFFFF) {
+  if (!IsUnknown(record.epochTime)) {
     time.updateTOW(record.epochTime);
     CopyText(record.timeText, time.timeText);
   }
