@@ -68,8 +68,7 @@ typedef struct MsmObservation {
   uint8_t halfCycleAmbiguity; /* 1 when the phase may be off by half a cycle */
   double pseudorange;         /* metres; 0 when not valid */
   double carrierPhase;        /* cycles of the signal's frequency here; 0 when not valid */
-  double phaseRangeRate;      /* metres per second, growing with the range; 0 when not valid; only
-                                 the cell's fine part when the satellite has no rough rate */
+  double phaseRangeRate;      /* metres per second, growing with the range; 0 when not valid */
   uint32_t lockTime;          /* milliseconds */
   uint32_t reserved;          /* 0 */
 } MsmObservation;

@@ -22,9 +22,10 @@ struct MsmCells {
 
 struct MsmSatellite {
   double range;  // metres; 0 when not valid
-  double rate;   // m/s; 0 when not valid
+  double rate;   // m/s
   std::uint8_t id;
   bool rangeValid;
+  bool rateValid;
 };
 
 struct MsmSignal {
@@ -64,11 +65,12 @@ void ReadSatellites(const MsmCells& cells, MsmSatellites& satellites) {
     const double range = ms * MetresPerMs + modulo * (RangeModuloScale * MetresPerMs);
     satellite.range = satellite.rangeValid ? range : 0;
     satellite.rate = 0;
+    satellite.rateValid = false;
     if constexpr (Layout.HasRate()) {
       const auto rate =
           static_cast<std::int32_t>(SignedBits(cells.bytes, rateBit, Layout.roughRateBits));
-      // The fine rate alone decides whether there is a rate; without this one it is all of it.
-      if (rate != NoRoughRate) satellite.rate = rate;
+      satellite.rate = rate;
+      satellite.rateValid = rate != NoRoughRate;
     }
     rangeMsBit += Layout.rangeMsBits;
     moduloBit += Layout.rangeModuloBits;
@@ -164,7 +166,7 @@ void WriteObservation(const RawCell& cell, const MsmSatellite& satellite, const 
   const bool pseudorangeValid = satellite.rangeValid & (cell.pseudorange != Layout.noPseudorange);
   const bool phaseValid = satellite.rangeValid & (cell.phase != Layout.noPhase);
   const bool phaseUsable = phaseValid & (signal.frequency != 0) & (cell.halfCycle == 0);
-  const bool rateValid = Layout.HasRate() & (cell.rate != NoFineRate);
+  const bool rateValid = Layout.HasRate() & satellite.rateValid & (cell.rate != NoFineRate);
   const std::uint32_t lockTime =
       Layout.lockBits == Msm4.lockBits ? LockTime4(cell.lock) : LockTime10(cell.lock);
   const double pseudorange =

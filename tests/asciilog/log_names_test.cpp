@@ -2,12 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
 
 #include "asciilog/words.h"
 
 namespace navframe::asciilog {
 namespace {
+
+TEST(LogNames, EveryRowIsReachedButTheFiveRepeatedOnes) {
+  const std::set<std::size_t> repeated = {58, 81, 82, 85, 88};
+  for (std::size_t row = 1; row <= LogNames.size(); ++row) {
+    const LogName& name = LogNames[row - 1];
+    const std::string_view prefix = name.Prefix();
+    std::size_t first = 1;
+    while (!prefix.starts_with(LogNames[first - 1].Prefix())) ++first;
+    EXPECT_EQ(first != row, repeated.contains(row)) << row << " " << prefix;
+    EXPECT_EQ(IdentifierOf(std::string(prefix) + ",x"), LogNames[first - 1].identifier) << prefix;
+    EXPECT_NE(IdentifierOf(prefix.substr(0, prefix.size() - 1)), name.identifier) << prefix;
+  }
+}
 
 TEST(LogNames, FirstRowThatMatchesWins) {
   std::istringstream cases(

@@ -1,25 +1,23 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <bit>
+#include <cmath>
 #include <map>
 
+#include "rtcm/msm_layout.h"
+#include "rtcm/msm_signals.h"
 #include "support/binary_frames.h"
 
 namespace navframe::test {
 namespace {
 
-using Ints = std::vector<int>;
-
-// The message numbers that are decoded, and their records.
-const std::map<std::uint32_t, std::uint32_t> Kinds = {
-    {1074, 61}, {1075, 61}, {1076, 61}, {1077, 61}, {1087, 62}, {1094, 63},
-    {1095, 63}, {1096, 63}, {1097, 63}, {1114, 65}, {1115, 65}, {1116, 65},
-    {1117, 65}, {1124, 64}, {1125, 64}, {1126, 64}, {1127, 64}};
+constexpr std::uint32_t Decodable[] = {1074, 1075, 1076, 1077, 1087, 1094, 1095, 1096, 1097,
+                                       1114, 1115, 1116, 1117, 1124, 1125, 1126, 1127};
 
 // Fields in wire order, as they stand in the message: range in ms, extended information, range
 // modulo 1 ms, rate; pseudorange, phase, lock, half cycle, C/N0, rate.
-using Satellite = std::array<int, 4>;
-using Cell = std::array<int, 6>;
+using Satellite = std::array<std::int64_t, 4>;
+using Cell = std::array<std::int64_t, 6>;
 // Their widths, for MSM4 to MSM7.
 constexpr int Widths[4][10] = {{8, 0, 10, 0, 15, 22, 4, 1, 6, 0},
                                {8, 4, 10, 14, 15, 22, 4, 1, 6, 15},
@@ -33,9 +31,9 @@ const int* WidthsOf(std::uint32_t number) {
 // A message in the making; one satellite with one signal unless said otherwise.
 struct Message {
   std::uint32_t number = 1077;
-  std::uint64_t epoch = 1000;  // as it stands in the message
-  Ints satelliteIds = {5}, signalIds = {2};
-  std::vector<bool> mask = {true};  // by satellite, then signal
+  std::uint64_t epoch = 1000;                                       // as it stands in the message
+  std::uint64_t satelliteMask = 1ULL << 59, signalMask = 1U << 30;  // 5 and 2
+  std::vector<bool> mask = {true};                                  // by satellite, then signal
   std::vector<Satellite> satellites = {{70, 10, 512}};
   std::vector<Cell> cells = {{}};
   std::uint64_t more = 0;  // multiple-message bit
@@ -43,8 +41,7 @@ struct Message {
   Bytes Payload() const {
     BitWriter bits;
     bits.Put(number, 12).Put(2003, 12).Put(epoch, 30).Put(more, 1).Put(0x15555, 18);
-    for (int id = 1; id <= 64; ++id) bits.Signed(std::ranges::count(satelliteIds, id), 1);
-    for (int id = 1; id <= 32; ++id) bits.Signed(std::ranges::count(signalIds, id), 1);
+    bits.Put(satelliteMask, 64).Put(signalMask, 32);
     for (const bool cell : mask) bits.Put(cell, 1);
     const int* width = WidthsOf(number);
     for (std::size_t i = 0; i < 4; ++i, ++width) {
@@ -58,40 +55,41 @@ struct Message {
   Bytes Frame() const { return RtcmFrame(Payload()); }
 };
 
-// 1 to `limit`.
-int OneTo(int limit, sample::Noise& noise) {
-  return 1 + static_cast<int>(noise.Below(static_cast<std::uint32_t>(limit)));
-}
-
-// Different ids from 1 to `limit`, in ascending order.
-Ints SomeIds(int count, int limit, sample::Noise& noise) {
-  Ints ids;
-  for (int id = 1; id <= limit; ++id) {
-    if (OneTo(limit + 1 - id, noise) <= count - std::ssize(ids)) ids.push_back(id);
-  }
-  return ids;
-}
-
-// Up to 64 cells; fields are any but the invalid codes.
+// Masks and fields are any but the invalid codes.
 Message RandomMessage(std::uint32_t number, sample::Noise& noise) {
-  Message message{number, noise.Below(86'400'000), {}, {}, {}, {}, {}};
-  const int signals = OneTo(32, noise), satellites = OneTo(64 / signals, noise);
-  message.signalIds = SomeIds(signals, 32, noise);
-  message.satelliteIds = SomeIds(satellites, 64, noise);
-  const auto positive = [&](int width) { return OneTo((1 << width) - 1, noise); };
-  // All but the lowest.
-  const auto any = [&](int width) { return width == 0 ? 0 : positive(width) - (1 << (width - 1)); };
+  Message message{number, noise.Below(86'400'000), 0, 0, {}, {}, {}};
+  int satellites = 0, signals = 0;
+  while (satellites == 0 || signals == 0 || satellites * signals > 64) {
+    message.satelliteMask = noise.Next() & noise.Next();
+    message.signalMask = noise.Next() & noise.Next() & noise.Next() & 0xFFFFFFFF;
+    satellites = std::popcount(message.satelliteMask);
+    signals = std::popcount(message.signalMask);
+  }
+  const auto field = [&](int width, bool isSigned) {
+    const std::int64_t half = isSigned ? 1LL << width >> 1 : 0;
+    const std::int64_t value = noise.Below(1U << width);
+    return value == 0 ? 1 : value - half;  // the lowest is invalid
+  };
   const int* const width = WidthsOf(number);
   for (int i = 0; i < satellites; ++i) {
-    message.satellites.push_back({OneTo(254, noise), 10, positive(10), any(14)});
+    message.satellites.push_back({1 + noise.Below(254), 10, noise.Below(1024), field(14, true)});
   }
   for (int i = 0; i < satellites * signals; ++i) {
     message.mask.push_back(noise.Below(4) != 0);
     if (!message.mask.back()) continue;
-    message.cells.push_back({any(width[4]), any(width[5]), positive(width[6]), OneTo(2, noise) - 1,
-                             positive(width[8]), any(width[9])});
+    message.cells.push_back({field(width[4], true), field(width[5], true), field(width[6], false),
+                             noise.Below(2), field(width[8], false), field(width[9], true)});
   }
   return message;
+}
+
+// The ids of a mask of `width` bits.
+std::vector<int> IdsOf(std::uint64_t mask, int width) {
+  std::vector<int> ids;
+  for (int id = 1; id <= width; ++id) {
+    if ((mask >> (width - id) & 1) != 0) ids.push_back(id);
+  }
+  return ids;
 }
 
 const MsmRecord& Only(const std::vector<Record>& records) {
@@ -100,64 +98,45 @@ const MsmRecord& Only(const std::vector<Record>& records) {
   return records.at(0).As<MsmRecord>();
 }
 
-double FrequencyOf(const MsmObservation& seen) {
-  // By system, of signals 1 to 32.
-  constexpr std::string_view Systems[] = {"",
-                                          ".LLL...222....222....555.....LLL",
-                                          "LLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLL",
-                                          ".LLLLL.66666.777.888.555.......L",
-                                          ".BBB...333...777.....5557....LLL",
-                                          ".L............222....555.....LLL"};
-  // 2 is what hosts expect, not what the systems transmit.
-  const std::map<char, double> frequencies = {
-      {'.', 0},          {'L', 1575420000}, {'B', 1561098000}, {'2', 1277600000}, {'3', 1268520000},
-      {'5', 1176450000}, {'6', 1287750000}, {'7', 1207140000}, {'8', 1191795000}};
-  return frequencies.at(Systems[seen.system].at(seen.signal - 1U));
-}
-
-std::uint32_t LockTime(int indicator, bool fine) {
-  if (!fine) return indicator == 0 ? 0 : 32U << (indicator - 1);
-  // Steps of 1 ms up to 64, then from 32 to 32 indicators twice as long; none behind 704.
-  std::uint32_t time = 0;
-  for (int i = 0; i < std::min(indicator, 704); ++i) time += i < 64 ? 1 : 1U << (i / 32 - 1);
-  return time;
-}
-
 // What an observation has to be, from the fields.
 void ExpectObservation(const MsmObservation& seen, std::uint32_t number, const Satellite& satellite,
                        const Cell& cell) {
+  const auto real = [](std::int64_t raw, double unit) { return static_cast<double>(raw) * unit; };
   const bool fine = number % 10 >= 6, rates = number % 2 == 1;
-  const double ms = satellite[0] + satellite[2] * 0x1p-10;
-  const double code = cell[0] * (fine ? 0x1p-29 : 0x1p-24);
-  const double phase = cell[1] * (fine ? 0x1p-31 : 0x1p-29);
-  const double f = FrequencyOf(seen);
+  // MSM6 takes ordinary values for invalid ones.
+  const bool codeValid = number % 10 != 6 || cell[0] != -16384;
+  const bool phaseValid = number % 10 != 6 || cell[1] != -2097152;
+  const double ms = real(satellite[0] * 1024 + satellite[2], 0x1p-10);
+  const double code = real(cell[0], fine ? 0x1p-29 : 0x1p-24);
+  const double phase = real(cell[1], fine ? 0x1p-31 : 0x1p-29);
+  const double f = rtcm::FrequenciesOf(rtcm::MsmSystem{seen.system})[seen.signal];
   ASSERT_EQ(Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid, seen.cn0,
-                   seen.halfCycleAmbiguity, seen.lockTime),
-            Values(1, f != 0 && cell[3] == 0, rates, fine ? cell[4] / 16 : cell[4], cell[3],
-                   LockTime(cell[2], fine)));
-  ASSERT_NEAR(seen.pseudorange, (ms + code) * 299792.458, 1e-6);
-  ASSERT_NEAR(seen.carrierPhase, (ms + phase) / 1000 * f, 1e-5);
-  ASSERT_NEAR(seen.phaseRangeRate, rates ? satellite[3] + cell[5] * 1e-4 : 0, 1e-9);
+                   seen.halfCycleAmbiguity),
+            Values(codeValid, f != 0 && phaseValid && cell[3] == 0, rates,
+                   fine ? cell[4] / 16 : cell[4], cell[3]));
+  ASSERT_NEAR(seen.pseudorange, codeValid ? (ms + code) * 299792.458 : 0, 1e-6);
+  ASSERT_NEAR(seen.carrierPhase, phaseValid ? (ms + phase) / 1000 * f : 0, 1e-5);
+  ASSERT_NEAR(seen.phaseRangeRate, rates ? real(satellite[3], 1) + real(cell[5], 1e-4) : 0, 1e-9);
 }
 
 TEST(Msm, FieldsComeBackAsPhysicalValues) {
   sample::Noise noise(20240229);
   for (int round = 0; round < 40; ++round) {
-    for (const auto& [number, kind] : Kinds) {
+    for (const std::uint32_t number : Decodable) {
       SCOPED_TRACE(number);
       const Message message = RandomMessage(number, noise);
+      const auto satellites = IdsOf(message.satelliteMask, 64),
+                 signals = IdsOf(message.signalMask, 32);
       const auto records = Decoded(message.Frame());
       const MsmRecord& record = Only(records);
-      ASSERT_EQ(Values(records[0].id, record.system, record.count),
-                Values(kind, kind - 60, message.cells.size()));
+      ASSERT_EQ(record.count, message.cells.size());
       std::size_t cell = 0;
       for (std::size_t place = 0; place < message.mask.size(); ++place) {
         if (!message.mask[place]) continue;
-        const std::size_t signals = message.signalIds.size(), satellite = place / signals;
+        const std::size_t satellite = place / signals.size();
         const MsmObservation& seen = record.observations[cell];
-        ASSERT_EQ(
-            Values(seen.system, seen.satellite, seen.signal),
-            Values(kind - 60, message.satelliteIds[satellite], message.signalIds[place % signals]));
+        ASSERT_EQ(Values(seen.system, seen.satellite, seen.signal),
+                  Values(record.system, satellites[satellite], signals[place % signals.size()]));
         ExpectObservation(seen, number, message.satellites[satellite], message.cells[cell++]);
       }
       MsmObservation unused{};
@@ -169,35 +148,52 @@ TEST(Msm, FieldsComeBackAsPhysicalValues) {
   }
 }
 
+TEST(Msm, FrequenciesOfSignals) {
+  // Signals 1 to 32 of each system.
+  const std::pair<int, std::string_view> systems[] = {{1, ".LLL...222....222....555.....LLL"},
+                                                      {2, "LLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLL"},
+                                                      {3, ".LLLLL.66666.777.888.555.......L"},
+                                                      {4, ".BBB...333...777.....5557....LLL"},
+                                                      {5, ".L............222....555.....LLL"}};
+  // 2 is what hosts expect, not what the systems transmit.
+  const std::map<char, double> frequencies = {
+      {'.', 0},          {'L', 1575420000}, {'B', 1561098000}, {'2', 1277600000}, {'3', 1268520000},
+      {'5', 1176450000}, {'6', 1287750000}, {'7', 1207140000}, {'8', 1191795000}};
+  for (const auto& [system, signals] : systems) {
+    for (std::size_t i = 0; i < 32; ++i) {
+      EXPECT_EQ(rtcm::FrequenciesOf(static_cast<rtcm::MsmSystem>(system))[i + 1],
+                frequencies.at(signals[i]))
+          << system << " " << i + 1;
+    }
+  }
+}
+
 TEST(Msm, OnlySomeNumbersAreDecoded) {
   for (std::uint32_t number = 1070; number <= 1140; ++number) {
-    EXPECT_EQ(Decoded(Message{.number = number}.Frame()).size(), Kinds.count(number)) << number;
+    Message message;
+    message.number = number;
+    message.cells.resize(8);  // longer than any kind needs
+    const auto wanted = static_cast<std::size_t>(std::ranges::count(Decodable, number));
+    EXPECT_EQ(Decoded(message.Frame()).size(), wanted) << number;
   }
 }
 
 TEST(Msm, ContentsThatDoNotFitLeaveNoTrace) {
-  sample::Noise noise(1);
-  const Message wide{1074,
-                     1,
-                     SomeIds(8, 8, noise),
-                     SomeIds(9, 9, noise),
-                     std::vector<bool>(72),
-                     std::vector<Satellite>(8),
-                     {}};
+  const Message wide{1074, 1, 0xFF, 0x1FF, std::vector<bool>(72), std::vector<Satellite>(8), {}};
   EXPECT_TRUE(Decoded(wide.Frame()).empty());
-  for (const auto& [number, kind] : Kinds) {
+  for (const std::uint32_t number : Decodable) {
+    sample::Noise noise(number);
     const Bytes payload = RandomMessage(number, noise).Payload();
     for (std::size_t length = 2; length < payload.size(); ++length) {
       const auto decoder = std::make_unique<Decoder>();
       ASSERT_TRUE(Push(*decoder, RtcmFrame(First(payload, length))).empty())
           << number << " " << length;
-      ASSERT_EQ(decoder->stream.statistics.acceptedFrames, 1U);
       ASSERT_TRUE(DecodedIds(*decoder).empty());
       ASSERT_EQ(decoder->time.getTOW(), 0xFFFFFFFF);
     }
   }
   // No satellite at all is an epoch like any other.
-  const auto records = Decoded(Message{1117, 1, {}, {}, {}, {}, {}}.Frame());
+  const auto records = Decoded(Message{1117, 1, 0, 0, {}, {}, {}}.Frame());
   EXPECT_EQ(Values(Only(records).count, Only(records).system), Values(0, 5));
 }
 
@@ -213,7 +209,7 @@ TEST(Msm, InvalidCodes) {
       {1074, good, {-16384}, 0, 1, 0},
       {1075, good, {0, -2097152, 0, 0, 0, -16384}, 1, 0, 0},
       {1077, good, {-524288}, 0, 1, 1},
-      {1077, {70, 0, 512, -8192}, {0, -8388608, 0, 0, 0, 5000}, 1, 0, 1},  // the fine rate alone
+      {1077, {70, 0, 512, -8192}, {0, -8388608}, 1, 0, 0},
       {1077, good, {-16384, -2097152, 0, 0, 0, -16384}, 1, 1, 0},
       {1077, {255, 0, 512}, {}, 0, 0, 1},  // the rate does not need the range
       {1077, {0, 0, 512}, {}, 0, 0, 1},
@@ -229,7 +225,6 @@ TEST(Msm, InvalidCodes) {
               Values(c.pseudorangeValid, c.phaseStatus, c.rateValid));
     EXPECT_EQ(Values(seen.pseudorange != 0, seen.carrierPhase != 0),
               Values(c.pseudorangeValid, c.phaseStatus));
-    EXPECT_NEAR(seen.phaseRangeRate, c.rateValid * 1e-4 * c.cell[5], 1e-9);
   }
 }
 
@@ -255,10 +250,23 @@ TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
   }
 }
 
+TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
+  // Steps of 1 ms up to 64, then from 32 to 32 indicators twice as long.
+  std::uint32_t wanted = 0;
+  for (std::uint32_t i = 0; i < 704; ++i) {
+    ASSERT_EQ(rtcm::LockTime10(i), wanted) << i;
+    wanted += i < 64 ? 1 : 1U << (i / 32 - 1);
+  }
+  EXPECT_EQ(Values(rtcm::LockTime10(704), rtcm::LockTime10(1023)), Values(67108864, 67108864));
+  EXPECT_EQ(Values(rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
+            Values(0, 32, 64, 524288));
+}
+
 TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
   struct Step {
     std::uint32_t epoch;
-    int lock, halfCycle, signal, status;
+    std::int64_t lock, halfCycle;
+    int signal, status;
   };
   const Step steps[] = {
       {10'000, 704, 0, 2, 1},  // no interval yet
@@ -276,7 +284,7 @@ TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
   for (const Step& step : steps) {
     SCOPED_TRACE(&step - steps);
     const Message message{.epoch = step.epoch,
-                          .signalIds = {step.signal},
+                          .signalMask = 1ULL << (32 - step.signal),
                           .cells = {{0, 0, step.lock, step.halfCycle}}};
     const auto records = Push(*decoder, message.Frame());
     EXPECT_EQ(Only(records).observations[0].phaseStatus, step.status);
@@ -284,11 +292,17 @@ TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
   }
 }
 
-TEST(Msm, BlockedRecordsMoveTheClockAndCountAsDecoded) {
+TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->sink.SetFilter(MsgIdMsmQzss);
-  EXPECT_TRUE(Push(*decoder, Message{}.Frame()).empty());
-  EXPECT_EQ(decoder->time.getTOW(), 1000U);
+  const Bytes frame = Message{}.Frame();
+  std::size_t before = 0;
+  for (int i = 0; i < 101'000; ++i) {
+    if (i == 1000) before = ResidentMemory();
+    decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
+  }
+  EXPECT_LT(ResidentMemory(), before + 1'000'000);
+  EXPECT_EQ(Values(decoder->sink.Waiting(), decoder->time.getTOW()), Values(0, 1000));
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
   EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }
