@@ -60,8 +60,8 @@ void FormatPNavMsg(const PNavMsgRecord& record, TextWriter& writer) {
   }
 }
 
-// Literal: -1 is an ordinary value here. The first value and every second one from there on are
-// written without a sign.
+// Literal: -1 is an ordinary value here. Behind the first value come pairs, of which the first is
+// written without a sign, as the first value is, and the second with its sign.
 void FormatCwOut(const CwOutRecord& record, TextWriter& writer) {
   for (std::size_t i = 0; i < std::size(record.values); ++i) {
     if (i != 0) writer.Text(",");
