@@ -1,68 +1,49 @@
 // The same stream whole, in chunks of any size and byte by byte gives the same records. (Not so
 // with board type 7 and with ASCII logs, whose framer judges by what is there.)
+#include <tuple>
+
 #include "fuzz.h"
+#include "support/streams.h"
 
 using namespace navframe;
 
 namespace {
 
 struct Outcome {
-  std::vector<fuzz::Bytes> records;  // id and payload
-  fuzz::Bytes state;                 // clock, decoded ids and counts
+  std::vector<test::Record> records;
+  std::vector<std::uint32_t> decoded;
+  std::tuple<std::string, std::uint32_t, std::uint16_t, std::int32_t> clock;
+  std::pair<std::uint32_t, std::uint32_t> accepted;
 
-  bool operator==(const Outcome&) const = default;
-};
-
-template <class T>
-void Append(fuzz::Bytes& to, const T& value) {
-  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(&value);
-  to.insert(to.end(), bytes, bytes + sizeof(T));
-}
-
-void PopInto(Outcome& outcome, Decoder& decoder) {
-  while (auto oldest = decoder.sink.PopOldest()) {
-    fuzz::Bytes record;
-    Append(record, oldest->message.id);
-    const auto* const payload = static_cast<const std::uint8_t*>(oldest->message.data);
-    record.insert(record.end(), payload, payload + oldest->payloadSize);
-    // A text inside a record points into the record.
-    if (oldest->message.id == MsgIdNavPos || oldest->message.id == MsgIdNavVel) {
-      const std::size_t pointer = sizeof(std::uint32_t) + offsetof(NavPosRecord, text);
-      std::memset(record.data() + pointer, 0, sizeof(void*));
-    }
-    outcome.records.push_back(std::move(record));
-    decoder.sink.Release(oldest->message);
+  bool operator==(const Outcome& other) const {
+    return test::SameRecords(records, other.records) && decoded == other.decoded &&
+           clock == other.clock && accepted == other.accepted;
   }
-}
+};
 
 template <class NextLength>
 Outcome Run(const fuzz::Bytes& stream, NextLength&& nextLength) {
   const fuzz::Bytes flush = fuzz::Flush();
   const auto decoder = std::make_unique<Decoder>();
   Outcome outcome;
-  for (fuzz::Input input(stream); !input.Empty();) {
-    fuzz::Push(*decoder, input.Next(nextLength()));
-    PopInto(outcome, *decoder);
-  }
-  fuzz::Push(*decoder, flush);
+  const auto push = [&](std::span<const std::uint8_t> chunk) {
+    fuzz::Push(*decoder, chunk);
+    std::ranges::move(test::PopAll(*decoder), std::back_inserter(outcome.records));
+  };
+  for (fuzz::Input input(stream); !input.Empty();) push(input.Next(nextLength()));
+  push(flush);
   // A sync byte found among fewer than 6 bytes has its framer entered by the next call only.
-  fuzz::Push(*decoder, {});
-  fuzz::Push(*decoder, {});
-  PopInto(outcome, *decoder);
+  push({});
+  push({});
   fuzz::Require(decoder->stream.ring.Available() == 0, "nothing is pending behind the flush");
   fuzz::RequireAccounts(decoder->stream, stream.size() + flush.size());
 
-  std::uint32_t ids[256];
-  const std::uint32_t count = decoder->sink.DrainDecodedIds(ids);
-  std::sort(ids, ids + count);
-  for (std::uint32_t i = 0; i < count; ++i) Append(outcome.state, ids[i]);
+  outcome.decoded.resize(256);
+  outcome.decoded.resize(decoder->sink.DrainDecodedIds(outcome.decoded.data()));
   const TimeManager& time = decoder->time;
-  outcome.state.insert(outcome.state.end(), time.timeText.begin(), time.timeText.end());
-  Append(outcome.state, time.gpsTime.tow);
-  Append(outcome.state, time.gpsTime.week);
-  Append(outcome.state, time.leapSeconds);
-  Append(outcome.state, decoder->stream.statistics.acceptedFrames);
-  Append(outcome.state, decoder->stream.statistics.acceptedBytes);
+  outcome.clock = {time.timeText, time.gpsTime.tow, time.gpsTime.week, time.leapSeconds};
+  const FramingStatistics& counts = decoder->stream.statistics;
+  outcome.accepted = {counts.acceptedFrames, counts.acceptedBytes};
   return outcome;
 }
 

@@ -1,14 +1,11 @@
 // Writes the seeds of all targets: make_seeds FOLDER. The targets seal what needs a checksum.
 #include <filesystem>
 #include <fstream>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
 #include "fuzz.h"
-#include "generator/nmea_stream.h"
-#include "generator/rtcm_stream.h"
-#include "generator/ubx_stream.h"
+#include "generator/mixed_stream.h"
 
 namespace {
 
@@ -30,16 +27,14 @@ class Seeds {
 
   // For the targets that take a stream behind their steering bytes.
   void Stream(const Bytes& stream) {
-    const auto length = static_cast<std::ptrdiff_t>(std::min(stream.size(), fuzz::LongestStream));
     for (const std::uint8_t steering : Bytes{0, 2}) {
       Bytes bytes(fuzz::SteeringLength, steering);
-      sample::Append(bytes, Bytes(stream.begin(), stream.begin() + length));
+      sample::Append(bytes, stream);
       for (const char* target : {"exports_fuzz", "frames_fuzz", "chunks_fuzz"}) {
         Write(target, bytes);
       }
     }
   }
-  void Stream(const std::string& text) { Stream(Bytes(text.begin(), text.end())); }
 
   bool Ok() const { return ok_; }
 
@@ -49,66 +44,18 @@ class Seeds {
   bool ok_ = true;
 };
 
-constexpr std::string_view ProprietarySentences[] = {
-    "GYOACC,123519.00,0.012,-0.034,0.001,0.050,0.060,9.810",
-    "GYOACC-V,123519.00,0.012,-0.034,0.001,0.050,0.060,9.810",
-    "IMURAW,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810",
-    "IMUVEH,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810",
-    "NAVATT,123519.00,1.250,-0.500,84.200,0.050,0.050,0.120",
-    "INSPVA,140326,123519.00,47.37640000,8.54760000,431.20,1.2,11.8,0.0,1.25,-0.50,84.20",
-    "PNAVMSG,1,2,0A,1B,2C,3D,4E,5F,60,71,82,93,A4,B5,C6,D7,E8",
-    "CWOUT,1,-60,2,-61,3,-62,4,-63,5",
-    "NAVACC,123519.00,A,12,34,56",
-    "NAVPOS,0,16,61,3,SOL,1,12,4027881.532,306998.672,4919499.421,0.010,0.012,0.015",
-    "NAVVEL,0,16,61,3,SOL,26,12,0.012,-0.034,0.001,0.050",
-    "NAVTIME,0,1,0.000000001,0,1,0.000000002,0,1,0.000000003,0,1,0.000000004",
-    "SNRSTAT,1,0,-3,2,5",
-    "GPGGA,123519.00,48x7.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,",
-};
-
-// Message, width of the sub-type, sub-types; each in a short frame and in a long one.
-struct Family {
-  std::uint32_t number;
-  int bits;
-  std::initializer_list<std::uint32_t> subTypes;
-};
-
-Bytes ProprietaryMessages(std::size_t length) {
-  const Family families[] = {{910, 8, {17, 33, 34}},
-                             {999, 8, {21}},
-                             {4074, 12, {11, 12, 13, 14, 15, 243, 249, 251, 253, 254, 255}}};
-  Bytes stream;
-  for (const Family& family : families) {
-    for (const std::uint32_t subType : family.subTypes) {
-      sample::BitWriter bits;
-      bits.Put(family.number, 12).Put(subType, family.bits);
-      Bytes payload = bits.Written();
-      // Frame lengths that two of the messages must have.
-      payload.resize(family.number == 999 ? 57 : subType == 33 ? 7 : length, 0x11);
-      sample::Append(stream, sample::RtcmFrame(payload));
-    }
-  }
-  return stream;
-}
-
+// The sample of all kinds of records, in pieces of which each holds the end of the one before.
 void WriteStreams(Seeds& seeds) {
-  sample::Drive drive;
-  const sample::Epoch epoch = drive.Next();
-  seeds.Stream(sample::NmeaEpoch(epoch));
-  std::string proprietary = "\\s:rover\\";
-  for (const std::string_view body : ProprietarySentences) proprietary += sample::Sentence(body);
-  seeds.Stream(proprietary);
-  Bytes station = sample::RtcmStation();
-  sample::Append(station, sample::RtcmSystemParameters(epoch));
-  seeds.Stream(station);
-  for (const sample::Msm msm : {sample::Msm::Msm4, sample::Msm::Msm7}) {
-    seeds.Stream(sample::RtcmEpoch(epoch, msm));
+  constexpr std::size_t Step = fuzz::LongestStream / 2;
+  const Bytes all = sample::MixedStream();
+  for (std::size_t at = 0; at < all.size(); at += Step) {
+    const std::size_t length = std::min(fuzz::LongestStream, all.size() - at);
+    const auto begin = all.begin() + static_cast<std::ptrdiff_t>(at);
+    seeds.Stream(Bytes(begin, begin + static_cast<std::ptrdiff_t>(length)));
   }
-  for (const std::size_t length : {6U, 14U, 40U, 200U}) seeds.Stream(ProprietaryMessages(length));
-  for (const auto make : {sample::UbxNavigation, sample::UbxSatellites, sample::UbxRawMeasurements,
-                          sample::UbxAttitude, sample::UbxProtectionLevels, sample::Binary55Aa}) {
-    seeds.Stream(make(epoch));
-  }
+  constexpr std::string_view Malformed =
+      "$GPGGA,123519.00,48x7.038,N,01131.000,E,1,08,0.9,5.4,M*00";
+  seeds.Stream(Bytes(Malformed.begin(), Malformed.end()));
 }
 
 constexpr std::string_view Logs[] = {

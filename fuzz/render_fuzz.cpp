@@ -62,8 +62,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (id == MsgIdNavVel) MakeText(payload, offsetof(NavVelRecord, text), input);
 
   const std::unique_ptr<char[]> text(new char[1 << 17]);
+  text[0] = 'x';
   const bool rendered = RenderRecord({id, SourceStream, payload}, text.get(), leadingFields);
   fuzz::Require(rendered == (length != 0), "the kinds with a text form are known");
+  fuzz::Require(rendered || text[0] == '\0', "what is not rendered leaves the empty text");
   fuzz::ReadAll(text.get(), static_cast<std::uint32_t>(std::strlen(text.get())));
 
   const std::unique_ptr<char[]> name(new char[7]);

@@ -3,17 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/text.h"
 #include "render/names.h"
 
 namespace navframe {
 namespace {
-
-template <std::size_t Width>
-void TimeText(const char (&text)[Width], TextWriter& writer) {
-  writer.Text(TextOf(text));
-  writer.Text(",");
-}
 
 // Both letters follow the sign of the latitude: every position in the south is written with "W"
 // and every one in the north with "E". Hosts rely on it.
@@ -63,7 +56,7 @@ std::string_view SystemLetters(std::uint8_t systemId) {
 }  // namespace
 
 void FormatGga(const GgaRecord& record, TextWriter& writer) {
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   Position(record.latitude, record.longitude, writer);
   writer.IntOr(record.fixQuality, ",", ",");
   writer.IntOr(record.satellites, ",", ",");
@@ -75,13 +68,13 @@ void FormatGga(const GgaRecord& record, TextWriter& writer) {
 }
 
 void FormatRmc(const RmcRecord& record, TextWriter& writer) {
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   Status(record.status, writer);
   Position(record.latitude, record.longitude, writer);
   writer.FixedOr(record.speedKnots, 3, ",", ",");
   writer.FixedOr(record.course, 2, ",", ",");
-  writer.Text(TextOf(record.dateText));
-  writer.Text(",,,");
+  writer.Field(record.dateText);
+  writer.Text(",,");  // magnetic variation is never written
   writer.Text(ModeLetter(record.mode));
   writer.Text(",V");
 }
@@ -126,13 +119,13 @@ void FormatGsv(const GsvRecord& record, TextWriter& writer) {
 
 void FormatGll(const GllRecord& record, TextWriter& writer) {
   Position(record.latitude, record.longitude, writer);
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   Status(record.status, writer);
   writer.Text(ModeLetter(record.mode));
 }
 
 void FormatGst(const GstRecord& record, TextWriter& writer) {
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   writer.FixedOr(record.rangeRms, 1, ",", ",");
   writer.Text(",,,");  // the error ellipse is never written
   for (const float deviation :
@@ -142,13 +135,12 @@ void FormatGst(const GstRecord& record, TextWriter& writer) {
 }
 
 void FormatGbs(const GbsRecord& record, TextWriter& writer) {
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   for (const float error : {record.latitudeError, record.longitudeError, record.altitudeError}) {
     writer.FixedOr(error, 1, ",", ",");
   }
   if (record.failedSatellite < 255) writer.Int(record.failedSatellite);
-  writer.Text(",");
-  writer.Text(",,,");
+  writer.Text(",,,,");  // neither the bias nor its deviation is written
   writer.Text(SystemName(record.systemId));
   writer.Text(",");
   writer.Text(SignalName(record.systemId, record.signalId));
@@ -163,7 +155,7 @@ void FormatVtg(const VtgRecord& record, TextWriter& writer) {
 }
 
 void FormatZda(const ZdaRecord& record, TextWriter& writer) {
-  TimeText(record.timeText, writer);
+  writer.Field(record.timeText);
   const UTCTIME& utc = record.utc;
   if (IsUnknown(utc.day)) {
     writer.Text(",,,");

@@ -2,8 +2,6 @@
 
 #include <span>
 
-#include "base/text.h"
-
 namespace navframe {
 namespace {
 
@@ -12,24 +10,18 @@ void Values(std::span<const double> values, int decimals, TextWriter& writer) {
   for (const double value : values) writer.FixedOr(value, decimals, ",", ",");
 }
 
-template <std::size_t Width>
-void TextField(const char (&text)[Width], TextWriter& writer) {
-  writer.Text(TextOf(text));
-  writer.Text(",");
-}
-
 }  // namespace
 
 void FormatNavPos(const NavPosRecord& record, TextWriter& writer) {
   const double position[] = {record.x, record.y, record.z};
   const double sigma[] = {record.sigmaX, record.sigmaY, record.sigmaZ};
-  TextField(record.timeText, writer);
+  writer.Field(record.timeText);
   Values(position, 3, writer);
   Values(sigma, 6, writer);
 }
 
 void FormatNavVel(const NavVelRecord& record, TextWriter& writer) {
-  TextField(record.timeText, writer);
+  writer.Field(record.timeText);
   if (!IsUnknown(record.status)) writer.Hex(record.status, 1);
   writer.Text(",");
   writer.IntOr(record.count, ",", ",");
@@ -42,7 +34,7 @@ void FormatNavTime(const NavTimeRecord& record, TextWriter& writer) {
 }
 
 void FormatNavAcc(const NavAccRecord& record, TextWriter& writer) {
-  TextField(record.timeText, writer);
+  writer.Field(record.timeText);
   writer.Text(record.status == 1 ? "A," : "V,");
   writer.IntOr(record.values[0], ",", ",");
   writer.IntOr(record.values[1], ",", ",");
@@ -60,8 +52,8 @@ void FormatPNavMsg(const PNavMsgRecord& record, TextWriter& writer) {
   }
 }
 
-// Literal: -1 is an ordinary value here. The first value and every second one from there on are
-// written without a sign.
+// Literal: -1 is an ordinary value here. Behind the first value come pairs, of which the first is
+// written without a sign, as the first value is, and the second with its sign.
 void FormatCwOut(const CwOutRecord& record, TextWriter& writer) {
   for (std::size_t i = 0; i < std::size(record.values); ++i) {
     if (i != 0) writer.Text(",");
@@ -86,8 +78,8 @@ void FormatSnrStat(const SnrStatRecord& record, TextWriter& writer) {
 }
 
 void FormatImu(const ImuRecord& record, TextWriter& writer) {
-  TextField(record.text[0], writer);
-  TextField(record.text[1], writer);
+  writer.Field(record.text[0]);
+  writer.Field(record.text[1]);
   Values(record.values, 6, writer);
 }
 

@@ -12,27 +12,24 @@ namespace {
 
 using Formatter = void (*)(const void* payload, bool leadingFields, TextWriter& writer);
 
-// Adapts a formatter of one record type.
-template <class Record, void (*Format)(const Record&, TextWriter&)>
-void Formatted(const void* payload, bool /*leadingFields*/, TextWriter& writer) {
-  Format(*static_cast<const Record*>(payload), writer);
-}
-
 struct FormatterRow {
   std::uint32_t id;
   Formatter formatter;
 };
+
+// Adapts a formatter of one record type.
+template <class Record, void (*Format)(const Record&, TextWriter&)>
+constexpr FormatterRow Row(std::uint32_t id) {
+  return {id, [](const void* payload, bool /*leadingFields*/, TextWriter& writer) {
+            Format(*static_cast<const Record*>(payload), writer);
+          }};
+}
 
 template <class Record, void (*Format)(const Record&, bool, TextWriter&)>
 constexpr FormatterRow RowWithFlag(std::uint32_t id) {
   return {id, [](const void* payload, bool leadingFields, TextWriter& writer) {
             Format(*static_cast<const Record*>(payload), leadingFields, writer);
           }};
-}
-
-template <class Record, void (*Format)(const Record&, TextWriter&)>
-constexpr FormatterRow Row(std::uint32_t id) {
-  return {id, Formatted<Record, Format>};
 }
 
 // clang-format off

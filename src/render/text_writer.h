@@ -3,10 +3,12 @@
 
 #include <charconv>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <type_traits>
 
+#include "base/text.h"
 #include "base/unknown.h"
 
 namespace navframe {
@@ -18,6 +20,13 @@ class TextWriter {
   explicit TextWriter(char* out) : at_(out) {}
 
   void Text(std::string_view text) { at_ += text.copy(at_, text.size()); }
+
+  // A text member and a comma.
+  template <std::size_t Width>
+  void Field(const char (&member)[Width]) {
+    Text(TextOf(member));
+    Text(",");
+  }
 
   template <std::integral Integer>
   void Int(Integer value) {

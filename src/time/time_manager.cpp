@@ -233,7 +233,8 @@ void TimeManager::getGPSTStr(char* out) {
 }
 
 void TimeManager::getHMSStr(char* const out) {
-  std::memcpy(out, timeText.c_str(), timeText.size() + 1);
+  // Up to the first NUL, which a text of a host may hold before its end.
+  std::memcpy(out, timeText.c_str(), std::strlen(timeText.c_str()) + 1);
 }
 
 void TimeManager::clearTime(bool restore) {

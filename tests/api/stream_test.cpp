@@ -1,97 +1,70 @@
-// Whole streams of every protocol: any chunking, long runs.
+// Whole streams of every protocol: any chunking, any place in the ring, any damage.
 #include <gtest/gtest.h>
 
-#include <random>
-#include <set>
-
 #include "generator/mixed_stream.h"
-#include "support/streams.h"
+#include "support/binary_frames.h"
 
 namespace navframe::test {
 namespace {
 
-// Every kind of record that a stream can yield.
-const std::set<std::uint32_t> EveryKind = {1,  2,  3,  4,  5,  6,   7,   8,   9,   30,  31,  32, 33,
-                                           35, 36, 41, 42, 43, 44,  45,  46,  50,  53,  54,  61, 62,
-                                           63, 64, 65, 71, 72, 73,  74,  75,  77,  78,  79,  80, 81,
-                                           82, 83, 85, 86, 90, 101, 102, 103, 104, 105, 106, 151};
-
-struct Decoding {
-  std::vector<Record> records;
-  std::uint32_t frames;
-  std::uint32_t bytes;
-};
-
-// Decodes the stream in the chunks that `next` gives, and runs the loop once more at the end, as
-// the last few bytes may have been too few to enter a framer.
-template <class Next>
-Decoding InChunks(const Bytes& stream, Next&& next) {
-  const auto decoder = std::make_unique<Decoder>();
-  Decoding decoding;
-  for (std::size_t at = 0; at < stream.size();) {
-    const std::size_t length = std::min<std::size_t>(next(), stream.size() - at);
-    const Bytes chunk(stream.begin() + static_cast<std::ptrdiff_t>(at),
-                      stream.begin() + static_cast<std::ptrdiff_t>(at + length));
-    at += length;
-    const auto records = Push(*decoder, chunk);
-    decoding.records.insert(decoding.records.end(), records.begin(), records.end());
-  }
-  decoder->PutData(nullptr, 0);
-  const auto last = PopAll(*decoder);
-  decoding.records.insert(decoding.records.end(), last.begin(), last.end());
-  decoding.frames = decoder->stream.statistics.acceptedFrames;
-  decoding.bytes = decoder->stream.statistics.acceptedBytes;
-  return decoding;
+// A frame of each kind.
+std::vector<Bytes> Frames() {
+  const sample::Epoch epoch = sample::Drive().Next();
+  return {sample::UbxNavigation(epoch),
+          sample::UbxSatellites(epoch),
+          sample::UbxRawMeasurements(epoch),
+          sample::UbxAttitude(epoch),
+          sample::UbxProtectionLevels(epoch),
+          sample::Binary55Aa(epoch),
+          sample::RtcmStation(),
+          sample::RtcmSystemParameters(epoch),
+          sample::RtcmObservations(epoch, sample::Glonass, sample::Msm::Msm7, false),
+          sample::RtcmObservations(epoch, sample::BeiDou, sample::Msm::Msm4, true)};
 }
+constexpr std::uint32_t Kinds[] = {102, 103, 104, 105, 101, 90, 53, 54, 62, 64};
+
+// Starts no frame, and is longer than any false start waits for.
+const Bytes Quiet(4100);
 
 TEST(Stream, ChunksNeverMatter) {
-  const Bytes stream = sample::MixedStream();
-  const Decoding whole = InChunks(stream, [&] { return stream.size(); });
-  const auto ids = Ids(whole.records);
-  ASSERT_EQ(std::set(ids.begin(), ids.end()), EveryKind);
-  const auto expectSame = [&](const Decoding& decoding) {
-    ASSERT_TRUE(SameRecords(decoding.records, whole.records));
-    ASSERT_EQ(decoding.frames, whole.frames);
-    ASSERT_EQ(decoding.bytes, whole.bytes);
-  };
-  for (std::size_t split = 1; split < stream.size(); split += Sanitized ? 97 : 7) {
-    SCOPED_TRACE(split);
-    expectSame(InChunks(stream, [&, first = true]() mutable {
-      return std::exchange(first, false) ? split : stream.size();
-    }));
+  Bytes stream = sample::MixedStream();
+  for (const Bytes& frame : Frames()) {
+    stream = stream + Bytes{0xD3, 0x24, 0xB5, 0xB5, 0x55} + frame + Damaged(frame) + frame;
   }
-  std::mt19937 random(5);
-  const int rounds = Sanitized ? 30 : 300;
-  for (int i = 0; i < rounds; ++i) {
-    SCOPED_TRACE(i);
-    const std::size_t longest = 1 + random() % (i % 2 == 0 ? 9 : 150);
-    expectSame(InChunks(stream, [&] { return 1 + random() % longest; }));
+  stream = stream + Quiet;
+  const auto whole = Decoded(stream);
+  for (const std::uint32_t kind : Kinds) {
+    EXPECT_GE(std::ranges::count(Ids(whole), kind), 3) << kind;
+  }
+  EXPECT_GE(std::ranges::count(Ids(whole), MsgIdDiagnostic), 6);
+  for (std::size_t chunk = 1; chunk < 400; chunk += chunk < 64 ? 1 : 7) {
+    ASSERT_TRUE(SameRecords(Decoded(stream, chunk), whole)) << chunk;
   }
 }
 
-// 100 MB in chunks of any size: every sentence is there, memory stays where it was.
-TEST(Stream, SoakWithFlatMemory) {
-  Bytes block;
-  while (block.size() < 1'000'000) block = block + sample::MixedStream();
-  const std::uint32_t framesOfBlock = InChunks(block, [&] { return block.size(); }).frames;
-  const auto decoder = std::make_unique<Decoder>();
-  std::mt19937 random(3);
-  const std::uint32_t blocks = Sanitized ? 3 : 100;
-  std::size_t before = 0;
-  for (std::uint32_t i = 0; i < blocks; ++i) {
-    // The ring has touched all of its pages by then at the latest.
-    if (i == 20) before = ResidentMemory();
-    for (std::size_t at = 0; at < block.size();) {
-      const std::size_t length = std::min<std::size_t>(1 + random() % 60'000, block.size() - at);
-      decoder->PutData(block.data() + at, static_cast<std::uint32_t>(length));
-      at += length;
-      for (GnssMessage message; decoder->sink.Pop(message, 0) == 0;) decoder->sink.Release(message);
+TEST(Stream, FramesAcrossTheEndOfTheRingAreWhole) {
+  for (const Bytes& frame : Frames()) {
+    for (const std::size_t before : {std::size_t{1}, std::size_t{5}, frame.size() - 1}) {
+      const auto decoder = std::make_unique<Decoder>();
+      PlaceHead(decoder->stream, InputRing::Capacity - 1 - static_cast<std::uint32_t>(before));
+      ASSERT_TRUE(SameRecords(Push(*decoder, frame), Decoded(frame))) << before;
+      ASSERT_EQ(decoder->stream.statistics.skippedBytes, 1U);
     }
   }
-  decoder->PutData(nullptr, 0);
-  EXPECT_EQ(decoder->stream.statistics.acceptedFrames, framesOfBlock * blocks);
-  if (!Sanitized) {
-    EXPECT_LT(ResidentMemory(), before + (std::size_t{2} << 20));
+}
+
+TEST(Stream, EverySingleBitFlipIsRejected) {
+  for (const Bytes& frame : Frames()) {
+    if (frame.size() > 300) continue;
+    for (std::size_t bit = 0; bit < frame.size() * 8; ++bit) {
+      Bytes flipped = frame;
+      flipped[bit / 8] = static_cast<std::uint8_t>(flipped[bit / 8] ^ 0x80 >> bit % 8);
+      const auto decoder = std::make_unique<Decoder>();
+      for (const Record& record : Push(*decoder, flipped + Quiet)) {
+        ASSERT_EQ(record.id, MsgIdDiagnostic) << bit;
+      }
+      ASSERT_EQ(decoder->stream.statistics.skippedBytes, frame.size() + Quiet.size()) << bit;
+    }
   }
 }
 

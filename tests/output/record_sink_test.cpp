@@ -71,22 +71,5 @@ TEST(DecodedIds, AreDrainedOnce) {
   EXPECT_EQ(sink.DrainDecodedIds(ids.data()), 0U);
 }
 
-// A host that never pops: the queue stays at its bound, and memory with it.
-TEST(OutputQueue, MemoryOfAHostThatNeverPopsStays) {
-  constexpr std::uint32_t Records = Sanitized ? 30'000 : 1'000'000;
-  const auto sink = std::make_unique<RecordSink>();
-  std::size_t before = 0;
-  for (std::uint32_t i = 0; i < Records; ++i) {
-    if (i == 10'000) before = ResidentMemory();
-    PushNumber(*sink, 5, i);
-    sink->PushCopy(6, std::array<std::uint8_t, 500>{});
-  }
-  EXPECT_EQ(sink->Waiting(), MaxQueuedMessages);
-  if (!Sanitized) {
-    EXPECT_LT(ResidentMemory(), before + (std::size_t{2} << 20));
-  }
-  EXPECT_EQ(PopAll(*sink).size(), MaxQueuedMessages);
-}
-
 }  // namespace
 }  // namespace navframe::test

@@ -46,27 +46,10 @@ std::uint16_t Week(UTCTIME utc, int leap) {
   TimeManager().date2Week(utc, week, leap);
   return week;
 }
-std::string HmsText(TimeManager& time) {
-  std::array<char, 64> text;
-  return time.getHMSStr(text.data()), text.data();
-}
 std::string GpsText(TimeManager& time) {
   std::array<char, 64> text;
   return time.getGPSTStr(text.data()), text.data();
 }
-
-// Runs the test body in a time zone, in the POSIX notation.
-class Zone {
- public:
-  explicit Zone(const char* name) {
-    setenv("TZ", name, 1);
-    tzset();
-  }
-  ~Zone() {
-    unsetenv("TZ");
-    tzset();
-  }
-};
 
 TEST(TimeManager, EveryDateAgainstTheCalendar) {
   using namespace std::chrono;
@@ -159,7 +142,7 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
     byHms.updateHMS(hms, "b");
     EXPECT_EQ(byTime.getTOW(), c.byTime);
     EXPECT_EQ(byHms.getTOW(), c.byHms);
-    EXPECT_EQ(HmsText(byTime) + HmsText(byHms), "ab");
+    EXPECT_EQ(byTime.timeText + byHms.timeText, "ab");
     utc.year = 65535;
     utc.month = utc.day = 255;
     EXPECT_EQ(Shown(byTime.utcTime) + Shown(byHms.utcTime), Shown(utc) + Shown(utc));
@@ -179,7 +162,7 @@ TEST(TimeManager, DateUpdatesConvertByWhatIsKnown) {
   UTCTIME later = Utc(2024, 8, 1, 12, 0, 1);
   later.flag = 9;
   time.updateDateTime(later, text);
-  EXPECT_EQ(Shown(time.gpsTime) + " " + HmsText(time), "2325:388819000 120001.000");
+  EXPECT_EQ(Shown(time.gpsTime) + " " + time.timeText, "2325:388819000 120001.000");
   EXPECT_EQ(Shown(time.utcTime), "2024-8-1 12:0:1.0 0");
 }
 
@@ -192,13 +175,13 @@ TEST(TimeManager, TimeOfDayText) {
   for (auto [tow, leap, text] : cases) {
     time.setLeap(leap);
     time.updateTOW(tow);
-    EXPECT_EQ(HmsText(time), text) << tow;
+    EXPECT_EQ(time.timeText, text) << tow;
     EXPECT_EQ(time.getTOW(), tow);
   }
   time.timeText = "before";
   std::uint32_t none = NoTow;
   time.updateTOW(none);
-  EXPECT_EQ(HmsText(time), "before");
+  EXPECT_EQ(time.timeText, "before");
 }
 
 TEST(TimeManager, GpsTimeToUtcFollowsTheLocalZone) {
@@ -211,13 +194,16 @@ TEST(TimeManager, GpsTimeToUtcFollowsTheLocalZone) {
       {"UTC-8", {NoTow, 1234, 0}, "65535-255-255 255:255:255.65535 0 "},
   };
   for (auto [name, gps, wanted] : cases) {
-    const Zone zone(name);
+    setenv("TZ", name, 1);
+    tzset();
     TimeManager time;
     time.setLeap(5);
     time.updateGPST(gps);
-    EXPECT_EQ(Shown(time.utcTime) + " " + HmsText(time), wanted) << name;
+    EXPECT_EQ(Shown(time.utcTime) + " " + time.timeText, wanted) << name;
     EXPECT_EQ(Shown(time.gpsTime), Shown(gps));
   }
+  unsetenv("TZ");
+  tzset();
 }
 
 TEST(TimeManager, SettersClearingAndTexts) {
@@ -231,14 +217,22 @@ TEST(TimeManager, SettersClearingAndTexts) {
   time.updateWeek(ignored);
   EXPECT_EQ(GpsText(time), "345600000,,");
 
+  char text[] = "xxxxxxx";
+  time.timeText = std::string(
+      "12\0"
+      "34",
+      5);
+  time.getHMSStr(text);
+  EXPECT_EQ(std::string(text, 7), std::string("12\0xxxx", 7)) << "as printf copies it";
+
   UTCTIME utc = Utc(2024, 7, 31, 12, 1, 2, 3);
   time.setDateTime(utc, "120102.003");
   time.savedUtcTime = Utc(2001, 2, 3, 4, 5, 6, 7);
   time.savedGpsTime = {11, 12, 0};
   TimeManager moved(std::move(time));
-  EXPECT_EQ(Shown(moved.utcTime) + " " + HmsText(moved), "2024-7-31 12:1:2.3 0 120102.003");
+  EXPECT_EQ(Shown(moved.utcTime) + " " + moved.timeText, "2024-7-31 12:1:2.3 0 120102.003");
   moved.clearTime(false);  // 255 ms, not the 65535 of construction
-  EXPECT_EQ(Shown(moved.utcTime) + " " + HmsText(moved), "2024-7-31 255:255:255.255 0 ");
+  EXPECT_EQ(Shown(moved.utcTime) + " " + moved.timeText, "2024-7-31 255:255:255.255 0 ");
   EXPECT_EQ(moved.getTOW(), 345'600'000U);
   moved.clearTime(true);
   EXPECT_EQ(Shown(moved.utcTime) + " " + Shown(moved.gpsTime), "2001-2-3 4:5:6.7 0 12:11");
