@@ -1,4 +1,4 @@
-# cmake -DROOT=... -P includes.cmake
+# cmake -DROOT=... -DTSORT=... -P includes.cmake
 # Dependencies between folders run one way, as docs/architecture.md draws them.
 
 # The folders of src/, by layer. A folder includes its own headers, the public ones and those of
@@ -17,6 +17,7 @@ foreach(layer IN LISTS layers)
 endforeach()
 
 set(faults 0)
+set(edges "")
 function(fault text)
   message("${text}")
   math(EXPR more "${faults} + 1")
@@ -44,6 +45,7 @@ foreach(source IN LISTS sources)
   endif()
   included_by("${ROOT}/src/${source}" paths)
   foreach(path IN LISTS paths)
+    string(APPEND edges "${source} ${path}\n")
     string(REGEX REPLACE "/.*" "" to "${path}")
     if(NOT path MATCHES "/")
       if(EXISTS "${ROOT}/src/${from}/${path}")
@@ -62,12 +64,29 @@ file(GLOB_RECURSE outsiders RELATIVE "${ROOT}" "${ROOT}/include/*" "${ROOT}/tool
 foreach(outsider IN LISTS outsiders)
   included_by("${ROOT}/${outsider}" paths)
   foreach(path IN LISTS paths)
+    if(outsider MATCHES "^include/")
+      string(APPEND edges "${outsider} include/${path}\n")
+    endif()
     string(REGEX REPLACE "/.*" "" to "${path}")
     if(DEFINED rank_${to} OR path MATCHES "\\.\\./|^src/")
       fault("${outsider}: ${path} is no public header")
     endif()
   endforeach()
 endforeach()
+
+# No header includes itself, however far the way around.
+if(TSORT)
+  set(edge_file "${CMAKE_CURRENT_BINARY_DIR}/include_edges.txt")
+  file(WRITE "${edge_file}" "${edges}")
+  execute_process(
+    COMMAND "${TSORT}" "${edge_file}"
+    RESULT_VARIABLE result
+    OUTPUT_QUIET
+    ERROR_VARIABLE cycle)
+  if(NOT result EQUAL 0)
+    fault("headers that include each other:\n${cycle}")
+  endif()
+endif()
 
 if(faults)
   message(FATAL_ERROR "${faults} includes against the layers")

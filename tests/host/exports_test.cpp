@@ -56,13 +56,7 @@ TEST(Exports, Configuration) {
   EXPECT_EQ(DecodedIds(), (Ids{MsgIdVtg, MsgIdGll})) << "blocked, but decoded";
   GNSSSetMsgTypes(ProtocolUbx);
   EXPECT_EQ(Push(Gll), 0U);
-  // "$" lines of board type 7 are consumed undecoded, with four bytes of what follows.
-  GNSSSetBoardType(7);
-  EXPECT_EQ(Push(Gll + Vtg.substr(0, 4)), 0U);
-  GNSSSetBoardType(0);
   GNSSSetMsgTypes(0xFFFFFFFF);
-  EXPECT_EQ(Push(Vtg.substr(4)), 0U);
-  EXPECT_EQ(DecodedIds(), Ids{});
   EXPECT_EQ(Push(Vtg), 1U);
   Drain();
   DecodedIds();

@@ -27,6 +27,7 @@ std::string Gga(int second) {
 const std::string Poison = Sentence("GPGGA,120000.00,48o7.038,N,01131.000,E,1,08,0.9,5.4,M,,M,,");
 const std::pair<std::string, const char*> Poisons[] = {
     {Poison, "invalid stod argument"},
+    {Sentence("GPRMC,120000,A,,,,,,,140326,,,A"), "invalid string position"},
     {Sentence("PNAVMSG,1,2,0,0,0,0,0,0,,0,0,0,0,0,0,0,0"), "invalid stoi argument"},
     {Sentence("PNAVMSG,1,2,0,0,0,0,0,0,80000000,0,0,0,0,0,0,0,0"), "stoi argument out of range"}};
 
