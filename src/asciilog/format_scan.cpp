@@ -66,9 +66,9 @@ bool IsLarge(std::string_view number, bool hex) {
     std::string_view text = number.substr(exponentAt + 1);
     const bool negative = text.starts_with('-');
     if (!text.empty() && IsSign(text.front())) text.remove_prefix(1);
-    constexpr long Beyond = 1L << 30;
+    constexpr long Beyond = 1L << 30;  // outweighs the digits of any line
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), exponent);
-    if (error == std::errc::result_out_of_range) exponent = Beyond;
+    if (error == std::errc::result_out_of_range || exponent > Beyond) exponent = Beyond;
     if (negative) exponent = -exponent;
   }
   return places * (hex ? 4 : 1) + exponent > 0;
