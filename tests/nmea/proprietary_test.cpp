@@ -1,26 +1,10 @@
 // Proprietary sentences from bytes to text: absent fields, oddities, the members that have no text.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <sstream>
 
-#include "generator/mixed_stream.h"
 #include "navframe/records.h"
-#include "render/render.h"
 #include "support/streams.h"
-
-// Counts what is allocated, where the C library lets itself be stood in for.
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
-namespace {
-std::size_t allocations = 0;
-}
-extern "C" void* __libc_malloc(std::size_t size) noexcept;  // NOLINT
-extern "C" void* malloc(std::size_t size) noexcept {
-  ++allocations;
-  return __libc_malloc(size);
-}
-#define NAVFRAME_COUNTS_ALLOCATIONS
-#endif
 
 namespace navframe::test {
 namespace {
@@ -129,21 +113,6 @@ TEST(Proprietary, TimesMoveTheClock) {
   EXPECT_STREQ(records[1].As<SnrStatRecord>().timeText, "120000.500");
   EXPECT_STREQ(records[3].As<ImuRecord>().timeText, "120009.00");
   EXPECT_EQ(records[4].As<CwOutRecord>().gpsTime.tow, 302'419'750U);
-}
-
-TEST(RenderRecord, AllocatesNothing) {
-#ifdef NAVFRAME_COUNTS_ALLOCATIONS
-  const auto records = Decoded(sample::MixedStream());
-  std::string out(65536, '\0');
-  const std::size_t before = allocations;
-  EXPECT_GT(before, records.size()) << "they are counted";
-  for (const Record& record : records) {
-    RenderRecord({record.id, record.source, record.payload.get()}, out.data(), true);
-  }
-  EXPECT_EQ(allocations, before);
-#else
-  GTEST_SKIP() << "allocations are not counted here";
-#endif
 }
 
 }  // namespace
