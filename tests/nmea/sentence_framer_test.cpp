@@ -185,6 +185,7 @@ TEST(SentenceFramer, CapturesLikeThePlainFramer) {
         }
       }
     }
+    PopAll(*decoder);
     EXPECT_EQ(decoder->stream.statistics.acceptedFrames + unconvertible, sentences) << name;
     EXPECT_GT(sentences, 0U) << name;
   }
