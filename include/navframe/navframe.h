@@ -8,6 +8,8 @@
  * 3. Functions that return a status return 0 for success and NAVFRAME_NOTHING for nothing or
  *    mismatch. Bad input is never reported: an invalid frame costs one skipped byte.
  * 4. Pointers must not be NULL unless their function says otherwise.
+ * 5. docs/compatibility.md lists what a host would not expect, by topic; comments here and in
+ *    records_*.h name the topic.
  */
 #ifndef NAVFRAME_NAVFRAME_H
 #define NAVFRAME_NAVFRAME_H
@@ -51,7 +53,8 @@ namespace navframe {
 /* Bits of the mask of GNSSSetMsgTypes. Other bits are not tested. */
 enum ProtocolMask {
   ProtocolNmea = 0x01,         /* sentences that start with "$" */
-  ProtocolNmeaTagBlock = 0x02, /* tag blocks that start with "\" */
+  ProtocolNmeaTagBlock = 0x02, /* tag blocks that start with "\"; can stop a stream for good, and
+                                  are not needed: see docs/compatibility.md, Tag blocks */
   ProtocolRtcm3 = 0x04,        /* frames that start with 0xD3 */
   ProtocolUbx = 0x08,          /* frames that start with 0xB5 0x62 */
   Protocol55Aa = 0x20          /* frames that start with 0x55 0xAA */
@@ -148,26 +151,29 @@ extern "C" {
 NAVFRAME_API void GNSSInit(void);
 
 /* Chooses the protocols to look for: ProtocolMask bits, all set at load. Holds from the next scan
- * for a frame start on; a frame whose start was already found is finished. */
+ * for a frame start on; a frame whose start was already found is finished. Enable what is sent and
+ * no more: see docs/compatibility.md, False heads. */
 NAVFRAME_API void GNSSSetMsgTypes(uint32_t mask);
 
 /* Sets the receiver board type, 0 at load. Only 7 has an effect: "$" then starts a line of the
- * receiver's ASCII logs, which is consumed without being decoded, even with ProtocolNmea clear. */
+ * receiver's ASCII logs, which is consumed without being decoded, even with ProtocolNmea clear, and
+ * takes other bytes along: see docs/compatibility.md, Board type 7. */
 NAVFRAME_API void GNSSSetBoardType(uint32_t type);
 
 /* Sets the output filter: 0, the value at load, keeps every kind of record; any other value only
- * the records of that id. It never changes framing. */
+ * the records of that id, and a few others: see docs/compatibility.md, Filter. It never changes
+ * framing. */
 NAVFRAME_API void GNSSSetOutMsgID(uint32_t id);
 
 /* Appends `length` bytes of receiver output (any split is allowed, also inside a frame), decodes
  * every frame that is now complete, and returns the number of records waiting, at most
- * NAVFRAME_MAX_QUEUED_MESSAGES. `data` may be NULL when `length` is 0: that runs the decoder once
- * over what is there.
- * A chunk larger than the free part of the ring is dropped whole. A chunk exactly as large as the
- * free part makes the ring read as empty: its content is lost.
- * C++ hosts: a field of an NMEA sentence that cannot be converted leaves as std::invalid_argument
- * or std::out_of_range, and the same sentence meets the next call; feeder.hpp is a host that goes
- * on. C hosts must be ready for the program to end there, or filter such sentences beforehand. */
+ * NAVFRAME_MAX_QUEUED_MESSAGES: chunks of more than 64 KiB can lose records (see
+ * docs/compatibility.md, Large chunks). `data` may be NULL when `length` is 0: that runs the
+ * decoder once over what is there. A chunk larger than the free part of the ring is dropped whole.
+ * A chunk exactly as large as the free part makes the ring read as empty: its content is lost. C++
+ * hosts: a field of an NMEA sentence that cannot be converted leaves as std::invalid_argument or
+ * std::out_of_range, and the same sentence meets the next call; feeder.hpp is a host that goes on.
+ * C hosts must be ready for the program to end there, or filter such sentences beforehand. */
 NAVFRAME_API uint32_t GNSSPutData(const uint8_t* data, uint32_t length);
 
 /* Pops the oldest record into `out` and returns 0, or returns NAVFRAME_NOTHING when none waits.
@@ -178,7 +184,8 @@ NAVFRAME_API uint32_t GNSSGetMsg(GnssMessage* out, uint32_t wantedId);
 
 /* Writes the ids of all kinds decoded since the last call to `ids`, in no promised order, forgets
  * them, and returns their number. `ids` must have room for every distinct id: 64 are enough. Id 0
- * stands for NMEA sentences of an unknown kind. */
+ * stands for NMEA sentences of an unknown kind. Kinds that the filter held back may be among them:
+ * see docs/compatibility.md, Kinds seen. */
 NAVFRAME_API uint32_t GNSSGetMsgs(uint32_t* ids);
 
 /* Frees the payload of a popped record and sets rec->data to NULL; rec->id stays. Does nothing
@@ -186,10 +193,11 @@ NAVFRAME_API uint32_t GNSSGetMsgs(uint32_t* ids);
  * those only the pointer is cleared. */
 NAVFRAME_API void GNSSFreeMem(GnssMessage* rec);
 
-/* Renders a record as comma-separated text into `out`, without a bound: 8 KiB are enough for every
- * kind with ordinary values. Returns 0, or NAVFRAME_NOTHING and the empty text for a kind that has
- * no text form or a record without a payload. `flag` is not a length: its low byte, when not 0,
- * asks the kinds 79 and 81 for leading fields. */
+/* Renders a record as comma-separated text into `out`, without a bound: 16 KiB are enough for every
+ * record of a stream. Returns 0, or NAVFRAME_NOTHING and the empty text for a kind that has no text
+ * form or a record without a payload. `flag` is not a length: its low byte, when not 0, asks the
+ * kinds 79 and 81 for leading fields. The letter of a longitude is that of the latitude: see
+ * docs/compatibility.md, Texts, also for the fields of each kind. */
 NAVFRAME_API uint32_t structDataToStr(const GnssMessage* record, char* out, int64_t flag);
 
 /* Writes the name of a satellite system (1 GPS, 2 GLO, 3 GAL, 4 BDS, 5 QZSS, 6 NavIC, 15 GN) to

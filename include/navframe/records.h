@@ -6,7 +6,8 @@
  * with the sign set), float 0xFFC00000 (likewise), uint8_t 255, uint16_t 65535, int32_t and
  * uint32_t all bits set; texts empty; flags and counters 0.
  * "tag" is 1 for a sentence behind a tag block, else 0; the stream yields 0 only.
- * "gpsTime" is the decoder's GPS time when the message was decoded.
+ * "gpsTime" is the decoder's GPS time when the message was decoded: see docs/compatibility.md, The
+ * clock, for when it is a day or a week off. That page has all else that a host would not expect.
  * Angles are degrees, positive north and east, WGS 84 as far as the receiver's datum is.
  */
 #ifndef NAVFRAME_RECORDS_H

@@ -14,7 +14,7 @@ extern "C" {
  *
  * The verbatim payload is the authority: a host that knows its receiver's definition of the frame
  * finds everything there. The members behind it are this library's own reading of the first bytes,
- * taken alike from every frame whatever its length. */
+ * taken alike from every frame whatever its length: see docs/compatibility.md, Kind 90. */
 typedef struct Binary55AaRecord {
   uint32_t payloadLength;   /* bytes of payload */
   uint8_t payload[480];     /* as sent, little-endian, without header and checksum */

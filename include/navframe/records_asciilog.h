@@ -96,8 +96,9 @@ typedef struct AsciiLogHeader {
                              COARSESTEERING, 130 FREEWHEELING, 140 FINEADJUSTING, 160 FINE, 170
                              FINEBACKUPSTEERING, 180 FINESTEERING, 200 SATTIME, 201 LOCAL */
   uint16_t week;          /* of GPS, modulo 65536 */
-  int32_t milliseconds;   /* time of week; INT32_MIN for a time outside the type */
-  uint32_t receiverStatus;
+  int32_t milliseconds;   /* time of week; INT32_MIN for a time outside the type, but see
+                             docs/compatibility.md, Short headers */
+  uint32_t receiverStatus; /* see docs/compatibility.md, receiverStatus */
   uint16_t reserved;
   uint16_t softwareBuild;
 } AsciiLogHeader;

@@ -1,4 +1,6 @@
-/* Payload records of NMEA 0183 sentences. See records.h for the conventions. C99 and C++. */
+/* Payload records of NMEA 0183 sentences. See records.h for the conventions, and
+ * docs/compatibility.md, Times without decimals, Fractions of a second, Hemisphere and Numbers, for
+ * how fields are read. C99 and C++. */
 #ifndef NAVFRAME_RECORDS_NMEA_H
 #define NAVFRAME_RECORDS_NMEA_H
 
@@ -35,7 +37,8 @@ typedef struct RmcRecord {
   char timeText[17]; /* time field as sent */
   char dateText[8];  /* date field as sent, ddmmyy */
   uint8_t status;    /* 1 valid ("A"), 0 any other text */
-  uint8_t mode;      /* 0 "N", 1 "A" autonomous, 2 "D" differential, 4 "R", 5 "F", 6 "E" */
+  uint8_t mode;      /* 0 "N", 1 "A" autonomous, 2 "D" differential, 4 "R", 5 "F", 6 "E"; others
+                        unknown: see docs/compatibility.md, Modes */
   double longitude;  /* degrees */
   double latitude;   /* degrees */
   float speedKnots;  /* over ground */
@@ -48,7 +51,8 @@ typedef struct RmcRecord {
 /* GSA, dilution of precision and active satellites. MsgId 3 and 23. */
 typedef struct GsaRecord {
   uint8_t tag;
-  uint32_t systemId;     /* as GNSSSysIdToName; unknown without one in the sentence */
+  uint32_t systemId;     /* as GNSSSysIdToName; guessed without one in the sentence: see
+                            docs/compatibility.md, GSA system */
   char timeText[17];     /* the decoder's time of day */
   uint8_t selectionMode; /* 1 automatic; anything else manual */
   uint8_t fixType;       /* 1 none (also when not sent), 2 two-, 3 three-dimensional */
@@ -73,12 +77,14 @@ typedef struct SatelliteInView {
   uint8_t systemId;    /* as GNSSSysIdToName */
   uint16_t azimuth;    /* degrees */
   uint16_t elevation;  /* degrees */
-  uint8_t used;        /* 1 when a GSA sentence listed it, else 0 */
+  uint8_t used;        /* 1 when a GSA sentence listed it, else 0: see docs/compatibility.md, Used
+                          satellites */
   uint8_t signalCount; /* 0 to 3 */
   SatelliteSignal signals[3];
 } SatelliteInView;
 
-/* GSV, satellites in view of one whole cycle of sentences. MsgId 4 and 24. */
+/* GSV, satellites in view of one whole cycle of sentences. MsgId 4 and 24. Which satellites are
+ * missing, and when it comes: see docs/compatibility.md, GSV without signal id to GSV talkers. */
 typedef struct GsvRecord {
   uint8_t tag;
   char timeText[19];              /* the decoder's time of day when the cycle's sentences arrived */

@@ -1,5 +1,6 @@
 /* Payload records of proprietary NMEA sentences; those of inertial sensors and signal statistics
- * are in records_sensors.h. See records.h for the conventions. C99 and C++.
+ * are in records_sensors.h. See records.h for the conventions, and docs/compatibility.md,
+ * Proprietary fields, for what the order of the fields rests on. C99 and C++.
  */
 #ifndef NAVFRAME_RECORDS_PROPRIETARY_H
 #define NAVFRAME_RECORDS_PROPRIETARY_H
@@ -94,7 +95,7 @@ typedef struct PNavMsgRecord {
 typedef struct CwOutRecord {
   GPSTIME gpsTime;
   char timeText[16]; /* the decoder's time of day */
-  int32_t values[9]; /* as sent */
+  int32_t values[9]; /* as sent; -1 is a value: see docs/compatibility.md, Numbers */
 } CwOutRecord;
 
 #ifdef __cplusplus

@@ -1,8 +1,9 @@
 /* Payload records of RTCM 3 messages. See records.h for the conventions. C99 and C++.
  *
- * The members of the proprietary records (77 to 83, 85, 86, 106) are those whose place in the
- * message is known. The others have a size and a meaning but no known place: they keep their
- * unknown value, and 64-bit integers, for which there is none, are 0.
+ * Of the proprietary records the members of 77, 81, 82 and 106 that are filled, their times among
+ * them, stand where this library takes them to be: its own reading, which moves the clock; see
+ * docs/compatibility.md, Own readings. Members without a place in the message keep their unknown
+ * value, and 64-bit integers, for which there is none, are 0.
  */
 #ifndef NAVFRAME_RECORDS_RTCM_H
 #define NAVFRAME_RECORDS_RTCM_H
@@ -31,7 +32,7 @@ typedef struct StationPositionRecord {
   uint8_t referenceStation; /* 1 a computed (virtual) station, 0 a physical one */
   uint8_t reserved[3];      /* 0 */
   /* ECEF coordinates in units of 0.0001 m as the 38 bits of the message, not sign-extended: a
-   * negative coordinate reads 2^38 too large. */
+   * negative coordinate reads 2^38 too large: see docs/compatibility.md, 1005 coordinates. */
   int64_t x;
   int64_t y;
   int64_t z;
@@ -62,22 +63,27 @@ typedef struct MsmObservation {
   uint8_t signal;             /* RTCM MSM signal id, 1 to 32 */
   uint8_t pseudorangeValid;   /* 1 when the pseudorange is set */
   uint8_t phaseStatus;        /* 0 no usable phase, 1 phase valid, 2 valid and tracked without
-                                 a loss of lock for longer than the epoch interval */
+                                 a loss of lock for longer than the epoch interval: see
+                                 docs/compatibility.md, phaseStatus */
   uint8_t rateValid;          /* 1 when the rate is set (MSM5 and MSM7 alone) */
   uint8_t cn0;                /* carrier-to-noise density, dB-Hz, integer part */
   uint8_t halfCycleAmbiguity; /* 1 when the phase may be off by half a cycle */
   double pseudorange;         /* metres; 0 when not valid */
-  double carrierPhase;        /* cycles of the signal's frequency here; 0 when not valid */
+  double carrierPhase;        /* cycles, not always of the signal's own frequency: see
+                                 docs/compatibility.md, MSM phases; 0 when not valid */
   double phaseRangeRate;      /* metres per second, growing with the range; 0 when not valid */
   uint32_t lockTime;          /* milliseconds */
   uint32_t reserved;          /* 0 */
 } MsmObservation;
 
 /* One MSM4 to MSM7 message. MsgId 61 GPS, 62 GLONASS (MSM7 alone), 63 Galileo, 64 BeiDou,
- * 65 QZSS. The messages of one epoch are not merged. */
+ * 65 QZSS. The messages of one epoch are not merged. See docs/compatibility.md, MSM6 invalid codes
+ * and GLONASS. */
 typedef struct MsmRecord {
-  uint32_t epochTime;     /* GPS time of week, ms; BeiDou and GLONASS epochs are converted */
-  uint16_t week;          /* the decoder's GPS week */
+  uint32_t epochTime;     /* GPS time of week, ms; BeiDou and GLONASS epochs are converted; not
+                             judged: see docs/compatibility.md, Epoch times */
+  uint16_t week;          /* the decoder's GPS week: see docs/compatibility.md, Week between MSM
+                             and RMC */
   char timeText[16];      /* the decoder's time of day, hhmmss.mmm, after this epoch set it */
   uint8_t count;          /* entries of observations, 0 to 64 */
   uint8_t system;         /* 1 GPS, 2 GLONASS, 3 Galileo, 4 BeiDou, 5 QZSS */
@@ -94,7 +100,8 @@ typedef struct RtcmSnrStatRecord {
   uint8_t reserved[24]; /* 0 */
 } RtcmSnrStatRecord;
 
-/* Message 4074 sub-type 243, time and status. MsgId 77. */
+/* Message 4074 sub-type 243, time and status. MsgId 77. See docs/compatibility.md, Message
+ * 4074/243, for what one without a time does to the clock. */
 typedef struct TimeStatusRecord {
   uint32_t tow;      /* GPS time of week, ms; 0 when the message has none */
   uint16_t week;     /* GPS week */
@@ -180,7 +187,7 @@ typedef struct Sub34Record {
   uint8_t spare;     /* 0 */
 } Sub34Record;
 
-/* Message 999 sub-type 21. MsgId 106. */
+/* Message 999 sub-type 21. MsgId 106. An own reading: see docs/compatibility.md, Own readings. */
 typedef struct Sub21Record {
   uint32_t tow;         /* GPS time of week, ms */
   uint32_t week;        /* GPS week; 65535 = none */

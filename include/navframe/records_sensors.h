@@ -2,9 +2,11 @@
  * NMEA sentences (MsgId 41 to 46 and 50) and from RTCM 3 message 4074 (71 and 73 to 75) alike.
  * See records.h for the conventions. C99 and C++.
  *
- * Of the RTCM messages only the times and texts have a known place on the wire, and one value of
- * InsPvaRecord; every other member of records 71 and 73 to 75 keeps its unknown value, and the
- * decoder's clock is set from their gpsTime instead of the other way round.
+ * Of records 71 and 73 to 75 only the times and texts are filled, and one value of InsPvaRecord;
+ * every other member keeps its unknown value. Where they stand in the message is this library's own
+ * reading, and the decoder's clock is set from their gpsTime instead of the other way round: see
+ * docs/compatibility.md, Own readings. The order of the fields of the sentences is its own reading
+ * too: see there, Proprietary fields.
  */
 #ifndef NAVFRAME_RECORDS_SENSORS_H
 #define NAVFRAME_RECORDS_SENSORS_H
@@ -37,7 +39,8 @@ typedef struct SnrStatRecord {
   GPSTIME gpsTime;
   uint32_t count;   /* first unsigned value, as sent */
   uint8_t state;    /* second unsigned value, as sent */
-  int8_t levels[3]; /* signed values, as sent */
+  int8_t levels[3]; /* signed values, as sent; -1 reads as unknown: see docs/compatibility.md,
+                       Numbers */
 } SnrStatRecord;
 
 /* NAVATT, attitude. MsgId 44 and 73. */

@@ -3,6 +3,8 @@
  * See records.h for the conventions. In these records the unknown value of a signed integer is the
  * most negative one of its type, and "timeText" is the decoder's time of day when the message was
  * decoded. Members that are marked "flag" are 0 or 1; reserved members are 0.
+ * "The decoder's GPS week" is unknown until a message brings a date: see docs/compatibility.md,
+ * Week.
  */
 #ifndef NAVFRAME_RECORDS_UBX_H
 #define NAVFRAME_RECORDS_UBX_H
@@ -56,7 +58,7 @@ typedef struct UbxNavigationRecord {
   uint8_t minute;        /* 0 to 59 */
   uint8_t second;        /* 0 to 60 */
   uint32_t millisecond;  /* of the second: nanoseconds / 1000000 towards 0; a negative one is stored
-                            modulo 2^32 */
+                            modulo 2^32: see docs/compatibility.md, Negative fraction */
   uint8_t dateValid;     /* flag */
   uint8_t timeValid;     /* flag */
   uint8_t fullyResolved; /* flag: no uncertainty of whole seconds is left */
@@ -87,11 +89,13 @@ typedef struct UbxNavigationRecord {
   int32_t motionHeading;       /* 0.00001 degrees */
   uint32_t speedAccuracy;      /* mm/s */
   uint32_t headingAccuracy;    /* 0.00001 degrees */
-  float positionDop;           /* a tenth of the DOP: the number sent, in hundredths, / 1000 */
+  float positionDop;           /* a tenth of the DOP: the number sent, in hundredths, / 1000; see
+                                  docs/compatibility.md, DOP */
   uint8_t invalidHeight;       /* flag: position and heights are not valid */
   uint8_t correctionAge;   /* of the last differential correction, the receiver's code 0 to 15 */
   uint32_t reservedWord;   /* the message's reserved bytes, as sent */
-  uint16_t vehicleHeading; /* low 16 bits of the heading of the vehicle, 0.00001 degrees */
+  uint16_t vehicleHeading; /* low 16 bits of the heading of the vehicle, 0.00001 degrees: see
+                              docs/compatibility.md, Vehicle heading */
 } UbxNavigationRecord;
 
 /* One satellite of UbxSatellitesRecord. 26 bytes. */
@@ -155,7 +159,8 @@ typedef struct UbxRawMeasurement {
   uint8_t reserved[5];
 } UbxRawMeasurement;
 
-/* Raw measurements (class 0x02, id 0x15). MsgId 104. 12272 bytes.
+/* Raw measurements (class 0x02, id 0x15). MsgId 104. 12272 bytes. A frame has room for 126: see
+ * docs/compatibility.md, Raw measurements.
  * A message that ends early leaves the members unknown that it does not hold. */
 typedef struct UbxRawMeasurementsRecord {
   uint32_t tow;  /* receiver's time of week rounded to ms; unknown when it is no time of a week */
@@ -188,7 +193,7 @@ typedef struct UbxAttitudeRecord {
 } UbxAttitudeRecord;
 
 /* What the decoder has to say of the stream. MsgId 151. 72 bytes. Passes every output filter and is
- * never among the ids of GNSSGetMsgs. */
+ * never among the ids of GNSSGetMsgs: see docs/compatibility.md, Diagnostic. */
 typedef struct DiagnosticRecord {
   uint32_t tow;  /* the decoder's GPS time of week, ms */
   uint32_t code; /* 1: a UBX frame with a wrong checksum */

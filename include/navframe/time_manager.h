@@ -12,7 +12,8 @@
 // second count that it advances by itself after a second 60.
 //
 // Nothing here reports an error: a conversion of an unknown value (year 65535, time of week
-// 0xFFFFFFFF) changes nothing, and neither does one of a month outside 1 to 12.
+// 0xFFFFFFFF) changes nothing, and neither does one of a month outside 1 to 12. What a host would
+// not expect of it stands in docs/compatibility.md, TimeManager.
 // Not thread-safe. Members are public because hosts and decoders share them; their order is part
 // of the binary interface.
 class NAVFRAME_API TimeManager {

@@ -1,5 +1,5 @@
-// A block of bytes compared at once. SSE2 and NEON are part of the baseline of their platforms;
-// elsewhere plain loops do the same, which compilers turn into what the target has.
+// A block of bytes compared at once: with SSE2, which is part of the baseline of x86-64, and by
+// plain loops everywhere else, which compilers turn into what the target has.
 #pragma once
 
 #include <array>
