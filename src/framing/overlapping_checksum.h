@@ -13,8 +13,8 @@ namespace navframe {
 // announces kilobytes or next to nothing. From the first one that begins among bytes that were read
 // before, the values of all prefixes are kept, and those of two prefixes give the value of the
 // bytes between. So a byte is read at most twice, however many heads announce it and in whatever
-// lengths: once in a frame that begins behind all bytes read so far, as every good one does, and
-// once for the prefixes.
+// lengths: once in a frame that begins behind all bytes read so far, as every frame of an undamaged
+// stream does, and once for the prefixes.
 //
 // `Checksum` has the type Value, whose default is the value of no bytes, LongestProtected, and
 //   Of(bytes, length)             the value of these bytes
