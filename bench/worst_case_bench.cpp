@@ -55,15 +55,22 @@ std::vector<WorstCase> WorstCases() {
       {"0xB5 0x62, 4048 announced", made("\xB5\x62\x01\x07\xD0\x0F"s), DefaultChunk, 20},
       // The closest that such headers come: 0x0F62 bytes are announced every third byte.
       {"0xB5 0x62 0x0F", made("\xB5\x62\x0F"), DefaultChunk, 40},
-      {"0xD3 0x03 0xFF, 1023 announced", made("\xD3\x03\xFF"), DefaultChunk, 60},
+      {"0xD3 0x03 0xFF, 1023 announced", made("\xD3\x03\xFF"), DefaultChunk, 40},
       // The closest that such headers come: 0x03D3 bytes are announced every second byte.
-      {"0xD3 0x03", made("\xD3\x03"), DefaultChunk, 60},
+      {"0xD3 0x03", made("\xD3\x03"), DefaultChunk, 40},
+      // Nothing announced inside of thousands: the sums of the long ones must outlast the short.
+      {"0xD3, 0 announced in 979", made("\xD3\x03\xD3\0\0"s), DefaultChunk, 30},
+      {"0xD3, 0 announced in 1023", made("\xD3\x03\xFF\xD3\0\0"s), DefaultChunk, 30},
+      {"0xB5 0x62, 0 announced in 3938", made("\xB5\x62\x01\xB5\x62\x0F\x01\0\0"s), DefaultChunk,
+       15},
       {"0x55 0xAA 0xE0", made("\x55\xAA\xE0"), DefaultChunk, 20},
       {"0x55 0xAA, 480 announced", made("\x55\xAA\xE0\x01\0\0"s), DefaultChunk, 20},
       {"tag blocks", made("\\s:1234\\"), DefaultChunk, 10},
-      // The fewest bytes for the largest record: 12,272 bytes for 24.
+      // The largest record, 12,272 bytes, for the fewest: 24 of a message, and 8 without content.
       {"empty raw measurements", Repeated(sample::UbxFrame(0x02, 0x15, Bytes(16))), DefaultChunk,
        60},
+      {"raw measurements, 0 announced", Repeated(sample::UbxFrame(0x02, 0x15, {})), DefaultChunk,
+       100},
   };
 }
 

@@ -5,15 +5,14 @@
 namespace navframe {
 
 std::uint32_t ForwardSearch::Find(const InputRing& ring, std::uint32_t start) {
-  const std::uint32_t head = ring.ReadIndex();
+  const std::uint64_t head = ring.Position();
+  const std::uint64_t begin = head + start;
   const std::uint32_t available = ring.Available();
-  const bool known = generation_ == ring.Generation() && head + start - from_ <= until_ - from_;
-  if (!known) {
-    from_ = head + start;
-    until_ = head + start;
-    generation_ = ring.Generation();
+  if (begin < from_ || begin > until_) {
+    from_ = begin;
+    until_ = begin;
   }
-  std::uint32_t offset = until_ - head;
+  auto offset = static_cast<std::uint32_t>(until_ - head);
   while (offset < available) {
     const auto piece = ring.Piece(offset);
     const void* const found = std::memchr(piece.data(), byte_, piece.size());

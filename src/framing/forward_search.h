@@ -19,9 +19,8 @@ class ForwardSearch {
 
  private:
   std::uint8_t byte_;
-  std::uint32_t from_ = 0;  // ring indices: no such byte in from_ <= index < until_
-  std::uint32_t until_ = 0;
-  std::uint32_t generation_ = 0;  // of the ring, for which the above holds
+  std::uint64_t from_ = 0;  // no such byte at from_ <= position < until_ of the stream
+  std::uint64_t until_ = 0;
 };
 
 }  // namespace navframe

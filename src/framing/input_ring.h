@@ -9,9 +9,9 @@
 
 namespace navframe {
 
-// 16 MiB of bytes between a read and a write index. Both indices run freely over 32 bits and are
-// masked on use. Whoever empties the ring sets both to 0, so that a stream that is consumed as it
-// arrives stays in the first, cached pages; the others are never touched.
+// 16 MiB of bytes between a read and a write index. Both indices run freely and are masked on use.
+// Whoever empties the ring sets both to 0, so that a stream that is consumed as it arrives stays in
+// the first, cached pages; the others are never touched.
 class InputRing {
  public:
   static constexpr std::uint32_t Capacity = 0x1000000;
@@ -25,25 +25,25 @@ class InputRing {
 
   // A chunk exactly as large as the free space makes this read 0: the indices are then one whole
   // capacity apart. The content is lost and the ring goes on as if empty; hosts rely on it.
-  std::uint32_t Available() const { return (write_ - read_) & Mask; }
+  std::uint32_t Available() const { return Masked(write_ - read_); }
   std::uint32_t Free() const { return Capacity - Available(); }
 
   // Appends a chunk, or drops it whole when it is larger than the free space.
   void Append(const std::uint8_t* data, std::uint32_t length);
 
-  std::uint8_t operator[](std::uint32_t offset) const { return buffer_[(read_ + offset) & Mask]; }
+  std::uint8_t operator[](std::uint32_t offset) const { return buffer_[Masked(read_ + offset)]; }
 
   // The first `length` available bytes as one piece: in place where they do not wrap, else copied
   // to a side buffer that the next call reuses. `length` is at most LongestWrappedView.
   const std::uint8_t* View(std::uint32_t length) {
-    const std::uint32_t position = read_ & Mask;
-    return position + length <= Capacity ? buffer_.get() + position : CopyWrapped(length);
+    const std::uint32_t begin = Masked(read_);
+    return begin + length <= Capacity ? buffer_.get() + begin : CopyWrapped(length);
   }
 
   // The available bytes from `offset` up to the end of the buffer, or up to the write index.
   std::span<const std::uint8_t> Piece(std::uint32_t offset) const {
-    const std::uint32_t position = (read_ + offset) & Mask;
-    return {buffer_.get() + position, std::min(Available() - offset, Capacity - position)};
+    const std::uint32_t begin = Masked(read_ + offset);
+    return {buffer_.get() + begin, std::min(Available() - offset, Capacity - begin)};
   }
 
   // Advances over `length` bytes, or empties the ring when there are no more than that.
@@ -56,24 +56,29 @@ class InputRing {
   }
 
   void Clear() {
+    origin_ = Position() + Available();
     read_ = 0;
     write_ = 0;
-    ++generation_;
   }
 
-  // The read index, to remember a place in the ring by. Places are comparable while the
-  // generation stays the same.
-  std::uint32_t ReadIndex() const { return read_; }
-  std::uint32_t Generation() const { return generation_; }
+  // How many bytes of the stream lie in front of the head, to remember places by: it never falls,
+  // and no two bytes have the same.
+  std::uint64_t Position() const { return origin_ + read_; }
+  // The read index in 32 bits: begins again behind 4 GiB, unless the ring was emptied meanwhile.
+  std::uint32_t ReadIndex() const { return static_cast<std::uint32_t>(read_); }
 
  private:
+  static constexpr std::uint32_t Masked(std::uint64_t index) {
+    return static_cast<std::uint32_t>(index) & Mask;
+  }
+
   const std::uint8_t* CopyWrapped(std::uint32_t length);
 
   std::unique_ptr<std::uint8_t[]> buffer_;   // Capacity + Slack bytes
   std::unique_ptr<std::uint8_t[]> wrapped_;  // LongestWrappedView + Slack bytes
-  std::uint32_t read_ = 0;
-  std::uint32_t write_ = 0;
-  std::uint32_t generation_ = 0;
+  std::uint64_t origin_ = 0;                 // position in the stream of index 0
+  std::uint64_t read_ = 0;
+  std::uint64_t write_ = 0;
 };
 
 }  // namespace navframe

@@ -1,18 +1,20 @@
 // Checksums of frames that begin inside other ones.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <span>
 
-#include "framing/input_ring.h"
-
 namespace navframe {
 
 // A head that turns out false is followed by others, at worst every second byte, each of which
-// announces kilobytes. Where such frames overlap, the values of all prefixes are kept, and those
-// of two prefixes give the value of the bytes between: a byte is then read once, not once a head.
+// announces kilobytes or next to nothing. From the first one that begins among bytes that were read
+// before, the values of all prefixes are kept, and those of two prefixes give the value of the
+// bytes between. So a byte is read at most twice, however many heads announce it and in whatever
+// lengths: once in a frame that begins behind all bytes read so far, as every frame of an undamaged
+// stream does, and once for the prefixes.
 //
 // `Checksum` has the type Value, whose default is the value of no bytes, LongestProtected, and
 //   Of(bytes, length)             the value of these bytes
@@ -24,46 +26,44 @@ class OverlappingChecksum {
  public:
   using Value = typename Checksum::Value;
 
-  // The value of `bytes`, at most LongestProtected, which begin `offset` behind the ring's head.
-  Value Of(const InputRing& ring, std::uint32_t offset, std::span<const std::uint8_t> bytes) {
-    const auto length = static_cast<std::uint32_t>(bytes.size());
-    const std::uint32_t begin = ring.ReadIndex() + offset;
-    const bool overlaps = generation_ == ring.Generation() && begin - begin_ < until_ - begin_;
-    begin_ = begin;
-    generation_ = ring.Generation();
-    if (!overlaps) {
-      hasPrefixes_ = false;
-      until_ = begin + length;
-      return Checksum::Of(bytes.data(), length);
+  // The value of `bytes`, at most LongestProtected, which begin at this position of the stream.
+  // The position is never below that of the call before.
+  Value Of(std::uint64_t position, std::span<const std::uint8_t> bytes) {
+    const std::uint64_t end = position + bytes.size();
+    if (position >= readUntil_) {
+      readUntil_ = end;
+      return Checksum::Of(bytes.data(), bytes.size());
     }
-    if (!hasPrefixes_) {
-      hasPrefixes_ = true;
-      until_ = begin;
-      PrefixUpTo(begin) = Value{};
-    }
-    ReadUpTo(length, bytes.data());
-    return Checksum::Between(PrefixUpTo(begin), PrefixUpTo(begin + length), length);
+    return OfOverlapping(position, end, bytes.data());
   }
 
  private:
   // Room for the prefixes of the longest frame, that of no bytes among them.
   static constexpr std::uint32_t Size = std::bit_ceil(Checksum::LongestProtected + 1);
 
-  Value& PrefixUpTo(std::uint32_t index) { return prefixes_[index % Size]; }
+  Value& PrefixUpTo(std::uint64_t position) { return prefixes_[position % Size]; }
 
-  void ReadUpTo(std::uint32_t length, const std::uint8_t* bytes) {
-    Value prefix = PrefixUpTo(until_);
-    for (; until_ - begin_ < length; ++until_) {
-      prefix = Checksum::With(prefix, bytes[until_ - begin_]);
-      PrefixUpTo(until_ + 1) = prefix;
+  Value OfOverlapping(std::uint64_t begin, std::uint64_t end, const std::uint8_t* bytes) {
+    if (begin >= prefixesUntil_) {  // what lies in front of this frame concerns no later one
+      prefixesUntil_ = begin;
+      PrefixUpTo(begin) = Value{};
     }
+    if (end > prefixesUntil_) ReadUpTo(end, bytes + (prefixesUntil_ - begin));
+    return Checksum::Between(PrefixUpTo(begin), PrefixUpTo(end), end - begin);
   }
 
-  std::array<Value, Size> prefixes_;  // by ring index, while hasPrefixes_
-  bool hasPrefixes_ = false;
-  std::uint32_t begin_ = 0;       // of the last frame's bytes
-  std::uint32_t until_ = 0;       // the end of what was looked at from there
-  std::uint32_t generation_ = 0;  // of the ring, for which these hold
+  void ReadUpTo(std::uint64_t end, const std::uint8_t* bytes) {
+    Value prefix = PrefixUpTo(prefixesUntil_);
+    while (prefixesUntil_ != end) {
+      prefix = Checksum::With(prefix, *bytes++);
+      PrefixUpTo(++prefixesUntil_) = prefix;
+    }
+    readUntil_ = std::max(readUntil_, end);
+  }
+
+  std::array<Value, Size> prefixes_;  // by position in the stream
+  std::uint64_t readUntil_ = 0;       // the end of all bytes that were read
+  std::uint64_t prefixesUntil_ = 0;   // the last position whose prefix is kept
 };
 
 }  // namespace navframe

@@ -24,7 +24,7 @@ FramerResult FrameRtcm3(Stream& stream, OverlappingChecksum<Crc24q>& crc, RtcmDe
 
   const std::uint8_t* const bytes = ring.View(length);
   const std::uint64_t stored = UnsignedBits(bytes, protectedLength * 8, ChecksumLength * 8);
-  if (crc.Of(ring, 0, {bytes, protectedLength}) != stored) return SkipOneByte(stream);
+  if (crc.Of(ring.Position(), {bytes, protectedLength}) != stored) return SkipOneByte(stream);
   decoder.Decode({bytes, length});
   AcceptFrame(stream, length);
   return FramerResult::Done;

@@ -19,8 +19,8 @@ FramerResult FrameUbx(Stream& stream, OverlappingChecksum<Fletcher>& checksum,
 
   const std::uint8_t* const frame = ring.View(length);
   const FletcherSum stored{frame[checksumOffset], frame[checksumOffset + 1]};
-  if (checksum.Of(ring, ClassOffset, {frame + ClassOffset, checksumOffset - ClassOffset}) !=
-      stored) {
+  if (checksum.Of(ring.Position() + ClassOffset,
+                  {frame + ClassOffset, checksumOffset - ClassOffset}) != stored) {
     decoder.ReportCheckError();
     return SkipOneByte(stream);
   }

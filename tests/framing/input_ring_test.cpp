@@ -11,25 +11,30 @@ void Append(InputRing& ring, const Bytes& bytes) {
   ring.Append(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
 }
 
+// At every size up to that of the longest view; 64 bytes more may be loaded behind it.
 TEST(InputRing, BytesStayInOrderAcrossTheEndOfTheBuffer) {
   Stream stream;
   InputRing& ring = stream.ring;
-  const Bytes bytes = NoiseBytes(300, 1);
-  for (const std::uint32_t inFront : {1U, 63U, 150U, 299U, 300U}) {
-    PlaceHead(stream, InputRing::Capacity - 1 - inFront);
-    Append(ring, bytes);
-    ring.Advance(1);
-    ASSERT_EQ(ring.Available(), 300U);
-    EXPECT_EQ(Bytes(ring.View(300), ring.View(300) + 300), bytes) << inFront;
-    Bytes single, pieces;
-    for (std::uint32_t i = 0; i < 300; ++i) single.push_back(ring[i]);
-    while (pieces.size() < 300) {
-      const auto piece = ring.Piece(static_cast<std::uint32_t>(pieces.size()));
-      ASSERT_FALSE(piece.empty());
-      pieces.insert(pieces.end(), piece.begin(), piece.end());
+  for (const std::uint32_t size : {300U, 32768U}) {
+    const Bytes bytes = NoiseBytes(size, size);
+    for (const std::uint32_t inFront : {1U, 63U, 150U, size - 1, size}) {
+      PlaceHead(stream, InputRing::Capacity - 1 - inFront);
+      Append(ring, bytes);
+      ring.Advance(1);
+      ASSERT_EQ(ring.Available(), size);
+      const std::uint8_t* const view = ring.View(size);
+      EXPECT_EQ(Bytes(view, view + size), bytes) << inFront;
+      [[maybe_unused]] const volatile std::uint8_t lastLoaded = view[size + 63];
+      Bytes single, pieces;
+      for (std::uint32_t i = 0; i < size; ++i) single.push_back(ring[i]);
+      while (pieces.size() < size) {
+        const auto piece = ring.Piece(static_cast<std::uint32_t>(pieces.size()));
+        ASSERT_FALSE(piece.empty());
+        pieces.insert(pieces.end(), piece.begin(), piece.end());
+      }
+      EXPECT_EQ(single, bytes);
+      EXPECT_EQ(pieces, bytes);
     }
-    EXPECT_EQ(single, bytes);
-    EXPECT_EQ(pieces, bytes);
   }
 }
 
@@ -45,12 +50,31 @@ TEST(InputRing, ChunkTooLargeIsDroppedWholeAndExactFillLosesTheContent) {
   EXPECT_EQ(after(Bytes(Capacity - 11)), Capacity - 1);
   EXPECT_EQ(after(Bytes(2)), Capacity - 1);
   EXPECT_EQ(ring[9], 9);
+  EXPECT_EQ(ring.Position(), 0U);
   EXPECT_EQ(after(Bytes(1)), 0U);
   EXPECT_EQ(ring.Free(), Capacity);
   EXPECT_EQ(after(Bytes(5, 40)), 5U);
   EXPECT_EQ(ring[0], 40);
+  EXPECT_EQ(ring.Position(), Capacity);
   ring.Advance(6);  // at or past the end empties
+  EXPECT_EQ(ring.Position(), Capacity + 5);
   EXPECT_EQ(after(Bytes(Capacity)), 0U);
+}
+
+// What is remembered by its position is never taken for other bytes.
+TEST(InputRing, PositionIsTheNumberOfBytesInFront) {
+  InputRing ring;
+  std::uint64_t inFront = 0;
+  for (const std::uint32_t step : {1U, 5U, 9U, 10U, 11U, 1U}) {
+    Append(ring, Bytes(10));
+    const std::uint32_t available = ring.Available();
+    EXPECT_EQ(ring.Position(), inFront);
+    ring.Advance(step);
+    inFront += std::min(step, available);
+  }
+  EXPECT_EQ(ring.Position(), inFront);
+  ring.Clear();
+  EXPECT_EQ(ring.Position(), 60U);
 }
 
 }  // namespace
