@@ -99,15 +99,15 @@ TEST(PayloadBlocks, NoneIsSmallerThanWanted) {
 
 TEST(PayloadBlocksDeathTest, SecondFreeOfWhatWaitsEndsTheProcess) {
   const auto blocks = std::make_unique<PayloadBlocks>();
-  Blocks made = Allocate(*blocks, 2528, 100);
+  Blocks made = Allocate(*blocks, 2528, 8);
   // In any order, and whatever the content is, of which a record may keep what lay there.
   for (int round = 0; round < 3; ++round) {
     Free(*blocks, made);
     std::ranges::reverse(made);
     for (void* const block : made) EXPECT_DEATH(blocks->Free(block), "payload freed twice");
-    Blocks others = Allocate(*blocks, 2528, 40);
+    Blocks others = Allocate(*blocks, 2528, 3);
     Free(*blocks, others);
-    made = Allocate(*blocks, 2528, 100);
+    made = Allocate(*blocks, 2528, 8);
   }
   Free(*blocks, made);
 }
