@@ -147,7 +147,8 @@ enum MsgId {
 extern "C" {
 #endif
 
-/* Does nothing: all state is built when the library is loaded. Kept so that hosts can call it. */
+/* Does nothing: all state is built when the library is loaded, or by a static constructor of the
+ * host that calls sooner. Kept so that hosts can call it. */
 NAVFRAME_API void GNSSInit(void);
 
 /* Chooses the protocols to look for: ProtocolMask bits, all set at load. Holds from the next scan
@@ -189,8 +190,9 @@ NAVFRAME_API uint32_t GNSSGetMsg(GnssMessage* out, uint32_t wantedId);
 NAVFRAME_API uint32_t GNSSGetMsgs(uint32_t* ids);
 
 /* Frees the payload of a popped record and sets rec->data to NULL; rec->id stays. Does nothing
- * when rec->data is NULL. Some ASCII log records share a payload that is the library's own: of
- * those only the pointer is cleared. */
+ * when rec->data is NULL. Copies of a record share its payload: to free it through a second one is
+ * a fault of the host, and ends the process where it is noticed. Some ASCII log records share a
+ * payload that is the library's own: of those only the pointer is cleared. */
 NAVFRAME_API void GNSSFreeMem(GnssMessage* rec);
 
 /* Renders a record as comma-separated text into `out`, without a bound: 16 KiB are enough for every

@@ -60,6 +60,9 @@ constexpr auto Framers = [] {
 
 }  // namespace
 
+Decoder::Decoder() = default;
+Decoder::~Decoder() = default;
+
 void Decoder::SetMsgTypes(std::uint32_t mask) {
   scanConfiguration_.msgTypeMask = mask;
   syncBytes_ = SyncBytes(scanConfiguration_);

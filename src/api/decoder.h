@@ -24,6 +24,11 @@ namespace navframe {
 // make their own.
 class Decoder {
  public:
+  Decoder();
+  Decoder(const Decoder&) = delete;
+  Decoder& operator=(const Decoder&) = delete;
+  ~Decoder();
+
   void SetMsgTypes(std::uint32_t mask);
   void SetBoardType(std::uint32_t type);
 

@@ -1,5 +1,6 @@
 #include "output/payload_blocks.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <new>
 
@@ -22,6 +23,12 @@ std::size_t UsableSize([[maybe_unused]] void* block) {
 #else
   return 0;
 #endif
+}
+
+// Two records would share the block from here on. The host's fault: it freed a copy of a record.
+[[noreturn]] void EndOverBlockFreedTwice() {
+  std::fputs("GNSSFreeMem: payload freed twice\n", stderr);
+  std::abort();
 }
 
 }  // namespace
@@ -54,11 +61,13 @@ void PayloadBlocks::Free(void* block) {
 }
 
 void PayloadBlocks::KeepFreed(void* block, std::size_t units) {
+  if (waiting_.Has(block)) EndOverBlockFreedTwice();
   while (freed_.Bytes() >= MostFreedBytes) {
     if (freed_.BytesOf(units) == freed_.Bytes()) return std::free(block);
-    std::free(freed_.TakeOther(units));
+    std::free(NoLongerWaiting(freed_.TakeOther(units)));
   }
   freed_.Put(block, units);
+  waiting_.Insert(block);
 }
 
 }  // namespace navframe

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "output/block_lists.h"
+#include "output/block_set.h"
 
 namespace navframe {
 
@@ -31,12 +32,13 @@ class PayloadBlocks {
   void* Allocate(std::uint32_t size) {
     const std::size_t units = BlockLists::Units(size);
     if (abandoned_.Has(units)) return abandoned_.Take(units);
-    return freed_.Has(units) ? freed_.Take(units) : AllocateNew(units);
+    return freed_.Has(units) ? NoLongerWaiting(freed_.Take(units)) : AllocateNew(units);
   }
 
   // A block of Allocate(size) that will not be used, nor freed.
   void Abandon(void* block, std::uint32_t size);
 
+  // Ends the process when the block is one that was freed before and waits, as allocators do.
   void Free(void* block);
 
   // Names a payload that is no block. It must stay where it is as long as records with it may
@@ -53,10 +55,16 @@ class PayloadBlocks {
     return std::find(fixed_.begin(), fixed_.end(), payload) != fixed_.end();
   }
   void KeepFreed(void* block, std::size_t units);
+  // A block that was taken from freed_.
+  void* NoLongerWaiting(void* block) {
+    waiting_.Remove(block);
+    return block;
+  }
   static void* AllocateNew(std::size_t units);
 
   BlockLists abandoned_;
   BlockLists freed_;
+  BlockSet<MostFreedBytes / SmallestFreedKept> waiting_;  // what freed_ holds
   std::vector<const void*> fixed_;
 };
 

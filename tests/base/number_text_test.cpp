@@ -117,7 +117,7 @@ TEST(NumberText, ChosenTexts) {
       "1.17549429e-38|3.4028234e38|3.4028235677973366e38|3.4028236e38|1e400|1e-400|0e-400|0e99999|"
       "0x1p-1074|0x1p-1075|0x1.8p-1074|0x1.fffffffffffffp-1023|0x0.8p-126|0x1p-149|0x1.8p-149|"
       "0x1p1024|0x1p128|inf|-INF|+Infinity|infinit|nan|-nan|NAN(12)|nan(|in|1,5|9007199254740993|"
-      "16777217|0.000000059604644775390625|" +
+      "16777217|0.000000059604644775390625|0.00000002157|" +
       std::string(200, '9') + "|0." + std::string(240, '0') + "1";
   std::istringstream list(texts);
   for (std::string text; std::getline(list, text, '|');) ExpectLikeStandard(text);
@@ -134,6 +134,15 @@ TEST(NumberText, ExactDecimalsBelowTheRangeOfFloat) {
       std::snprintf(text.data(), text.size(), "%.*e", decimals, value);
       ExpectLikeStandard(text.data());
       *std::strchr(text.data() + 20, 'e') = '1';  // far larger
+      ExpectLikeStandard(text.data());
+    }
+    // Exact with zeros in front and behind, and but for the last digit.
+    for (const char* format : {"%.170f", "%.111e"}) {
+      std::array<char, 256> text;
+      std::snprintf(text.data(), text.size(), format, value);
+      ExpectLikeStandard(text.data());
+      const std::string_view digits(text.data(), std::strcspn(text.data(), "e"));
+      text[digits.size() - 1] = '6';
       ExpectLikeStandard(text.data());
     }
   }

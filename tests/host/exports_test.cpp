@@ -1,6 +1,7 @@
 // What each export hands on, as hosts meet it.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
 #include <string>
 
@@ -60,6 +61,31 @@ TEST(Exports, Configuration) {
   EXPECT_EQ(Push(Vtg), 1U);
   Drain();
   DecodedIds();
+}
+
+TEST(Exports, BoardType7TakesDollarLinesAndTheNextFourBytes) {
+  for (const std::uint32_t mask : {0xFFFFFFFFU, 0U}) {  // with and without NMEA
+    GNSSSetMsgTypes(mask);
+    GNSSSetBoardType(7);
+    EXPECT_EQ(Push(Gll + Gll.substr(0, 4)), 0U);
+    GNSSSetBoardType(0);
+    GNSSSetMsgTypes(0xFFFFFFFF);
+    EXPECT_EQ(Push(Gll.substr(4)), 0U) << "its beginning is gone";
+    EXPECT_EQ(DecodedIds(), Ids{});
+    EXPECT_EQ(Push(Gll), 1U);
+    EXPECT_EQ(DecodedIds(), Ids{MsgIdGll});
+    Drain();
+  }
+}
+
+// The allocator notices it of small payloads and under the sanitizers.
+TEST(ExportsDeathTest, PayloadFreedThroughTwoCopiesOfItsRecord) {
+  for (const std::size_t size : {500, 2000, 20000}) {
+    GnssMessage record = {MsgIdGga, SourceStream, std::calloc(1, size)};
+    GnssMessage copy = record;
+    EXPECT_DEATH(GNSSFreeMem(&copy); GNSSFreeMem(&record), "freed twice|double free|double-free");
+    GNSSFreeMem(&copy);
+  }
 }
 
 }  // namespace

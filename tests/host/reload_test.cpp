@@ -2,6 +2,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <vector>
@@ -78,6 +79,28 @@ TEST(Reload, IsAFreshStart) {
     EXPECT_FALSE(Decode(library, stream) == first) << "what is disturbed shows";
   }
   EXPECT_EQ(dlopen(NAVFRAME_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr);
+}
+
+// What was registered before the library was loaded comes behind all that the library registers.
+const Library* leftLoaded = nullptr;
+void GiveBackAtExit() {
+  const auto free = leftLoaded->Find<decltype(GNSSFreeMem)>("GNSSFreeMem");
+  const auto get = leftLoaded->Find<decltype(GNSSGetMsg)>("GNSSGetMsg");
+  std::size_t count = 0;
+  for (GnssMessage record; get(&record, 0) == 0; ++count) free(&record);
+  if (count < 100) std::_Exit(EXIT_FAILURE);
+}
+
+TEST(ReloadDeathTest, HandlersAtExitMayGiveRecordsBack) {
+  const sample::Bytes stream = sample::MixedStream();
+  const auto host = [&] {
+    std::atexit(GiveBackAtExit);
+    leftLoaded = new Library;
+    leftLoaded->Find<decltype(GNSSPutData)>("GNSSPutData")(
+        stream.data(), static_cast<std::uint32_t>(stream.size()));
+    std::exit(EXIT_SUCCESS);
+  };
+  EXPECT_EXIT(host(), testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 }  // namespace

@@ -3,9 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 #include <set>
-
-#include "support/streams.h"
 
 namespace navframe::test {
 namespace {
