@@ -32,8 +32,8 @@ std::string Shown(const UTCTIME& utc) {
   return text.str();
 }
 std::string Leap(const TimeManager& time) {
-  return std::to_string(time.leapPending) + " " + std::to_string(time.leapSeconds) + " " +
-         std::to_string(time.leapMilliseconds);
+  return (time.leapPending != 0 ? "pending " : "") + std::to_string(time.leapSeconds) + " s " +
+         std::to_string(time.leapMilliseconds) + " ms";
 }
 
 std::string Converted(TimeManager& time, UTCTIME utc) {
@@ -90,10 +90,10 @@ TEST(TimeManager, ConversionEdges) {
 TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   TimeManager time;
   for (int i = 0; i < 2; ++i) Converted(time, Utc(2016, 12, 31, 23, 59, 60));
-  EXPECT_EQ(Leap(time), "1 18 18000");
+  EXPECT_EQ(Leap(time), "pending 18 s 18000 ms");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1)), "1930:19000");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1, 0, 0, 1)), "1930:20000");
-  EXPECT_EQ(Leap(time), "0 19 19000");
+  EXPECT_EQ(Leap(time), "19 s 19000 ms");
 
   TimeManager byTime;
   UTCTIME leap = Utc(65535, 255, 255, 23, 59, 60), midnight = Utc(65535, 255, 255);
@@ -102,13 +102,13 @@ TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   EXPECT_EQ(byTime.timeOfDayMs, NoTow);
   byTime.gpsTime.tow = 2 * Day + 18'000 - 1000;  // 23:59:59 UTC
   byTime.updateTime(leap, "235960.000");
-  EXPECT_EQ(Leap(byTime), "1 18 18000");
+  EXPECT_EQ(Leap(byTime), "pending 18 s 18000 ms");
   EXPECT_EQ(byTime.timeOfDayMs, 0U);
   byTime.updateTime(midnight, "000000.000");
-  EXPECT_EQ(Leap(byTime), "0 19 19000");
+  EXPECT_EQ(Leap(byTime), "19 s 19000 ms");
   EXPECT_EQ(byTime.gpsTime.tow, 2 * Day + 19'000);
   byTime.setLeap(-3);
-  EXPECT_EQ(Leap(byTime), "0 -3 -3000");
+  EXPECT_EQ(Leap(byTime), "-3 s -3000 ms");
 }
 
 TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
@@ -142,10 +142,12 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
     byHms.updateHMS(hms, "b");
     EXPECT_EQ(byTime.getTOW(), c.byTime);
     EXPECT_EQ(byHms.getTOW(), c.byHms);
-    EXPECT_EQ(byTime.timeText + byHms.timeText, "ab");
+    EXPECT_EQ(byTime.timeText, "a");
+    EXPECT_EQ(byHms.timeText, "b");
     utc.year = 65535;
     utc.month = utc.day = 255;
-    EXPECT_EQ(Shown(byTime.utcTime) + Shown(byHms.utcTime), Shown(utc) + Shown(utc));
+    EXPECT_EQ(Shown(byTime.utcTime), Shown(utc));
+    EXPECT_EQ(Shown(byHms.utcTime), Shown(utc));
   }
 }
 
@@ -168,9 +170,20 @@ TEST(TimeManager, DateUpdatesConvertByWhatIsKnown) {
 
 TEST(TimeManager, TimeOfDayText) {
   const std::tuple<std::uint32_t, int, const char*> cases[] = {
-      {18'000, 18, "000000.000"},       {0, 18, "235942.000"},      {17'500, 18, "235959.500"},
-      {604'800'000, 18, "235942.000"},  {604'800'001, 18, ""},      {302'418'007, 18, "120000.007"},
-      {604'800'000, -20, "000020.000"}, {Day - 1, 0, "235959.999"}, {NoTow - 1, 18, ""}};
+      {18'000, 18, "000000.000"},
+      {0, 18, "235942.000"},
+      {17'500, 18, "235959.500"},
+      {604'800'000, 18, "235942.000"},
+      {604'800'001, 18, ""},
+      {302'418'007, 18, "120000.007"},
+      {604'800'000, -20, "000020.000"},
+      {Day - 1, 0, "235959.999"},
+      {NoTow - 1, 18, ""},
+      // A leap second count of more than a day: longer than a day, and pieces with signs.
+      {0, -100'000, "034640.000"},
+      {500, 90'062, "-1-1-1.-500"},
+      {0, 86'400 + 50 * 3600 + 3599, "-2-59-59.000"},
+      {999, 86'401, "000000.-01"}};
   TimeManager time;
   for (auto [tow, leap, text] : cases) {
     time.setLeap(leap);
