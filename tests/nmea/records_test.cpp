@@ -314,7 +314,7 @@ TEST(NmeaRecords, Modes) {
 
 // Up to four digits are read by one load, with what follows the field.
 TEST(NmeaRecords, ShortIntegersAreThoseOfTheGeneralConversion) {
-  constexpr std::string_view Alphabet = "x0189/:;+- \xB0";  // neighbours of the digits, too
+  constexpr std::string_view Alphabet = "x0189/:;+- F\xB0";  // neighbours of the digits, too
   const auto outcome = [](auto convert, std::string_view field) -> std::optional<int> {
     try {
       return convert(field);
@@ -322,9 +322,9 @@ TEST(NmeaRecords, ShortIntegersAreThoseOfTheGeneralConversion) {
       return std::nullopt;
     }
   };
-  for (std::size_t n = 1; n < 12 * 12 * 12 * 12; ++n) {
+  for (std::size_t n = 1; n < 13 * 13 * 13 * 13; ++n) {
     std::string field;
-    for (std::size_t rest = n; rest != 0; rest /= 12) field += Alphabet[rest % 12];
+    for (std::size_t rest = n; rest != 0; rest /= 13) field += Alphabet[rest % 13];
     const std::string sent = field + ",7,";
     EXPECT_EQ(outcome(nmea::FieldToInt, {sent.data(), field.size()}), outcome(ToInt, field))
         << field;

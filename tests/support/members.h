@@ -58,12 +58,14 @@ void Put(MemberLines& lines, const std::string& name, const T (&values)[Count]) 
   }
 }
 
+// The time of day is one line, and so is week with time of week; the flag has one when it does not
+// say whether there is a time, reserved bytes have one when they are not 0.
 inline void Put(MemberLines& lines, const std::string& name, const GPSTIME& gps) {
-  if (gps.tow == 0xFFFFFFFF && gps.week == 65535) return;
-  lines.Add(name, std::to_string(gps.week) + ":" + std::to_string(gps.tow));
+  if (gps.tow != 0xFFFFFFFF || gps.week != 65535) {
+    lines.Add(name, std::to_string(gps.week) + ":" + std::to_string(gps.tow));
+  }
+  if (gps.reserved != 0) lines.Add(name + ".reserved", std::to_string(gps.reserved));
 }
-
-// The time of day is one line; the flag has one when it does not say whether that is there.
 inline void Put(MemberLines& lines, const std::string& name, const UTCTIME& utc) {
   Put(lines, name + ".year", utc.year);
   Put(lines, name + ".month", utc.month);
@@ -73,6 +75,8 @@ inline void Put(MemberLines& lines, const std::string& name, const UTCTIME& utc)
   const bool timeKnown = time != "255:255:255.65535";
   if (timeKnown) lines.Add(name + ".time", time);
   if (utc.flag != timeKnown) lines.Add(name + ".flag", std::to_string(utc.flag));
+  const int reserved = utc.reserved0 + 256 * utc.reserved1;
+  if (reserved != 0) lines.Add(name + ".reserved", std::to_string(reserved));
 }
 
 // One value after the other under the names of a list, which are parted by ", ".

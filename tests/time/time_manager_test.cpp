@@ -9,6 +9,8 @@
 #include <sstream>
 #include <utility>
 
+#include "support/members.h"
+
 namespace navframe::test {
 namespace {
 
@@ -82,7 +84,8 @@ TEST(TimeManager, ConversionEdges) {
   Converted(time, Utc(65535, 7, 31, 12, 0, 60));
   EXPECT_EQ(time.leapPending, 0U) << "an unknown year is not looked at";
   // A leap count of a day or more, however long, counts as one day.
-  EXPECT_EQ(Week(Utc(2024, 8, 3), 86'399), 2325);
+  EXPECT_EQ(Week(Utc(2024, 8, 3), 200'000), 2325);
+  EXPECT_EQ(Week(Utc(2024, 8, 4), 86'399), 2325);
   EXPECT_EQ(Week(Utc(2024, 8, 4), 86'400), 2326);
   EXPECT_EQ(Week(Utc(2024, 8, 4), 0), 2325);
 }
@@ -129,6 +132,8 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
       {0, 18, Utc(0, 0, 0, 24, 0, 0, 0), 18'000, 18'000},
       {Day, -5, Utc(0, 0, 0, 0, 0, 2), Day - 3000, Day - 3000},
       {NoTow, 18, Utc(0, 0, 0, 12), NoTow, NoTow},
+      // Behind the end of a week, as a host may set it.
+      {2'178'185'296, 18, Utc(0, 0, 0, 12), 25 * Day + 43'218'000, 25 * Day + 43'218'000},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(&c - cases);
@@ -142,6 +147,11 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
     byHms.updateHMS(hms, "b");
     EXPECT_EQ(byTime.getTOW(), c.byTime);
     EXPECT_EQ(byHms.getTOW(), c.byHms);
+    // The time of day is noted, for updateHMS with the leap seconds.
+    const std::uint32_t dayStart = c.tow == NoTow ? 0 : c.tow / Day * Day;
+    const std::uint32_t leapMs = c.tow == NoTow ? 0 : static_cast<std::uint32_t>(c.leap * 1000);
+    EXPECT_EQ(byTime.timeOfDayMs, c.byTime - dayStart - leapMs);
+    EXPECT_EQ(byHms.timeOfDayMs, c.byHms - dayStart);
     EXPECT_EQ(byTime.timeText, "a");
     EXPECT_EQ(byHms.timeText, "b");
     utc.year = 65535;
@@ -182,7 +192,7 @@ TEST(TimeManager, TimeOfDayText) {
       // A leap second count of more than a day: longer than a day, and pieces with signs.
       {0, -100'000, "034640.000"},
       {500, 90'062, "-1-1-1.-500"},
-      {0, 86'400 + 50 * 3600 + 3599, "-2-59-59.000"},
+      {1, 86'400 + 51 * 3600, "-2-59-59.-999"},
       {999, 86'401, "000000.-01"}};
   TimeManager time;
   for (auto [tow, leap, text] : cases) {
@@ -221,6 +231,10 @@ TEST(TimeManager, GpsTimeToUtcFollowsTheLocalZone) {
 
 TEST(TimeManager, SettersClearingAndTexts) {
   TimeManager time;
+  for (const UTCTIME& utc : {time.utcTime, time.savedUtcTime}) EXPECT_EQ(MembersOf(utc), "");
+  for (const GPSTIME& gps : {time.gpsTime, time.savedGpsTime}) EXPECT_EQ(MembersOf(gps), "");
+  EXPECT_EQ(Leap(time), "18 s 18000 ms");
+  EXPECT_EQ(time.spare, 0xFFFFFFFF);
   EXPECT_EQ(GpsText(time), ",,");
   GPSTIME gps = {345'600'000, 2325, 0};
   time.setGPST(gps);
