@@ -34,8 +34,8 @@ std::string Shown(const UTCTIME& utc) {
   return text.str();
 }
 std::string Leap(const TimeManager& time) {
-  return (time.leapPending != 0 ? "pending " : "") + std::to_string(time.leapSeconds) + " s " +
-         std::to_string(time.leapMilliseconds) + " ms";
+  return std::to_string(time.leapPending) + " pending, " + std::to_string(time.leapSeconds) +
+         " s, " + std::to_string(time.leapMilliseconds) + " ms";
 }
 
 std::string Converted(TimeManager& time, UTCTIME utc) {
@@ -93,10 +93,10 @@ TEST(TimeManager, ConversionEdges) {
 TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   TimeManager time;
   for (int i = 0; i < 2; ++i) Converted(time, Utc(2016, 12, 31, 23, 59, 60));
-  EXPECT_EQ(Leap(time), "pending 18 s 18000 ms");
+  EXPECT_EQ(Leap(time), "1 pending, 18 s, 18000 ms");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1)), "1930:19000");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1, 0, 0, 1)), "1930:20000");
-  EXPECT_EQ(Leap(time), "19 s 19000 ms");
+  EXPECT_EQ(Leap(time), "0 pending, 19 s, 19000 ms");
 
   TimeManager byTime;
   UTCTIME leap = Utc(65535, 255, 255, 23, 59, 60), midnight = Utc(65535, 255, 255);
@@ -105,13 +105,13 @@ TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   EXPECT_EQ(byTime.timeOfDayMs, NoTow);
   byTime.gpsTime.tow = 2 * Day + 18'000 - 1000;  // 23:59:59 UTC
   byTime.updateTime(leap, "235960.000");
-  EXPECT_EQ(Leap(byTime), "pending 18 s 18000 ms");
+  EXPECT_EQ(Leap(byTime), "1 pending, 18 s, 18000 ms");
   EXPECT_EQ(byTime.timeOfDayMs, 0U);
   byTime.updateTime(midnight, "000000.000");
-  EXPECT_EQ(Leap(byTime), "19 s 19000 ms");
+  EXPECT_EQ(Leap(byTime), "0 pending, 19 s, 19000 ms");
   EXPECT_EQ(byTime.gpsTime.tow, 2 * Day + 19'000);
   byTime.setLeap(-3);
-  EXPECT_EQ(Leap(byTime), "-3 s -3000 ms");
+  EXPECT_EQ(Leap(byTime), "0 pending, -3 s, -3000 ms");
 }
 
 TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
@@ -127,6 +127,8 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
       {3 * Day + 5, 18, Utc(0, 0, 0, 12, 0, 1, 250), 3 * Day + 43'219'250, 3 * Day + 43'219'250},
       // The day is that of the old time of week, also when the leap seconds reach past midnight.
       {Day, 18, Utc(0, 0, 0, 23, 59, 50), Day + 86'408'000, Day + 8000},
+      // Nothing moves when it is that time already, GPS time being of the next day.
+      {2 * Day + 8000, 18, Utc(0, 0, 0, 23, 59, 50), 2 * Day + 8000, 2 * Day + 8000},
       // 24:00:00.000 of GPS time stays a day long in updateHMS.
       {Day + 1, 18, Utc(0, 0, 0, 23, 59, 42), 2 * Day, 2 * Day},
       {0, 18, Utc(0, 0, 0, 24, 0, 0, 0), 18'000, 18'000},
@@ -148,10 +150,11 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
     EXPECT_EQ(byTime.getTOW(), c.byTime);
     EXPECT_EQ(byHms.getTOW(), c.byHms);
     // The time of day is noted, for updateHMS with the leap seconds.
-    const std::uint32_t dayStart = c.tow == NoTow ? 0 : c.tow / Day * Day;
-    const std::uint32_t leapMs = c.tow == NoTow ? 0 : static_cast<std::uint32_t>(c.leap * 1000);
-    EXPECT_EQ(byTime.timeOfDayMs, c.byTime - dayStart - leapMs);
-    EXPECT_EQ(byHms.timeOfDayMs, c.byHms - dayStart);
+    const bool known = c.tow != NoTow;
+    const std::uint32_t dayStart = c.tow / Day * Day;
+    const auto leapMs = static_cast<std::uint32_t>(c.leap * 1000);
+    EXPECT_EQ(byTime.timeOfDayMs, known ? (c.byTime - dayStart + Day - leapMs) % Day : NoTow);
+    EXPECT_EQ(byHms.timeOfDayMs, known ? c.byHms - dayStart : NoTow);
     EXPECT_EQ(byTime.timeText, "a");
     EXPECT_EQ(byHms.timeText, "b");
     utc.year = 65535;
@@ -193,6 +196,9 @@ TEST(TimeManager, TimeOfDayText) {
       {0, -100'000, "034640.000"},
       {500, 90'062, "-1-1-1.-500"},
       {1, 86'400 + 51 * 3600, "-2-59-59.-999"},
+      {0, 86'400 + 50 * 3600, "-20000.000"},
+      {0, 86'400 + 59 * 60, "00-5900.000"},
+      {0, 86'459, "0000-59.000"},
       {999, 86'401, "000000.-01"}};
   TimeManager time;
   for (auto [tow, leap, text] : cases) {
@@ -233,7 +239,7 @@ TEST(TimeManager, SettersClearingAndTexts) {
   TimeManager time;
   for (const UTCTIME& utc : {time.utcTime, time.savedUtcTime}) EXPECT_EQ(MembersOf(utc), "");
   for (const GPSTIME& gps : {time.gpsTime, time.savedGpsTime}) EXPECT_EQ(MembersOf(gps), "");
-  EXPECT_EQ(Leap(time), "18 s 18000 ms");
+  EXPECT_EQ(Leap(time), "0 pending, 18 s, 18000 ms");
   EXPECT_EQ(time.spare, 0xFFFFFFFF);
   EXPECT_EQ(GpsText(time), ",,");
   GPSTIME gps = {345'600'000, 2325, 0};
