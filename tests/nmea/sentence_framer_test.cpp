@@ -106,23 +106,16 @@ const std::string Vtg = Sentence("GPVTG,,,,,,,,,N");
 
 // Of all pairs of bytes behind the "*" one is right.
 TEST(SentenceFramer, OneChecksumIsRight) {
-  for (char last = 'A'; last <= 'Z'; ++last) {
-    // With letters that bring the high bits of a checksum into play.
-    for (const char* const text : {"$GPVTG,", "$GPVTG,\xB5"}) {
-      const std::string right = Sealed(std::string(text) + last);
-      const std::size_t star = right.size() - 3;
-      Bytes bytes = ToBytes(right + std::string(64, ' '));
-      nmea::SentenceSweep sweep;
-      nmea::Sweep(bytes.data(), static_cast<std::uint32_t>(right.size()), sweep);
-      std::string accepted = "*";
-      for (unsigned pair = 0; pair < 0x10000; ++pair) {
-        bytes[star + 1] = static_cast<std::uint8_t>(pair >> 8);
-        bytes[star + 2] = static_cast<std::uint8_t>(pair);
-        if (!nmea::ChecksumMatches(bytes.data(), sweep)) continue;
-        accepted.append(bytes.begin() + static_cast<std::ptrdiff_t>(star) + 1,
-                        bytes.begin() + static_cast<std::ptrdiff_t>(star) + 3);
-      }
-      EXPECT_EQ(accepted, right.substr(star)) << right;
+  for (unsigned last = 1; last < 256; last += 9) {
+    const std::string right = Sealed(std::string("$GPVTG,") + static_cast<char>(last));
+    std::string text = right + std::string(64, ' ');
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    nmea::SentenceSweep sweep;
+    nmea::Sweep(bytes, static_cast<std::uint32_t>(right.size()), sweep);
+    for (unsigned pair = 0; pair < 0x10000; ++pair) {
+      text[right.size() - 2] = static_cast<char>(pair >> 8);
+      text[right.size() - 1] = static_cast<char>(pair);
+      ASSERT_EQ(nmea::ChecksumMatches(bytes, sweep), text.starts_with(right)) << text;
     }
   }
 }

@@ -34,11 +34,9 @@ void Put(MemberLines& lines, const std::string& name, T value) {
 // The shortest digits that tell the number from its neighbours.
 template <std::floating_point T>
 void Put(MemberLines& lines, const std::string& name, T value) {
-  if constexpr (sizeof value == sizeof(std::uint64_t)) {
-    if (std::bit_cast<std::uint64_t>(value) == 0xFFF8000000000000) return;
-  } else {
-    if (std::bit_cast<std::uint32_t>(value) == 0xFFC00000) return;
-  }
+  constexpr bool Wide = sizeof value == sizeof(std::uint64_t);
+  const auto bits = std::bit_cast<std::conditional_t<Wide, std::uint64_t, std::uint32_t>>(value);
+  if (bits == (Wide ? 0xFFF8000000000000 : 0xFFC00000)) return;
   std::array<char, 32> digits;
   lines.Add(name, {digits.data(), std::to_chars(digits.begin(), digits.end(), value).ptr});
 }
