@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include "nmea/field.h"
-#include "support/members.h"
+#include "support/member_lines.h"
 #include "support/streams.h"
 
 namespace navframe::test {

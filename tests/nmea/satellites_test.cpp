@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "navframe/records.h"
-#include "support/members.h"
+#include "support/member_lines.h"
 #include "support/streams.h"
 
 namespace navframe::test {

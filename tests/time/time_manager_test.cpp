@@ -9,7 +9,7 @@
 #include <sstream>
 #include <utility>
 
-#include "support/members.h"
+#include "support/member_lines.h"
 
 namespace navframe::test {
 namespace {
