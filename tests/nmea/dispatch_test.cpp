@@ -92,6 +92,21 @@ TEST(Dispatch, KindsAndTheFilterValuesThatLetThemPass) {
   }
 }
 
+// No framer hands one over, but the decoder has kinds for them.
+TEST(Dispatch, SentencesBehindATagBlock) {
+  for (const Kind& kind : Kinds) {
+    const auto decoder = std::make_unique<Decoder>();
+    const std::string text = Sentence(kind.body) + std::string(200, ' ');
+    nmea::SentenceSweep sweep;
+    nmea::Sweep(reinterpret_cast<const std::uint8_t*>(text.data()), 100, sweep);
+    decoder->nmea.Decode(nmea::Fields(text.data(), sweep), nmea::TagFlag::BehindTagBlock);
+    const auto records = PopAll(*decoder);
+    ASSERT_EQ(Ids(records), IdList{kind.id < 10 ? kind.id + 20 : kind.id});
+    if (kind.id >= 30 && kind.id <= 36) continue;
+    EXPECT_EQ(*static_cast<const std::uint8_t*>(records[0].payload.get()), 1) << kind.id;
+  }
+}
+
 TEST(Dispatch, GsaAndGsvByTheirNumberOfFields) {
   for (std::size_t commas = 1; commas < 30; ++commas) {
     const std::size_t fields = commas + 1;

@@ -5,20 +5,25 @@
 #include <sstream>
 
 #include "navframe/records.h"
+#include "support/member_lines.h"
 #include "support/streams.h"
 
 namespace navframe::test {
+
+NAVFRAME_MEMBERS(SatelliteSignal, signalId, cn0, reserved)
+NAVFRAME_MEMBERS(SatelliteInView, number, systemId, azimuth, elevation, used, signalCount, signals)
+
 namespace {
 
 const std::string End = Sentence("GPTXT,");
 
-// The satellites of a record as "system/number azimuth elevation used[signal:cn0 ...]", one after
-// the other.
+// The satellites of a record as "system/number az.. el.. used..[signal:cn0 ...]", one after the
+// other.
 std::string Listed(const GsvRecord& record) {
   std::ostringstream text;
   for (std::size_t i = 0; i < record.satelliteCount; ++i) {
     const SatelliteInView& s = record.satellites[i];
-    text << +s.systemId << '/' << +s.number << ' ' << s.azimuth << ' ' << s.elevation << ' '
+    text << +s.systemId << '/' << +s.number << " az" << s.azimuth << " el" << s.elevation << " used"
          << +s.used << '[';
     for (std::size_t j = 0; j < s.signalCount; ++j) {
       text << (j == 0 ? "" : " ") << +s.signals[j].signalId << ':' << +s.signals[j].cn0;
@@ -40,34 +45,42 @@ TEST(SatellitesInView, OneEntryPerSatelliteWithItsSignals) {
   EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,03,10,111,40,04,15,270,41,1") +
                      Sentence("GLGSV,1,1,01,03,20,112,42,1") +
                      Sentence("GPGSV,1,1,02,04,,,43.9,03,11,,,8")),
-            "1/3 111 11 0[1:40 8:255] 1/4 270 15 0[1:41 8:43] 2/3 112 20 0[1:42] ");
+            "1/3 az111 el11 used0[1:40 8:255] 1/4 az270 el15 used0[1:41 8:43] 2/3 az112 el20 "
+            "used0[1:42] ");
   const std::string one = Sentence("GPGSV,1,1,01,03,10,111,40,1");
-  EXPECT_EQ(ListedIn(one + one + one + one), "1/3 111 10 0[1:40 1:40 1:40] ")
+  EXPECT_EQ(ListedIn(one + one + one + one), "1/3 az111 el10 used0[1:40 1:40 1:40] ")
       << "a fourth signal has no slot";
 }
 
-TEST(SatellitesInView, SignalIds) {
-  const std::pair<const char*, int> cases[] = {{"7", 7},           {"", 0},   {"x", 0},
-                                               {"99999999999", 0}, {"8x", 8}, {"257", 1}};
-  for (const auto& [field, id] : cases) {
-    EXPECT_EQ(ListedIn(Sentence(std::string("GPGSV,1,1,01,07,10,111,40,") + field)),
-              "1/7 111 10 0[" + std::to_string(id) + ":40] ")
-        << field;
+TEST(SatellitesInView, SignalIdsAndStrengths) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"40,7", "7:40"},   {"40,", "0:40"},    {"40,x", "0:40"}, {"40,99999999999", "0:40"},
+      {"40,8x", "8:40"},  {"40,257", "1:40"}, {"07,1", "1:7"},  {"7,1", "1:7"},
+      {"43.9,1", "1:43"}, {"4x,1", "1:4"},    {" 5,1", "1:5"},  {"4.,1", "1:4"},
+      {"-2,1", "1:254"},  {"299,1", "1:43"},  {".9,1", "1:0"},  {"1e2,1", "1:100"},
+      {",1", "1:255"}};
+  for (const auto& [fields, signal] : cases) {
+    EXPECT_EQ(ListedIn(Sentence(std::string("GPGSV,1,1,01,07,10,111,") + fields)),
+              std::string("1/7 az111 el10 used0[") + signal + "] ")
+        << fields;
   }
   // Without the field the last block of the sentence is left out.
-  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,03,10,111,40,04,15,270,41")), "1/3 111 10 0[0:40] ");
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,03,10,111,40,04,15,270,41")),
+            "1/3 az111 el10 used0[0:40] ");
   EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,01,03,10,111,40")), "");
 }
 
 TEST(SatellitesInView, SatellitesWithoutANumber) {
-  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,,10,111,40,04,15,270,41,1")), "1/4 270 15 0[1:41] ");
+  EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,02,,10,111,40,04,15,270,41,1")),
+            "1/4 az270 el15 used0[1:41] ");
   const std::string unnumbered = Sentence("GLGSV,1,1,02,,10,111,40,70,15,270,41,1");
-  EXPECT_EQ(ListedIn(unnumbered + unnumbered + Sentence("GLGSV,1,1,01,,,,,3")),
-            "2/70 270 15 0[1:41 1:41] 2/255 111 10 0[1:40] 2/255 111 10 0[1:40] "
-            "2/255 65535 65535 0[3:255] ");
+  EXPECT_EQ(
+      ListedIn(unnumbered + unnumbered + Sentence("GLGSV,1,1,01,,,,,3")),
+      "2/70 az270 el15 used0[1:41 1:41] 2/255 az111 el10 used0[1:40] 2/255 az111 el10 used0[1:40] "
+      "2/255 az65535 el65535 used0[3:255] ");
   const std::string negative = Sentence("GPGSV,1,1,02,-1000,1,1,40,-1001,1,1,41,1");
   EXPECT_EQ(ListedIn(negative + negative),
-            "1/24 1 1 0[1:40 1:40] 1/255 1 1 0[1:41] 1/255 1 1 0[1:41] ");
+            "1/24 az1 el1 used0[1:40 1:40] 1/255 az1 el1 used0[1:41] 1/255 az1 el1 used0[1:41] ");
 }
 
 TEST(SatellitesInView, RoomFor96) {
@@ -78,7 +91,7 @@ TEST(SatellitesInView, RoomFor96) {
   for (int number = 1; number <= 96; ++number) stream += gsv(number);
   const std::string full = ListedIn(stream);
   EXPECT_EQ(std::count(full.begin(), full.end(), '/'), 96);
-  EXPECT_EQ(ListedIn(stream + gsv(97)), "1/97 1 1 0[1:1] ") << "the next one clears first";
+  EXPECT_EQ(ListedIn(stream + gsv(97)), "1/97 az1 el1 used0[1:1] ") << "the next one clears first";
   EXPECT_EQ(ListedIn(stream + Sentence("GNGSV,1,1,00,1")), "") << "also one that stores nothing";
   // In one sentence the satellites that do not fit are left out; of numbered and unnumbered ones
   // together the record takes the first 96.
@@ -86,7 +99,12 @@ TEST(SatellitesInView, RoomFor96) {
   EXPECT_EQ(ListedIn(most + Sentence("GPGSV,1,1,02,96,1,1,1,97,1,1,1,1")), full);
   const std::string unnumbered = Sentence("GLGSV,1,1,01,,1,1,1,1");
   EXPECT_EQ(ListedIn(unnumbered + unnumbered + most),
-            full.substr(0, full.find("1/96")) + "2/255 1 1 0[1:1] ");
+            full.substr(0, full.find("1/96")) + "2/255 az1 el1 used0[1:1] ");
+  std::string used;
+  for (int number = 1; number <= 97; ++number) {
+    used += Sentence("GPGSA,A,3," + std::to_string(number) + ",,,,,,,,,,,,1,1,1");
+  }
+  EXPECT_EQ(ListedIn(used + Sentence("GNGSV,1,1,00,1")), "1/97 az65535 el65535 used1[] ");
 }
 
 TEST(SatellitesInView, RecordOfACycle) {
@@ -101,9 +119,13 @@ TEST(SatellitesInView, RecordOfACycle) {
   EXPECT_STREQ(first.timeText, "") << "the clock when its sentences came";
   EXPECT_EQ(first.gpsTime.week, 65535);
   EXPECT_EQ(first.cycleComplete, 1);
-  const auto& slots = first.satellites[0].signals;
-  EXPECT_EQ(std::string(reinterpret_cast<const char*>(&slots[0].reserved), 4), "\xFF\xFF\xFF\xFF");
-  EXPECT_EQ(slots[2].signalId + slots[2].cn0 + slots[2].reserved[3], 3 * 255);
+  EXPECT_EQ(
+      MembersOf(first.satellites[0]),
+      Lines("number=3 systemId=1 azimuth=111 elevation=10 used=0 signalCount=2 "
+            "signals[0].signalId=1 signals[0].cn0=40 signals[1].signalId=1 signals[1].cn0=40"));
+  for (std::size_t i = 1; i < 96; ++i) {
+    EXPECT_EQ(MembersOf(first.satellites[i]), Lines("used=0 signalCount=0")) << i;
+  }
 
   // The next cycle starts anew; every run that ends emits, an empty one and one that ends with a
   // sentence of no known kind too.
@@ -113,24 +135,24 @@ TEST(SatellitesInView, RecordOfACycle) {
   EXPECT_EQ(second[0].As<GsvRecord>().satelliteCount, 0);
   EXPECT_STREQ(second[0].As<GsvRecord>().timeText, "120000.000");
   EXPECT_EQ(second[0].As<GsvRecord>().gpsTime.tow, 302'418'000U);
-  EXPECT_EQ(Listed(second[1].As<GsvRecord>()), "1/3 111 10 0[1:40] ");
+  EXPECT_EQ(Listed(second[1].As<GsvRecord>()), "1/3 az111 el10 used0[1:40] ");
 }
 
 TEST(SatellitesInView, GsaMarksUsedSatellites) {
   EXPECT_EQ(ListedIn(Sentence("GNGSA,A,3,05,06,,,,,,,,,,,1,1,1,1") +
                      Sentence("GPGSV,1,1,02,03,10,111,40,06,15,270,41,1")),
-            "1/5 65535 65535 1[] 1/6 270 15 1[1:41] 1/3 111 10 0[1:40] ");
+            "1/5 az65535 el65535 used1[] 1/6 az270 el15 used1[1:41] 1/3 az111 el10 used0[1:40] ");
   // Satellites are told apart by 1000 times the system, and the number; the first number stays.
   EXPECT_EQ(ListedIn(Sentence("GNGSA,A,3,255,,,,,,,,,,,,1,1,1,2") +
                      Sentence("GNGSA,A,3,1255,,,,,,,,,,,,1,1,1,1") + Sentence("GNGSV,1,1,00,1")),
-            "1/255 65535 65535 1[] ");
+            "1/255 az65535 el65535 used1[] ");
   // The record of the cycle before is out when a GSA comes; what it marks belongs to the next.
   const auto records =
       Decoded(Sentence("GPGSV,1,1,01,03,10,111,40,1") + Sentence("GPGSA,A,3,03,,,,,,,,,,,,1,1,1") +
               Sentence("GPGSV,1,1,01,03,10,111,41,1") + End);
   ASSERT_EQ(Ids(records), (std::vector<std::uint32_t>{4, 3, 4}));
-  EXPECT_EQ(Listed(records[0].As<GsvRecord>()), "1/3 111 10 0[1:40] ");
-  EXPECT_EQ(Listed(records[2].As<GsvRecord>()), "1/3 111 10 1[1:41] ");
+  EXPECT_EQ(Listed(records[0].As<GsvRecord>()), "1/3 az111 el10 used0[1:40] ");
+  EXPECT_EQ(Listed(records[2].As<GsvRecord>()), "1/3 az111 el10 used1[1:41] ");
 }
 
 TEST(Gsa, SystemModeAndDilution) {

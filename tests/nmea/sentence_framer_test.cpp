@@ -104,6 +104,22 @@ class PlainFramer {
 
 const std::string Vtg = Sentence("GPVTG,,,,,,,,,N");
 
+// Of all pairs of bytes behind the "*" one is right.
+TEST(SentenceFramer, OneChecksumIsRight) {
+  for (unsigned last = 1; last < 256; last += 9) {
+    const std::string right = Sealed(std::string("$GPVTG,") + static_cast<char>(last));
+    std::string text = right + std::string(64, ' ');
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    nmea::SentenceSweep sweep;
+    nmea::Sweep(bytes, static_cast<std::uint32_t>(right.size()), sweep);
+    for (unsigned pair = 0; pair < 0x10000; ++pair) {
+      text[right.size() - 2] = static_cast<char>(pair >> 8);
+      text[right.size() - 1] = static_cast<char>(pair);
+      ASSERT_EQ(nmea::ChecksumMatches(bytes, sweep), text.starts_with(right)) << text;
+    }
+  }
+}
+
 // An exact fill empties the ring under a framer that waits: the next byte may be anything.
 TEST(SentenceFramer, HeadIsNotTrustedAfterAnExactFill) {
   std::string forged = Sealed("$GPVTG,\\");  // what takes an "x" for the "$" out of the checksum

@@ -10,7 +10,7 @@ namespace {
 // "time text|week:time of week" of the decoder's clock, as a VTG is stamped.
 std::string Clock(Decoder& decoder) {
   const auto records = Push(decoder, Sentence("GPVTG,"));
-  const auto& vtg = records.back().As<VtgRecord>();
+  const auto& vtg = records.at(records.size() - 1).As<VtgRecord>();
   const GPSTIME& gps = vtg.gpsTime;
   return std::string(vtg.timeText) + "|" + (gps.week == 65535 ? "" : std::to_string(gps.week)) +
          ":" + (gps.tow == 0xFFFFFFFF ? "" : std::to_string(gps.tow));

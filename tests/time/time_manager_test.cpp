@@ -9,6 +9,8 @@
 #include <sstream>
 #include <utility>
 
+#include "support/member_lines.h"
+
 namespace navframe::test {
 namespace {
 
@@ -32,8 +34,8 @@ std::string Shown(const UTCTIME& utc) {
   return text.str();
 }
 std::string Leap(const TimeManager& time) {
-  return std::to_string(time.leapPending) + " " + std::to_string(time.leapSeconds) + " " +
-         std::to_string(time.leapMilliseconds);
+  return std::to_string(time.leapPending) + " pending, " + std::to_string(time.leapSeconds) +
+         " s, " + std::to_string(time.leapMilliseconds) + " ms";
 }
 
 std::string Converted(TimeManager& time, UTCTIME utc) {
@@ -82,7 +84,8 @@ TEST(TimeManager, ConversionEdges) {
   Converted(time, Utc(65535, 7, 31, 12, 0, 60));
   EXPECT_EQ(time.leapPending, 0U) << "an unknown year is not looked at";
   // A leap count of a day or more, however long, counts as one day.
-  EXPECT_EQ(Week(Utc(2024, 8, 3), 86'399), 2325);
+  EXPECT_EQ(Week(Utc(2024, 8, 3), 200'000), 2325);
+  EXPECT_EQ(Week(Utc(2024, 8, 4), 86'399), 2325);
   EXPECT_EQ(Week(Utc(2024, 8, 4), 86'400), 2326);
   EXPECT_EQ(Week(Utc(2024, 8, 4), 0), 2325);
 }
@@ -90,10 +93,10 @@ TEST(TimeManager, ConversionEdges) {
 TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   TimeManager time;
   for (int i = 0; i < 2; ++i) Converted(time, Utc(2016, 12, 31, 23, 59, 60));
-  EXPECT_EQ(Leap(time), "1 18 18000");
+  EXPECT_EQ(Leap(time), "1 pending, 18 s, 18000 ms");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1)), "1930:19000");
   EXPECT_EQ(Converted(time, Utc(2017, 1, 1, 0, 0, 1)), "1930:20000");
-  EXPECT_EQ(Leap(time), "0 19 19000");
+  EXPECT_EQ(Leap(time), "0 pending, 19 s, 19000 ms");
 
   TimeManager byTime;
   UTCTIME leap = Utc(65535, 255, 255, 23, 59, 60), midnight = Utc(65535, 255, 255);
@@ -102,13 +105,13 @@ TEST(TimeManager, LeapSecondIsCountedOnceAfterSecond60) {
   EXPECT_EQ(byTime.timeOfDayMs, NoTow);
   byTime.gpsTime.tow = 2 * Day + 18'000 - 1000;  // 23:59:59 UTC
   byTime.updateTime(leap, "235960.000");
-  EXPECT_EQ(Leap(byTime), "1 18 18000");
+  EXPECT_EQ(Leap(byTime), "1 pending, 18 s, 18000 ms");
   EXPECT_EQ(byTime.timeOfDayMs, 0U);
   byTime.updateTime(midnight, "000000.000");
-  EXPECT_EQ(Leap(byTime), "0 19 19000");
+  EXPECT_EQ(Leap(byTime), "0 pending, 19 s, 19000 ms");
   EXPECT_EQ(byTime.gpsTime.tow, 2 * Day + 19'000);
   byTime.setLeap(-3);
-  EXPECT_EQ(Leap(byTime), "0 -3 -3000");
+  EXPECT_EQ(Leap(byTime), "0 pending, -3 s, -3000 ms");
 }
 
 TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
@@ -124,11 +127,15 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
       {3 * Day + 5, 18, Utc(0, 0, 0, 12, 0, 1, 250), 3 * Day + 43'219'250, 3 * Day + 43'219'250},
       // The day is that of the old time of week, also when the leap seconds reach past midnight.
       {Day, 18, Utc(0, 0, 0, 23, 59, 50), Day + 86'408'000, Day + 8000},
+      // Nothing moves when it is that time already, GPS time being of the next day.
+      {2 * Day + 8000, 18, Utc(0, 0, 0, 23, 59, 50), 2 * Day + 8000, 2 * Day + 8000},
       // 24:00:00.000 of GPS time stays a day long in updateHMS.
       {Day + 1, 18, Utc(0, 0, 0, 23, 59, 42), 2 * Day, 2 * Day},
       {0, 18, Utc(0, 0, 0, 24, 0, 0, 0), 18'000, 18'000},
       {Day, -5, Utc(0, 0, 0, 0, 0, 2), Day - 3000, Day - 3000},
       {NoTow, 18, Utc(0, 0, 0, 12), NoTow, NoTow},
+      // Behind the end of a week, as a host may set it.
+      {2'178'185'296, 18, Utc(0, 0, 0, 12), 25 * Day + 43'218'000, 25 * Day + 43'218'000},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(&c - cases);
@@ -142,10 +149,18 @@ TEST(TimeManager, RealignmentOfTheTimeOfWeek) {
     byHms.updateHMS(hms, "b");
     EXPECT_EQ(byTime.getTOW(), c.byTime);
     EXPECT_EQ(byHms.getTOW(), c.byHms);
-    EXPECT_EQ(byTime.timeText + byHms.timeText, "ab");
+    // The time of day is noted, for updateHMS with the leap seconds.
+    const bool known = c.tow != NoTow;
+    const std::uint32_t dayStart = c.tow / Day * Day;
+    const auto leapMs = static_cast<std::uint32_t>(c.leap * 1000);
+    EXPECT_EQ(byTime.timeOfDayMs, known ? (c.byTime - dayStart + Day - leapMs) % Day : NoTow);
+    EXPECT_EQ(byHms.timeOfDayMs, known ? c.byHms - dayStart : NoTow);
+    EXPECT_EQ(byTime.timeText, "a");
+    EXPECT_EQ(byHms.timeText, "b");
     utc.year = 65535;
     utc.month = utc.day = 255;
-    EXPECT_EQ(Shown(byTime.utcTime) + Shown(byHms.utcTime), Shown(utc) + Shown(utc));
+    EXPECT_EQ(Shown(byTime.utcTime), Shown(utc));
+    EXPECT_EQ(Shown(byHms.utcTime), Shown(utc));
   }
 }
 
@@ -166,11 +181,24 @@ TEST(TimeManager, DateUpdatesConvertByWhatIsKnown) {
   EXPECT_EQ(Shown(time.utcTime), "2024-8-1 12:0:1.0 0");
 }
 
+// Leap second counts of more than a day give times behind a day, and pieces with signs.
 TEST(TimeManager, TimeOfDayText) {
-  const std::tuple<std::uint32_t, int, const char*> cases[] = {
-      {18'000, 18, "000000.000"},       {0, 18, "235942.000"},      {17'500, 18, "235959.500"},
-      {604'800'000, 18, "235942.000"},  {604'800'001, 18, ""},      {302'418'007, 18, "120000.007"},
-      {604'800'000, -20, "000020.000"}, {Day - 1, 0, "235959.999"}, {NoTow - 1, 18, ""}};
+  const std::tuple<std::uint32_t, int, const char*> cases[] = {{18'000, 18, "000000.000"},
+                                                               {0, 18, "235942.000"},
+                                                               {17'500, 18, "235959.500"},
+                                                               {604'800'000, 18, "235942.000"},
+                                                               {604'800'001, 18, ""},
+                                                               {302'418'007, 18, "120000.007"},
+                                                               {604'800'000, -20, "000020.000"},
+                                                               {Day - 1, 0, "235959.999"},
+                                                               {NoTow - 1, 18, ""},
+                                                               {0, -100'000, "034640.000"},
+                                                               {500, 90'062, "-1-1-1.-500"},
+                                                               {1, 270'000, "-2-59-59.-999"},
+                                                               {0, 266'400, "-20000.000"},
+                                                               {0, 89'940, "00-5900.000"},
+                                                               {0, 86'459, "0000-59.000"},
+                                                               {999, 86'401, "000000.-01"}};
   TimeManager time;
   for (auto [tow, leap, text] : cases) {
     time.setLeap(leap);
@@ -208,8 +236,14 @@ TEST(TimeManager, GpsTimeToUtcFollowsTheLocalZone) {
 
 TEST(TimeManager, SettersClearingAndTexts) {
   TimeManager time;
+  for (const UTCTIME& utc : {time.utcTime, time.savedUtcTime}) EXPECT_EQ(MembersOf(utc), "");
+  for (const GPSTIME& gps : {time.gpsTime, time.savedGpsTime}) EXPECT_EQ(MembersOf(gps), "");
+  EXPECT_EQ(Leap(time), "0 pending, 18 s, 18000 ms");
+  EXPECT_EQ(time.spare, 0xFFFFFFFF);
   EXPECT_EQ(GpsText(time), ",,");
-  GPSTIME gps = {345'600'000, 2325, 0};
+  GPSTIME gps = {345'600'000, 2325, 0}, most = {NoTow - 1, 65534, 0};
+  time.setGPST(most);
+  EXPECT_EQ(GpsText(time), "4294967294,65534,");
   time.setGPST(gps);
   EXPECT_EQ(GpsText(time), "345600000,2325,");
   std::uint16_t noWeek = 65535, ignored = 9;
