@@ -2,7 +2,7 @@
  *
  * The members of the proprietary records (77 to 83, 85, 86, 106) are those whose place in the
  * message is known. The others have a size and a meaning but no known place: they keep their
- * unknown value, and 64-bit integers, for which there is none, are 0.
+ * unknown value; 64-bit integers, for which there is none, and the entries of 80 are 0.
  */
 #ifndef NAVFRAME_RECORDS_RTCM_H
 #define NAVFRAME_RECORDS_RTCM_H
@@ -129,7 +129,7 @@ typedef struct SystemCountsRecord {
   uint8_t reserved[2];
   struct {
     int32_t values[6];
-  } entries[64]; /* unknown */
+  } entries[64]; /* 0: an entry whose first value is 0 is none */
 } SystemCountsRecord;
 
 /* Message 4074 sub-type 254, signal observations. MsgId 81. */
