@@ -3,7 +3,7 @@
  * Of the proprietary records the members of 77, 81, 82 and 106 that are filled, their times among
  * them, stand where this library takes them to be: its own reading, which moves the clock; see
  * docs/compatibility.md, Own readings. Members without a place in the message keep their unknown
- * value, and 64-bit integers, for which there is none, are 0.
+ * value; 64-bit integers, for which there is none, and the entries of 80 are 0.
  */
 #ifndef NAVFRAME_RECORDS_RTCM_H
 #define NAVFRAME_RECORDS_RTCM_H
@@ -136,7 +136,7 @@ typedef struct SystemCountsRecord {
   uint8_t reserved[2];
   struct {
     int32_t values[6];
-  } entries[64]; /* unknown */
+  } entries[64]; /* 0: an entry whose first value is 0 is none */
 } SystemCountsRecord;
 
 /* Message 4074 sub-type 254, signal observations. MsgId 81. */

@@ -31,15 +31,9 @@ inline constexpr ClockOrbitRecord UnknownClockOrbit = {.system = NoU32,
                                                        .integers = {NoF64, NoF64, NoF64, NoF64},
                                                        .reserved1 = {}};
 
-inline constexpr SystemCountsRecord UnknownSystemCounts = [] {
-  SystemCountsRecord record{};
-  record.tow = NoU32;
-  record.week = NoU16;
-  for (auto& entry : record.entries) {
-    for (std::int32_t& value : entry.values) value = NoI32;
-  }
-  return record;
-}();
+// An entry whose first value is 0 counts as none, so a message of which none is read has none.
+inline constexpr SystemCountsRecord UnknownSystemCounts = {
+    .tow = NoU32, .week = NoU16, .timeText = {}, .counts = {}, .reserved = {}, .entries = {}};
 
 inline constexpr SignalObservationsRecord UnknownSignalObservations = [] {
   SignalObservationsRecord record{};

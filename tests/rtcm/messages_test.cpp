@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "support/binary_frames.h"
+#include "support/members.h"
 
 namespace navframe::test {
 namespace {
@@ -56,10 +57,10 @@ TEST(RtcmStation, PositionKeepsTheRawCoordinatesAndWhatIsMissingIsZero) {
     const auto records = Push(*decoder, RtcmFrame(First(Position(), length)));
     ASSERT_EQ(Ids(records), std::vector<std::uint32_t>{53});
     const auto& seen = records[0].As<StationPositionRecord>();
-    EXPECT_EQ(Values(seen.tow, seen.stationId, seen.itrfYear),
-              Values(4711, length >= 3 ? 1234 : 0, length >= 4 ? 31 : 0));
-    EXPECT_EQ(Values(seen.gps, seen.glonass, seen.galileo, seen.referenceStation),
-              Values(length >= 4, 0, length >= 5, length >= 5));
+    EXPECT_MEMBERS((seen.tow, seen.stationId, seen.itrfYear),
+                   (4711, length >= 3 ? 1234 : 0, length >= 4 ? 31 : 0));
+    EXPECT_MEMBERS((seen.gps, seen.glonass, seen.galileo, seen.referenceStation),
+                   (length >= 4, 0, length >= 5, length >= 5));
     EXPECT_EQ(seen.x, length >= 9 ? (1LL << 38) - 11141045999 : 0);
     EXPECT_EQ(seen.y, length >= 14 ? (1LL << 38) - 48507297108 : 0);
     EXPECT_EQ(seen.z, length >= 19 ? 39755214643 : 0);
@@ -70,14 +71,14 @@ TEST(RtcmStation, SystemParametersAnnounceUpTo31Messages) {
   auto message = Message(1013).Put(4095, 12).Put(60369, 16).Put(86399, 17).Put(31, 5).Put(18, 8);
   for (std::uint64_t i = 0; i < 31; ++i) message.Put(1001 + i, 12).Put(i % 2, 1).Put(65535 - i, 16);
   const auto seen = Only(*At(4711), message, 54).As<SystemParametersRecord>();
-  EXPECT_EQ(Values(seen.tow, seen.stationId, seen.modifiedJulianDay, seen.secondsOfDay, seen.count,
-                   seen.leapSeconds),
-            Values(4711, 4095, 60369, 86399, 31, 18));
+  EXPECT_MEMBERS((seen.tow, seen.stationId, seen.modifiedJulianDay, seen.secondsOfDay, seen.count,
+                  seen.leapSeconds),
+                 (4711, 4095, 60369, 86399, 31, 18));
   const Record cut = Decoded(RtcmFrame(First(message.Written(), 100))).at(0);
   for (unsigned i = 0; i < 31; ++i) {
     const MessageAnnouncement& entry = seen.announcements[i];
-    EXPECT_EQ(Values(entry.messageId, entry.synchronous, entry.interval),
-              Values(1001 + i, i % 2, 65535 - i));
+    EXPECT_MEMBERS((entry.messageId, entry.synchronous, entry.interval),
+                   (1001 + i, i % 2, 65535 - i));
     // 100 bytes end within the interval of the 26th.
     EXPECT_EQ(cut.As<SystemParametersRecord>().announcements[i].interval, i < 25 ? 65535 - i : 0);
   }
@@ -119,7 +120,7 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
       {255, 82, 0}, {254, 81, 0}, {253, 80, 0}, {251, 79, 0}, {249, 78, 0}, {243, 77, 0},
       {11, 71, 41}, {12, 72, 42}, {13, 73, 44}, {14, 74, 43}, {15, 75, 45}};
   for (const auto& [subType, kind, twin] : subTypes) {
-    for (const std::uint32_t filter : {0U, 41U, 42U, 43U, 44U, 45U, 55U, kind}) {
+    for (const std::uint32_t filter : {0U, 1U, 41U, 42U, 43U, 44U, 45U, 55U, kind, ~0U}) {
       const bool passes = filter == 0 || filter == kind || filter == twin;
       cases.push_back({filter, Timed(subType).Written(), passes ? Kinds{kind} : Kinds{}, {kind}});
     }
@@ -142,28 +143,49 @@ TEST(RtcmProprietary, SmallRecordsOf910And999) {
   const auto decoder = At(99);
   const Record first = Only(*decoder, Counting(Message(910).Put(17, 8), 250, 28), 83);
   const auto& sub17 = first.As<Sub17Record>();
-  EXPECT_EQ(Values(first.size, sub17.tow, sub17.first[0], sub17.first[14], sub17.zero,
-                   sub17.second[0], sub17.second[11], sub17.reserved),
-            Values(36, 99, 250, 236, 0, 235, 224, 0));
+  EXPECT_MEMBERS((first.size, sub17.tow, sub17.first[0], sub17.first[14], sub17.zero,
+                  sub17.second[0], sub17.second[11], sub17.reserved),
+                 (36, 99, 250, 236, 0, 235, 224, 0));
   const Record second = Only(*decoder, Counting(Message(910).Put(33, 8), 15, 9, 4), 85);
   const auto& sub33 = second.As<Sub33Record>();
-  EXPECT_EQ(Values(second.size, sub33.tow, sub33.values[0], sub33.values[6], sub33.spare),
-            Values(12, 99, 15, 9, 0));
+  EXPECT_MEMBERS((second.size, sub33.tow, sub33.values[0], sub33.values[6], sub33.spare),
+                 (12, 99, 15, 9, 0));
   auto timed = Message(910).Put(34, 8).Put(302'418'000, 30).Put(2325, 16).Put(7, 8).Put(9, 4);
   const Record third = Only(*decoder, Counting(timed, 200, 10), 86);
   const auto& sub34 = third.As<Sub34Record>();
-  EXPECT_EQ(Values(third.size, sub34.tow, sub34.week, sub34.state, sub34.mode, sub34.values[0],
-                   sub34.values[8], sub34.spare),
-            Values(20, 302'418'000, 2325, 7, 9, 200, 192, 0));
-  const Record empty = Only(*decoder, Message(910).Put(34, 8), 86);
-  const auto& unknown = empty.As<Sub34Record>();
-  EXPECT_EQ(Values(unknown.tow, unknown.week, unknown.state, unknown.mode, unknown.values[8]),
-            Values(NoTow, 65535, 255, 0, 0));
+  EXPECT_MEMBERS((third.size, sub34.tow, sub34.week, sub34.state, sub34.mode, sub34.values[0],
+                  sub34.values[8], sub34.spare),
+                 (20, 302'418'000, 2325, 7, 9, 200, 192, 0));
   timed = Counting(Message(999).Put(21, 8).Put(1000, 30).Put(2326, 16), 90, 48).Put(0, 6);
   const Record fourth = Only(*decoder, timed, 106);
   const auto& sub21 = fourth.As<Sub21Record>();
-  EXPECT_EQ(Values(fourth.size, sub21.tow, sub21.week, sub21.body[0], sub21.body[47]),
-            Values(120, 1000, 2326, 90, 43));
+  EXPECT_MEMBERS((fourth.size, sub21.tow, sub21.week, sub21.body[0], sub21.body[47]),
+                 (120, 1000, 2326, 90, 43));
+}
+
+// Messages that end behind the sub-type.
+TEST(RtcmProprietary, WhatIsNotReadIsUnknownOrZero) {
+  const auto decoder = At(99);
+  const std::tuple<std::uint32_t, std::uint32_t, const char*> texts[] = {
+      {11, 71, ",,,,,,"},   {12, 72, "1,0,0,0,0,"}, {13, 73, ",,,,,,"},
+      {14, 74, ",,,,,,,,"}, {15, 75, ",,,,,,,,"},   {251, 79, ",,BDS,,,,,,,,"},
+      {254, 81, ",,"},      {255, 82, ",,0,0,0,"},  {253, 80, "GPS,0\nBDS,0\nGAL,0\nQZS,0\n"}};
+  for (const auto& [subType, id, text] : texts) {
+    EXPECT_EQ(Rendered(Only(*decoder, Message(4074).Put(subType, 12), id), true), text) << subType;
+  }
+  const auto sub249 = Only(*decoder, Message(4074).Put(249, 12), 78).As<Sub249Record>();
+  EXPECT_MEMBERS((sub249.tow, sub249.week), (NoTow, 65535));
+  const auto status = Only(*decoder, Message(4074).Put(243, 12), 77).As<TimeStatusRecord>();
+  EXPECT_MEMBERS((status.tow, status.week, status.status[0], status.status[1]),
+                 (0, 65535, 255, 255));
+  const auto sub34 = Only(*decoder, Message(910).Put(34, 8), 86).As<Sub34Record>();
+  EXPECT_MEMBERS((sub34.tow, sub34.week, sub34.state, sub34.mode, sub34.values[8]),
+                 (NoTow, 65535, 255, 0, 0));
+  const Record signals = Only(*decoder, Message(4074).Put(254, 12), 81);
+  for (const SatelliteInView& satellite : signals.As<SignalObservationsRecord>().satellites) {
+    EXPECT_MEMBERS((satellite.number, satellite.azimuth, satellite.signals[2].cn0),
+                   (255, 65535, 255));
+  }
 }
 
 TEST(RtcmProprietary, TimesSetTheClock) {
@@ -202,7 +224,7 @@ TEST(RtcmProprietary, TimesSetTheClock) {
     time.timeText = "set";
     time.utcTime.hour = 3;
     EXPECT_EQ(clock(cleared), "2302 21000 ");
-    EXPECT_EQ(Values(time.utcTime.hour, time.utcTime.millisecond), Values(255, 255));
+    EXPECT_MEMBERS((time.utcTime.hour, time.utcTime.millisecond), (255, 255));
   }
 }
 
@@ -217,10 +239,9 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   const auto& ins = whole.As<InsPvaRecord>();
   EXPECT_STREQ(ins.timeText, "120509.98");
   EXPECT_STREQ(ins.dateText, "310724");
-  EXPECT_EQ(
-      Values(whole.size, ins.latitude, ins.utc.millisecond, ins.gpsTime.tow, ins.gpsTime.week),
-      Values(104, -1.5, 987, 302'418'000, 2325));
-  EXPECT_TRUE(std::isnan(ins.longitude) && std::isnan(ins.attitude[2]));
+  EXPECT_MEMBERS((ins.latitude, ins.utc.month, ins.utc.millisecond, ins.utc.flag, ins.gpsTime.tow,
+                  ins.gpsTime.week),
+                 (-1.5, 7, 987, 1, 302'418'000, 2325));
   const Record none = Only(*decoder, utc(15, 255).Put(1ULL << 63, 64), 75);
   EXPECT_STREQ(none.As<InsPvaRecord>().timeText, "");
   EXPECT_TRUE(std::isnan(none.As<InsPvaRecord>().latitude));
@@ -234,12 +255,11 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
 
   const Record levels = Only(*decoder, Message(4074).Put(12, 12).Put(0x01FE0380, 32), 72);
   const auto& snr = levels.As<RtcmSnrStatRecord>();
-  EXPECT_EQ(Values(levels.size, snr.count, snr.state, snr.levels[0], snr.levels[1], snr.levels[2]),
-            Values(32, 1, 1, -2, 3, -128));
+  EXPECT_MEMBERS((snr.count, snr.state, snr.levels[0], snr.levels[1], snr.levels[2]),
+                 (1, 1, -2, 3, -128));
   const Record last = Only(*decoder, Timed(243, 0x3FFFFFFF, 2330).Put(77, 8).Put(11, 4), 77);
   const auto& status = last.As<TimeStatusRecord>();
-  EXPECT_EQ(Values(last.size, status.tow, status.week, status.status[0], status.status[1]),
-            Values(24, 0, 2330, 77, 11));
+  EXPECT_MEMBERS((status.tow, status.week, status.status[0], status.status[1]), (0, 2330, 77, 11));
 }
 
 }  // namespace

@@ -72,9 +72,9 @@ std::vector<std::uint32_t> Ids(const std::vector<Record>& records) {
   return ids;
 }
 
-std::string Rendered(const Record& record) {
+std::string Rendered(const Record& record, bool leadingFields) {
   std::string text(65536, '\0');
-  if (!RenderRecord({record.id, record.source, record.payload.get()}, text.data(), false)) {
+  if (!RenderRecord({record.id, record.source, record.payload.get()}, text.data(), leadingFields)) {
     return "no text";
   }
   text.resize(std::strlen(text.c_str()));

@@ -61,7 +61,7 @@ void PlaceHead(Stream& stream, std::uint32_t position);
 
 // The ids of records, and "id:text" of each with its rendered form.
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records);
-std::string Rendered(const Record& record);
+std::string Rendered(const Record& record, bool leadingFields = false);
 
 // Two streams of records are the same when their ids and all bytes of their payloads are.
 bool SameRecords(const std::vector<Record>& a, const std::vector<Record>& b);
