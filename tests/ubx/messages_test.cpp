@@ -133,23 +133,26 @@ TEST(UbxSatellites, EveryFieldOfAnEntryComesFromItsPlace) {
   ExpectRecord(head, IS(head.tow, 300'000'000), IS(head.week, Week), IS(head.timeText, "clock"),
                IS(head.version, 1), IS(head.count, 2));
 
-  for (unsigned bit = 6; bit < 32; bit += bit == 6 ? 5 : 1) {  // those above 22 are none
+  for (unsigned bit = 11; bit < 32; ++bit) {  // those above 22 are none
     SCOPED_TRACE(bit);
-    payload.U32(16, std::int64_t{1} << bit);
+    payload.U8(9, 33).U8(11, 45).U32(16, std::int64_t{1} << bit);
     const UbxSatellite f = decoded().satellites[0];
-    ExpectRecord(f, IS(f.cn0, 255), IS(f.corrected, bit == 6), IS(f.ephemeris, bit == 11),
-                 IS(f.almanac, bit == 12), IS(f.offlinePrediction, bit == 13),
-                 IS(f.autonomousPrediction, bit == 14), IS(f.spareFlag, bit == 15),
-                 IS(f.sbasCorrections, bit == 16), IS(f.rtcmCorrections, bit == 17),
-                 IS(f.slasCorrections, bit == 18), IS(f.spartnCorrections, bit == 19),
-                 IS(f.rangeCorrections, bit == 20), IS(f.carrierCorrections, bit == 21),
-                 IS(f.dopplerCorrections, bit == 22));
+    ExpectRecord(f, IS(f.satelliteId, 33), IS(f.cn0, 255), IS(f.elevation, 45),
+                 IS(f.ephemeris, bit == 11), IS(f.almanac, bit == 12),
+                 IS(f.offlinePrediction, bit == 13), IS(f.autonomousPrediction, bit == 14),
+                 IS(f.spareFlag, bit == 15), IS(f.sbasCorrections, bit == 16),
+                 IS(f.rtcmCorrections, bit == 17), IS(f.slasCorrections, bit == 18),
+                 IS(f.spartnCorrections, bit == 19), IS(f.rangeCorrections, bit == 20),
+                 IS(f.carrierCorrections, bit == 21), IS(f.dopplerCorrections, bit == 22));
   }
+  payload.U32(28, 0x252);                           // the lower flags the other way round
   for (const int elevation : {91, 127, -1, -90}) {  // outside the sky: no direction
     payload.U8(23, elevation);
     const UbxSatellite below = decoded().satellites[1];
     ExpectMembers(below, IS(below.elevation, 255), IS(below.azimuth, 65535),
-                  IS(below.residual, -123));
+                  IS(below.residual, -123), IS(below.quality, 2), IS(below.used, 0),
+                  IS(below.health, 1), IS(below.corrected, 1), IS(below.smoothed, 0),
+                  IS(below.orbitSource, 2));
   }
 }
 
