@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 
@@ -39,6 +39,11 @@ T Only(std::uint8_t messageClass, std::uint8_t id, const Bytes& payload) {
   EXPECT_EQ(bytes.size(), sizeof(record));
   std::memcpy(&record, bytes.data(), sizeof(record));
   return record;
+}
+
+// A field of `count` bits from `lowest` on, of flags in which only `bit` is set.
+std::uint8_t FieldOf(unsigned bit, unsigned lowest, unsigned count) {
+  return static_cast<std::uint8_t>(bit - lowest < count ? 1U << (bit - lowest) : 0);
 }
 
 struct Message {
@@ -106,17 +111,25 @@ TEST(UbxNavigation, EveryFieldComesFromItsPlace) {
                IS(n.vehicleHeading, 0x5678));
 
   payload.U8(20, 0).U32(56, INT32_MIN);
-  payload.U8(11, 0xF3).U8(21, 0x52).U8(22, 0x5F).U8(78, 0xE8);  // all bits the other way round
   const auto noFix = decoded();
-  ExpectMembers(noFix, IS(noFix.dateValid, 1), IS(noFix.timeValid, 1), IS(noFix.fullyResolved, 0),
-                IS(noFix.magValid, 0), IS(noFix.fixOk, 0), IS(noFix.diffSolution, 1),
-                IS(noFix.powerSaveState, 4), IS(noFix.headingValid, 0),
-                IS(noFix.carrierSolution, 1), IS(noFix.confirmedAvailable, 0),
-                IS(noFix.confirmedDate, 1), IS(noFix.confirmedTime, 0), IS(noFix.invalidHeight, 0),
-                IS(noFix.correctionAge, 4), IS(noFix.longitude, NoDouble),
-                IS(noFix.latitude, NoDouble), IS(noFix.height, NoFloat),
-                IS(noFix.heightMsl, NoFloat), IS(noFix.positionDop, NoFloat),
-                IS(noFix.horizontalAccuracy, 4001), IS(noFix.velocityUp, INT32_MIN));
+  ExpectMembers(noFix, IS(noFix.longitude, NoDouble), IS(noFix.latitude, NoDouble),
+                IS(noFix.height, NoFloat), IS(noFix.heightMsl, NoFloat),
+                IS(noFix.positionDop, NoFloat), IS(noFix.horizontalAccuracy, 4001),
+                IS(noFix.velocityUp, INT32_MIN));
+
+  for (unsigned bit = 0; bit < 32; ++bit) {  // of four bytes of flags, one after the other
+    SCOPED_TRACE(bit);
+    payload.U8(11, 0).U8(21, 0).U8(22, 0).U8(78, 0);
+    payload.U8(std::array{11, 21, 22, 78}[bit / 8], 1 << bit % 8);
+    const auto f = decoded();
+    ExpectMembers(f, IS(f.dateValid, bit == 0), IS(f.timeValid, bit == 1),
+                  IS(f.fullyResolved, bit == 2), IS(f.magValid, bit == 3), IS(f.fixOk, bit == 8),
+                  IS(f.diffSolution, bit == 9), IS(f.powerSaveState, FieldOf(bit, 10, 3)),
+                  IS(f.headingValid, bit == 13), IS(f.carrierSolution, FieldOf(bit, 14, 2)),
+                  IS(f.confirmedAvailable, bit == 21), IS(f.confirmedDate, bit == 22),
+                  IS(f.confirmedTime, bit == 23), IS(f.invalidHeight, bit == 24),
+                  IS(f.correctionAge, FieldOf(bit, 25, 4)));
+  }
 }
 
 TEST(UbxSatellites, EveryFieldOfAnEntryComesFromItsPlace) {
@@ -133,11 +146,14 @@ TEST(UbxSatellites, EveryFieldOfAnEntryComesFromItsPlace) {
   ExpectRecord(head, IS(head.tow, 300'000'000), IS(head.week, Week), IS(head.timeText, "clock"),
                IS(head.version, 1), IS(head.count, 2));
 
-  for (unsigned bit = 11; bit < 32; ++bit) {  // those above 22 are none
+  for (unsigned bit = 0; bit < 32; ++bit) {  // those above 22 are none
     SCOPED_TRACE(bit);
     payload.U8(9, 33).U8(11, 45).U32(16, std::int64_t{1} << bit);
     const UbxSatellite f = decoded().satellites[0];
     ExpectRecord(f, IS(f.satelliteId, 33), IS(f.cn0, 255), IS(f.elevation, 45),
+                 IS(f.quality, FieldOf(bit, 0, 3)), IS(f.used, bit == 3),
+                 IS(f.health, FieldOf(bit, 4, 2)), IS(f.corrected, bit == 6),
+                 IS(f.smoothed, bit == 7), IS(f.orbitSource, FieldOf(bit, 8, 3)),
                  IS(f.ephemeris, bit == 11), IS(f.almanac, bit == 12),
                  IS(f.offlinePrediction, bit == 13), IS(f.autonomousPrediction, bit == 14),
                  IS(f.spareFlag, bit == 15), IS(f.sbasCorrections, bit == 16),
@@ -145,14 +161,11 @@ TEST(UbxSatellites, EveryFieldOfAnEntryComesFromItsPlace) {
                  IS(f.spartnCorrections, bit == 19), IS(f.rangeCorrections, bit == 20),
                  IS(f.carrierCorrections, bit == 21), IS(f.dopplerCorrections, bit == 22));
   }
-  payload.U32(28, 0x252);                           // the lower flags the other way round
   for (const int elevation : {91, 127, -1, -90}) {  // outside the sky: no direction
     payload.U8(23, elevation);
     const UbxSatellite below = decoded().satellites[1];
     ExpectMembers(below, IS(below.elevation, 255), IS(below.azimuth, 65535),
-                  IS(below.residual, -123), IS(below.quality, 2), IS(below.used, 0),
-                  IS(below.health, 1), IS(below.corrected, 1), IS(below.smoothed, 0),
-                  IS(below.orbitSource, 2));
+                  IS(below.residual, -123));
   }
 }
 
@@ -213,7 +226,7 @@ TEST(UbxRawMeasurements, EveryFieldOfHeadAndEntryComesFromItsPlace) {
     payload.F64(0, seconds);
     return decoded().tow;
   };
-  EXPECT_EQ(tow(0.0), 0U);
+  EXPECT_EQ(tow(-0.0005), 0U);
   EXPECT_EQ(tow(604'799.9996), 604'800'000U);
   for (const double none : {-1.0, 604'800.0006, 604'801.0, 1e300, -HUGE_VAL, std::nan("")}) {
     EXPECT_EQ(tow(none), 0xFFFFFFFF) << none;

@@ -50,6 +50,8 @@ TEST(UbxTimeKeeping, WhatIsValidMovesTheClock) {
       {"a leap second", At(DateAndTime, 28, 23, 59, 60), 86418789, 2325, "235960.78"},
       {"is counted behind it", At(DateAndTime, 29, 0, 0, 0), 86419789, 2325, "000000.78"},
       {"once", At(DateAndTime, 29, 0, 0, 1), 86420789, 2325, "000001.78"},
+      {"both, with an hour that is none", At(DateAndTime, 28, 255, 34, 56), 920115789, 2324,
+       "2553456.78"},
   };
   for (const Step& step : steps) {
     SCOPED_TRACE(step.what);
@@ -68,7 +70,7 @@ TEST(UbxTimeKeeping, TextsStayWithinTheirMembers) {
     return Navigation(*decoder, payload).timeText;
   };
   EXPECT_EQ(text(At(Time, 28, 255, 255, 255).U32(16, INT32_MAX)), "255255255.214");
-  EXPECT_EQ(text(At(Time, 28, 100, 99, 200).U32(16, 9'999'999)), "10099200.00");
+  EXPECT_EQ(text(At(Time, 28, 100, 99, 199).U32(16, 9'999'999)), "10099199.00");
   const auto before = Navigation(*decoder, At(Time).U32(16, -3'999'999));
   ExpectMembers(before, IS(before.nanoseconds, -3'999'999), IS(before.millisecond, 0xFFFFFFFD));
   decoder->time.timeText = "123456.78901234567890";
