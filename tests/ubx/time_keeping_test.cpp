@@ -2,6 +2,7 @@
 
 #include "navframe/records.h"
 #include "support/binary_frames.h"
+#include "support/record_members.h"
 
 namespace navframe::test {
 namespace {
@@ -23,52 +24,57 @@ UbxNavigationRecord Navigation(Decoder& decoder, const Bytes& payload) {
   return Push(decoder, UbxFrame(0x01, 0x07, payload)).at(0).As<UbxNavigationRecord>();
 }
 
-// What messages make of the clock, one after the other: time of week, week and text.
+// What messages make of the clock, one after the other.
 struct Step {
   const char* what;
   Payload payload;
-  const char* clock;
+  std::uint32_t tow;
+  std::uint16_t week;
+  const char* text;
 };
 
 TEST(UbxTimeKeeping, WhatIsValidMovesTheClock) {
   const auto decoder = std::make_unique<Decoder>();
   const TimeManager& time = decoder->time;
   const Step steps[] = {
-      {"nothing", At(Nothing), "4294967295 65535 "},
-      {"a date alone; a Sunday belongs to the week before", At(Date), "4294967295 2324 "},
-      {"the Monday", At(Date).U8(7, 29), "4294967295 2325 "},
-      {"both", At(DateAndTime), "45314789 2325 123456.78"},
-      {"a time alone moves within the day", At(Time, 28, 1, 2, 3).U16(4, 1999),
-       "3741789 2325 010203.78"},
-      {"a date alone joins the known time of day", At(Date, 30, 23, 0, 0),
-       "176541789 2325 010203.78"},
-      {"a fraction before the second is none", At(DateAndTime).U32(16, -3'999'999),
-       "45314000 2325 123456.00"},
-      {"a leap second", At(DateAndTime, 28, 23, 59, 60), "86418789 2325 235960.78"},
-      {"is counted behind it", At(DateAndTime, 29, 0, 0, 0), "86419789 2325 000000.78"},
-      {"once", At(DateAndTime, 29, 0, 0, 1), "86420789 2325 000001.78"},
+      {"nothing", At(Nothing), 0xFFFFFFFF, 65535, ""},
+      {"a date alone; a Sunday belongs to the week before", At(Date), 0xFFFFFFFF, 2324, ""},
+      {"the Monday", At(Date).U8(7, 29), 0xFFFFFFFF, 2325, ""},
+      {"both", At(DateAndTime), 45314789, 2325, "123456.78"},
+      {"a time alone moves within the day", At(Time, 28, 1, 2, 3).U16(4, 1999), 3741789, 2325,
+       "010203.78"},
+      {"a date alone joins the known time of day", At(Date, 30, 23, 0, 0), 176541789, 2325,
+       "010203.78"},
+      {"a fraction before the second is none", At(DateAndTime).U32(16, -1'999'999), 45314000, 2325,
+       "123456.00"},
+      {"a leap second", At(DateAndTime, 28, 23, 59, 60), 86418789, 2325, "235960.78"},
+      {"is counted behind it", At(DateAndTime, 29, 0, 0, 0), 86419789, 2325, "000000.78"},
+      {"once", At(DateAndTime, 29, 0, 0, 1), 86420789, 2325, "000001.78"},
+      {"both, with an hour that is none", At(DateAndTime, 28, 255, 34, 56), 920115789, 2324,
+       "2553456.78"},
   };
   for (const Step& step : steps) {
     SCOPED_TRACE(step.what);
     const auto record = Navigation(*decoder, step.payload);
-    EXPECT_EQ(record.tow, 1000U);  // the message's own
-    EXPECT_EQ(std::to_string(time.gpsTime.tow) + " " + std::to_string(record.week) + " " +
-                  record.timeText,
-              step.clock);
-    EXPECT_EQ(time.gpsTime.week, record.week);
-    EXPECT_EQ(time.timeText, record.timeText);
+    ExpectMembers(record, IS(record.tow, 1000), IS(record.week, step.week),
+                  IS(record.timeText, step.text));
+    ExpectMembers(time, IS(time.gpsTime.tow, step.tow), IS(time.gpsTime.week, step.week));
+    EXPECT_EQ(time.timeText, step.text);
   }
   EXPECT_EQ(time.utcTime.year, 2024);
 }
 
 TEST(UbxTimeKeeping, TextsStayWithinTheirMembers) {
   const auto decoder = std::make_unique<Decoder>();
-  const Bytes noTime = At(Time, 28, 255, 255, 255).U32(16, INT32_MAX);
-  EXPECT_STREQ(Navigation(*decoder, noTime).timeText, "255255255.214");
-  const auto negative = Navigation(*decoder, At(Time).U32(16, -3'999'999));
-  EXPECT_EQ(Values(negative.nanoseconds, negative.millisecond), Values(-3'999'999, 0xFFFFFFFD));
+  const auto text = [&](const Bytes& payload) -> std::string {
+    return Navigation(*decoder, payload).timeText;
+  };
+  EXPECT_EQ(text(At(Time, 28, 255, 255, 255).U32(16, INT32_MAX)), "255255255.214");
+  EXPECT_EQ(text(At(Time, 28, 100, 99, 199).U32(16, 9'999'999)), "10099199.00");
+  const auto before = Navigation(*decoder, At(Time).U32(16, -3'999'999));
+  ExpectMembers(before, IS(before.nanoseconds, -3'999'999), IS(before.millisecond, 0xFFFFFFFD));
   decoder->time.timeText = "123456.78901234567890";
-  EXPECT_STREQ(Navigation(*decoder, At(Date)).timeText, "123456.78901234");
+  EXPECT_EQ(text(At(Date)), "123456.78901234");
 }
 
 }  // namespace
