@@ -81,7 +81,8 @@ enum AsciiLogId {
 #pragma pack(push, 4)
 
 /* What the line's header says, in the shape of a binary log's header. Lines have one of two header
- * forms; of the short one only idleTime, timeStatus, week and milliseconds come. 28 bytes. */
+ * forms; of the short one (log 1194, 2118, 11276, 10 and those above 60000) only idleTime,
+ * timeStatus, week and milliseconds come. 28 bytes. */
 typedef struct AsciiLogHeader {
   uint8_t sync[3];        /* 0xAA 0x44 0x12 */
   uint8_t headerLength;   /* 28 */
@@ -95,10 +96,14 @@ typedef struct AsciiLogHeader {
   uint8_t timeStatus;     /* 20 UNKNOWN, 60 APPROXIMATE, 80 COARSEADJUSTING, 100 COARSE, 120
                              COARSESTEERING, 130 FREEWHEELING, 140 FINEADJUSTING, 160 FINE, 170
                              FINEBACKUPSTEERING, 180 FINESTEERING, 200 SATTIME, 201 LOCAL */
-  uint16_t week;          /* of GPS, modulo 65536 */
-  int32_t milliseconds;   /* time of week; INT32_MIN for a time outside the type, but see
-                             docs/compatibility.md, Short headers */
-  uint32_t receiverStatus; /* see docs/compatibility.md, receiverStatus */
+  uint16_t week;          /* modulo 65536; long form: of GPS; short form: of the system that the
+                             line's time reference word names, GPS or BDS, which is not kept here.
+                             BDS counts its weeks from GPS week 1356, and its time of week is 14 s
+                             behind that of GPS */
+  int32_t milliseconds;   /* time of that week; long form: rounded, INT32_MIN for a time outside the
+                             type; short form: as sent, modulo 2^32 */
+  uint32_t receiverStatus; /* the digits as sent, which are hexadecimal, read as a decimal number:
+                             20 for "00000020"; a line whose status has a letter gives no record */
   uint16_t reserved;
   uint16_t softwareBuild;
 } AsciiLogHeader;
@@ -282,7 +287,8 @@ typedef struct VisibilityLogRecord {
 /* Visible satellites of one system. Id 1043. */
 typedef struct SystemVisibilityLogRecord {
   AsciiLogHeader header;
-  int32_t system; /* 0 GPS or not known, 1 GLONASS, 2 SBAS, 5 GALILEO, 6 BEIDOU, 7 QZSS, 9 NAVIC */
+  int32_t system; /* 0 GPS or not known, 1 GLONASS, 2 SBAS, 5 GALILEO, 6 BEIDOU, 7 QZSS, 9 NAVIC;
+                     not the numbers of GNSSSysIdToName */
   int32_t valid;  /* 1 TRUE, else 0 */
   int32_t completeAlmanac; /* 1 TRUE, else 0 */
   uint32_t count;          /* entries of satellites, 0 to 432 */
@@ -341,7 +347,8 @@ typedef struct AgriculturalLogRecord {
 } AgriculturalLogRecord;
 
 /* Compact observations, firmware information, RTK data and the logs without a name: the header and
- * nothing else. Ids 10, 11277, 215, 52, 1461; their sizes are 17308, 2944, 928, 40 and 68. */
+ * nothing else: neither the component types of 11277 nor the position types of 215. Ids 10, 11277,
+ * 215, 52, 1461; their sizes are 17308, 2944, 928, 40 and 68. */
 typedef struct HeaderLogRecord {
   AsciiLogHeader header;
 } HeaderLogRecord;

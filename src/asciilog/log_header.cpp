@@ -7,7 +7,6 @@
 
 #include "asciilog/crc32.h"
 #include "asciilog/format_scan.h"
-#include "asciilog/words.h"
 #include "base/number_text.h"
 
 namespace navframe::asciilog {
@@ -25,7 +24,7 @@ std::uint8_t IdleTime(float percent) {
 // #NAME,port,sequence,idle time,time status,week,seconds,receiver status,reserved,build;
 // The status and the reserved field are printed in hexadecimal but have always been read as
 // decimal numbers: a digit above 9 in the reserved field leaves the header one field short.
-bool ReadLongHeader(std::string_view line, AsciiLogHeader& image) {
+bool ReadLongHeader(std::string_view line, LogHeader& header) {
   FormatScan scan(line);
   scan.SkipText();
   scan.Comma();
@@ -48,6 +47,8 @@ bool ReadLongHeader(std::string_view line, AsciiLogHeader& image) {
   const std::int32_t build = scan.Int();
   if (scan.Converted() != HeaderConversions) return false;
 
+  header.timeReference = TimeReference::Gps;
+  AsciiLogHeader& image = header.image;
   image.port = static_cast<std::uint8_t>(Port(port));
   image.sequence = static_cast<std::uint16_t>(sequence);
   image.idleTime = IdleTime(idlePercent);
@@ -61,13 +62,13 @@ bool ReadLongHeader(std::string_view line, AsciiLogHeader& image) {
 }
 
 // #NAME,idle time,time reference,time status,week,milliseconds,and four numbers more;
-bool ReadShortHeader(std::string_view line, AsciiLogHeader& image) {
+bool ReadShortHeader(std::string_view line, LogHeader& header) {
   FormatScan scan(line);
   scan.SkipText();
   scan.Comma();
   const float idlePercent = scan.Float();
   scan.Comma();
-  scan.Text();
+  const std::string_view timeReference = scan.Text();
   scan.Comma();
   const std::string_view timeStatus = scan.Text();
   scan.Comma();
@@ -80,6 +81,8 @@ bool ReadShortHeader(std::string_view line, AsciiLogHeader& image) {
   }
   if (scan.Converted() != HeaderConversions) return false;
 
+  header.timeReference = TimeReferenceOf(timeReference);
+  AsciiLogHeader& image = header.image;
   image.idleTime = IdleTime(idlePercent);
   image.timeStatus = static_cast<std::uint8_t>(TimeStatus(timeStatus));
   image.week = static_cast<std::uint16_t>(week);
@@ -110,14 +113,16 @@ std::string_view LogLine::Body() const {
                                              : beforeStar.substr(semicolon + 1);
 }
 
-bool ReadHeader(HeaderForm form, std::string_view line, std::uint32_t identifier,
-                AsciiLogHeader& image) {
+std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
+                                    std::uint32_t identifier) {
   constexpr std::array<std::uint8_t, 3> Sync = {0xAA, 0x44, 0x12};
-  image = {};
-  std::ranges::copy(Sync, image.sync);
-  image.headerLength = sizeof(AsciiLogHeader);
-  image.messageId = static_cast<std::uint16_t>(identifier);
-  return form == HeaderForm::Long ? ReadLongHeader(line, image) : ReadShortHeader(line, image);
+  LogHeader header{};
+  std::ranges::copy(Sync, header.image.sync);
+  header.image.headerLength = sizeof(AsciiLogHeader);
+  header.image.messageId = static_cast<std::uint16_t>(identifier);
+  const bool read =
+      form == HeaderForm::Long ? ReadLongHeader(line, header) : ReadShortHeader(line, header);
+  return read ? std::optional(header) : std::nullopt;
 }
 
 }  // namespace navframe::asciilog

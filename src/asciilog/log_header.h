@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "asciilog/words.h"
 #include "navframe/records.h"
 
 namespace navframe::asciilog {
@@ -26,9 +27,16 @@ struct LogLine {
   std::string_view Body() const;
 };
 
-// Reads the header of a line and writes the image of it that begins a record. False when the line
-// does not have exactly the nine fields of the form.
-bool ReadHeader(HeaderForm form, std::string_view line, std::uint32_t identifier,
-                AsciiLogHeader& image);
+struct LogHeader {
+  AsciiLogHeader image;  // what begins a record
+  // What image.week and image.milliseconds count from. The image has no place for it, so that a
+  // record does not tell a BDS week of a short header from a GPS week; a long one has GPS weeks.
+  TimeReference timeReference;
+};
+
+// Reads the header of a line in the long or the short form. Nothing when the line does not have
+// exactly the nine fields of the form.
+std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
+                                    std::uint32_t identifier);
 
 }  // namespace navframe::asciilog

@@ -77,15 +77,15 @@ DecodeResult DecodeLog(const LogRow& row, std::string_view text, void* record) {
   const LogFormat& format = *row.format;
   if (format.header == HeaderForm::None) return DecodeResult::Success;
 
-  AsciiLogHeader header;
-  if (!ReadHeader(format.header, text, row.identifier, header)) return DecodeResult::Malformed;
+  auto header = ReadHeader(format.header, text, row.identifier);
+  if (!header) return DecodeResult::Malformed;
   auto* const bytes = static_cast<std::byte*>(record);
   if (!format.body.fields.empty()) {
-    const auto filled = ReadBody(format.body, line->Body(), bytes + sizeof(header));
+    const auto filled = ReadBody(format.body, line->Body(), bytes + sizeof(header->image));
     if (!filled) return DecodeResult::Malformed;
-    header.messageLength = static_cast<std::uint16_t>(*filled);
+    header->image.messageLength = static_cast<std::uint16_t>(*filled);
   }
-  std::memcpy(bytes, &header, sizeof(header));
+  std::memcpy(bytes, &header->image, sizeof(header->image));
   return DecodeResult::Success;
 }
 

@@ -134,6 +134,7 @@ constexpr std::string_view ComponentTypes[] = {"UNKNOWN",    "GPSCARD",       "C
                                                "ENCLOSURE",  "IMUCARD",       "DB_HEIGHTMODEL",
                                                "DB_USERAPP", "DB_USERAPPAUTO"};
 
+// Of this library's own making, with gaps: see SatelliteSystem.
 constexpr Word SatelliteSystems[] = {
     {"GPS", 0},    {"GLONASS", 1}, {"SBAS", 2},  {"GALILEO", 5},
     {"BEIDOU", 6}, {"QZSS", 7},    {"NAVIC", 9},
@@ -177,5 +178,12 @@ std::int32_t ComponentType(std::string_view word) { return PlaceOf(word, Compone
 std::int32_t Boolean(std::string_view word) { return word == "TRUE" ? 1 : 0; }
 
 std::int32_t SatelliteSystem(std::string_view word) { return ValueOf(word, SatelliteSystems); }
+
+TimeReference TimeReferenceOf(std::string_view word) {
+  if (word == "GPS") return TimeReference::Gps;
+  // With or without the number of the system's generation.
+  const bool bds = word == "BDS" || word == "BDS1" || word == "BDS2";
+  return bds ? TimeReference::Bds : TimeReference::Unknown;
+}
 
 }  // namespace navframe::asciilog

@@ -1,16 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
 #include <sstream>
 
 #include "asciilog/log_table.h"
+#include "asciilog/log_facts.h"
 #include "support/asciilog.h"
 
 namespace navframe::test {
 namespace {
 
 using enum ParserState;
-using Numbers = std::vector<double>;
-constexpr auto NotFound = std::string::npos;
+using asciilog::DecodeResult;
 
 // Decodes a line that ends with its allocation into a record that ends with its own, so that the
 // address sanitizer sees one byte too far on either side.
@@ -18,168 +20,317 @@ bool Decode(std::uint32_t id, std::string_view line, Bytes& record) {
   const asciilog::LogRow& row = *asciilog::RowOf(id);
   const std::vector<char> text(line.begin(), line.end() - 2);
   record.assign(row.recordSize, 0);
-  return asciilog::DecodeLog(row, {text.data(), text.size()}, record.data()) ==
-         asciilog::DecodeResult::Success;
+  return DecodeLog(row, {text.data(), text.size()}, record.data()) == DecodeResult::Success;
 }
 
-std::string LineOf(std::uint32_t id, std::string_view body) {
-  const bool isLong = asciilog::RowOf(id)->format->header == asciilog::HeaderForm::Long;
-  return isLong ? LongLog("ANYLOGA", body) : ShortLog("ANYLOGA", body);
-}
-
-bool Decodes(std::uint32_t id, std::string_view body) {
+bool Decodes(std::uint32_t id, std::string_view line) {
   Bytes record;
-  return Decode(id, LineOf(id, body), record);
+  return Decode(id, line, record);
 }
 
-// Members in a row, by a letter each: b 8 bits, h 16, i 32, all with a sign; f float, d
-// double.
-Numbers Members(const std::uint8_t* at, std::string_view layout) {
-  Numbers members;
-  const auto take = [&]<class T>(T member) {
-    std::memcpy(&member, at, sizeof(member));
-    at += sizeof(member);
-    members.push_back(static_cast<double>(member));
-  };
-  for (const char letter : layout) {
-    if (letter == 'b') take(std::int8_t{});
-    if (letter == 'h') take(std::int16_t{});
-    if (letter == 'i') take(std::int32_t{});
-    if (letter == 'f') take(float{});
-    if (letter == 'd') take(double{});
-  }
-  return members;
+AsciiLogHeader HeaderOf(const Bytes& record) {
+  AsciiLogHeader header;
+  std::memcpy(&header, record.data(), sizeof(header));
+  return header;
 }
 
-struct Body {
-  std::string text, layout;
+std::vector<std::uint32_t> IdsOf(const LogFacts& kind) {
+  std::istringstream in{std::string(kind.ids)};
+  return {std::istream_iterator<std::uint32_t>(in), {}};
+}
+
+const FieldFacts& FactsOf(char letter) {
+  return *std::ranges::find(FieldsOfLogs, letter, &FieldFacts::letter);
+}
+
+std::vector<std::string> Split(std::string_view list) {
+  std::vector<std::string> items;
+  std::istringstream in{std::string(list)};
+  for (std::string item; std::getline(in, item, '|');) items.push_back(item);
+  return items;
+}
+
+struct Field {
+  char letter;
+  std::string text;
   Numbers values;
 };
 
-// Bare letters are members that hold their place, 1 for the first. "i:text=value" is a member whose
-// value has another text, "i:value" one with a value of its own, and "h:=value" takes no field.
-Body BodyOf(const std::string& members) {
-  Body body;
-  std::istringstream list(members);
-  for (std::string token; list >> token;) {
-    const bool bare = token[1] != ':';
-    for (const char letter : bare ? token : token.substr(0, 1)) {
-      body.layout += letter;
-      const std::string text = bare ? std::to_string(body.layout.size()) : token.substr(2);
-      const std::size_t equals = text.find('=');
-      body.values.push_back(std::stod(text.substr(equals + 1)));
-      if (equals != 0) body.text += (body.text.empty() ? "" : ",") + text.substr(0, equals);
-    }
+// `taken` as FieldFacts has it.
+Field FieldOf(char letter, const std::string& taken) {
+  const std::size_t equals = taken.rfind('=');
+  Field field{letter, taken.substr(0, equals), {}};
+  std::istringstream values(equals == std::string::npos ? taken : taken.substr(equals + 1));
+  for (std::string value; values >> value;) {
+    const double number = std::stod(value);
+    field.values.push_back(letter == 'F' ? static_cast<float>(number) : number);
   }
-  return body;
+  return field;
 }
 
-TEST(LogHeader, BothFormsFillTheImage) {
-  const auto image = [](std::uint32_t id, std::string_view header) {
-    Bytes record;
-    EXPECT_TRUE(Decode(id, Log(std::string(header) + ";1,0,0,0,1,1,1,1,1,1,X"), record)) << header;
-    EXPECT_EQ(Members(record.data(), "bbbb"), (Numbers{-86, 68, 18, 28}));
-    return Members(record.data() + 4, "hbbhhbbhiihh");
-  };
-  // Signed bytes: 0xAA is -86, FINESTEERING -76.
-  EXPECT_EQ(image(101, "#TIMEA,ICOM3,70001,41.5,FINESTEERING,2101,345678.2504,32,25,1500"),
-            (Numbers{101, 0, 14, 44, 4465, 83, -76, 2101, 345678250, 32, 25, 1500}));
-  EXPECT_EQ(image(101, "#X,NOPORT,1,nan,NEVER,70000,-1.5,-1,65537,-1"),
-            (Numbers{101, 0, 0, 44, 1, 0, 0, 70000 - 65536, -1500, -1, 1, -1}));
-  EXPECT_EQ(image(101, "#X,COM1,1,200,FINE,1,1e7,1,1,1"),
-            (Numbers{101, 0, 1, 44, 1, -1, -96, 1, INT32_MIN, 1, 1, 1}));
-  EXPECT_EQ(image(60015, "#X,41.5,GPS,FINESTEERING,2101,345678250,1,2,18,38"),
-            (Numbers{60015 - 65536, 0, 0, 4, 0, 83, -76, 2101, 345678250, 0, 0, 0}));
-  for (const std::uint32_t id : {10U, 11277U}) {  // a short and a long one without known fields
-    const std::string line = LineOf(id, "");
-    EXPECT_TRUE(Decodes(id, ""));
-    for (auto end = line.rfind(','); end != NotFound; end = line.rfind(',', end - 1)) {
-      Bytes record;
-      EXPECT_FALSE(Decode(id, Log(line.substr(0, end) + ";"), record)) << id << ": " << end;
+// A body with a text of its own in each field that can have one.
+struct Body {
+  std::vector<Field> fields;
+
+  explicit Body(const LogFacts& kind, std::size_t groups = 2) {
+    Append(kind.fields);
+    if (kind.most == 0) return;
+    fields.back() = FieldOf('N', std::to_string(groups));
+    for (; groups > 0; --groups) Append(kind.group);
+  }
+
+  void Append(std::string_view letters) {
+    for (const char letter : letters) {
+      const std::string place = std::to_string(fields.size() + 1);
+      const bool isHex = letter == 'x' || letter == 'X';
+      const bool isNumber = std::string_view("BHhIiFD").find(letter) != std::string_view::npos;
+      const std::string taken = isHex      ? place + "=" + std::to_string(std::stoul(place, {}, 16))
+                                : isNumber ? place
+                                           : Split(FactsOf(letter).taken)[0];
+      fields.push_back(FieldOf(letter, taken));
     }
   }
+
+  std::string Text(std::size_t count = SIZE_MAX) const {
+    std::string text;
+    for (std::size_t i = 0; i < std::min(count, fields.size()); ++i) {
+      text += (i == 0 ? "" : ",") + fields[i].text;
+    }
+    return text;
+  }
+
+  std::size_t Width() const {
+    std::size_t width = 0;
+    for (const Field& field : fields)
+      width += field.letter == 'N' ? 4 : FactsOf(field.letter).width;
+    return width;
+  }
+
+  // Of the first two groups, as LogFacts::members has them.
+  Numbers Values() const {
+    Numbers values;
+    for (const Field& f : fields) values.insert(values.end(), f.values.begin(), f.values.end());
+    return values;
+  }
+};
+
+std::string LineOf(const LogFacts& kind, std::string_view body) {
+  return kind.header == 'S' ? ShortLog("ANYLOGA", body) : LongLog("ANYLOGA", body);
 }
 
-TEST(LogDecoders, EveryFieldReachesItsMemberAndIsNeeded) {
-  const std::string status = "i:PENDING=18 i:L1_INT=48 ";
-  const std::string satellites = " bbbb b:0c=12 b:1f=31 b:0A=10 b:7F=127";
-  const std::pair<std::vector<std::uint32_t>, std::string> logs[] = {
-      {{42, 47, 96, 6006, 57026, 2118},
-       "i:VARIANCE=8 i:PPP=69 d:51.11635910984 ddf i:WGS84=61 fff i:\"A1\"=12609 ff" + satellites},
-      {{99, 100}, status + "ffdddf"},
-      {{174, 2059}, "f:1.5 fffff i:3 iii i:=0"},
-      {{101}, "i:ITERATING=4 dddibbbbi i:VALID=1"},
-      {{241},
-       status + "dddfff i:PPP=0 i:SBAS=18 dddfff i:\"AAAAB\"=1094795585 fffbbbbb b:01 b:0 b:33=51"},
-      {{971, 1335}, status + "ffffff i:\"9\"=57" + satellites},
-      {{507}, "i d:144088.5 ddddddddd i:INS_SOLUTION_GOOD=4"},
-      {{43, 6005},
-       "i:2 hh d:23145913.339 f d:-121633909.567438 ffff i:0810dc04=135322628 hhdfdffff i:ff=255"},
-      {{7}, "idiiiiiddddddddddddddddiddddd i:TRUE=1 dd"},
-      {{723}, "hhbbhiihbbiiddddddddddddiiiii"},
-      {{1122}, "i i:TRUE=1 i:FALSE=0 bbbbbbbbiidddddddddddddddidddiddddd"},
-      {{48}, "i:TRUE=1 i:no=0 i:2 h h:-5 iddddhhidddd"},
-      {{1043}, "i:GLONASS=1 i:TRUE=1 i:TRUE=1 i:2 h:13-2=13 h:=-2 idddd h:8+6=8 h:=6 idddd"},
-      {{1194},
-       "i:2 i:GPS=0 h h:=0 i:GOOD=0 i i:BEIDOU=6 h:19-3=19 h:=-3 i:NOSIGNALMATCH=25 i:8f=143"},
-      {{11276}, "i:GNSS=1397968455 bbbbbbb"},
-      {{60015}, "i"},
-      {{60018, 60019}, "dddddddd"},
-      {{60020}, "ddd"},
-      {{60021, 60022, 60023}, "iiddii i:-7 i"},
-  };
-  for (const auto& [ids, members] : logs) {
-    const Body body = BodyOf(members);
-    for (const std::uint32_t id : ids) {
-      Bytes record;
-      EXPECT_TRUE(Decode(id, LineOf(id, body.text + ",1,more"), record)) << id;
-      EXPECT_EQ(Members(record.data() + 28, body.layout), body.values) << id;
-      for (auto end = body.text.rfind(','); end != NotFound; end = body.text.rfind(',', end - 1)) {
-        EXPECT_FALSE(Decodes(id, body.text.substr(0, end))) << id << ": " << end;
+// The record of a line with the body: its members, how much the header says of it, and zeros.
+void ExpectDecodes(const LogFacts& kind, std::uint32_t id, const Body& body, const char* behind) {
+  Bytes record;
+  const std::string line = LineOf(kind, body.Text() + behind);
+  ASSERT_TRUE(Decode(id, line, record)) << id << ": " << line;
+  ASSERT_EQ(record.size(), kind.size) << id;
+  EXPECT_EQ(kind.members(record.data()), body.Values()) << id << ": " << line;
+  const std::size_t filled = kind.header == '-' ? 0 : sizeof(AsciiLogHeader) + body.Width();
+  const std::vector<std::uint8_t> rest(record.begin() + static_cast<long>(filled), record.end());
+  EXPECT_EQ(rest, Bytes(rest.size(), 0)) << id;
+  if (kind.header == '-') return;
+  EXPECT_EQ(HeaderOf(record).messageId, id % 65536);
+  EXPECT_EQ(HeaderOf(record).messageLength, body.Width()) << id;
+}
+
+TEST(LogDecoders, FieldsTakeAndRefuseTextsByTheirType) {
+  for (const LogFacts& kind : KindsOfLogs) {
+    for (const std::uint32_t id : IdsOf(kind)) {
+      ASSERT_NE(asciilog::RowOf(id), nullptr) << id;
+      Body body(kind);
+      ExpectDecodes(kind, id, body, "");
+      ExpectDecodes(kind, id, body, ",1,more");
+      for (std::size_t i = 0; i < body.fields.size(); ++i) {
+        EXPECT_FALSE(Decodes(id, LineOf(kind, body.Text(i)))) << id << ": " << i << " fields";
+        const Field before = body.fields[i];
+        if (before.letter == 'N') continue;
+        const auto& [letter, width, taken, refused] = FactsOf(before.letter);
+        for (const std::string& text : Split(taken)) {
+          body.fields[i] = FieldOf(letter, text);
+          ExpectDecodes(kind, id, body, "");
+        }
+        for (const std::string& text : Split(refused)) {
+          body.fields[i].text = text;
+          EXPECT_FALSE(Decodes(id, LineOf(kind, body.Text()))) << id << ": " << body.Text();
+        }
+        body.fields[i] = before;
       }
     }
   }
 }
 
-TEST(LogDecoders, FieldsWithoutAValueOfTheirTypeFail) {
-  const auto speed = [](const std::string& field) {
-    return Decodes(LogIdBestVelocity, "SOL_COMPUTED,SINGLE,0,0,1," + field + ",1,1");
-  };
-  const std::string texts[] = {"", "1x", "1e999", "--1", "+-1", "\"1\"", std::string(10000, '7')};
-  for (const std::string& field : texts) EXPECT_FALSE(speed(field)) << field.substr(0, 20);
-  for (const char* field : {" +1", "-1", "nan", "1e5"}) EXPECT_TRUE(speed(field)) << field;
-  // Words are never wrong, however long; a comma between quotes ends no field.
-  EXPECT_TRUE(Decodes(99, std::string(10000, 'W') + ",SINGLE,0,0,1,1,1,1"));
-  EXPECT_TRUE(Decodes(971, "X,X,3,4,5,6,7,8,\"9,9\",10,9,8,7,0c,00,0,11"));
-  EXPECT_FALSE(Decodes(101, "VALID,0,0,0,2026,256,1,1,1,1,VALID"));
-  EXPECT_FALSE(Decodes(101, "VALID,0,0,0,-1,1,1,1,1,1,VALID"));
+TEST(LogDecoders, ThereAreNoOtherKinds) {
+  std::set<std::uint32_t> known;
+  for (const LogFacts& kind : KindsOfLogs) {
+    for (const std::uint32_t id : IdsOf(kind)) known.insert(id);
+  }
+  EXPECT_EQ(known.size(), 47U);
+  for (const asciilog::LogRow& row : asciilog::LogRows()) {
+    EXPECT_TRUE(known.contains(row.identifier)) << row.identifier;
+  }
+  for (const std::uint32_t id : {0U, 6U, 8U, 1026U, 60014U, 60024U, UINT32_MAX}) {
+    EXPECT_EQ(asciilog::RowOf(id), nullptr) << id;
+  }
 }
 
 TEST(LogDecoders, GroupsAreBoundedByTheRecord) {
-  std::string satellites;
-  for (std::size_t count = 0; count <= 67; ++count, satellites += ",1") {
-    EXPECT_EQ(Decodes(174, "1,2,3,4,5,6," + std::to_string(count) + satellites), count <= 66);
+  for (const LogFacts& kind : KindsOfLogs) {
+    if (kind.most == 0) continue;
+    for (const std::uint32_t id : IdsOf(kind)) {
+      Bytes record;
+      EXPECT_TRUE(Decodes(id, LineOf(kind, Body(kind, 0).Text())));
+      const Body fullest(kind, kind.most);
+      ASSERT_TRUE(Decode(id, LineOf(kind, fullest.Text()), record)) << id;
+      EXPECT_EQ(HeaderOf(record).messageLength, fullest.Width());
+      EXPECT_FALSE(Decodes(id, LineOf(kind, Body(kind, kind.most + 1).Text()))) << id;
+      Body body(kind);
+      for (const char* count : {"3", "4294967295", "-1", ""}) {
+        body.fields[kind.fields.size() - 1].text = count;
+        EXPECT_FALSE(Decodes(id, LineOf(kind, body.Text()))) << id << " " << count;
+      }
+    }
   }
-  EXPECT_FALSE(Decodes(174, "1,2,3,4,5,6,4294967295" + satellites));
+}
+
+TEST(LogDecoders, FieldsThatAreNoNumbersFail) {
+  const auto speed = [](const std::string& field) {
+    return Decodes(99, LongLog("BESTVELA", "SOL_COMPUTED,SINGLE,0,0,1," + field + ",1,1"));
+  };
+  const std::string texts[] = {
+      "",  "1x", "1e999", "--1", "+-1", "\"1\"", "1 ", "\t1",
+      "x", "+",  "-",     " ",   ".",   "0x1p1", "1e", std::string(9999, '7')};
+  for (const std::string& field : texts) EXPECT_FALSE(speed(field)) << field.substr(0, 20);
+  for (const char* field : {"  +1", " -1", "nan", "-inf", "1e5", ".5"}) EXPECT_TRUE(speed(field));
+  // Words are never wrong, however long.
+  EXPECT_TRUE(Decodes(99, LongLog("BESTVELA", std::string(9999, 'W') + ",SINGLE,0,0,1,1,1,1")));
+}
+
+struct LongImage {
+  std::string header;
+  std::uint8_t port;
+  std::uint16_t sequence;
+  std::uint8_t idleTime, timeStatus;
+  std::uint16_t week;
+  std::int32_t milliseconds;
+  std::uint32_t receiverStatus;
+  std::uint16_t reserved, softwareBuild;
+};
+
+TEST(LogHeader, LongFormFillsTheImage) {
+  const LongImage images[] = {
+      {"ICOM3,70001,41.5,FINESTEERING,2101,345678.2504,32,25,1500", 14, 4465, 83, 180, 2101,
+       345678250, 32, 25, 1500},
+      // Single precision would give 604799723, and no rounding 604799735.
+      {"COM1,1,0.24,FINE,0,604799.7359,0,0,0", 1, 1, 0, 160, 0, 604799736, 0, 0, 0},
+      {"COM1,1,0.25,FINE,0,604799.7352,0,0,0", 1, 1, 1, 160, 0, 604799735, 0, 0, 0},
+      {"COM2,1,127.4,LOCAL,1,0.0005,1,1,1", 2, 1, 255, 201, 1, 1, 1, 1, 1},
+      {"NOPORT,1,nan,NEVER,70000,-0.0005,-1,65537,-1", 0, 1, 0, 0, 4464, -1, 4294967295, 1, 65535},
+      {"COM1,-1,-3,FINE,-1,-1.5,2147483647,70000,70000", 1, 65535, 0, 160, 65535, -1500, 2147483647,
+       4464, 4464},
+      {"COM1,1,200,FINE,1,1e7,1,1,1", 1, 1, 255, 160, 1, INT32_MIN, 1, 1, 1},
+      {"COM1,1,inf,FINE,1,nan,00000020,1,1", 1, 1, 255, 160, 1, INT32_MIN, 20, 1, 1},
+  };
+  for (const LongImage& image : images) {
+    Bytes record;
+    ASSERT_TRUE(Decode(11277, Log("#FWINFOA," + image.header + ";"), record)) << image.header;
+    const AsciiLogHeader header = HeaderOf(record);
+    EXPECT_EQ(Bytes(record.begin(), record.begin() + 4), (Bytes{0xAA, 0x44, 0x12, 28}));
+    EXPECT_EQ(header.messageId, 11277);
+    EXPECT_EQ(header.messageType, 0);
+    EXPECT_EQ(header.port, image.port) << image.header;
+    EXPECT_EQ(header.messageLength, 0);
+    EXPECT_EQ(header.sequence, image.sequence) << image.header;
+    EXPECT_EQ(header.idleTime, image.idleTime) << image.header;
+    EXPECT_EQ(header.timeStatus, image.timeStatus) << image.header;
+    EXPECT_EQ(header.week, image.week) << image.header;
+    EXPECT_EQ(header.milliseconds, image.milliseconds) << image.header;
+    EXPECT_EQ(header.receiverStatus, image.receiverStatus) << image.header;
+    EXPECT_EQ(header.reserved, image.reserved) << image.header;
+    EXPECT_EQ(header.softwareBuild, image.softwareBuild) << image.header;
+  }
+}
+
+TEST(LogHeader, ShortFormFillsTimeAndIdleTimeAlone) {
+  Bytes record;
+  ASSERT_TRUE(Decode(10, Log("#OBSVMA,41.5,BDS,FINE,70000,4294967295,-1,2,18,38;"), record));
+  EXPECT_EQ(Bytes(record.begin(), record.begin() + 28),
+            (Bytes{0xAA, 0x44, 0x12, 28,   10,   0,    0, 0, 0, 0, 0, 0, 83, 160,
+                   0x70, 0x11, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0, 0, 0, 0,  0}));
+}
+
+TEST(LogHeader, TellsWhatItsWeekCountsFrom) {
+  using enum asciilog::TimeReference;
+  const auto reference = [](asciilog::HeaderForm form, const std::string& line) {
+    const auto header = asciilog::ReadHeader(form, line, 10);
+    EXPECT_TRUE(header && header->image.week == 845) << line;
+    return header->timeReference;
+  };
+  using enum asciilog::HeaderForm;
+  for (const auto& [word, system] : {std::pair("GPS", Gps), std::pair("BDS", Bds),
+                                     std::pair("BDS1", Bds), std::pair("LOCAL", Unknown)}) {
+    const std::string line = "#A,41.5," + std::string(word) + ",FINE,845,3,0,0,18,38;";
+    EXPECT_EQ(reference(Short, line), system) << word;
+  }
+  EXPECT_EQ(reference(Long, "#A,BDS,1,1,BDS,845,3,0,0,0;"), Gps);
+}
+
+TEST(LogHeader, HasExactlyTheFieldsOfItsForm) {
+  for (const LogFacts& kind : KindsOfLogs) {
+    const std::uint32_t id = IdsOf(kind)[0];
+    const std::string body = Body(kind).Text();
+    EXPECT_EQ(Decodes(id, LongLog("A", body)), kind.header != 'S') << id;
+    EXPECT_EQ(Decodes(id, ShortLog("A", body)), kind.header != 'L') << id;
+  }
+  for (const std::uint32_t id : {10U, 11277U}) {
+    const std::string line = id == 10 ? ShortLog("A", "") : LongLog("A", "");
+    for (auto end = line.rfind(','); end != std::string::npos; end = line.rfind(',', end - 1)) {
+      EXPECT_FALSE(Decodes(id, Log(line.substr(0, end) + ";"))) << id << ": " << end;
+    }
+  }
+  EXPECT_FALSE(Decodes(11277, Log("#A,COM1,0,83.5,FINE,1419,336148,1f,5,2;")));
+  // A kind with fields has none without ";", and the first ";" begins them: FieldsOfLogs has more.
+  std::string line = LongLog("A", "1");
+  EXPECT_FALSE(Decodes(48, Log(line.substr(0, line.find(';')))));
+  // The CRC is tested for kinds without a header too.
+  line = Log("$GPSTIME,1,2");
+  EXPECT_TRUE(Decodes(2300, line));
+  line[3] = 'Q';
+  EXPECT_FALSE(Decodes(2300, line));
 }
 
 void DecodeLine(Decoder& decoder, std::uint32_t id, const std::string& line) {
   decoder.asciiLog.DecodeLine(std::string_view(line).substr(0, line.size() - 2), id);
 }
 
-// Filter and decoded-id set are ignored; lines without known fields are queued all the same.
-TEST(LogRecords, AreQueuedWhateverTheFilterSays) {
+std::string LineOf(std::uint32_t id) {
+  const auto has = [id](const LogFacts& kind) { return std::ranges::count(IdsOf(kind), id) != 0; };
+  const LogFacts& kind = *std::ranges::find_if(KindsOfLogs, has);
+  return LineOf(kind, Body(kind).Text());
+}
+
+// Output filter and decoded-id set have no part in logs, and a line that fails leaves nothing.
+TEST(LogRecords, AreQueuedInTheirSizeWhateverTheFilterSays) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->sink.SetFilter(1);
-  PushAs(*decoder, AsciiLogLine, ShortLog("OBSVMA", "79,0,2"));
-  PushAs(*decoder, AsciiLogLine, LongLog("FWINFOA", ""));
-  DecodeLine(*decoder, LogIdGpsTime, Log("$GPSTIME,1,2"));
-  DecodeLine(*decoder, LogIdGpsTime, "$GPSTIME,1,2*00000000\r\n");  // wrong CRC
-  const auto records = PopAll(*decoder);
-  ASSERT_EQ(Ids(records), (std::vector<std::uint32_t>{10, 11277, 2300}));
-  ASSERT_EQ(records[0].size, 17308U);
-  const std::uint8_t* const undecoded = &records[0].As<std::uint8_t>() + sizeof(AsciiLogHeader);
-  EXPECT_EQ(std::count(undecoded, undecoded + 17280, 0), 17280);
+  for (const LogFacts& kind : KindsOfLogs) {
+    for (const std::uint32_t id : IdsOf(kind)) {
+      std::string line = LineOf(id);
+      DecodeLine(*decoder, id, line);
+      line[2] = '?';
+      DecodeLine(*decoder, id, line);
+      ASSERT_EQ(decoder->sink.Waiting(), 1U) << id;
+      QueuedMessage record = decoder->sink.PopOldest().value();
+      EXPECT_EQ(record.message.id, id);
+      EXPECT_EQ(record.message.source, SourceAsciiLog);
+      EXPECT_EQ(record.payloadSize, kind.size);
+      const auto* const bytes = static_cast<const std::uint8_t*>(record.message.data);
+      const bool isZero = std::count(bytes, bytes + kind.size, 0) == kind.size;
+      EXPECT_EQ(isZero, kind.header == '-' || id == 507 || id == 57026) << id;
+      decoder->sink.Release(record.message);
+    }
+  }
+  DecodeLine(*decoder, 1026, LineOf(2118));
+  EXPECT_EQ(decoder->sink.Waiting(), 0U) << "a log that is recognised but not decoded";
   std::array<std::uint32_t, 64> ids;
   EXPECT_EQ(decoder->sink.DrainDecodedIds(ids.data()), 0U);
 }
@@ -188,24 +339,22 @@ TEST(LogRecords, AreQueuedWhateverTheFilterSays) {
 // the address sanitizer would tell. Nor do the records that they stand for pile up.
 TEST(LogRecords, FixedPayloadsAreOnlyLetGo) {
   const auto decoder = std::make_unique<Decoder>();
-  const std::string ones = "1,1,1,1,1,1,1,1,1,1,1,1";
+  const std::string inertial = LineOf(507);
+  const std::string position = LineOf(57026);
   const auto push = [&](std::uint32_t times) {
     for (; times > 0; --times) {
-      DecodeLine(*decoder, LogIdInertial, LineOf(507, ones));
-      DecodeLine(*decoder, LogIdPosition57026, LineOf(42, ones + ",1,1,1,1,1,1,1,1,1"));
+      DecodeLine(*decoder, 507, inertial);
+      DecodeLine(*decoder, 57026, position);
       PushAs(*decoder, AsciiLogBinary, BinaryLog(AsciiLogBinary, 2058, Bytes(20, 3)));
-      DecodeLine(*decoder, LogIdRange, LineOf(43, "9,1"));  // fails
+      DecodeLine(*decoder, 43, LongLog("RANGEA", "9,1"));  // fails
     }
   };
-  push(1);
-  for (const auto& [id, size] : {std::pair(507U, 116), std::pair(57026U, 100)}) {
-    GnssMessage record;
-    ASSERT_EQ(decoder->sink.Pop(record, id), 0U);
-    EXPECT_EQ(record.source, SourceAsciiLog);
-    const auto* const bytes = static_cast<const std::uint8_t*>(record.data);
-    EXPECT_EQ(std::count(bytes, bytes + size, 0), size);
-    decoder->sink.Release(record);
+  push(2);
+  std::set<const void*> payloads;
+  for (GnssMessage record; decoder->sink.Pop(record, 0) == 0; decoder->sink.Release(record)) {
+    payloads.insert(record.data);
   }
+  EXPECT_EQ(payloads.size(), 3U) << "each kind has a block of its own, and keeps it";
   push(MaxQueuedMessages);
   const std::size_t before = ResidentMemory();
   push(3 * MaxQueuedMessages);

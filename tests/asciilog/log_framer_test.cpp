@@ -63,6 +63,11 @@ TEST(LogFramer, LineIsTakenOrCostsOneByte) {
                                   Log("#FWINFOA,COM1,0,83.5,FINE,1419,336148.000,0,a5,2;")}) {
     EXPECT_EQ(Feed(AsciiLogLine, line), Accepted(line, line.size() - 2, 0)) << line;
   }
+  // The text ends at a NUL. With it, eleven characters are enough and ten are not.
+  constexpr std::string_view Ten("#CLAUHXB*2\0xxxxxx\r\n", 19);
+  constexpr std::string_view Eleven("#CLAUHXB*02\0xxxxx\r\n", 19);
+  EXPECT_EQ(Feed(AsciiLogLine, Ten), Accepted(Ten, 0, 0));
+  EXPECT_EQ(Feed(AsciiLogLine, Eleven), Accepted(Eleven, 11, 0));
   // "#*": the star is too close to count as one.
   EXPECT_EQ(Feed(AsciiLogLine, Log("#")), Abandoned(Log("#")));
 }
@@ -118,6 +123,7 @@ TEST(LogFramer, BinaryFrameIsQueuedAsItStandsInTheLineBuffer) {
       {AsciiLogBinary, BinaryLog(AsciiLogBinary, 1000, Bytes(60, 7), 12)},
       {AsciiLogBinaryFixed, BinaryLog(AsciiLogBinaryFixed, 1000, Bytes(40, 7))}};
   const auto decoder = std::make_unique<Decoder>();
+  decoder->sink.SetFilter(1);  // means nothing to logs
   for (const auto& [state, frame] : frames) {
     PushAs(*decoder, state, frame);
     QueuedMessage record = decoder->sink.PopOldest().value();

@@ -2,64 +2,112 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <cctype>
+#include <map>
 #include <sstream>
 
 #include "asciilog/words.h"
+#include "asciilog/log_facts.h"
 
-namespace navframe::asciilog {
+namespace navframe::test {
 namespace {
 
-TEST(LogNames, EveryRowIsReachedButTheFiveRepeatedOnes) {
-  const std::set<std::size_t> repeated = {58, 81, 82, 85, 88};
-  for (std::size_t row = 1; row <= LogNames.size(); ++row) {
-    const LogName& name = LogNames[row - 1];
-    const std::string_view prefix = name.Prefix();
-    std::size_t first = 1;
-    while (!prefix.starts_with(LogNames[first - 1].Prefix())) ++first;
-    EXPECT_EQ(first != row, repeated.contains(row)) << row << " " << prefix;
-    EXPECT_EQ(IdentifierOf(std::string(prefix) + ",x"), LogNames[first - 1].identifier) << prefix;
-    EXPECT_NE(IdentifierOf(prefix.substr(0, prefix.size() - 1)), name.identifier) << prefix;
+using Entries = std::vector<std::pair<std::string, std::uint32_t>>;
+
+Entries EntriesOf(std::string_view list) {
+  Entries entries;
+  std::istringstream in{std::string(list)};
+  for (std::pair<std::string, std::uint32_t> entry; in >> entry.first >> entry.second;) {
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+TEST(LogNames, LongestNameThatTheLineBeginsWithGivesItsNumber) {
+  const Entries names = EntriesOf(NamesOfLogs);
+  ASSERT_EQ(names.size(), 127U);
+  const auto numberOf = [&names](std::string_view line) {
+    std::pair<std::size_t, std::uint32_t> longest;
+    for (const auto& [name, number] : names) {
+      if (line.starts_with(name)) longest = std::max(longest, {name.size(), number});
+    }
+    return longest.second;
+  };
+  for (const auto& [name, number] : names) {
+    EXPECT_EQ(asciilog::IdentifierOf(name), number) << name;
+    const std::string head = name.substr(0, name.size() - 1);
+    const char next = name.back() == ',' ? 'B' : ',';
+    for (const std::string& line : {name + "A,1", name + ",1", head, head + next, head + "A_1,"}) {
+      EXPECT_EQ(asciilog::IdentifierOf(line), numberOf(line)) << line;
+    }
   }
 }
 
-TEST(LogNames, FirstRowThatMatchesWins) {
-  std::istringstream cases(
-      "$GAGGA,1 22222 $GAGSA,1 22222 $GAGSV,1 22222 #GALUTC?,1 60023 #GALUTX,1 0 "
-      "#PVTSOL? 1023 #PVTSOX 0 #BASERANGE2 286 #BASERANGEA 283 #BASERANGE 0 #OBSVHCMPA,1 139 "
-      "#OBSVHA,1 11 #OBSVMCMPA,1 138 #OBSVMA,1 10 #BESTPOSA,1 42 #BESTPOS2A,1 2062 "
-      "#GPSEPHEMERISA, 60014 #GPSEPHEMA, 7 #GPSEPHEM, 60014 #RANGEA,1 43 #RANGEA_1,1 6005 "
-      "#RANGEA 0 #GALEPHEMERISA, 1122 #GALEPHEMX 60016 #BDSEPHEMERISA, 1696 #BDSEPHEMX 60015 "
-      "#GLOEPHEMERISA, 723 #GLOEPHEMX 60017 $GPGSV,1 223 #BESTPOSB,1 0 bestposa,1 0");
-  std::uint32_t identifier = 0;
-  for (std::string line; cases >> line >> identifier;) EXPECT_EQ(IdentifierOf(line), identifier);
+// Rows that repeat an earlier name are there too, and give nothing of their own.
+TEST(LogNames, TableHasNoOtherNames) {
+  std::map<std::string_view, std::uint32_t> names;
+  const Entries entries = EntriesOf(NamesOfLogs);
+  for (const auto& [name, number] : entries) names[name] = number;
+  for (const asciilog::LogName& row : asciilog::LogNames) {
+    EXPECT_TRUE(names.contains(row.Prefix())) << row.text;
+  }
 }
 
-TEST(LogWords, ValuesFollowTheirTables) {
-  const struct {
-    std::int32_t (*valueOf)(std::string_view);
-    const char* words;
-  } tables[] = {
-      {TimeStatus, "UNKNOWN 20 FINESTEERING 180 FINE 160 FINESTEER 0 LOCAL 201"},
-      {SolutionStatus, "INSUFFICIENT_OBS 1 INTEGRITY_WARNING 13 ANTENNA_WARNING 21"},
-      {PositionType, "NARROW_INT 50 RTK_DIRECT_INS 51 INS 52 PPP_BASIC 78 single 0"},
-      {Datum, "ERROR 0 WGS84 61 USER 63 TOYM 86 wgs84 0"},
-      {Port, "COM1 1 ICOM14 25 COM9 0"},
-      {InertialStatus, "INS_INACTIVE 1 WAITING_INITIALPOS 8"},
-      {TimeValidity, "VALID 1 WARNING 6"},
-      {ComponentType, "UNKNOWN 1 DB_USERAPPAUTO 8"},
-      {Boolean, "TRUE 1 true 0"},
-      // The first of equal words, and of words within a field.
-      {ExtendedPositionType, "WIDE_INT 9 L1_INT 12 REFERENCE 20 NARROW_INT_L234 0"},
-      {SatelliteStatus, "NOSIGNALMATCH 25 xNAx 99 UNAVAILABLE_LOSSSOFLOCK 99 LOSSSOFLOCK 101"},
-      {SatelliteStatus, "LOSSOFLOCK 0 OBSE5 21 NO_GOOD_NA 0"},
-  };
-  for (const auto& [valueOf, words] : tables) {
-    std::istringstream cases(words);
-    std::int32_t value = 0;
-    for (std::string word; cases >> word >> value;) EXPECT_EQ(valueOf(word), value) << word;
+using ValueOf = std::int64_t (*)(std::string_view);
+template <auto Read>
+constexpr ValueOf As = [](std::string_view word) { return static_cast<std::int64_t>(Read(word)); };
+
+const std::map<std::string_view, ValueOf> WordReaders = {
+    {"time status", As<asciilog::TimeStatus>},
+    {"solution status", As<asciilog::SolutionStatus>},
+    {"position type", As<asciilog::PositionType>},
+    {"satellite status", As<asciilog::SatelliteStatus>},
+    {"extended position type", As<asciilog::ExtendedPositionType>},
+    {"datum", As<asciilog::Datum>},
+    {"port", As<asciilog::Port>},
+    {"inertial status", As<asciilog::InertialStatus>},
+    {"time validity", As<asciilog::TimeValidity>},
+    {"component type", As<asciilog::ComponentType>},
+    {"boolean", As<asciilog::Boolean>},
+    {"satellite system", As<asciilog::SatelliteSystem>},
+    {"time reference", As<asciilog::TimeReferenceOf>},
+};
+
+TEST(LogWords, GiveTheirValuesAndOtherTextsNone) {
+  ASSERT_EQ(std::size(WordsOfLogs), WordReaders.size());
+  for (const auto& [set, list] : WordsOfLogs) {
+    const ValueOf valueOf = WordReaders.at(set);
+    std::map<std::string, std::uint32_t> words;
+    for (const auto& entry : EntriesOf(list)) words.insert(entry);  // the first of equal words
+    EXPECT_EQ(valueOf(""), 0) << set;
+    for (const auto& [word, value] : words) {
+      EXPECT_EQ(valueOf(word), value) << set << " " << word;
+      if (set == "satellite status") continue;
+      std::string lower = word;
+      for (char& c : lower) c = static_cast<char>(std::tolower(c));
+      for (const std::string& other :
+           {word.substr(1), word.substr(0, word.size() - 1), word + "_", " " + word, lower}) {
+        EXPECT_EQ(valueOf(other), words.contains(other) ? words[other] : 0) << set << " " << other;
+      }
+    }
+  }
+}
+
+TEST(LogWords, FirstSatelliteStatusThatOccursInTheFieldCounts) {
+  const Entries words = EntriesOf(WordsOfLogs[3].words);
+  ASSERT_EQ(words.back().first, "NOAMBIGUITY");
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string& word = words[i].first;
+    for (const std::string& part : {word.substr(0, word.size() - 1), word.substr(1)}) {
+      const bool hasNa = part.find("NA") != std::string::npos;
+      EXPECT_EQ(asciilog::SatelliteStatus(part), hasNa ? 99 : 0) << part;
+    }
+    for (std::size_t later = i; later < words.size(); ++later) {
+      const std::string field = "x" + words[later].first + " " + word + "y";
+      EXPECT_EQ(asciilog::SatelliteStatus(field), words[i].second) << field;
+    }
   }
 }
 
 }  // namespace
-}  // namespace navframe::asciilog
+}  // namespace navframe::test
