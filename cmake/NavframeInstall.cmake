@@ -35,11 +35,6 @@ if(TARGET navframe_tool)
   install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
 
-# What the C++ compiler links by itself and the C compiler does not.
-set(navframe_cxx_runtime ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
-list(REMOVE_ITEM navframe_cxx_runtime ${CMAKE_C_IMPLICIT_LINK_LIBRARIES})
-list(REMOVE_DUPLICATES navframe_cxx_runtime)
-
 # find_package(navframe): the targets navframe::navframe and navframe::navframe_static.
 install(
   EXPORT navframe_targets

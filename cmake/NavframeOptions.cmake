@@ -24,6 +24,11 @@ if(NOT navframe_many_configs
   endif()
 endif()
 
+# What the C++ compiler links by itself and the C compiler does not.
+set(navframe_cxx_runtime ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
+list(REMOVE_ITEM navframe_cxx_runtime ${CMAKE_C_IMPLICIT_LINK_LIBRARIES})
+list(REMOVE_DUPLICATES navframe_cxx_runtime)
+
 option(NAVFRAME_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
 option(NAVFRAME_WERROR "Treat warnings as errors" OFF)
 
