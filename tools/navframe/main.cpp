@@ -46,6 +46,7 @@ int main(int argc, char** argv) {
   app.add_option("FILE", options.file, "Input; - or nothing for standard input");
   app.add_option("--protocols", protocols, "Protocols to look for, all by default")
       ->delimiter(',')
+      ->allow_extra_args(false)  // what follows is FILE
       ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
   app.add_option("--board", options.board,
                  "Board type of the receiver; 7 has \"$\" start log lines");
