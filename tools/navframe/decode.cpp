@@ -28,16 +28,21 @@ class LineWriter {
   bool WriteWhenLarge() { return buffer_.size() < LargeEnough || Write(); }
 
   bool Write() {
-    const std::size_t written = std::fwrite(buffer_.data(), 1, buffer_.size(), stdout);
-    open_ = open_ && written == buffer_.size() && std::fflush(stdout) == 0;
+    if (error_ == 0 && (std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) != buffer_.size() ||
+                        std::fflush(stdout) != 0)) {
+      error_ = errno;
+    }
     buffer_.clear();
-    return open_;
+    return error_ == 0;
   }
+
+  // Of the write that failed; 0 when none has.
+  int Error() const { return error_; }
 
  private:
   static constexpr std::size_t LargeEnough = 1 << 18;
   std::string buffer_;
-  bool open_ = true;
+  int error_ = 0;
 };
 
 // A bar on standard error for files that take a while.
@@ -112,7 +117,7 @@ File Open(const std::string& name) {
 int Unreadable(const std::string& name) {
   std::fprintf(stderr, "navframe: cannot read %s: %s\n",
                name == "-" ? "standard input" : name.c_str(), std::strerror(errno));
-  return UnreadableInput;
+  return Failure;
 }
 
 // Pops everything that waits. False when the output was closed.
@@ -127,6 +132,12 @@ bool Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
 }
 
 }  // namespace
+
+ExitStatus UnwritableOutput(int error) {
+  if (error == EPIPE) return Success;
+  std::fprintf(stderr, "navframe: cannot write standard output: %s\n", std::strerror(error));
+  return Failure;
+}
 
 int Decode(const Options& options) {
   const File input = Open(options.file);
@@ -167,7 +178,7 @@ int Decode(const Options& options) {
   progress.End();
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
   if (options.stats) PrintStatistics(statistics, elapsed.count());
-  return Success;
+  return lines.Error() == 0 ? Success : UnwritableOutput(lines.Error());
 }
 
 }  // namespace navframe::tool
