@@ -13,6 +13,7 @@
 
 #include "kinds.h"
 #include "navframe/feeder.hpp"
+#include "printable.h"
 
 namespace navframe::tool {
 namespace {
@@ -98,8 +99,10 @@ void PrintStatistics(const Statistics& statistics, double seconds) {
 }
 
 void PrintRejected(const Feeder::Rejected& rejected) {
+  std::string sentence;
+  AppendPrintable(rejected.sentence, sentence);
   std::fprintf(stderr, "navframe: malformed sentence at byte %llu: %s (%s)\n",
-               static_cast<unsigned long long>(rejected.offset), rejected.sentence.c_str(),
+               static_cast<unsigned long long>(rejected.offset), sentence.c_str(),
                rejected.reason.c_str());
 }
 
