@@ -25,19 +25,19 @@ class LineWriter {
  public:
   std::string& Buffer() { return buffer_; }
 
-  // False when standard output takes no more, as behind `| head`.
-  bool WriteWhenLarge() { return buffer_.size() < LargeEnough || Write(); }
+  void WriteWhenLarge() {
+    if (buffer_.size() >= LargeEnough) Write();
+  }
 
-  bool Write() {
+  void Write() {
     if (error_ == 0 && (std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) != buffer_.size() ||
                         std::fflush(stdout) != 0)) {
       error_ = errno;
     }
     buffer_.clear();
-    return error_ == 0;
   }
 
-  // Of the write that failed; 0 when none has.
+  // errno of the write that failed, as behind `| head`; 0 while none has.
   int Error() const { return error_; }
 
  private:
@@ -123,15 +123,15 @@ int Unreadable(const std::string& name) {
   return Failure;
 }
 
-// Pops everything that waits. False when the output was closed.
-bool Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
+// Pops everything that waits.
+void Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
   GnssMessage message;
   while (GNSSGetMsg(&message, 0) == 0) {
     ++statistics.records[message.id];
     printer.Append(message, lines.Buffer());
     GNSSFreeMem(&message);
   }
-  return lines.WriteWhenLarge();
+  lines.WriteWhenLarge();
 }
 
 }  // namespace
@@ -153,16 +153,15 @@ int Decode(const Options& options) {
   RecordPrinter printer;
   LineWriter lines;
   Progress progress(input.get());
-  bool open = true;
   Feeder feeder(
       [&](const Feeder::Rejected& rejected) {
         ++statistics.rejected;
         if (!options.quiet) PrintRejected(rejected);
       },
-      [&] { open = Drain(statistics, printer, lines) && open; });
+      [&] { Drain(statistics, printer, lines); });
   const auto start = std::chrono::steady_clock::now();
   std::vector<std::uint8_t> chunk(options.chunk);
-  while (open) {
+  while (lines.Error() == 0) {
     const ssize_t length = read(fileno(input.get()), chunk.data(), chunk.size());
     if (length < 0) {
       const int status = Unreadable(options.file);
@@ -172,9 +171,9 @@ int Decode(const Options& options) {
     if (length == 0) break;
     statistics.bytes += static_cast<std::uint64_t>(length);
     feeder.Push(chunk.data(), static_cast<std::size_t>(length));
-    open = Drain(statistics, printer, lines) && open;
+    Drain(statistics, printer, lines);
     // A short read is a live source, whose lines are wanted now.
-    if (static_cast<std::size_t>(length) < chunk.size()) open = lines.Write() && open;
+    if (static_cast<std::size_t>(length) < chunk.size()) lines.Write();
     progress.Show(statistics.bytes);
   }
   lines.Write();
