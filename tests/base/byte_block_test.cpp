@@ -16,8 +16,8 @@ TYPED_TEST_SUITE(ByteBlocks, Blocks);
 TYPED_TEST(ByteBlocks, PlacesAndSumsOfBytes) {
   std::mt19937 random(3);
   for (int round = 0; round < 100; ++round) {
-    std::array<std::uint8_t, TypeParam::Size> bytes;
-    std::array<std::uint8_t, TypeParam::Size + 1> sums{};
+    std::array<std::uint8_t, 64> bytes;
+    std::array<std::uint8_t, 65> sums{};
     std::uint64_t stars = 0;
     std::uint64_t ends = 0;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -27,6 +27,7 @@ TYPED_TEST(ByteBlocks, PlacesAndSumsOfBytes) {
       ends |= std::uint64_t{choice < 3} << i;
       sums[i + 1] = sums[i] ^ bytes[i];
     }
+    ASSERT_EQ(TypeParam::Size, bytes.size());
     const TypeParam block(bytes.data());
     EXPECT_EQ(block.EqualTo('*'), stars);
     EXPECT_EQ(block.EqualToAny(std::array<std::uint8_t, 3>{'*', '$', 0}), ends);
