@@ -244,8 +244,8 @@ TEST_F(Tool, TextsOfRareValues) {
       // A date or a time alone is no moment.
       {Altered(navigation, {{11, 1}, {21, 0x42}}), " utc - fix 3D (not ok) differential float sat"},
       {Altered(navigation, {{11, 2}, {20, 0}, {21, 0x81}}), " utc - fix none fixed satellites 45,"},
-      {Altered(navigation, {{20, 6}, {21, 0xC1}}),
-       " utc 2026-03-14 12:00:00+0.000000000s fix ? sat"},
+      {Altered(navigation, {{16, 0x80}, {17, 0x4D}, {18, 0x19}, {19, 0xF1}, {20, 6}, {21, 0xC1}}),
+       " utc 2026-03-14 12:00:00-0.250000000s fix ? sat"},
       {Altered(navigation, {{20, 0}}), ", lat - lon - height - msl - m +- 0.640 / 0.830, east"},
       {Altered(satellites,
                {{8, 4}, {9, 255}, {10, 0}, {11, 91}, {14, 0xFF}, {15, 0xFF}, {16, 0x20}}),
