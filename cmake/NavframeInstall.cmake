@@ -27,15 +27,13 @@ if(TARGET navframe_tool)
   if(NOT APPLE AND NOT WIN32)
     file(RELATIVE_PATH navframe_bin_to_lib "${CMAKE_INSTALL_FULL_BINDIR}"
          "${CMAKE_INSTALL_FULL_LIBDIR}")
-    set_target_properties(navframe_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${navframe_bin_to_lib}")
+    # The same in the build tree, where the library lies beside the tool: a run path that CMake
+    # changes at installation ends in an empty entry until then, which means the current directory.
+    set_target_properties(navframe_tool PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH
+                                                   "$ORIGIN;$ORIGIN/${navframe_bin_to_lib}")
   endif()
   install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
-
-# What the C++ compiler links by itself and the C compiler does not.
-set(navframe_cxx_runtime ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
-list(REMOVE_ITEM navframe_cxx_runtime ${CMAKE_C_IMPLICIT_LINK_LIBRARIES})
-list(REMOVE_DUPLICATES navframe_cxx_runtime)
 
 # find_package(navframe): the targets navframe::navframe and navframe::navframe_static.
 install(

@@ -1,5 +1,5 @@
-// A block of bytes compared at once: with SSE2, which is part of the baseline of x86-64, and by
-// plain loops everywhere else, which compilers turn into what the target has.
+// A block of bytes compared at once. SSE2 is part of the baseline of x86-64; elsewhere plain loops
+// do the same, which compilers turn into what the target has.
 #pragma once
 
 #include <array>
@@ -7,19 +7,51 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__)
+#if defined(__SSE2__) && defined(__x86_64__)
 #include <emmintrin.h>
 #endif
 
 namespace navframe {
 
 // 64 bytes; comparisons answer with one bit per byte, the first byte in bit 0.
-class ByteBlock {
+class PlainByteBlock {
  public:
   static constexpr std::size_t Size = 64;
 
-#if defined(__SSE2__)
-  explicit ByteBlock(const std::uint8_t* bytes) {
+  explicit PlainByteBlock(const std::uint8_t* bytes) : bytes_(bytes) {}
+
+  std::uint64_t EqualTo(std::uint8_t byte) const { return EqualToAny(std::array{byte}); }
+
+  template <std::size_t N>
+  std::uint64_t EqualToAny(const std::array<std::uint8_t, N>& wanted) const {
+    std::uint64_t bits = 0;
+    for (std::size_t i = 0; i < Size; ++i) {
+      bool hit = false;
+      for (const std::uint8_t byte : wanted) hit |= bytes_[i] == byte;
+      bits |= std::uint64_t{hit} << i;
+    }
+    return bits;
+  }
+
+  // The XOR of the first `count` bytes, 0 to Size of them.
+  std::uint8_t XorOfFirst(std::size_t count) const {
+    std::uint8_t sum = 0;
+    for (std::size_t i = 0; i < count; ++i) sum ^= bytes_[i];
+    return sum;
+  }
+
+ private:
+  const std::uint8_t* bytes_;
+};
+
+#if defined(__SSE2__) && defined(__x86_64__)
+
+// The same in four registers.
+class Sse2ByteBlock {
+ public:
+  static constexpr std::size_t Size = 64;
+
+  explicit Sse2ByteBlock(const std::uint8_t* bytes) {
     for (std::size_t i = 0; i < 4; ++i) {
       parts_[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16 * i));
     }
@@ -41,7 +73,6 @@ class ByteBlock {
     });
   }
 
-  // The XOR of the first `count` bytes, 0 to Size of them.
   std::uint8_t XorOfFirst(std::size_t count) const {
     const std::uint8_t* const window = XorWindow.data() + Size - count;
     __m128i sum = _mm_setzero_si128();
@@ -76,31 +107,13 @@ class ByteBlock {
   }
 
   __m128i parts_[4];
-#else
-  explicit ByteBlock(const std::uint8_t* bytes) : bytes_(bytes) {}
-
-  std::uint64_t EqualTo(std::uint8_t byte) const { return EqualToAny(std::array{byte}); }
-
-  template <std::size_t N>
-  std::uint64_t EqualToAny(const std::array<std::uint8_t, N>& wanted) const {
-    std::uint64_t bits = 0;
-    for (std::size_t i = 0; i < Size; ++i) {
-      bool hit = false;
-      for (const std::uint8_t byte : wanted) hit |= bytes_[i] == byte;
-      bits |= std::uint64_t{hit} << i;
-    }
-    return bits;
-  }
-
-  std::uint8_t XorOfFirst(std::size_t count) const {
-    std::uint8_t sum = 0;
-    for (std::size_t i = 0; i < count; ++i) sum ^= bytes_[i];
-    return sum;
-  }
-
- private:
-  const std::uint8_t* bytes_;
-#endif
 };
+using ByteBlock = Sse2ByteBlock;
+
+#else
+
+using ByteBlock = PlainByteBlock;
+
+#endif
 
 }  // namespace navframe

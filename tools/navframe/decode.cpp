@@ -13,6 +13,7 @@
 
 #include "kinds.h"
 #include "navframe/feeder.hpp"
+#include "printable.h"
 
 namespace navframe::tool {
 namespace {
@@ -24,20 +25,25 @@ class LineWriter {
  public:
   std::string& Buffer() { return buffer_; }
 
-  // False when standard output takes no more, as behind `| head`.
-  bool WriteWhenLarge() { return buffer_.size() < LargeEnough || Write(); }
-
-  bool Write() {
-    const std::size_t written = std::fwrite(buffer_.data(), 1, buffer_.size(), stdout);
-    open_ = open_ && written == buffer_.size() && std::fflush(stdout) == 0;
-    buffer_.clear();
-    return open_;
+  void WriteWhenLarge() {
+    if (buffer_.size() >= LargeEnough) Write();
   }
+
+  void Write() {
+    if (error_ == 0 && (std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) != buffer_.size() ||
+                        std::fflush(stdout) != 0)) {
+      error_ = errno;
+    }
+    buffer_.clear();
+  }
+
+  // errno of the write that failed, as behind `| head`; 0 while none has.
+  int Error() const { return error_; }
 
  private:
   static constexpr std::size_t LargeEnough = 1 << 18;
   std::string buffer_;
-  bool open_ = true;
+  int error_ = 0;
 };
 
 // A bar on standard error for files that take a while.
@@ -93,8 +99,10 @@ void PrintStatistics(const Statistics& statistics, double seconds) {
 }
 
 void PrintRejected(const Feeder::Rejected& rejected) {
+  std::string sentence;
+  AppendPrintable(rejected.sentence, sentence);
   std::fprintf(stderr, "navframe: malformed sentence at byte %llu: %s (%s)\n",
-               static_cast<unsigned long long>(rejected.offset), rejected.sentence.c_str(),
+               static_cast<unsigned long long>(rejected.offset), sentence.c_str(),
                rejected.reason.c_str());
 }
 
@@ -112,21 +120,27 @@ File Open(const std::string& name) {
 int Unreadable(const std::string& name) {
   std::fprintf(stderr, "navframe: cannot read %s: %s\n",
                name == "-" ? "standard input" : name.c_str(), std::strerror(errno));
-  return UnreadableInput;
+  return Failure;
 }
 
-// Pops everything that waits. False when the output was closed.
-bool Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
+// Pops everything that waits.
+void Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
   GnssMessage message;
   while (GNSSGetMsg(&message, 0) == 0) {
     ++statistics.records[message.id];
     printer.Append(message, lines.Buffer());
     GNSSFreeMem(&message);
   }
-  return lines.WriteWhenLarge();
+  lines.WriteWhenLarge();
 }
 
 }  // namespace
+
+ExitStatus UnwritableOutput(int error) {
+  if (error == EPIPE) return Success;
+  std::fprintf(stderr, "navframe: cannot write standard output: %s\n", std::strerror(error));
+  return Failure;
+}
 
 int Decode(const Options& options) {
   const File input = Open(options.file);
@@ -139,16 +153,15 @@ int Decode(const Options& options) {
   RecordPrinter printer;
   LineWriter lines;
   Progress progress(input.get());
-  bool open = true;
   Feeder feeder(
       [&](const Feeder::Rejected& rejected) {
         ++statistics.rejected;
         if (!options.quiet) PrintRejected(rejected);
       },
-      [&] { open = Drain(statistics, printer, lines) && open; });
+      [&] { Drain(statistics, printer, lines); });
   const auto start = std::chrono::steady_clock::now();
   std::vector<std::uint8_t> chunk(options.chunk);
-  while (open) {
+  while (lines.Error() == 0) {
     const ssize_t length = read(fileno(input.get()), chunk.data(), chunk.size());
     if (length < 0) {
       const int status = Unreadable(options.file);
@@ -158,16 +171,16 @@ int Decode(const Options& options) {
     if (length == 0) break;
     statistics.bytes += static_cast<std::uint64_t>(length);
     feeder.Push(chunk.data(), static_cast<std::size_t>(length));
-    open = Drain(statistics, printer, lines) && open;
+    Drain(statistics, printer, lines);
     // A short read is a live source, whose lines are wanted now.
-    if (static_cast<std::size_t>(length) < chunk.size()) open = lines.Write() && open;
+    if (static_cast<std::size_t>(length) < chunk.size()) lines.Write();
     progress.Show(statistics.bytes);
   }
   lines.Write();
   progress.End();
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
   if (options.stats) PrintStatistics(statistics, elapsed.count());
-  return Success;
+  return lines.Error() == 0 ? Success : UnwritableOutput(lines.Error());
 }
 
 }  // namespace navframe::tool

@@ -18,7 +18,11 @@ struct Options {
 };
 
 // Exit statuses of the tool.
-enum ExitStatus : int { Success = 0, UnreadableInput = 1, WrongUsage = 2 };
+enum ExitStatus : int { Success = 0, Failure = 1, WrongUsage = 2 };
+
+// The status after a write to standard output that failed with `error`, of which it tells. A reader
+// that has read enough, as `head` has, is no failure.
+ExitStatus UnwritableOutput(int error);
 
 int Decode(const Options& options);
 

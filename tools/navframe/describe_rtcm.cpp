@@ -6,6 +6,8 @@
 #include <cstdarg>
 #include <cstdio>
 
+#include "printable.h"
+
 namespace navframe::tool {
 namespace {
 
@@ -154,7 +156,9 @@ void DescribeSystemParameters(const SystemParametersRecord& record, std::string&
 
 void DescribeMsm(const MsmRecord& record, std::string& out) {
   PrintTime(out, record.epochTime, record.week);
-  Print(out, " time %s, %u observations%s", record.timeText, unsigned{record.count},
+  out += " time ";
+  AppendPrintable(record.timeText, out);
+  Print(out, ", %u observations%s", unsigned{record.count},
         record.epochComplete != 0 ? ", epoch complete" : "");
   for (std::size_t i = 0; i < record.count && i < std::size(record.observations); ++i) {
     DescribeObservation(record.observations[i], out);

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <string_view>
 
+#include "printable.h"
+
 namespace navframe::tool {
 namespace {
 
@@ -51,7 +53,9 @@ void AppendHead(const Record& record, std::string& out) {
   out += known ? Fixed(record.tow / MillisecondsPerSecond, 3) : "-";
   const std::string clock(record.timeText,
                           std::find(record.timeText, std::end(record.timeText), '\0'));
-  if (!clock.empty()) out += " clock " + clock;
+  if (clock.empty()) return;
+  out += " clock ";
+  AppendPrintable(clock, out);
 }
 
 std::string UtcText(const UbxNavigationRecord& record) {

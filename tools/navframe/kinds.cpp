@@ -7,6 +7,7 @@
 #include "describe_rtcm.h"
 #include "describe_ubx.h"
 #include "navframe/records.h"
+#include "printable.h"
 
 namespace navframe::tool {
 namespace {
@@ -18,6 +19,7 @@ struct KindRow {
   std::uint32_t id;
   std::string_view name;
   Describe describe = nullptr;  // null: rendered by the library
+  bool isList = false;          // rendered as several lines, which hold no text of the input
 };
 
 template <class Record, void (*DescribeRecord)(const Record&, std::string&)>
@@ -31,7 +33,7 @@ constexpr KindRow Kinds[] = {
     {MsgIdGga, "GGA"},
     {MsgIdRmc, "RMC"},
     {MsgIdGsa, "GSA"},
-    {MsgIdGsv, "GSV"},
+    {MsgIdGsv, "GSV", nullptr, true},
     {MsgIdGll, "GLL"},
     {MsgIdGst, "GST"},
     {MsgIdGbs, "GBS"},
@@ -65,8 +67,8 @@ constexpr KindRow Kinds[] = {
     Described<TimeStatusRecord, DescribeTimeStatus>(MsgIdTimeStatus, "RTCM-TIMESTATUS"),
     Described<Sub249Record, DescribeSub249>(MsgIdSub249, "RTCM-SUB249"),
     {MsgIdClockOrbit, "RTCM-CLOCKORBIT"},
-    {MsgIdSystemCounts, "RTCM-COUNTS"},
-    {MsgIdSignalObservations, "RTCM-SIGNALS"},
+    {MsgIdSystemCounts, "RTCM-COUNTS", nullptr, true},
+    {MsgIdSignalObservations, "RTCM-SIGNALS", nullptr, true},
     {MsgIdIntegerSet, "RTCM-INTEGERS"},
     Described<Sub17Record, DescribeSub17>(MsgIdSub17, "RTCM-SUB17"),
     Described<Sub33Record, DescribeSub33>(MsgIdSub33, "RTCM-SUB33"),
@@ -128,7 +130,10 @@ void RecordPrinter::Append(const GnssMessage& message, std::string& out) {
     kind->describe(message.data, lines);
     AppendPrefixed(name, lines, out);
   } else if (structDataToStr(&message, rendered_.data(), 1) == 0) {
-    AppendPrefixed(name, rendered_.data(), out);
+    const std::string_view text = rendered_.data();
+    std::string line;
+    if (kind == nullptr || !kind->isList) AppendPrintable(text, line);
+    AppendPrefixed(name, line.empty() ? text : line, out);
   } else {
     AppendPrefixed(name, std::to_string(message.id), out);
   }

@@ -1,6 +1,8 @@
 // The command-line host: decodes a file or standard input to lines of text.
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -25,7 +27,7 @@ constexpr const char* Examples = R"(Examples:
   navframe --protocols rtcm,ubx - < log    two protocols of standard input
   navframe --stats log > /dev/null         how many records of each kind, how fast
 
-Exit status: 0 decoded, 1 the input could not be read, 2 wrong usage.)";
+Exit status: 0 decoded, 1 the input could not be read or the output not written, 2 wrong usage.)";
 
 std::string CheckKind(const std::string& text) {
   if (navframe::tool::KindId(text)) return {};
@@ -46,6 +48,7 @@ int main(int argc, char** argv) {
   app.add_option("FILE", options.file, "Input; - or nothing for standard input");
   app.add_option("--protocols", protocols, "Protocols to look for, all by default")
       ->delimiter(',')
+      ->allow_extra_args(false)  // what follows is FILE
       ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
   app.add_option("--board", options.board,
                  "Board type of the receiver; 7 has \"$\" start log lines");
@@ -59,7 +62,9 @@ int main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? navframe::tool::Success : navframe::tool::WrongUsage;
+    if (app.exit(error) != 0) return navframe::tool::WrongUsage;
+    return std::fflush(stdout) == 0 ? navframe::tool::Success
+                                    : navframe::tool::UnwritableOutput(errno);
   }
 
   if (!protocols.empty()) {
