@@ -38,6 +38,16 @@ void ExpectSameScan(const std::string& text, const char* format, Read (FormatSca
   ASSERT_EQ(scan.Converted(), std::max(converted, 0)) << text;
 }
 
+// Every conversion, of a field behind a skipped text.
+void ExpectSameScans(const std::string& field) {
+  const std::string text = field + ",COM1,5";
+  ExpectSameScan<int>(text, "%*[^,],%d,%255[^,],%d", &FormatScan::Int);
+  ExpectSameScan<long>(text, "%*[^,],%ld,%255[^,],%d", &FormatScan::Int);
+  ExpectSameScan<unsigned>(text, "%*[^,],%u,%255[^,],%d", &FormatScan::Unsigned);
+  ExpectSameScan<float>(text, "%*[^,],%f,%255[^,],%d", &FormatScan::Float);
+  ExpectSameScan<double>(text, "%*[^,],%lf,%255[^,],%d", &FormatScan::Double);
+}
+
 TEST(FormatScan, ReadsAsTheFormattedScan) {
   // clang-format off
   static constexpr const char* Pieces[] = {
@@ -52,14 +62,20 @@ TEST(FormatScan, ReadsAsTheFormattedScan) {
     for (auto pieces = random() % 4; pieces > 0; --pieces) {
       field += Pieces[random() % std::size(Pieces)];
     }
-    const std::string text = (random() % 8 == 0 ? "" : "#LOGA,") + field + ",COM1,5";
-    ExpectSameScan<int>(text, "%*[^,],%d,%255[^,],%d", &FormatScan::Int);
-    ExpectSameScan<long>(text, "%*[^,],%ld,%255[^,],%d", &FormatScan::Int);
-    ExpectSameScan<unsigned>(text, "%*[^,],%u,%255[^,],%d", &FormatScan::Unsigned);
-    ExpectSameScan<float>(text, "%*[^,],%f,%255[^,],%d", &FormatScan::Float);
-    ExpectSameScan<double>(text, "%*[^,],%lf,%255[^,],%d", &FormatScan::Double);
-    ExpectSameScan<unsigned>("#," + field.substr(0, 8), "%*[^,],%08X,%255[^,],%d",
+    const std::string name = random() % 8 == 0 ? "" : "#LOGA,";
+    ExpectSameScans(name + field);
+    ExpectSameScan<unsigned>(name + field.substr(0, 8), "%*[^,],%08X,%255[^,],%d",
                              &FormatScan::Hex);
+  }
+  // Out of range by their digits alone, or not because of them.
+  const std::string zeros(400, '0');
+  for (const char* prefix : {"", "0x"}) {
+    const std::string exponent = *prefix == 0 ? "e" : "p";
+    for (const char* power : {"", "-300", "+300", "-390", "+390", "-1500", "+1500", "-1600"}) {
+      const std::string tail = *power == 0 ? "" : exponent + power;
+      ExpectSameScans("#A," + (prefix + ("0." + zeros)) + "7" + tail);
+      ExpectSameScans("#A," + (prefix + ("7" + zeros)) + ".5" + tail);
+    }
   }
 }
 

@@ -4,8 +4,8 @@
 #include <set>
 #include <sstream>
 
-#include "asciilog/log_table.h"
 #include "asciilog/log_facts.h"
+#include "asciilog/log_table.h"
 #include "support/asciilog.h"
 
 namespace navframe::test {
@@ -184,7 +184,7 @@ TEST(LogDecoders, GroupsAreBoundedByTheRecord) {
       EXPECT_EQ(HeaderOf(record).messageLength, fullest.Width());
       EXPECT_FALSE(Decodes(id, LineOf(kind, Body(kind, kind.most + 1).Text()))) << id;
       Body body(kind);
-      for (const char* count : {"3", "4294967295", "-1", ""}) {
+      for (const char* count : {"3", "4294967295", "-1", "-0", ""}) {
         body.fields[kind.fields.size() - 1].text = count;
         EXPECT_FALSE(Decodes(id, LineOf(kind, body.Text()))) << id << " " << count;
       }
@@ -288,11 +288,14 @@ TEST(LogHeader, HasExactlyTheFieldsOfItsForm) {
     }
   }
   EXPECT_FALSE(Decodes(11277, Log("#A,COM1,0,83.5,FINE,1419,336148,1f,5,2;")));
-  // A kind with fields has none without ";", and the first ";" begins them: FieldsOfLogs has more.
-  std::string line = LongLog("A", "1");
-  EXPECT_FALSE(Decodes(48, Log(line.substr(0, line.find(';')))));
+  // More fields are none of its own, and of more CRC digits the first eight count.
+  EXPECT_TRUE(Decodes(10, Log("#A,41.5,GPS,FINE,2101,3,0,0,18,38,5;")));
+  EXPECT_TRUE(Decodes(11277, Log("#A,COM1,0,83.5,FINE,1419,336148,0,5,2,5;")));
+  EXPECT_TRUE(Decodes(2300, Log("$GPSTIME,1").insert(19, "0")));
+  // Without ";" there is no body; this header would be one with no satellites.
+  EXPECT_FALSE(Decodes(48, Log("#A,COM1,0,83.5,FINE,1419,336148,0,5,2")));
   // The CRC is tested for kinds without a header too.
-  line = Log("$GPSTIME,1,2");
+  std::string line = Log("$GPSTIME,1,2");
   EXPECT_TRUE(Decodes(2300, line));
   line[3] = 'Q';
   EXPECT_FALSE(Decodes(2300, line));

@@ -6,8 +6,8 @@
 #include <map>
 #include <sstream>
 
-#include "asciilog/words.h"
 #include "asciilog/log_facts.h"
+#include "asciilog/words.h"
 
 namespace navframe::test {
 namespace {
