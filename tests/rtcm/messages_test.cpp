@@ -233,7 +233,7 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   const auto decoder = std::make_unique<Decoder>();
   const auto utc = [](std::uint32_t subType, std::uint32_t hour) {
     BitWriter message = Timed(subType, 302'418'000, 2325);
-    message.Put(2024, 16).Put(7, 8).Put(31, 8).Put(hour, 8).Put(5, 8).Put(9, 8).Put(987, 16);
+    message.Put(2024, 16).Put(7, 8).Put(31, 8).Put(hour, 8).Put(5, 8).Put(9, 8).Put(64'987, 16);
     return message;
   };
   const Record whole = Only(*decoder, utc(15, 12).Signed(-(3LL << 31), 64), 75);
@@ -242,7 +242,7 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   EXPECT_STREQ(ins.dateText, "310724");
   EXPECT_MEMBERS((ins.latitude, ins.utc.month, ins.utc.millisecond, ins.utc.flag, ins.gpsTime.tow,
                   ins.gpsTime.week),
-                 (-1.5, 7, 987, 1, 302'418'000, 2325));
+                 (-1.5, 7, 64'987, 1, 302'418'000, 2325));
   const Record none = Only(*decoder, utc(15, 255).Put(1ULL << 63, 64), 75);
   EXPECT_STREQ(none.As<InsPvaRecord>().timeText, "");
   EXPECT_TRUE(std::isnan(none.As<InsPvaRecord>().latitude));
