@@ -98,15 +98,8 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
   std::vector<Case> cases = {{55, Position(), {}, {}},
                              {53, Position(), {53}, {53}},
                              {53, Message(1013).Written(), {}, {}},
-                             {0, Sized(Message(910).Put(17, 8), 40), {83}, {83}},
-                             {84, Sized(Message(910).Put(17, 8), 40), {}, {83}},
-                             {0, Sized(sub33, 7), {85}, {85}},
                              {0, Sized(sub33, 8), {}, {}},
-                             {1, Sized(sub33, 7), {}, {85}},
-                             {86, Message(910).Put(34, 8).Written(), {86}, {86}},
-                             {106, Sized(sub21, 57), {106}, {106}},
                              {0, Sized(sub21, 58), {}, {}},
-                             {105, Sized(sub21, 57), {}, {106}},
                              {0, Message(910).Put(18, 8).Written(), {}, {}},
                              {0, Message(999).Put(22, 8).Written(), {}, {}},
                              {0, Timed(252).Written(), {}, {}},
@@ -115,14 +108,22 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
                              {0, ephemeris, {}, {}},
                              {53, ephemeris, {}, {}},
                              {53, Message(1020).Written(), {}, {}}};
-  // Of 4074: sub-type, kind, second filter value.
-  const std::array<std::uint32_t, 3> subTypes[] = {
+  // Payload, kind, second filter value.
+  std::vector<std::tuple<Bytes, std::uint32_t, std::uint32_t>> subTypes = {
+      {Message(910).Put(17, 8).Written(), 83, 0},
+      {Sized(sub33, 7), 85, 0},
+      {Message(910).Put(34, 8).Written(), 86, 0},
+      {Sized(sub21, 57), 106, 0}};
+  const std::array<std::uint32_t, 3> of4074[] = {
       {255, 82, 0}, {254, 81, 0}, {253, 80, 0}, {251, 79, 0}, {249, 78, 0}, {243, 77, 0},
       {11, 71, 41}, {12, 72, 42}, {13, 73, 44}, {14, 74, 43}, {15, 75, 45}};
-  for (const auto& [subType, kind, twin] : subTypes) {
+  for (const auto& [subType, kind, twin] : of4074) {
+    subTypes.emplace_back(Timed(subType).Written(), kind, twin);
+  }
+  for (const auto& [payload, kind, twin] : subTypes) {
     for (const std::uint32_t filter : {0U, 1U, 41U, 42U, 43U, 44U, 45U, 55U, kind, ~0U}) {
       const bool passes = filter == 0 || filter == kind || filter == twin;
-      cases.push_back({filter, Timed(subType).Written(), passes ? Kinds{kind} : Kinds{}, {kind}});
+      cases.push_back({filter, payload, passes ? Kinds{kind} : Kinds{}, {kind}});
     }
   }
   for (const Case& c : cases) {
@@ -232,7 +233,7 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   const auto decoder = std::make_unique<Decoder>();
   const auto utc = [](std::uint32_t subType, std::uint32_t hour) {
     BitWriter message = Timed(subType, 302'418'000, 2325);
-    message.Put(2024, 16).Put(7, 8).Put(31, 8).Put(hour, 8).Put(5, 8).Put(9, 8).Put(987, 16);
+    message.Put(2024, 16).Put(7, 8).Put(31, 8).Put(hour, 8).Put(5, 8).Put(9, 8).Put(64'987, 16);
     return message;
   };
   const Record whole = Only(*decoder, utc(15, 12).Signed(-(3LL << 31), 64), 75);
@@ -241,7 +242,7 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   EXPECT_STREQ(ins.dateText, "310724");
   EXPECT_MEMBERS((ins.latitude, ins.utc.month, ins.utc.millisecond, ins.utc.flag, ins.gpsTime.tow,
                   ins.gpsTime.week),
-                 (-1.5, 7, 987, 1, 302'418'000, 2325));
+                 (-1.5, 7, 64'987, 1, 302'418'000, 2325));
   const Record none = Only(*decoder, utc(15, 255).Put(1ULL << 63, 64), 75);
   EXPECT_STREQ(none.As<InsPvaRecord>().timeText, "");
   EXPECT_TRUE(std::isnan(none.As<InsPvaRecord>().latitude));

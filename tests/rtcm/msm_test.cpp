@@ -286,9 +286,10 @@ TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
     int signal, status;
   };
   const Step steps[] = {
-      {10'000, 704, 0, 2, 1},  // no interval yet
-      {11'000, 704, 0, 2, 1},  // the interval of 1000 ms counts from the next message on
-      {12'000, 252, 0, 2, 2},  // 3840 ms
+      {63, 704, 0, 2, 1},     // no interval yet
+      {10'000, 64, 0, 2, 2},  // the first one was 63 ms, from the start of the week
+      {11'000, 64, 0, 2, 2},  // the interval of 1000 ms counts from the next message on
+      {12'000, 64, 0, 2, 1},  // 64 ms
       {14'000, 704, 1, 2, 0},
       {14'000, 704, 0, 5, 0},  // a signal without a frequency; the same epoch keeps the interval
       {15'999, 200, 0, 2, 2},  // 1280 ms; a gap of 2 s was no interval
