@@ -24,10 +24,19 @@ TEST(OutputQueue, KeepsTheNewestRecordsInOrder) {
   EXPECT_EQ(out.id, 77U) << "an empty queue leaves it untouched";
   EXPECT_EQ(out.data, sink.get());
 
+  std::set<void*> payloads;
   for (std::uint32_t i = 0; i < MaxQueuedMessages + 1500; ++i) {
-    PushNumber(*sink, 5, i);
+    if (i == 7) {
+      sink->PushMessage(5, nullptr, 0);
+    } else {
+      auto* const payload = static_cast<std::uint32_t*>(sink->Allocate(sizeof i));
+      *payload = i;
+      payloads.insert(payload);
+      sink->PushMessage(5, payload, sizeof i);
+    }
     ASSERT_EQ(sink->Waiting(), std::min(i + 1, MaxQueuedMessages));
   }
+  EXPECT_EQ(payloads.size(), MaxQueuedMessages + 1) << "what the full queue dropped serves again";
   for (std::uint32_t i = 0; i < MaxQueuedMessages; ++i) {
     ASSERT_EQ(sink->Pop(out, i % 2 == 0 ? 0 : 5), 0U);
     ASSERT_EQ(NumberOf(out), i + 1500);
