@@ -336,7 +336,7 @@ TEST(NmeaRecords, ShortIntegersAreThoseOfTheGeneralConversion) {
       return std::nullopt;
     }
   };
-  for (std::size_t n = 1; n < 13 * 13 * 13 * 13; ++n) {
+  for (std::size_t n = 1; n < std::size_t{13} * 13 * 13 * 13; ++n) {
     std::string field;
     for (std::size_t rest = n; rest != 0; rest /= 13) field += Alphabet[rest % 13];
     const std::string sent = field + ",7,";
