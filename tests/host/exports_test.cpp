@@ -7,6 +7,7 @@
 
 #include "generator/nmea_stream.h"
 #include "navframe/navframe.h"
+#include "navframe/records.h"
 
 namespace navframe {
 namespace {
@@ -47,6 +48,23 @@ TEST(Exports, OneRecordFromBytesToText) {
   EXPECT_STREQ(text, "QZSS");
   EXPECT_EQ(GNSSSigIdToName(5, 8, text), 4);
   EXPECT_STREQ(text, "L5-Q");
+}
+
+TEST(Exports, LowByteOfTheFlagAsksForLeadingFields) {
+  SignalObservationsRecord record = {};
+  record.tow = 1500;
+  record.week = 2300;
+  const GnssMessage message = {MsgIdSignalObservations, SourceStream, &record};
+  for (const auto& [flag, wanted] : {std::pair<std::int64_t, const char*>(0, ""),
+                                     {1, "1500,2300,"},
+                                     {0x80, "1500,2300,"},
+                                     {0x4000, ""},
+                                     {-1, "1500,2300,"},
+                                     {-256, ""}}) {
+    char text[64];
+    EXPECT_EQ(structDataToStr(&message, text, flag), 0U);
+    EXPECT_STREQ(text, wanted) << flag;
+  }
 }
 
 TEST(Exports, Configuration) {
