@@ -47,17 +47,19 @@ TEST(InputRing, ChunkTooLargeIsDroppedWholeAndExactFillLosesTheContent) {
   constexpr std::uint32_t Capacity = InputRing::Capacity;
   EXPECT_EQ(after(Bytes(10, 9)), 10U);
   EXPECT_EQ(after(Bytes(Capacity - 9)), 10U);
-  EXPECT_EQ(after(Bytes(Capacity - 11)), Capacity - 1);
+  EXPECT_EQ(after(Bytes(Capacity - 16)), Capacity - 6);
+  ring.Advance(8);
+  ring.Append(Bytes(100, 7).data(), 13);  // across the end and up to the head, but for one byte
   EXPECT_EQ(after(Bytes(2)), Capacity - 1);
-  EXPECT_EQ(ring[9], 9);
-  EXPECT_EQ(ring.Position(), 0U);
+  EXPECT_EQ(Values(ring[0], ring[1], ring[2]), Values(9, 9, 0));
+  EXPECT_EQ(ring.Position(), 8U);
   EXPECT_EQ(after(Bytes(1)), 0U);
   EXPECT_EQ(ring.Free(), Capacity);
   EXPECT_EQ(after(Bytes(5, 40)), 5U);
   EXPECT_EQ(ring[0], 40);
-  EXPECT_EQ(ring.Position(), Capacity);
+  EXPECT_EQ(ring.Position(), Capacity + 8);
   ring.Advance(6);  // at or past the end empties
-  EXPECT_EQ(ring.Position(), Capacity + 5);
+  EXPECT_EQ(ring.Position(), Capacity + 13);
   EXPECT_EQ(after(Bytes(Capacity)), 0U);
 }
 
