@@ -1,5 +1,6 @@
 // The renderer over records of every kind with any content: counts above the room, texts without
 // an end, numbers that are none.
+#include "catalogue/kinds.h"
 #include "fuzz.h"
 #include "render/names.h"
 #include "render/render.h"
@@ -8,35 +9,10 @@ using namespace navframe;
 
 namespace {
 
-struct Kind {
-  std::uint32_t id;
-  std::size_t size;
-};
-constexpr Kind Kinds[] = {
-    {1, sizeof(GgaRecord)},         {2, sizeof(RmcRecord)},
-    {3, sizeof(GsaRecord)},         {4, sizeof(GsvRecord)},
-    {5, sizeof(GllRecord)},         {6, sizeof(GstRecord)},
-    {7, sizeof(GbsRecord)},         {8, sizeof(VtgRecord)},
-    {9, sizeof(ZdaRecord)},         {30, sizeof(NavPosRecord)},
-    {31, sizeof(NavVelRecord)},     {32, sizeof(NavTimeRecord)},
-    {33, sizeof(NavAccRecord)},     {35, sizeof(PNavMsgRecord)},
-    {36, sizeof(CwOutRecord)},      {41, sizeof(GyoAccRecord)},
-    {42, sizeof(SnrStatRecord)},    {43, sizeof(ImuRecord)},
-    {44, sizeof(NavAttRecord)},     {45, sizeof(InsPvaRecord)},
-    {46, sizeof(ImuRecord)},        {50, sizeof(GyoAccRecord)},
-    {71, sizeof(GyoAccRecord)},     {72, sizeof(RtcmSnrStatRecord)},
-    {73, sizeof(NavAttRecord)},     {74, sizeof(ImuRecord)},
-    {75, sizeof(InsPvaRecord)},     {76, sizeof(ImuRecord)},
-    {79, sizeof(ClockOrbitRecord)}, {80, sizeof(SystemCountsRecord)},
-    {82, sizeof(IntegerSetRecord)}, {81, sizeof(SignalObservationsRecord)},
-};
-
+// Of a record with a text form; 0 for others.
 std::size_t SizeOf(std::uint32_t id) {
-  const std::uint32_t plain = id > 20 && id < 30 ? id - 20 : id;
-  for (const Kind& kind : Kinds) {
-    if (kind.id == plain) return kind.size;
-  }
-  return 0;
+  const catalogue::KindRow* const row = catalogue::FindKind(id, SourceStream);
+  return row == nullptr || row->text == catalogue::TextForm::None ? 0 : row->kind.size;
 }
 
 // A text of at most 15 characters, as such records have it, which owns no memory to give back.

@@ -13,6 +13,7 @@ build_packages=(
   "libgmock-dev:header gmock/gmock.h"
   "libbenchmark-dev:header benchmark/benchmark.h"
   "libcli11-dev:header CLI/CLI.hpp"
+  "rapidjson-dev:header rapidjson/document.h"
 )
 ci_packages=(
   "clang-format:command clang-format"

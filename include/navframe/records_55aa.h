@@ -16,15 +16,16 @@ extern "C" {
  * finds everything there. The members behind it are this library's own reading of the first bytes,
  * taken alike from every frame whatever its length: see docs/compatibility.md, Kind 90. */
 typedef struct Binary55AaRecord {
-  uint32_t payloadLength;   /* bytes of payload */
-  uint8_t payload[480];     /* as sent, little-endian, without header and checksum */
-  uint32_t stampWhole;      /* u32 at payload offset 0, in hundredths: whole units */
-  uint32_t stampHundredths; /* and the rest, 0 to 99 */
-  uint32_t reserved;
-  double angles[3]; /* radians: i32 in 0.001 degrees at payload offsets 4, 8, 12 */
-  double rates[3];  /* i32 * 0.001 at payload offsets 16, 20, 24 */
-  double tenths[2]; /* i32 * 0.1 at payload offsets 28, 32 */
-  uint8_t reservedAtEnd[2544];
+  uint32_t payloadLength;   /* bytes of the payload; unknown never */
+  uint8_t payload[480];     /* the payload, little-endian, without header and checksum; as sent;
+                               counted by payloadLength; unknown never */
+  uint32_t stampWhole;      /* u32 at payload offset 0, in hundredths: whole units; unknown never */
+  uint32_t stampHundredths; /* and the rest, 0 to 99; unknown never */
+  uint32_t reserved;        /* reserved */
+  double angles[3]; /* [rad] i32 in 0.001 degrees at payload offsets 4, 8 and 12; preset 0 */
+  double rates[3];  /* i32 * 0.001 at payload offsets 16, 20 and 24; preset 0 */
+  double tenths[2]; /* i32 * 0.1 at payload offsets 28 and 32; preset 0 */
+  uint8_t reservedAtEnd[2544]; /* reserved */
 } Binary55AaRecord;
 
 #ifdef __cplusplus

@@ -5,8 +5,8 @@
  * A record begins with an image of the header; behind it stand the fields of the log in the order
  * of the line, as in the binary form of the same log. Records are packed to 4 bytes: no member is
  * aligned to more, and sizes are multiples of 4.
- * What a log does not give is 0, texts are filled up with 0 and not terminated when they fill
- * their member. Words become numbers; a word that is not known is 0.
+ * Unknown values here: none. What a log does not give is 0, texts are filled up with 0 and not
+ * terminated when they fill their member. Words become numbers; a word that is not known is 0.
  * Some records are known by their first fields alone; `undecoded` is what lies behind them, all 0.
  * docs/ascii-logs.md lists which log gives which record.
  */
@@ -84,273 +84,283 @@ enum AsciiLogId {
  * forms; of the short one (log 1194, 2118, 11276, 10 and those above 60000) only idleTime,
  * timeStatus, week and milliseconds come. 28 bytes. */
 typedef struct AsciiLogHeader {
-  uint8_t sync[3];        /* 0xAA 0x44 0x12 */
-  uint8_t headerLength;   /* 28 */
-  uint16_t messageId;     /* as GnssMessage::id */
-  uint8_t messageType;    /* always 0 */
-  uint8_t port;           /* 1 COM1, 2 COM2, 3 COM3, 4 THISPORT, 5 to 7 XCOM1 to XCOM3, 8 to 10 USB1
-                             to USB3, 11 COM1_30, 12 to 25 ICOM1 to ICOM14; 0 any other */
-  uint16_t messageLength; /* bytes behind the header that the log filled */
-  uint16_t sequence;      /* as sent, modulo 65536 */
-  uint8_t idleTime;       /* of the receiver's processor, half percents, 255 for more */
-  uint8_t timeStatus;     /* 20 UNKNOWN, 60 APPROXIMATE, 80 COARSEADJUSTING, 100 COARSE, 120
-                             COARSESTEERING, 130 FREEWHEELING, 140 FINEADJUSTING, 160 FINE, 170
-                             FINEBACKUPSTEERING, 180 FINESTEERING, 200 SATTIME, 201 LOCAL */
-  uint16_t week;          /* modulo 65536; long form: of GPS; short form: of the system that the
-                             line's time reference word names, GPS or BDS, which is not kept here.
-                             BDS counts its weeks from GPS week 1356, and its time of week is 14 s
-                             behind that of GPS */
-  int32_t milliseconds;   /* time of that week; long form: rounded, INT32_MIN for a time outside the
-                             type; short form: as sent, modulo 2^32 */
-  uint32_t receiverStatus; /* the digits as sent, which are hexadecimal, read as a decimal number:
-                             20 for "00000020"; a line whose status has a letter gives no record */
-  uint16_t reserved;
-  uint16_t softwareBuild;
+  uint8_t sync[3];      /* always 0xAA 0x44 0x12 */
+  uint8_t headerLength; /* [B] always 28 */
+  uint16_t messageId;   /* log number, as GnssMessage::id */
+  uint8_t messageType;  /* always 0 */
+  uint8_t port; /* port that the log came from; values 0 any other, 1 COM1, 2 COM2, 3 COM3, 4
+                   THISPORT, 5 XCOM1, 6 XCOM2, 7 XCOM3, 8 USB1, 9 USB2, 10 USB3, 11 COM1_30, 12
+                   to 25 ICOM1 to ICOM14 */
+  uint16_t messageLength; /* [B] bytes behind the header that the log filled */
+  uint16_t sequence;      /* sequence number, modulo 65536; as sent */
+  uint8_t idleTime;       /* [0.5 %] idle time of the receiver's processor, 255 for more */
+  uint8_t timeStatus;     /* quality of the time; values 20 UNKNOWN, 60 APPROXIMATE, 80
+                             COARSEADJUSTING, 100 COARSE, 120 COARSESTEERING, 130 FREEWHEELING, 140
+                             FINEADJUSTING, 160 FINE, 170 FINEBACKUPSTEERING, 180 FINESTEERING, 200
+                             SATTIME, 201 LOCAL */
+  uint16_t week; /* week, modulo 65536: of GPS in the long form, in the short form of the system
+                    that the line's time reference word names, GPS or BDS, which is not kept
+                    here (BDS counts its weeks from GPS week 1356, and its time of week is 14 s
+                    behind that of GPS) */
+  int32_t milliseconds;    /* [ms] time of that week: in the long form rounded, in the short form
+                              as the line has it, modulo 2^32; unknown INT32_MIN; see
+                              docs/compatibility.md, Short headers */
+  uint32_t receiverStatus; /* digits of the status, which are hexadecimal, read as a decimal
+                              number (20 for "00000020", a line whose status has a letter gives no
+                              record); as sent; see docs/compatibility.md, receiverStatus */
+  uint16_t reserved;       /* reserved */
+  uint16_t softwareBuild;  /* build number of the software; as sent */
 } AsciiLogHeader;
 
-/* Members called solutionStatus are 0 SOL_COMPUTED (or not known), 1 INSUFFICIENT_OBS,
- * 2 NO_CONVERGENCE, 3 SINGULARITY, 4 COV_TRACE, 5 TEST_DIST, 6 COLD_START, 7 V_H_LIMIT, 8 VARIANCE,
- * 9 RESIDUALS, 10 DELTA_POS, 11 NEGATIVE_VAR, 13 INTEGRITY_WARNING, 18 PENDING, 19 INVALID_FIX,
- * 20 UNAUTHORIZED, 21 ANTENNA_WARNING.
- * Members called ...Type of a solution are 0 NONE (or not known), 1 FIXEDPOS, 2 FIXEDHEIGHT,
- * 8 DOPPLER_VELOCITY, 16 SINGLE, 17 PSRDIFF, 18 SBAS, 19 PROPAGATED, 20 OMNISTAR, 32 L1_FLOAT,
- * 33 IONOFREE_FLOAT, 34 NARROW_FLOAT, 48 L1_INT, 49 WIDE_INT, 50 NARROW_INT, 51 RTK_DIRECT_INS,
- * 52 INS, 53 INS_PSRSP, 54 INS_PSRDIFF, 55 INS_RTKFLOAT, 56 INS_RTKFIXED, 64 OMNISTAR_HP,
- * 65 OMNISTAR_XP, 66 CDGPS, 68 PPP_CONVERGING, 69 PPP, 77 PPP_BASIC_CONVERGING, 78 PPP_BASIC. */
+/* Values SolutionStatus: 0 SOL_COMPUTED or not known, 1 INSUFFICIENT_OBS, 2 NO_CONVERGENCE,
+ * 3 SINGULARITY, 4 COV_TRACE, 5 TEST_DIST, 6 COLD_START, 7 V_H_LIMIT, 8 VARIANCE, 9 RESIDUALS,
+ * 10 DELTA_POS, 11 NEGATIVE_VAR, 13 INTEGRITY_WARNING, 18 PENDING, 19 INVALID_FIX, 20 UNAUTHORIZED,
+ * 21 ANTENNA_WARNING. */
+/* Values SolutionType: 0 NONE or not known, 1 FIXEDPOS, 2 FIXEDHEIGHT, 8 DOPPLER_VELOCITY,
+ * 16 SINGLE, 17 PSRDIFF, 18 SBAS, 19 PROPAGATED, 20 OMNISTAR, 32 L1_FLOAT, 33 IONOFREE_FLOAT,
+ * 34 NARROW_FLOAT, 48 L1_INT, 49 WIDE_INT, 50 NARROW_INT, 51 RTK_DIRECT_INS, 52 INS, 53 INS_PSRSP,
+ * 54 INS_PSRDIFF, 55 INS_RTKFLOAT, 56 INS_RTKFIXED, 64 OMNISTAR_HP, 65 OMNISTAR_XP, 66 CDGPS,
+ * 68 PPP_CONVERGING, 69 PPP, 77 PPP_BASIC_CONVERGING, 78 PPP_BASIC. */
+/* Values ClockStatus: 1 VALID, 2 INVALID, 3 CONVERGING, 4 ITERATING, 5 ERROR, 6 WARNING. */
+/* Values LogSystem: 0 GPS or not known, 1 GLONASS, 2 SBAS, 5 GALILEO, 6 BEIDOU, 7 QZSS, 9 NAVIC. */
 
 /* Satellites and signals behind a solution. 8 bytes. */
 typedef struct SolutionSatellites {
-  uint8_t tracked;
-  uint8_t used;
-  uint8_t usedL1;        /* heading logs: above the elevation mask */
-  uint8_t usedMultiFreq; /* heading logs: the same with L2 */
-  uint8_t reserved;      /* heading logs: source of the solution */
-  uint8_t extendedStatus;
-  uint8_t galileoBdsSignals; /* bit mask */
-  uint8_t gpsGlonassSignals; /* bit mask */
+  uint8_t tracked; /* satellites tracked */
+  uint8_t used;    /* satellites used in the solution */
+  uint8_t usedL1;  /* satellites with L1 in the solution; heading logs: above the elevation mask */
+  uint8_t usedMultiFreq;     /* satellites with several frequencies in the solution; heading logs:
+                                above the mask with L2 */
+  uint8_t reserved;          /* reserved; heading logs: source of the solution */
+  uint8_t extendedStatus;    /* extended status of the solution; as sent */
+  uint8_t galileoBdsSignals; /* bit mask of the signals used; as sent */
+  uint8_t gpsGlonassSignals; /* bit mask of the signals used; as sent */
 } SolutionSatellites;
 
 /* Position. Ids 42, 47, 96, 6006, and 57026 (whose payload stays 0). */
 typedef struct PositionLogRecord {
-  AsciiLogHeader header;
-  int32_t solutionStatus;
-  int32_t positionType;
-  double latitude;  /* degrees */
-  double longitude; /* degrees */
-  double height;    /* above mean sea level, metres */
-  float undulation; /* geoid above the ellipsoid, metres */
-  int32_t datum;    /* place in the receivers' list: 61 WGS84, 63 USER, 0 ERROR or not known */
-  float latitudeDeviation; /* standard deviations, metres */
-  float longitudeDeviation;
-  float heightDeviation;
-  char stationId[4];
-  float differentialAge; /* seconds */
-  float solutionAge;     /* seconds */
-  SolutionSatellites satellites;
+  AsciiLogHeader header;  /* header of the line */
+  int32_t solutionStatus; /* status of the solution; values SolutionStatus */
+  int32_t positionType;   /* type of the solution; values SolutionType */
+  double latitude;        /* [deg] north positive */
+  double longitude;       /* [deg] east positive */
+  double height;          /* [m] above mean sea level */
+  float undulation;       /* [m] geoid above the ellipsoid */
+  int32_t datum;          /* place in the receivers' list of datums; values 0 ERROR or not known, 61
+                             WGS84, 63 USER */
+  float latitudeDeviation;       /* [m] standard deviation of the latitude */
+  float longitudeDeviation;      /* [m] standard deviation of the longitude */
+  float heightDeviation;         /* [m] standard deviation of the height */
+  char stationId[4];             /* reference station; as sent */
+  float differentialAge;         /* [s] age of the corrections */
+  float solutionAge;             /* [s] age of the solution */
+  SolutionSatellites satellites; /* satellites and signals behind the solution */
 } PositionLogRecord;
 
 /* Velocity. Ids 99, 100. */
 typedef struct VelocityLogRecord {
-  AsciiLogHeader header;
-  int32_t solutionStatus;
-  int32_t velocityType;
-  float latency;          /* of the velocity's time, seconds */
-  float differentialAge;  /* seconds */
-  double horizontalSpeed; /* over ground, metres per second */
-  double track;           /* over ground, true, degrees */
-  double verticalSpeed;   /* positive up, metres per second */
-  float reserved;
+  AsciiLogHeader header;  /* header of the line */
+  int32_t solutionStatus; /* status of the solution; values SolutionStatus */
+  int32_t velocityType;   /* type of the solution; values SolutionType */
+  float latency;          /* [s] of the velocity's time */
+  float differentialAge;  /* [s] age of the corrections */
+  double horizontalSpeed; /* [m/s] speed over ground */
+  double track;           /* [deg] course over ground, true */
+  double verticalSpeed;   /* [m/s] positive up */
+  float reserved;         /* reserved */
 } VelocityLogRecord;
 
 /* Dilution of precision. Ids 174, 2059. */
 typedef struct DopLogRecord {
-  AsciiLogHeader header;
-  float gdop;
-  float pdop;
-  float hdop;
-  float htdop; /* horizontal position and time */
-  float tdop;
-  float elevationCutoff;   /* degrees */
-  uint32_t count;          /* entries of satellites, 0 to 66 */
-  uint32_t satellites[66]; /* numbers as sent */
+  AsciiLogHeader header;   /* header of the line */
+  float gdop;              /* geometric dilution of precision */
+  float pdop;              /* position dilution of precision */
+  float hdop;              /* horizontal dilution of precision */
+  float htdop;             /* dilution of precision of horizontal position and time */
+  float tdop;              /* time dilution of precision */
+  float elevationCutoff;   /* [deg] lowest elevation in use */
+  uint32_t count;          /* satellites, 0 to 66 */
+  uint32_t satellites[66]; /* satellite numbers; as sent; counted by count */
 } DopLogRecord;
 
 /* Receiver clock and UTC. Id 101. */
 typedef struct TimeLogRecord {
-  AsciiLogHeader header;
-  int32_t clockStatus;    /* 1 VALID, 2 INVALID, 3 CONVERGING, 4 ITERATING, 5 ERROR, 6 WARNING */
-  double offset;          /* of the receiver's clock from GPS time, seconds */
-  double offsetDeviation; /* seconds */
-  double utcOffset;       /* of GPS time from UTC, seconds */
-  uint32_t utcYear;
-  uint8_t utcMonth;
-  uint8_t utcDay;
-  uint8_t utcHour;
-  uint8_t utcMinute;
-  uint32_t utcMilliseconds; /* of the minute */
-  int32_t utcStatus;        /* as clockStatus */
+  AsciiLogHeader header;    /* header of the line */
+  int32_t clockStatus;      /* state of the receiver's clock; values ClockStatus */
+  double offset;            /* [s] of the receiver's clock from GPS time */
+  double offsetDeviation;   /* [s] standard deviation of the offset */
+  double utcOffset;         /* [s] of GPS time from UTC */
+  uint32_t utcYear;         /* year, UTC; as sent */
+  uint8_t utcMonth;         /* 1 to 12; as sent */
+  uint8_t utcDay;           /* 1 to 31; as sent */
+  uint8_t utcHour;          /* [h] 0 to 23; as sent */
+  uint8_t utcMinute;        /* [min] 0 to 59; as sent */
+  uint32_t utcMilliseconds; /* [ms] of the minute; as sent */
+  int32_t utcStatus;        /* state of UTC; values ClockStatus */
 } TimeLogRecord;
 
 /* Position and velocity, earth-centred and earth-fixed. Id 241. */
 typedef struct CartesianLogRecord {
-  AsciiLogHeader header;
-  int32_t positionStatus; /* a solutionStatus */
-  int32_t positionType;
-  double position[3];         /* X, Y, Z, metres */
-  float positionDeviation[3]; /* metres */
-  int32_t velocityStatus;     /* a solutionStatus */
-  int32_t velocityType;
-  double velocity[3];         /* metres per second */
-  float velocityDeviation[3]; /* metres per second */
-  char stationId[4];
-  float velocityLatency; /* seconds */
-  float differentialAge; /* seconds */
-  float solutionAge;     /* seconds */
-  SolutionSatellites satellites;
+  AsciiLogHeader header;         /* header of the line */
+  int32_t positionStatus;        /* status of the position; values SolutionStatus */
+  int32_t positionType;          /* type of the position; values SolutionType */
+  double position[3];            /* [m] X, Y and Z */
+  float positionDeviation[3];    /* [m] standard deviations of X, Y and Z */
+  int32_t velocityStatus;        /* status of the velocity; values SolutionStatus */
+  int32_t velocityType;          /* type of the velocity; values SolutionType */
+  double velocity[3];            /* [m/s] along X, Y and Z */
+  float velocityDeviation[3];    /* [m/s] standard deviations of the velocity */
+  char stationId[4];             /* reference station; as sent */
+  float velocityLatency;         /* [s] of the velocity's time */
+  float differentialAge;         /* [s] age of the corrections */
+  float solutionAge;             /* [s] age of the solution */
+  SolutionSatellites satellites; /* satellites and signals behind the solution */
 } CartesianLogRecord;
 
 /* Heading of a baseline. Ids 971, 1335. */
 typedef struct HeadingLogRecord {
-  AsciiLogHeader header;
-  int32_t solutionStatus;
-  int32_t positionType;
-  float length;  /* of the baseline, metres */
-  float heading; /* 0 to 360 degrees */
-  float pitch;   /* degrees */
-  float reserved;
-  float headingDeviation; /* degrees */
-  float pitchDeviation;   /* degrees */
-  char stationId[4];
-  SolutionSatellites satellites;
+  AsciiLogHeader header;         /* header of the line */
+  int32_t solutionStatus;        /* status of the solution; values SolutionStatus */
+  int32_t positionType;          /* type of the solution; values SolutionType */
+  float length;                  /* [m] of the baseline */
+  float heading;                 /* [deg] 0 to 360 */
+  float pitch;                   /* [deg] of the baseline */
+  float reserved;                /* reserved */
+  float headingDeviation;        /* [deg] standard deviation of the heading */
+  float pitchDeviation;          /* [deg] standard deviation of the pitch */
+  char stationId[4];             /* reference station; as sent */
+  SolutionSatellites satellites; /* satellites and signals behind the solution */
 } HeadingLogRecord;
 
 /* Position, velocity and attitude of an inertial solution. Id 507, whose payload stays 0. */
 typedef struct InertialLogRecord {
-  AsciiLogHeader header;
-  uint32_t week;
-  double seconds;       /* time of week */
-  double latitude;      /* degrees */
-  double longitude;     /* degrees */
-  double height;        /* above the ellipsoid, metres */
-  double northVelocity; /* metres per second */
-  double eastVelocity;
-  double upVelocity;
-  double roll; /* degrees */
-  double pitch;
-  double azimuth; /* degrees */
-  int32_t status; /* 1 INS_INACTIVE, 2 INS_ALIGNING, 3 INS_HIGH_VARIANCE, 4 INS_SOLUTION_GOOD,
-                     5 INS_SOLUTION_FREE, 6 INS_ALIGNMENT_COMPLETE, 7 DETERMINING_ORIENTATION,
-                     8 WAITING_INITIALPOS */
+  AsciiLogHeader header; /* header of the line */
+  uint32_t week;         /* GPS week */
+  double seconds;        /* [s] time of week */
+  double latitude;       /* [deg] north positive */
+  double longitude;      /* [deg] east positive */
+  double height;         /* [m] above the ellipsoid */
+  double northVelocity;  /* [m/s] velocity to the north */
+  double eastVelocity;   /* [m/s] velocity to the east */
+  double upVelocity;     /* [m/s] velocity upwards */
+  double roll;           /* [deg] roll */
+  double pitch;          /* [deg] pitch */
+  double azimuth;        /* [deg] azimuth */
+  int32_t status;        /* state of the inertial solution; values 1 INS_INACTIVE, 2 INS_ALIGNING, 3
+                            INS_HIGH_VARIANCE, 4 INS_SOLUTION_GOOD, 5 INS_SOLUTION_FREE, 6
+                            INS_ALIGNMENT_COMPLETE, 7 DETERMINING_ORIENTATION, 8 WAITING_INITIALPOS */
 } InertialLogRecord;
 
 /* One signal of a range log. 44 bytes. */
 typedef struct RangeObservation {
-  uint16_t satellite;        /* number as sent */
-  uint16_t glonassFrequency; /* GLONASS frequency channel + 7 */
-  double pseudorange;        /* metres */
-  float pseudorangeDeviation;
-  double carrierPhase; /* accumulated Doppler range, cycles */
-  float carrierPhaseDeviation;
-  float doppler;           /* hertz */
-  float carrierToNoise;    /* decibel-hertz */
-  float lockTime;          /* seconds */
-  uint32_t trackingStatus; /* channel tracking status word */
+  uint16_t satellite;          /* satellite number; as sent */
+  uint16_t glonassFrequency;   /* GLONASS frequency channel + 7; as sent */
+  double pseudorange;          /* [m] pseudorange */
+  float pseudorangeDeviation;  /* [m] standard deviation of the pseudorange */
+  double carrierPhase;         /* [cycles] accumulated Doppler range */
+  float carrierPhaseDeviation; /* [cycles] standard deviation of the carrier phase */
+  float doppler;               /* [Hz] Doppler */
+  float carrierToNoise;        /* [dB-Hz] carrier-to-noise density */
+  float lockTime;              /* [s] time of continuous lock */
+  uint32_t trackingStatus;     /* channel tracking status word; as sent */
 } RangeObservation;
 
 /* Pseudoranges and carrier phases. Ids 43, 6005. */
 typedef struct RangeLogRecord {
-  AsciiLogHeader header;
-  uint32_t count; /* entries of observations, 0 to 432 */
-  RangeObservation observations[432];
+  AsciiLogHeader header;              /* header of the line */
+  uint32_t count;                     /* observations, 0 to 432 */
+  RangeObservation observations[432]; /* observations in the order of the line; counted by count */
 } RangeLogRecord;
 
 /* Numbers of one satellite in visibility logs. 40 bytes. */
 typedef struct SatelliteVisibility {
-  uint16_t satellite;       /* number as sent; GLONASS in log 1043: slot */
-  int16_t glonassFrequency; /* log 48: as sent; log 1043: channel, 0 without one */
-  uint32_t health;          /* as sent */
-  double elevation;         /* degrees */
-  double azimuth;           /* degrees */
-  double trueDoppler;       /* hertz */
-  double apparentDoppler;   /* with the receiver's clock drift, hertz */
+  uint16_t satellite;       /* satellite number, in log 1043 the slot of GLONASS; as sent */
+  int16_t glonassFrequency; /* in log 48 as the line has it, in log 1043 the channel or 0
+                               without one */
+  uint32_t health;          /* health; as sent */
+  double elevation;         /* [deg] above the horizon */
+  double azimuth;           /* [deg] from true north */
+  double trueDoppler;       /* [Hz] Doppler */
+  double apparentDoppler;   /* [Hz] Doppler with the receiver's clock drift */
 } SatelliteVisibility;
 
 /* Visible satellites. Id 48. */
 typedef struct VisibilityLogRecord {
-  AsciiLogHeader header;
-  int32_t valid;           /* 1 TRUE, else 0 */
-  int32_t completeAlmanac; /* 1 TRUE, else 0 */
-  uint32_t count;          /* entries of satellites, 0 to 66 */
-  SatelliteVisibility satellites[66];
+  AsciiLogHeader header;              /* header of the line */
+  int32_t valid;                      /* the satellite visibility is valid; flag */
+  int32_t completeAlmanac;            /* the almanac is complete; flag */
+  uint32_t count;                     /* satellites, 0 to 66 */
+  SatelliteVisibility satellites[66]; /* satellites in the order of the line; counted by count */
 } VisibilityLogRecord;
 
 /* Visible satellites of one system. Id 1043. */
 typedef struct SystemVisibilityLogRecord {
-  AsciiLogHeader header;
-  int32_t system; /* 0 GPS or not known, 1 GLONASS, 2 SBAS, 5 GALILEO, 6 BEIDOU, 7 QZSS, 9 NAVIC;
-                     not the numbers of GNSSSysIdToName */
-  int32_t valid;  /* 1 TRUE, else 0 */
-  int32_t completeAlmanac; /* 1 TRUE, else 0 */
-  uint32_t count;          /* entries of satellites, 0 to 432 */
-  SatelliteVisibility satellites[432];
+  AsciiLogHeader header; /* header of the line */
+  int32_t system; /* satellite system, not by the numbers of GNSSSysIdToName; values LogSystem */
+  int32_t valid;  /* the satellite visibility is valid; flag */
+  int32_t completeAlmanac;             /* the almanac is complete; flag */
+  uint32_t count;                      /* satellites, 0 to 432 */
+  SatelliteVisibility satellites[432]; /* satellites in the order of the line; counted by count */
 } SystemVisibilityLogRecord;
 
 /* One satellite of a satellite list. 16 bytes. */
 typedef struct ListedSatellite {
-  int32_t system; /* as SystemVisibilityLogRecord::system */
-  uint16_t satellite;
+  int32_t system;           /* satellite system; values LogSystem */
+  uint16_t satellite;       /* satellite number; as sent */
   int16_t glonassFrequency; /* channel, 0 without one */
-  int32_t status;           /* 0 GOOD or not known, 1 BADHEALTH, 2 OLDEPHEMERIS, ..., 99 NA */
-  uint32_t signals;         /* bit mask */
+  int32_t status;   /* why the satellite is used or not; values 0 GOOD or not known, 1 BADHEALTH,
+                       2 OLDEPHEMERIS, 99 NA */
+  uint32_t signals; /* bit mask of the signals used; as sent */
 } ListedSatellite;
 
 /* Satellites of the best solution. Id 1194. */
 typedef struct SatelliteListLogRecord {
-  AsciiLogHeader header;
-  uint32_t count; /* entries of satellites, 0 to 431 */
-  ListedSatellite satellites[431];
-  uint8_t undecoded[12];
+  AsciiLogHeader header;           /* header of the line */
+  uint32_t count;                  /* satellites, 0 to 431 */
+  ListedSatellite satellites[431]; /* satellites in the order of the line; counted by count */
+  uint8_t undecoded[12];           /* reserved, not decoded */
 } SatelliteListLogRecord;
 
 /* Position and velocity of the best solution. Id 2118. */
 typedef struct NavigationSolutionLogRecord {
-  AsciiLogHeader header;
-  int32_t positionStatus; /* a solutionStatus */
-  int32_t positionType;
-  double latitude;         /* degrees */
-  double longitude;        /* degrees */
-  double height;           /* above mean sea level, metres */
-  float undulation;        /* metres */
-  int32_t datum;           /* as PositionLogRecord::datum */
-  float latitudeDeviation; /* metres */
-  float longitudeDeviation;
-  float heightDeviation;
-  char stationId[4];
-  float differentialAge; /* seconds */
-  float solutionAge;     /* seconds */
-  SolutionSatellites satellites;
-  uint8_t undecoded[44];
+  AsciiLogHeader header;  /* header of the line */
+  int32_t positionStatus; /* status of the solution; values SolutionStatus */
+  int32_t positionType;   /* type of the solution; values SolutionType */
+  double latitude;        /* [deg] north positive */
+  double longitude;       /* [deg] east positive */
+  double height;          /* [m] above mean sea level */
+  float undulation;       /* [m] geoid above the ellipsoid */
+  int32_t datum;          /* place in the receivers' list of datums; values 0 ERROR or not known, 61
+                             WGS84, 63 USER */
+  float latitudeDeviation;       /* [m] standard deviation of the latitude */
+  float longitudeDeviation;      /* [m] standard deviation of the longitude */
+  float heightDeviation;         /* [m] standard deviation of the height */
+  char stationId[4];             /* reference station; as sent */
+  float differentialAge;         /* [s] age of the corrections */
+  float solutionAge;             /* [s] age of the solution */
+  SolutionSatellites satellites; /* satellites and signals behind the solution */
+  uint8_t undecoded[44];         /* reserved, not decoded */
 } NavigationSolutionLogRecord;
 
 /* The agricultural-format summary. Id 11276. */
 typedef struct AgriculturalLogRecord {
-  AsciiLogHeader header;
-  char format[4]; /* "GNSS" */
-  uint8_t commandLength;
-  uint8_t utcYear; /* two digits */
-  uint8_t utcMonth;
-  uint8_t utcDay;
-  uint8_t utcHour;
-  uint8_t utcMinute;
-  uint8_t utcSecond;
-  uint8_t undecoded[213];
+  AsciiLogHeader header;  /* header of the line */
+  char format[4];         /* "GNSS"; as sent */
+  uint8_t commandLength;  /* length of the command; as sent */
+  uint8_t utcYear;        /* two digits; as sent */
+  uint8_t utcMonth;       /* 1 to 12; as sent */
+  uint8_t utcDay;         /* 1 to 31; as sent */
+  uint8_t utcHour;        /* [h] 0 to 23; as sent */
+  uint8_t utcMinute;      /* [min] 0 to 59; as sent */
+  uint8_t utcSecond;      /* [s] 0 to 60; as sent */
+  uint8_t undecoded[213]; /* reserved, not decoded */
 } AgriculturalLogRecord;
 
 /* Compact observations, firmware information, RTK data and the logs without a name: the header and
  * nothing else: neither the component types of 11277 nor the position types of 215. Ids 10, 11277,
  * 215, 52, 1461; their sizes are 17308, 2944, 928, 40 and 68. */
 typedef struct HeaderLogRecord {
-  AsciiLogHeader header;
+  AsciiLogHeader header; /* header of the line */
 } HeaderLogRecord;
 
 /* The time lines 2300 to 2310 have no header and no known fields: their records are all 0. Sizes:

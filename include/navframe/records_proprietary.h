@@ -29,73 +29,74 @@ typedef struct RecordText {
 
 /* NAVPOS, position. MsgId 30. */
 typedef struct NavPosRecord {
-  GPSTIME gpsTime;
+  GPSTIME gpsTime;        /* the decoder's GPS time when the sentence was decoded */
   char timeText[16];      /* the decoder's time of day */
-  int32_t solutionStatus; /* as sent, like all that follows */
-  int32_t positionType;
-  int32_t datum;
-  int32_t stationNumber;
-  RecordText text; /* at most 15 characters */
-  uint8_t status;
-  uint8_t count;
-  double x; /* Cartesian coordinates, metres */
-  double y;
-  double z;
-  double sigmaX; /* their standard deviations, metres */
-  double sigmaY;
-  double sigmaZ;
+  int32_t solutionStatus; /* state of the solution; as sent */
+  int32_t positionType;   /* type of the solution; as sent */
+  int32_t datum;          /* datum; as sent */
+  int32_t stationNumber;  /* reference station; as sent */
+  RecordText text;        /* text of at most 15 characters; as sent */
+  uint8_t status;         /* state; as sent */
+  uint8_t count;          /* count; as sent */
+  double x;               /* [m] Cartesian coordinate X */
+  double y;               /* [m] Cartesian coordinate Y */
+  double z;               /* [m] Cartesian coordinate Z */
+  double sigmaX;          /* [m] standard deviation of X */
+  double sigmaY;          /* [m] standard deviation of Y */
+  double sigmaZ;          /* [m] standard deviation of Z */
 } NavPosRecord;
 
 /* NAVVEL, velocity. MsgId 31. */
 typedef struct NavVelRecord {
-  GPSTIME gpsTime;
+  GPSTIME gpsTime;        /* the decoder's GPS time when the sentence was decoded */
   char timeText[16];      /* the decoder's time of day */
-  int32_t solutionStatus; /* as sent, like all that follows */
-  int32_t positionType;
-  int32_t datum;
-  int32_t stationNumber;
-  RecordText text; /* at most 15 characters */
-  uint8_t status;
-  uint8_t count;
-  double velocity[3];   /* metres per second */
-  double speedAccuracy; /* metres per second */
+  int32_t solutionStatus; /* state of the solution; as sent */
+  int32_t positionType;   /* type of the solution; as sent */
+  int32_t datum;          /* datum; as sent */
+  int32_t stationNumber;  /* reference station; as sent */
+  RecordText text;        /* text of at most 15 characters; as sent */
+  uint8_t status;         /* state; as sent */
+  uint8_t count;          /* count; as sent */
+  double velocity[3];     /* [m/s] components of the velocity; as sent */
+  double speedAccuracy;   /* [m/s] accuracy of the velocity */
 } NavVelRecord;
 
 /* One time of a NAVTIME record. */
 typedef struct NavTimeGroup {
-  int32_t status; /* as sent */
-  uint8_t flag;   /* as sent */
-  double seconds;
+  int32_t status; /* state of the time; as sent */
+  uint8_t flag;   /* flag of the time; as sent */
+  double seconds; /* [s] the time; as sent */
 } NavTimeGroup;
 
 /* NAVTIME, times. MsgId 32. */
 typedef struct NavTimeRecord {
-  GPSTIME gpsTime;
-  NavTimeGroup groups[4];
+  GPSTIME gpsTime;        /* the decoder's GPS time when the sentence was decoded */
+  NavTimeGroup groups[4]; /* times with their states */
 } NavTimeRecord;
 
 /* NAVACC, accuracy. MsgId 33. */
 typedef struct NavAccRecord {
-  GPSTIME gpsTime;
-  char timeText[16];  /* time field as sent */
-  UTCTIME utc;        /* time of day; flag 1 once it was read; no date */
-  uint8_t status;     /* 1 valid ("A"), else 0 */
-  uint32_t values[3]; /* as sent */
+  GPSTIME gpsTime;    /* the decoder's GPS time when the sentence was decoded */
+  char timeText[16];  /* time field; as sent */
+  UTCTIME utc;        /* time of day of the sentence; no date */
+  uint8_t status;     /* state; unknown never; values 0 not valid, 1 valid */
+  uint32_t values[3]; /* accuracies; as sent */
 } NavAccRecord;
 
 /* PNAVMSG, diagnostics. MsgId 35. */
 typedef struct PNavMsgRecord {
-  GPSTIME gpsTime;
+  GPSTIME gpsTime;    /* the decoder's GPS time when the sentence was decoded */
   char timeText[16];  /* the decoder's time of day */
-  uint8_t head[2];    /* as sent, decimal */
-  uint8_t values[15]; /* as sent, hexadecimal */
+  uint8_t head[2];    /* first two numbers; as sent; unknown never; preset 255 */
+  uint8_t values[15]; /* diagnostic bytes; as sent; unknown never; preset 255 */
 } PNavMsgRecord;
 
 /* CWOUT, continuous-wave interference. MsgId 36. */
 typedef struct CwOutRecord {
-  GPSTIME gpsTime;
+  GPSTIME gpsTime;   /* the decoder's GPS time when the sentence was decoded */
   char timeText[16]; /* the decoder's time of day */
-  int32_t values[9]; /* as sent; -1 is a value: see docs/compatibility.md, Numbers */
+  int32_t values[9]; /* interference values; as sent; unknown never; preset -1; see
+                        docs/compatibility.md, Numbers */
 } CwOutRecord;
 
 #ifdef __cplusplus

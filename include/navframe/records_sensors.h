@@ -23,60 +23,60 @@ extern "C" {
 
 /* GYOACC and GYOACC-V, gyroscope and accelerometer. MsgId 41, 50 and 71. */
 typedef struct GyoAccRecord {
-  uint8_t tag;
-  char timeText[17]; /* time of day; empty in 71 */
-  UTCTIME utc;       /* time of day; flag 1 once it was read; unknown in 71 */
-  GPSTIME gpsTime;
-  double gyro[3];         /* angular rates about x, y, z, as sent */
-  double acceleration[3]; /* along x, y, z, as sent */
-  double spare[2];        /* always unknown */
+  uint8_t tag;            /* the sentence stood behind a tag block, which is never the case; flag */
+  char timeText[17];      /* time field, nothing in 71; as sent */
+  UTCTIME utc;            /* time of day of the message */
+  GPSTIME gpsTime;        /* the decoder's GPS time when the message was decoded */
+  double gyro[3];         /* angular rates about x, y and z; as sent */
+  double acceleration[3]; /* accelerations along x, y and z; as sent */
+  double spare[2];        /* reserved, always unknown; unknown nan */
 } GyoAccRecord;
 
 /* SNRSTAT, signal statistics. MsgId 42; 72 is RtcmSnrStatRecord. */
 typedef struct SnrStatRecord {
-  uint8_t tag;
+  uint8_t tag;       /* the sentence stood behind a tag block, which is never the case; flag */
   char timeText[15]; /* the decoder's time of day */
-  GPSTIME gpsTime;
-  uint32_t count;   /* first unsigned value, as sent */
-  uint8_t state;    /* second unsigned value, as sent */
-  int8_t levels[3]; /* signed values, as sent; -1 reads as unknown: see docs/compatibility.md,
-                       Numbers */
+  GPSTIME gpsTime;   /* the decoder's GPS time when the message was decoded */
+  uint32_t count;    /* first number; as sent */
+  uint8_t state;     /* second number; as sent */
+  int8_t levels[3];  /* signed numbers; as sent; see docs/compatibility.md, Numbers */
 } SnrStatRecord;
 
 /* NAVATT, attitude. MsgId 44 and 73. */
 typedef struct NavAttRecord {
-  uint8_t tag;
-  char timeText[17]; /* time of day, hhmmss.ss in 73 */
-  UTCTIME utc;       /* flag 1 once the time of day was read */
-  GPSTIME gpsTime;
-  double values[6]; /* angles and their deviations, as sent */
-  uint8_t spare[8]; /* 0 */
+  uint8_t tag;       /* the sentence stood behind a tag block, which is never the case; flag */
+  char timeText[17]; /* time field, hhmmss.ss in 73; as sent */
+  UTCTIME utc;       /* time of day of the message */
+  GPSTIME gpsTime;   /* the decoder's GPS time when the message was decoded */
+  double values[6];  /* angles and their deviations; as sent */
+  uint8_t spare[8];  /* reserved */
 } NavAttRecord;
 
 /* IMURAW, raw inertial measurements, MsgId 43 and 74; IMUVEH, the same in the vehicle frame,
  * MsgId 46 and 76 (76 is a filter value alone: no message yields it). */
 typedef struct ImuRecord {
-  uint8_t tag;
-  char timeText[17]; /* time of day, hhmmss.ss in 74 */
-  UTCTIME utc;       /* flag 1 once the time of day was read */
-  GPSTIME gpsTime;
-  char text[2][8];  /* as sent */
-  double values[6]; /* as sent */
+  uint8_t tag;       /* the sentence stood behind a tag block, which is never the case; flag */
+  char timeText[17]; /* time field, hhmmss.ss in 74; as sent */
+  UTCTIME utc;       /* time of day of the message */
+  GPSTIME gpsTime;   /* the decoder's GPS time when the message was decoded */
+  char text[2][8];   /* texts; as sent */
+  double values[6];  /* measurements; as sent */
 } ImuRecord;
 
 /* INSPVA, position, velocity and attitude of an inertial solution. MsgId 45 and 75. */
 typedef struct InsPvaRecord {
-  uint8_t tag;
-  char timeText[11]; /* time of day, hhmmss.ss in 75 */
-  char dateText[8];  /* ddmmyy in 75 */
-  UTCTIME utc;       /* flag 1 once the time of day was read */
-  GPSTIME gpsTime;
-  double latitude;    /* degrees; in 75 the message's one 64-bit value, in units of 2^-32 */
-  double longitude;   /* degrees */
-  double height;      /* metres */
-  double velocity[3]; /* metres per second */
-  float attitude[3];  /* degrees */
-  uint8_t spare[4];   /* 0 */
+  uint8_t tag;        /* the sentence stood behind a tag block, which is never the case; flag */
+  char timeText[11];  /* time field, hhmmss.ss in 75; as sent */
+  char dateText[8];   /* date field, ddmmyy in 75; as sent */
+  UTCTIME utc;        /* time of day of the message */
+  GPSTIME gpsTime;    /* the decoder's GPS time when the message was decoded */
+  double latitude;    /* [deg] north positive; in 75 the one 64-bit value of the message, in units
+                         of 2^-32 */
+  double longitude;   /* [deg] east positive */
+  double height;      /* [m] height; as sent */
+  double velocity[3]; /* [m/s] components of the velocity; as sent */
+  float attitude[3];  /* [deg] angles of the attitude; as sent */
+  uint8_t spare[4];   /* reserved */
 } InsPvaRecord;
 
 #ifdef __cplusplus

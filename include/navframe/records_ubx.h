@@ -1,10 +1,7 @@
 /* Payload records of UBX frames, and the diagnostic record. C99 and C++.
  *
- * See records.h for the conventions. In these records the unknown value of a signed integer is the
- * most negative one of its type, and "timeText" is the decoder's time of day when the message was
- * decoded. Members that are marked "flag" are 0 or 1; reserved members are 0.
- * "The decoder's GPS week" is unknown until a message brings a date: see docs/compatibility.md,
- * Week.
+ * See records.h for the conventions. Unknown values here: of a signed integer the most negative one
+ * of its type.
  */
 #ifndef NAVFRAME_RECORDS_UBX_H
 #define NAVFRAME_RECORDS_UBX_H
@@ -17,187 +14,200 @@ namespace navframe {
 extern "C" {
 #endif
 
-/* Protection levels (class 0x01, id 0x62). MsgId 101. 72 bytes.
- * Frames of the position and velocity: 0 not valid, 1 north-east-down, 2 longitudinal-lateral-
- * vertical, 3 ellipse (semi-major, semi-minor, vertical). */
+/* Values ProtectionFrame: 0 not valid, 1 north-east-down, 2 longitudinal-lateral-vertical,
+ * 3 ellipse (semi-major / semi-minor / vertical). */
+
+/* Protection levels (class 0x01, id 0x62). MsgId 101. 72 bytes. */
 typedef struct UbxProtectionLevelsRecord {
-  uint32_t tow;  /* GPS time of week of the message, ms */
-  uint16_t week; /* the decoder's GPS week */
-  uint16_t reserved;
-  char timeText[16];
-  uint8_t version;               /* of the message */
-  uint8_t riskCoefficient;       /* target risk of misleading information: */
-  int8_t riskExponent;           /* coefficient * 10^exponent per coverage interval */
-  uint8_t positionValid;         /* 1 when position levels can be used */
-  uint8_t positionFrame;         /* see above */
-  uint8_t velocityValid;         /* 1 when velocity levels can be used */
-  uint8_t velocityFrame;         /* see above */
-  uint8_t timeValid;             /* 1 when the time level can be used */
-  uint8_t positionInvalidReason; /* the receiver's code, 0 when valid */
-  uint8_t velocityInvalidReason; /* likewise */
-  uint8_t timeInvalidReason;     /* likewise */
-  uint32_t positionLevels[3];    /* along the axes of the frame, mm */
-  uint32_t velocityLevels[3];    /* along the axes of the frame, mm/s */
-  uint16_t positionOrientation;  /* of the horizontal ellipse, clockwise from north, 0.01 deg */
-  uint16_t velocityOrientation;  /* likewise */
-  uint32_t timeLevel;            /* ns */
-  uint32_t reservedAtEnd;        /* the message's reserved last bytes, as sent */
+  uint32_t tow;                  /* [ms] GPS time of week of the message */
+  uint16_t week;                 /* the decoder's GPS week */
+  uint16_t reserved;             /* reserved */
+  char timeText[16];             /* the decoder's time of day when the message was decoded */
+  uint8_t version;               /* version of the message */
+  uint8_t riskCoefficient;       /* target risk of misleading information: riskCoefficient *
+                                    10^riskExponent per coverage interval */
+  int8_t riskExponent;           /* see riskCoefficient */
+  uint8_t positionValid;         /* position levels can be used; flag; unknown 255 */
+  uint8_t positionFrame;         /* frame of the position levels; values ProtectionFrame */
+  uint8_t velocityValid;         /* velocity levels can be used; flag; unknown 255 */
+  uint8_t velocityFrame;         /* frame of the velocity levels; values ProtectionFrame */
+  uint8_t timeValid;             /* the time level can be used; flag; unknown 255 */
+  uint8_t positionInvalidReason; /* the receiver's code, 0 when valid; as sent */
+  uint8_t velocityInvalidReason; /* the receiver's code, 0 when valid; as sent */
+  uint8_t timeInvalidReason;     /* the receiver's code, 0 when valid; as sent */
+  uint32_t positionLevels[3];    /* [mm] position levels along the axes of their frame */
+  uint32_t velocityLevels[3];    /* [mm/s] velocity levels along the axes of their frame */
+  uint16_t positionOrientation;  /* [0.01 deg] of the horizontal ellipse, clockwise from north */
+  uint16_t velocityOrientation;  /* [0.01 deg] of the horizontal ellipse, clockwise from north */
+  uint32_t timeLevel;            /* [ns] time level */
+  uint32_t reservedAtEnd; /* last bytes of the message, reserved there; as sent; unknown never */
 } UbxProtectionLevelsRecord;
 
 /* Navigation solution (class 0x01, id 0x07). MsgId 102. 144 bytes.
  * Longitude, latitude, heights and DOP are unknown while fixType is 0. */
 typedef struct UbxNavigationRecord {
-  uint32_t tow;  /* GPS time of week of the message, ms */
-  uint16_t week; /* the decoder's GPS week, after it has taken this message's date and time */
-  uint16_t reserved;
-  char timeText[16];
-  uint16_t year;         /* UTC, as sent, as are the members up to second */
-  uint8_t month;         /* 1 to 12 */
-  uint8_t day;           /* 1 to 31 */
-  uint8_t hour;          /* 0 to 23 */
-  uint8_t minute;        /* 0 to 59 */
-  uint8_t second;        /* 0 to 60 */
-  uint32_t millisecond;  /* of the second: nanoseconds / 1000000 towards 0; a negative one is stored
-                            modulo 2^32: see docs/compatibility.md, Negative fraction */
-  uint8_t dateValid;     /* flag */
-  uint8_t timeValid;     /* flag */
-  uint8_t fullyResolved; /* flag: no uncertainty of whole seconds is left */
-  uint8_t magValid;      /* flag: magnetic declination */
-  uint32_t timeAccuracy; /* ns */
-  int32_t nanoseconds;   /* fraction of the second, -10^9 to 10^9 */
-  uint8_t fixType;       /* 0 none, 1 dead reckoning, 2 two-, 3 three-dimensional, 4 GNSS and dead
-                            reckoning, 5 time only */
-  uint8_t fixOk;         /* flag: within the limits of DOP and accuracy */
-  uint8_t diffSolution;  /* flag: differential corrections were applied */
-  uint8_t powerSaveState;      /* 0 to 7, 0 without power saving */
-  uint8_t headingValid;        /* flag: vehicle heading */
-  uint8_t carrierSolution;     /* 0 none, 1 carrier phase with float ambiguities, 2 fixed */
-  uint8_t confirmedAvailable;  /* flag: the confirmations below are available */
-  uint8_t confirmedDate;       /* flag */
-  uint8_t confirmedTime;       /* flag */
-  uint8_t satellites;          /* used in the solution */
-  double longitude;            /* degrees */
-  double latitude;             /* degrees */
-  float height;                /* above the ellipsoid, metres */
-  float heightMsl;             /* above mean sea level, metres */
-  uint32_t horizontalAccuracy; /* mm */
-  uint32_t verticalAccuracy;   /* mm */
-  int32_t velocityEast;        /* mm/s */
-  int32_t velocityNorth;       /* mm/s */
-  int32_t velocityUp;          /* mm/s */
-  int32_t groundSpeed;         /* mm/s */
-  int32_t motionHeading;       /* 0.00001 degrees */
-  uint32_t speedAccuracy;      /* mm/s */
-  uint32_t headingAccuracy;    /* 0.00001 degrees */
-  float positionDop;           /* a tenth of the DOP: the number sent, in hundredths, / 1000; see
-                                  docs/compatibility.md, DOP */
-  uint8_t invalidHeight;       /* flag: position and heights are not valid */
-  uint8_t correctionAge;   /* of the last differential correction, the receiver's code 0 to 15 */
-  uint32_t reservedWord;   /* the message's reserved bytes, as sent */
-  uint16_t vehicleHeading; /* low 16 bits of the heading of the vehicle, 0.00001 degrees: see
-                              docs/compatibility.md, Vehicle heading */
+  uint32_t tow;      /* [ms] GPS time of week of the message */
+  uint16_t week;     /* the decoder's GPS week, after it has taken this message's date and time */
+  uint16_t reserved; /* reserved */
+  char timeText[16]; /* the decoder's time of day when the message was decoded */
+  uint16_t year;     /* UTC; as sent */
+  uint8_t month;     /* 1 to 12; as sent */
+  uint8_t day;       /* 1 to 31; as sent */
+  uint8_t hour;      /* [h] 0 to 23; as sent */
+  uint8_t minute;    /* [min] 0 to 59; as sent */
+  uint8_t second;    /* [s] 0 to 60; as sent */
+  uint32_t millisecond;    /* [ms] of the second: nanoseconds / 1000000 towards 0, a negative one
+                              modulo 2^32; unknown never; see docs/compatibility.md, Negative
+                              fraction */
+  uint8_t dateValid;       /* the date is valid; flag; unknown 255 */
+  uint8_t timeValid;       /* the time of day is valid; flag; unknown 255 */
+  uint8_t fullyResolved;   /* no uncertainty of whole seconds is left; flag; unknown 255 */
+  uint8_t magValid;        /* the magnetic declination is valid; flag; unknown 255 */
+  uint32_t timeAccuracy;   /* [ns] accuracy of the time */
+  int32_t nanoseconds;     /* [ns] fraction of the second, -10^9 to 10^9 */
+  uint8_t fixType;         /* type of the fix; values 0 none, 1 dead reckoning, 2 two-dimensional,
+                              3 three-dimensional, 4 GNSS and dead reckoning, 5 time only */
+  uint8_t fixOk;           /* within the limits of DOP and accuracy; flag; unknown 255 */
+  uint8_t diffSolution;    /* differential corrections were applied; flag; unknown 255 */
+  uint8_t powerSaveState;  /* 0 to 7, 0 without power saving; as sent */
+  uint8_t headingValid;    /* the vehicle's heading is valid; flag; unknown 255 */
+  uint8_t carrierSolution; /* carrier phase solution; values 0 none, 1 float, 2 fixed */
+  uint8_t confirmedAvailable;  /* the confirmations below are available; flag; unknown 255 */
+  uint8_t confirmedDate;       /* the date was confirmed; flag; unknown 255 */
+  uint8_t confirmedTime;       /* the time of day was confirmed; flag; unknown 255 */
+  uint8_t satellites;          /* satellites used in the solution */
+  double longitude;            /* [deg] east positive; unknown while fixType is 0 */
+  double latitude;             /* [deg] north positive; unknown while fixType is 0 */
+  float height;                /* [m] above the ellipsoid; unknown while fixType is 0 */
+  float heightMsl;             /* [m] above mean sea level; unknown while fixType is 0 */
+  uint32_t horizontalAccuracy; /* [mm] accuracy of the horizontal position */
+  uint32_t verticalAccuracy;   /* [mm] accuracy of the height */
+  int32_t velocityEast;        /* [mm/s] velocity to the east */
+  int32_t velocityNorth;       /* [mm/s] velocity to the north */
+  int32_t velocityUp;          /* [mm/s] velocity upwards */
+  int32_t groundSpeed;         /* [mm/s] speed over ground */
+  int32_t motionHeading;       /* [1e-5 deg] heading of motion */
+  uint32_t speedAccuracy;      /* [mm/s] accuracy of the speed */
+  uint32_t headingAccuracy;    /* [1e-5 deg] accuracy of the heading */
+  float positionDop;       /* a tenth of the position DOP: the number sent, in hundredths, / 1000;
+                              see docs/compatibility.md, DOP */
+  uint8_t invalidHeight;   /* position and heights are not valid; flag; unknown 255 */
+  uint8_t correctionAge;   /* of the last differential correction, the receiver's code, 0 to 15;
+                              as sent */
+  uint32_t reservedWord;   /* bytes that the message reserves; as sent; unknown never */
+  uint16_t vehicleHeading; /* [1e-5 deg] low 16 bits of the heading of the vehicle; unknown never;
+                              preset 32768; see docs/compatibility.md, Vehicle heading */
 } UbxNavigationRecord;
+
+/* Values UbxSystem: 0 GPS, 1 SBAS, 2 Galileo, 3 BeiDou, 5 QZSS, 6 GLONASS, 7 NavIC. */
 
 /* One satellite of UbxSatellitesRecord. 26 bytes. */
 typedef struct UbxSatellite {
-  uint8_t systemId;    /* as sent: 0 GPS, 1 SBAS, 2 Galileo, 3 BeiDou, 5 QZSS, 6 GLONASS, 7 NavIC */
-  uint8_t satelliteId; /* as sent */
-  uint8_t cn0;         /* carrier-to-noise density, dB-Hz; unknown for a 0 sent */
-  uint8_t elevation;   /* degrees, 0 to 90; unknown for any other value sent */
-  uint16_t azimuth;    /* degrees; unknown when the elevation is */
-  int16_t residual;    /* of the pseudorange, 0.1 m */
-  uint8_t quality;     /* 0 no signal to 7 code and carrier locked and synchronised */
-  uint8_t used;        /* flag: in the solution */
-  uint8_t health;      /* 0 unknown, 1 healthy, 2 unhealthy */
-  uint8_t corrected;   /* flag: differential corrections are available */
-  uint8_t smoothed;    /* flag: carrier smoothed pseudorange */
-  uint8_t orbitSource; /* 0 none, 1 ephemeris, 2 almanac, 3 and 4 predictions, 5 to 7 other */
-  uint8_t ephemeris;   /* flag: available */
-  uint8_t almanac;     /* flag: available */
-  uint8_t offlinePrediction;    /* flag: a downloaded orbit prediction is available */
-  uint8_t autonomousPrediction; /* flag: an orbit prediction of the receiver is available */
-  uint8_t spareFlag;            /* flag: bit 15 of the flags sent */
-  uint8_t sbasCorrections;      /* flag: used, as are the following */
-  uint8_t rtcmCorrections;      /* flag */
-  uint8_t slasCorrections;      /* flag */
-  uint8_t spartnCorrections;    /* flag */
-  uint8_t rangeCorrections;     /* flag: to the pseudorange */
-  uint8_t carrierCorrections;   /* flag: to the carrier range */
-  uint8_t dopplerCorrections;   /* flag: to the range rate */
+  uint8_t systemId;          /* satellite system; as sent; values UbxSystem */
+  uint8_t satelliteId;       /* satellite number; as sent */
+  uint8_t cn0;               /* [dB-Hz] carrier-to-noise density; unknown for a 0 sent */
+  uint8_t elevation;         /* [deg] 0 to 90; unknown for any other value sent */
+  uint16_t azimuth;          /* [deg] unknown when the elevation is */
+  int16_t residual;          /* [0.1 m] residual of the pseudorange */
+  uint8_t quality;           /* quality of the signal; values 0 no signal, 1 searching, 2 acquired,
+                                3 detected but unusable, 4 code locked, 5 to 7 code and carrier
+                                locked */
+  uint8_t used;              /* in the solution; flag; unknown 255 */
+  uint8_t health;            /* health; values 0 unknown, 1 healthy, 2 unhealthy */
+  uint8_t corrected;         /* differential corrections are available; flag; unknown 255 */
+  uint8_t smoothed;          /* carrier smoothed pseudorange; flag; unknown 255 */
+  uint8_t orbitSource;       /* source of the orbit; values 0 none, 1 ephemeris, 2 almanac,
+                                3 offline prediction, 4 autonomous prediction, 5 to 7 other */
+  uint8_t ephemeris;         /* an ephemeris is available; flag; unknown 255 */
+  uint8_t almanac;           /* an almanac is available; flag; unknown 255 */
+  uint8_t offlinePrediction; /* a downloaded orbit prediction is available; flag; unknown 255 */
+  uint8_t autonomousPrediction; /* an orbit prediction of the receiver is available; flag; unknown
+                                   255 */
+  uint8_t spareFlag;            /* bit 15 of the flags sent; flag; unknown 255 */
+  uint8_t sbasCorrections;      /* SBAS corrections were used; flag; unknown 255 */
+  uint8_t rtcmCorrections;      /* RTCM corrections were used; flag; unknown 255 */
+  uint8_t slasCorrections;      /* QZSS SLAS corrections were used; flag; unknown 255 */
+  uint8_t spartnCorrections;    /* SPARTN corrections were used; flag; unknown 255 */
+  uint8_t rangeCorrections;     /* corrections of the pseudorange were used; flag; unknown 255 */
+  uint8_t carrierCorrections;   /* corrections of the carrier range were used; flag; unknown 255 */
+  uint8_t dopplerCorrections;   /* corrections of the range rate were used; flag; unknown 255 */
 } UbxSatellite;
 
 /* Satellites (class 0x01, id 0x35). MsgId 103. 2524 bytes. */
 typedef struct UbxSatellitesRecord {
-  uint32_t tow;  /* GPS time of week of the message, ms */
-  uint16_t week; /* the decoder's GPS week */
-  uint16_t reserved;
-  char timeText[16];
-  uint8_t version; /* of the message */
-  uint8_t count;   /* entries that are filled: as many as the message counts, has bytes for and the
-                      record has room for */
-  UbxSatellite satellites[96]; /* unknown values behind the last one */
+  uint32_t tow;      /* [ms] GPS time of week of the message */
+  uint16_t week;     /* the decoder's GPS week */
+  uint16_t reserved; /* reserved */
+  char timeText[16]; /* the decoder's time of day when the message was decoded */
+  uint8_t version;   /* version of the message */
+  uint8_t count; /* satellites: as many as the message counts, has bytes for and the record has room
+                    for; unknown never */
+  UbxSatellite satellites[96]; /* satellites in the order of the message, unknown values behind the
+                                  last one; counted by count */
 } UbxSatellitesRecord;
 
 /* One measurement of UbxRawMeasurementsRecord. 48 bytes. */
 typedef struct UbxRawMeasurement {
-  double pseudorange;          /* metres */
-  double carrierPhase;         /* cycles */
-  float doppler;               /* Hz, positive for approaching satellites */
-  float pseudorangeDeviation;  /* standard deviations: metres */
-  float carrierPhaseDeviation; /* cycles */
-  float dopplerDeviation;      /* Hz */
-  uint8_t systemId;            /* as in UbxSatellite */
-  uint8_t satelliteId;         /* as sent */
-  uint8_t signalId;            /* as sent */
-  uint8_t frequencySlot;       /* of GLONASS: slot + 7, 0 to 13 */
-  uint16_t lockTime;           /* of the carrier phase, ms, 64500 at most */
-  uint8_t cn0;                 /* carrier-to-noise density, dB-Hz */
-  uint8_t pseudorangeValid;    /* flag */
-  uint8_t carrierPhaseValid;   /* flag */
-  uint8_t halfCycleResolved;   /* flag */
-  uint8_t halfCycleSubtracted; /* flag: from the phase */
-  uint8_t reserved[5];
+  double pseudorange;          /* [m] pseudorange */
+  double carrierPhase;         /* [cycles] carrier phase */
+  float doppler;               /* [Hz] Doppler, positive for approaching satellites */
+  float pseudorangeDeviation;  /* [m] standard deviation of the pseudorange */
+  float carrierPhaseDeviation; /* [cycles] standard deviation of the carrier phase */
+  float dopplerDeviation;      /* [Hz] standard deviation of the Doppler */
+  uint8_t systemId;            /* satellite system; as sent; values UbxSystem */
+  uint8_t satelliteId;         /* satellite number; as sent */
+  uint8_t signalId;            /* signal of the system; as sent */
+  uint8_t frequencySlot;       /* of GLONASS the slot + 7, 0 to 13; as sent */
+  uint16_t lockTime;           /* [ms] lock of the carrier phase, 64500 at most */
+  uint8_t cn0;                 /* [dB-Hz] carrier-to-noise density */
+  uint8_t pseudorangeValid;    /* the pseudorange is valid; flag; unknown 255 */
+  uint8_t carrierPhaseValid;   /* the carrier phase is valid; flag; unknown 255 */
+  uint8_t halfCycleResolved;   /* the half cycle is resolved; flag; unknown 255 */
+  uint8_t halfCycleSubtracted; /* a half cycle was subtracted from the phase; flag; unknown 255 */
+  uint8_t reserved[5];         /* reserved */
 } UbxRawMeasurement;
 
 /* Raw measurements (class 0x02, id 0x15). MsgId 104. 12272 bytes. A frame has room for 126: see
  * docs/compatibility.md, Raw measurements.
  * A message that ends early leaves the members unknown that it does not hold. */
 typedef struct UbxRawMeasurementsRecord {
-  uint32_t tow;  /* receiver's time of week rounded to ms; unknown when it is no time of a week */
-  uint16_t week; /* receiver's GPS week */
-  uint16_t reserved;
-  char timeText[16];
-  int8_t leapSeconds; /* GPS - UTC */
-  uint8_t count;      /* entries that are filled: as many as the message counts and has bytes for */
-  uint8_t leapKnown;  /* flag: leapSeconds was received, not assumed */
-  uint8_t clockReset; /* flag */
-  uint8_t version;    /* of the message */
-  uint8_t reservedInHead[3];
-  UbxRawMeasurement measurements[255]; /* unknown values behind the last one */
+  uint32_t tow; /* [ms] the receiver's time of week rounded; unknown when it is no time of a week */
+  uint16_t week;      /* the receiver's GPS week */
+  uint16_t reserved;  /* reserved */
+  char timeText[16];  /* the decoder's time of day when the message was decoded */
+  int8_t leapSeconds; /* [s] GPS time less UTC */
+  uint8_t count;      /* measurements: as many as the message counts and has bytes for; unknown
+                         never */
+  uint8_t leapKnown;  /* leapSeconds was received, not assumed; flag; unknown 255 */
+  uint8_t clockReset; /* the receiver's clock was reset; flag; unknown 255 */
+  uint8_t version;    /* version of the message */
+  uint8_t reservedInHead[3];           /* reserved */
+  UbxRawMeasurement measurements[255]; /* measurements in the order of the message, unknown values
+                                          behind the last one; counted by count */
 } UbxRawMeasurementsRecord;
 
 /* Attitude of the vehicle (class 0x01, id 0x05). MsgId 105. 80 bytes. */
 typedef struct UbxAttitudeRecord {
-  uint32_t tow;  /* GPS time of week of the message, ms */
-  uint16_t week; /* the decoder's GPS week */
-  uint16_t reserved;
-  char timeText[16];
-  uint8_t version; /* of the message */
-  uint8_t reservedInHead[7];
-  double roll;         /* degrees */
-  double pitch;        /* degrees */
-  double heading;      /* degrees */
-  double rollAccuracy; /* degrees, as are the following */
-  double pitchAccuracy;
-  double headingAccuracy;
+  uint32_t tow;              /* [ms] GPS time of week of the message */
+  uint16_t week;             /* the decoder's GPS week */
+  uint16_t reserved;         /* reserved */
+  char timeText[16];         /* the decoder's time of day when the message was decoded */
+  uint8_t version;           /* version of the message */
+  uint8_t reservedInHead[7]; /* reserved */
+  double roll;               /* [deg] roll */
+  double pitch;              /* [deg] pitch */
+  double heading;            /* [deg] heading */
+  double rollAccuracy;       /* [deg] accuracy of the roll */
+  double pitchAccuracy;      /* [deg] accuracy of the pitch */
+  double headingAccuracy;    /* [deg] accuracy of the heading */
 } UbxAttitudeRecord;
 
 /* What the decoder has to say of the stream. MsgId 151. 72 bytes. Passes every output filter and is
  * never among the ids of GNSSGetMsgs: see docs/compatibility.md, Diagnostic. */
 typedef struct DiagnosticRecord {
-  uint32_t tow;  /* the decoder's GPS time of week, ms */
-  uint32_t code; /* 1: a UBX frame with a wrong checksum */
-  char text[64]; /* "UBX check error" */
+  uint32_t tow;  /* [ms] the decoder's GPS time of week */
+  uint32_t code; /* what happened; unknown never; values 1 UBX frame with a wrong checksum */
+  char text[64]; /* the same in words */
 } DiagnosticRecord;
 
 #ifdef __cplusplus

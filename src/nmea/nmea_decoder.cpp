@@ -21,7 +21,7 @@ struct alignas(8) RecordBuffer {
 
 void Stamp(const SentenceRow& row, const TimeManager& time, RecordBuffer& record) {
   record.At<GPSTIME>(row.gpsTimeOffset) = time.gpsTime;
-  if (row.timeText == TimeText::FromDecoder && row.text.width != 0) {
+  if (row.TakesTimeText()) {
     CopyText(record.TextAt(row.text), row.text.width, time.timeText);
   }
 }
@@ -49,8 +49,8 @@ void NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row->parse == nullptr) return;
 
   RecordBuffer record;
-  row->copy(record.bytes, row->unknown);
-  if (row->firstByte == FirstByte::TagFlag) record.At<TagFlag>(0) = tag;
+  row->makeUnknown(record.bytes);
+  if (row->hasTag) record.At<TagFlag>(0) = tag;
   row->parse(context, fields, record.bytes);
   if (row->clock != ClockRule::None) {
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "base/text.h"
-#include "nmea/unknown_records.h"
+#include "catalogue/unknown_records.h"
 
 namespace navframe::nmea {
 namespace {
@@ -25,7 +25,7 @@ void SatellitesInView::Reset() {
   numberedCount_ = 0;
   unnumberedCount_ = 0;
   cycleComplete_ = false;
-  gpsTime_ = UnknownGsv.gpsTime;
+  catalogue::MakeUnknown(gpsTime_);
   std::memset(timeText_, 0, sizeof timeText_);
 }
 
@@ -45,7 +45,7 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
   const std::size_t place = numberedCount_++;
   slots_[slot] = numberedCount_;
   keys_[place] = key;
-  numbered_[place] = UnknownSatellite;
+  catalogue::MakeUnknown(numbered_[place]);
   numbered_[place].number = static_cast<std::uint8_t>(number);
   return &numbered_[place];
 }
@@ -69,7 +69,7 @@ void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvB
     AddSignalTo(*entry, signalId, block);
   } else if (unnumberedCount_ < MostSatellites) {
     SatelliteInView& entry = unnumbered_[unnumberedCount_++];
-    entry = UnknownSatellite;
+    catalogue::MakeUnknown(entry);
     entry.systemId = static_cast<std::uint8_t>(systemId);
     AddSignalTo(entry, signalId, block);
   }
@@ -83,7 +83,7 @@ void SatellitesInView::MarkUsed(int systemId, int number) {
 }
 
 void SatellitesInView::Fill(GsvRecord& record) const {
-  std::memcpy(&record, &UnknownGsv, sizeof record);  // with the bytes between the members
+  catalogue::MakeUnknown(record);
   std::memcpy(record.timeText, timeText_, sizeof timeText_);
   record.gpsTime = gpsTime_;
   record.cycleComplete = cycleComplete_ ? 1 : 0;

@@ -4,11 +4,11 @@
 #include <cstring>
 #include <new>
 
+#include "catalogue/unknown_records.h"
 #include "navframe/records.h"
 #include "nmea/fix_sentences.h"
 #include "nmea/proprietary.h"
 #include "nmea/satellite_sentences.h"
-#include "nmea/unknown_records.h"
 
 namespace navframe::nmea {
 namespace {
@@ -25,10 +25,11 @@ void CopyRecord(void* to, const void* from) {
 
 // Adds to a row what follows from the type of its record.
 template <class Record, void (*Parse)(NmeaContext&, const Fields&, Record&)>
-constexpr SentenceRow With(SentenceRow row, const Record& unknown) {
+constexpr SentenceRow With(SentenceRow row) {
   static_assert(sizeof(Record) <= LargestRecord);
   row.size = sizeof(Record);
-  row.unknown = &unknown;
+  row.hasTag = requires { Record::tag; };
+  row.makeUnknown = [](void* record) { catalogue::MakeUnknown(*static_cast<Record*>(record)); };
   row.copy = CopyRecord<Record>;
   row.parse = [](NmeaContext& context, const Fields& fields, void* record) {
     Parse(context, fields, *static_cast<Record*>(record));
@@ -42,62 +43,50 @@ constexpr SentenceRow With(SentenceRow row, const Record& unknown) {
 }
 
 using enum FilterTest;
-using enum FirstByte;
-using enum TimeText;
 
-// clang-format off
-// Kind, kind behind a tag block, filter values, when tested, first byte, time text, clock, fields.
-constexpr SentenceRow Rmc = With<RmcRecord, ParseRmc>(
-    {2, 22, {2, 22}, AfterParsing,   TagFlag, FromSentence, ClockRule::DateByEpoch, nullptr}, UnknownRmc);
-constexpr SentenceRow Gga = With<GgaRecord, ParseGga>(
-    {1, 21, {1, 21}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDayByEpoch, nullptr}, UnknownGga);
-constexpr SentenceRow Gsa = With<GsaRecord, ParseGsa>(
-    {3, 23, {3, 23}, AfterParsing,   TagFlag, FromDecoder,  ClockRule::None, IsGsa}, UnknownGsa);
+// Kind, when the filter is asked, clock, fields, twin.
+constexpr SentenceRow Rmc =
+    With<RmcRecord, ParseRmc>({MsgIdRmc, AfterParsing, ClockRule::DateByEpoch});
+constexpr SentenceRow Gga =
+    With<GgaRecord, ParseGga>({MsgIdGga, AfterParsing, ClockRule::TimeOfDayByEpoch});
+constexpr SentenceRow Gsa =
+    With<GsaRecord, ParseGsa>({MsgIdGsa, AfterParsing, ClockRule::None, IsGsa});
 // Accumulated until the cycle ends, so there is no record of the sentence itself.
-constexpr SentenceRow Gsv =
-    {4, 24, {4, 24}, BeforeBuilding, TagFlag, FromDecoder,  ClockRule::None, IsGsv};
-constexpr SentenceRow Txt =
-    {34, 34, {34, 34}, Never,        Data,    FromDecoder,  ClockRule::None, nullptr};
-constexpr SentenceRow Zda = With<ZdaRecord, ParseZda>(
-    {9, 29, {9, 29}, AfterParsing,   TagFlag, FromSentence, ClockRule::Date, nullptr}, UnknownZda);
-constexpr SentenceRow Vtg = With<VtgRecord, ParseVtg>(
-    {8, 28, {8, 28}, BeforeBuilding, TagFlag, FromDecoder,  ClockRule::None, nullptr}, UnknownVtg);
-constexpr SentenceRow Gll = With<GllRecord, ParseGll>(
-    {5, 25, {5, 25}, BeforeBuilding, TagFlag, FromDecoder,  ClockRule::None, nullptr}, UnknownGll);
-constexpr SentenceRow Gst = With<GstRecord, ParseGst>(
-    {6, 26, {6, 26}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownGst);
-constexpr SentenceRow Gbs = With<GbsRecord, ParseGbs>(
-    {7, 27, {7, 27}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownGbs);
+constexpr SentenceRow Gsv = {MsgIdGsv, BeforeBuilding, ClockRule::None, IsGsv};
+constexpr SentenceRow Txt = {MsgIdTxt, Never};
+constexpr SentenceRow Zda = With<ZdaRecord, ParseZda>({MsgIdZda, AfterParsing, ClockRule::Date});
+constexpr SentenceRow Vtg = With<VtgRecord, ParseVtg>({MsgIdVtg, BeforeBuilding});
+constexpr SentenceRow Gll = With<GllRecord, ParseGll>({MsgIdGll, BeforeBuilding});
+constexpr SentenceRow Gst =
+    With<GstRecord, ParseGst>({MsgIdGst, AfterParsing, ClockRule::TimeOfDay});
+constexpr SentenceRow Gbs =
+    With<GbsRecord, ParseGbs>({MsgIdGbs, AfterParsing, ClockRule::TimeOfDay});
 
-constexpr SentenceRow PNavMsg = With<PNavMsgRecord, ParsePNavMsg>(
-    {35, 35, {35, 35}, Never,          Data,    FromDecoder,  ClockRule::None, nullptr}, UnknownPNavMsg);
-constexpr SentenceRow CwOut = With<CwOutRecord, ParseCwOut>(
-    {36, 36, {36, 36}, BeforeBuilding, Data,    FromDecoder,  ClockRule::None, nullptr}, UnknownCwOut);
+constexpr SentenceRow PNavMsg = With<PNavMsgRecord, ParsePNavMsg>({MsgIdPNavMsg, Never});
+constexpr SentenceRow CwOut = With<CwOutRecord, ParseCwOut>({MsgIdCwOut, BeforeBuilding});
 constexpr SentenceRow GyoAcc = With<GyoAccRecord, ParseGyoAcc>(
-    {41, 41, {41, 71}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownGyoAcc);
+    {MsgIdGyoAcc, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmGyoAcc});
 // The same record under a number of its own, which the filter knows by the other's values alone.
 constexpr SentenceRow GyoAccV = With<GyoAccRecord, ParseGyoAcc>(
-    {50, 50, {41, 71}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownGyoAcc);
+    {MsgIdGyoAccV, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmGyoAcc, MsgIdGyoAcc});
+constexpr SentenceRow SnrStat = With<SnrStatRecord, ParseSnrStat>(
+    {MsgIdSnrStat, BeforeBuilding, ClockRule::None, nullptr, MsgIdRtcmSnrStat});
 // The twins of IMURAW and NAVATT are crossed; hosts rely on it.
 constexpr SentenceRow ImuRaw = With<ImuRecord, ParseImuRaw>(
-    {43, 43, {43, 74}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownImu);
-constexpr SentenceRow SnrStat = With<SnrStatRecord, ParseSnrStat>(
-    {42, 42, {42, 72}, BeforeBuilding, TagFlag, FromDecoder,  ClockRule::None, nullptr}, UnknownSnrStat);
+    {MsgIdImuRaw, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmImuRaw});
 constexpr SentenceRow NavAtt = With<NavAttRecord, ParseNavAtt>(
-    {44, 44, {44, 73}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownNavAtt);
+    {MsgIdNavAtt, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmNavAtt});
 constexpr SentenceRow InsPva = With<InsPvaRecord, ParseInsPva>(
-    {45, 45, {45, 75}, AfterParsing,   TagFlag, FromSentence, ClockRule::TimeOfDay, IsInsPva}, UnknownInsPva);
-constexpr SentenceRow ImuVeh = With<ImuRecord, ParseImuVeh>(
-    {46, 46, {46, 76}, BeforeBuilding, TagFlag, FromSentence, ClockRule::None, nullptr}, UnknownImu);
-constexpr SentenceRow NavPos = With<NavPosRecord, ParseNavPos>(
-    {30, 30, {30, 30}, BeforeBuilding, Data,    FromDecoder,  ClockRule::None, nullptr}, UnknownNavPos);
-constexpr SentenceRow NavVel = With<NavVelRecord, ParseNavVel>(
-    {31, 31, {31, 31}, BeforeBuilding, Data,    FromDecoder,  ClockRule::None, nullptr}, UnknownNavVel);
-constexpr SentenceRow NavTime = With<NavTimeRecord, ParseNavTime>(
-    {32, 32, {32, 32}, BeforeBuilding, Data,    FromDecoder,  ClockRule::None, nullptr}, UnknownNavTime);
-constexpr SentenceRow NavAcc = With<NavAccRecord, ParseNavAcc>(
-    {33, 33, {33, 33}, AfterParsing,   Data,    FromSentence, ClockRule::TimeOfDay, nullptr}, UnknownNavAcc);
-// clang-format on
+    {MsgIdInsPva, AfterParsing, ClockRule::TimeOfDay, IsInsPva, MsgIdRtcmInsPva});
+constexpr SentenceRow ImuVeh = With<ImuRecord, ParseImuVeh>({.kind = MsgIdImuVeh,
+                                                             .filterTest = BeforeBuilding,
+                                                             .twin = MsgIdRtcmImuVeh,
+                                                             .keepsTimeText = true});
+constexpr SentenceRow NavPos = With<NavPosRecord, ParseNavPos>({MsgIdNavPos, BeforeBuilding});
+constexpr SentenceRow NavVel = With<NavVelRecord, ParseNavVel>({MsgIdNavVel, BeforeBuilding});
+constexpr SentenceRow NavTime = With<NavTimeRecord, ParseNavTime>({MsgIdNavTime, BeforeBuilding});
+constexpr SentenceRow NavAcc =
+    With<NavAccRecord, ParseNavAcc>({MsgIdNavAcc, AfterParsing, ClockRule::TimeOfDay});
 
 // Compared with the three characters behind "$" and a two-letter talker, first.
 struct FormatterRow {

@@ -1,7 +1,6 @@
 // The kinds of sentences: how they are recognised and what becomes of them.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -17,12 +16,6 @@ namespace navframe::nmea {
 // then not even parsed and moves no clock), or after it was parsed.
 enum class FilterTest : std::uint8_t { Never, BeforeBuilding, AfterParsing };
 
-// Whether the record's first byte is the tag flag.
-enum class FirstByte : std::uint8_t { TagFlag, Data };
-
-// Where the record's time text comes from.
-enum class TimeText : std::uint8_t { FromSentence, FromDecoder };
-
 // A text member of a record, by place; width 0 for none.
 struct TextMember {
   std::uint16_t offset = 0;
@@ -31,24 +24,38 @@ struct TextMember {
 
 // What a kind of sentence becomes.
 struct SentenceRow {
-  std::uint32_t kind;                     // MsgId of the plain sentence
-  std::uint32_t taggedKind;               // and behind a tag block
-  std::array<std::uint32_t, 2> accepted;  // filter values that let the record pass, besides 0
+  std::uint32_t kind;  // MsgId of the plain sentence
   FilterTest filterTest;
-  FirstByte firstByte;
-  TimeText timeText;
-  ClockRule clock;
-  bool (*takes)(const Fields& fields);                 // null: any number of fields
-  std::uint32_t size = 0;                              // of the record; 0 for kinds without one
-  const void* unknown = nullptr;                       // the record before its parser runs
+  ClockRule clock = ClockRule::None;
+  bool (*takes)(const Fields& fields) = nullptr;  // null: any number of fields
+  // A filter value that lets the record pass besides that of its kind, 0 for none; and the one of
+  // its kind where that is another kind's.
+  std::uint32_t twin = 0;
+  std::uint32_t passesAs = 0;
+  bool keepsTimeText = false;  // though it does not move the clock
+
+  // What follows from the type of the record.
+  std::uint32_t size = 0;                              // 0 for kinds without one
+  bool hasTag = false;                                 // the first byte is the tag flag
+  void (*makeUnknown)(void* record) = nullptr;         // as it is before its parser runs
   void (*copy)(void* to, const void* from) = nullptr;  // of a whole record, `from` staying valid
   void (*parse)(NmeaContext& context, const Fields& fields, void* record) = nullptr;
   std::uint16_t gpsTimeOffset = 0;
   std::uint16_t utcOffset = 0;  // of a record with a ClockRule
   TextMember text = {};         // the time text
 
-  std::uint32_t Kind(TagFlag tag) const { return tag == TagFlag::Plain ? kind : taggedKind; }
-  bool Passes(const RecordSink& sink) const { return sink.PassesAny(accepted[0], accepted[1]); }
+  // The standard sentences have kinds of their own behind tag blocks.
+  std::uint32_t Kind(TagFlag tag) const {
+    return tag == TagFlag::Plain || kind > MsgIdZda ? kind : kind + (MsgIdTaggedGga - MsgIdGga);
+  }
+  bool Passes(const RecordSink& sink) const {
+    const std::uint32_t other = twin != 0 ? twin : Kind(TagFlag::BehindTagBlock);
+    return sink.PassesAny(passesAs != 0 ? passesAs : kind, other);
+  }
+  // A record that does not move the clock takes its time text from it.
+  bool TakesTimeText() const {
+    return clock == ClockRule::None && !keepsTimeText && text.width != 0;
+  }
 };
 
 // The largest record that a row names, and its alignment.

@@ -8,13 +8,15 @@
 
 namespace navframe {
 
-// A bit per MsgId. The decoders that report their kinds use ids below Limit only (ASCII logs,
-// whose ids go higher, never report).
+// A bit per MsgId below Limit. Kinds with higher ids, of ASCII logs and of streams, are none of the
+// exports' and stay out.
 class DecodedIdSet {
  public:
   static constexpr std::uint32_t Limit = 256;
 
-  void Insert(std::uint32_t id) { bits_[id / 64] |= std::uint64_t{1} << (id % 64); }
+  void Insert(std::uint32_t id) {
+    if (id < Limit) bits_[id / 64] |= std::uint64_t{1} << (id % 64);
+  }
 
   // Writes the ids to consecutive places and empties the set. Returns their number.
   std::uint32_t Drain(std::uint32_t* ids) {

@@ -34,23 +34,9 @@ std::string_view ModeLetter(std::uint8_t mode) {
   }
 }
 
-std::string_view SystemLetters(std::uint8_t systemId) {
-  switch (systemId) {
-    case 1:
-      return "GPS,";
-    case 2:
-      return "GLO,";
-    case 3:
-      return "GAL,";
-    case 4:
-      return "BDS,";
-    case 5:
-      return "QZS,";
-    case 6:
-      return "NavIC(IRN),";
-    default:
-      return "Unknown,";
-  }
+std::string_view SystemOrUnknown(std::uint8_t systemId) {
+  const std::string_view name = SystemName(systemId, NameOf::SatelliteLine);
+  return name.empty() ? "Unknown" : name;
 }
 
 }  // namespace
@@ -105,7 +91,8 @@ void FormatGsv(const GsvRecord& record, TextWriter& writer) {
     for (std::size_t j = 0; j < signals; ++j) {
       const SatelliteSignal& signal = satellite.signals[j];
       writer.IntOr(satellite.number, ",", ",");
-      writer.Text(SystemLetters(satellite.systemId));
+      writer.Text(SystemOrUnknown(satellite.systemId));
+      writer.Text(",");
       writer.Text(SignalName(satellite.systemId, signal.signalId));
       writer.Text(",");
       writer.IntOr(satellite.azimuth, ",", ",");

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "catalogue/kinds.h"
 #include "render/nmea_text.h"
 #include "render/proprietary_text.h"
 #include "render/rtcm_text.h"
@@ -10,62 +11,62 @@
 namespace navframe {
 namespace {
 
+using catalogue::TextForm;
 using Formatter = void (*)(const void* payload, bool leadingFields, TextWriter& writer);
 
 struct FormatterRow {
-  std::uint32_t id;
+  TextForm form;
   Formatter formatter;
 };
 
 // Adapts a formatter of one record type.
 template <class Record, void (*Format)(const Record&, TextWriter&)>
-constexpr FormatterRow Row(std::uint32_t id) {
-  return {id, [](const void* payload, bool /*leadingFields*/, TextWriter& writer) {
+constexpr FormatterRow Row(TextForm form) {
+  return {form, [](const void* payload, bool /*leadingFields*/, TextWriter& writer) {
             Format(*static_cast<const Record*>(payload), writer);
           }};
 }
 
 template <class Record, void (*Format)(const Record&, bool, TextWriter&)>
-constexpr FormatterRow RowWithFlag(std::uint32_t id) {
-  return {id, [](const void* payload, bool leadingFields, TextWriter& writer) {
+constexpr FormatterRow RowWithFlag(TextForm form) {
+  return {form, [](const void* payload, bool leadingFields, TextWriter& writer) {
             Format(*static_cast<const Record*>(payload), leadingFields, writer);
           }};
 }
 
-// clang-format off
 constexpr FormatterRow Rows[] = {
-    Row<GgaRecord, FormatGga>(1),          Row<GgaRecord, FormatGga>(21),
-    Row<RmcRecord, FormatRmc>(2),          Row<RmcRecord, FormatRmc>(22),
-    Row<GsaRecord, FormatGsa>(3),          Row<GsaRecord, FormatGsa>(23),
-    Row<GsvRecord, FormatGsv>(4),          Row<GsvRecord, FormatGsv>(24),
-    Row<GllRecord, FormatGll>(5),          Row<GllRecord, FormatGll>(25),
-    Row<GstRecord, FormatGst>(6),          Row<GstRecord, FormatGst>(26),
-    Row<GbsRecord, FormatGbs>(7),          Row<GbsRecord, FormatGbs>(27),
-    Row<VtgRecord, FormatVtg>(8),          Row<VtgRecord, FormatVtg>(28),
-    Row<ZdaRecord, FormatZda>(9),          Row<ZdaRecord, FormatZda>(29),
-    Row<NavPosRecord, FormatNavPos>(30),   Row<NavVelRecord, FormatNavVel>(31),
-    Row<NavTimeRecord, FormatNavTime>(32), Row<NavAccRecord, FormatNavAcc>(33),
-    Row<PNavMsgRecord, FormatPNavMsg>(35), Row<CwOutRecord, FormatCwOut>(36),
-    Row<GyoAccRecord, FormatGyoAcc>(41),   Row<GyoAccRecord, FormatGyoAcc>(50),
-    Row<GyoAccRecord, FormatGyoAcc>(71),
-    Row<SnrStatRecord, FormatSnrStat>(42),
-    Row<ImuRecord, FormatImu>(43),         Row<ImuRecord, FormatImu>(74),
-    Row<NavAttRecord, FormatNavAtt>(44),   Row<NavAttRecord, FormatNavAtt>(73),
-    Row<InsPvaRecord, FormatInsPva>(45),   Row<InsPvaRecord, FormatInsPva>(75),
-    Row<ImuRecord, FormatImu>(46),         Row<ImuRecord, FormatImu>(76),
-    Row<RtcmSnrStatRecord, FormatRtcmSnrStat>(72),
-    RowWithFlag<ClockOrbitRecord, FormatClockOrbit>(79),
-    Row<SystemCountsRecord, FormatSystemCounts>(80),
-    RowWithFlag<SignalObservationsRecord, FormatSignalObservations>(81),
-    Row<IntegerSetRecord, FormatIntegerSet>(82),
+    Row<GgaRecord, FormatGga>(TextForm::Gga),
+    Row<RmcRecord, FormatRmc>(TextForm::Rmc),
+    Row<GsaRecord, FormatGsa>(TextForm::Gsa),
+    Row<GsvRecord, FormatGsv>(TextForm::Gsv),
+    Row<GllRecord, FormatGll>(TextForm::Gll),
+    Row<GstRecord, FormatGst>(TextForm::Gst),
+    Row<GbsRecord, FormatGbs>(TextForm::Gbs),
+    Row<VtgRecord, FormatVtg>(TextForm::Vtg),
+    Row<ZdaRecord, FormatZda>(TextForm::Zda),
+    Row<NavPosRecord, FormatNavPos>(TextForm::NavPos),
+    Row<NavVelRecord, FormatNavVel>(TextForm::NavVel),
+    Row<NavTimeRecord, FormatNavTime>(TextForm::NavTime),
+    Row<NavAccRecord, FormatNavAcc>(TextForm::NavAcc),
+    Row<PNavMsgRecord, FormatPNavMsg>(TextForm::PNavMsg),
+    Row<CwOutRecord, FormatCwOut>(TextForm::CwOut),
+    Row<GyoAccRecord, FormatGyoAcc>(TextForm::GyoAcc),
+    Row<SnrStatRecord, FormatSnrStat>(TextForm::SnrStat),
+    Row<ImuRecord, FormatImu>(TextForm::Imu),
+    Row<NavAttRecord, FormatNavAtt>(TextForm::NavAtt),
+    Row<InsPvaRecord, FormatInsPva>(TextForm::InsPva),
+    Row<RtcmSnrStatRecord, FormatRtcmSnrStat>(TextForm::RtcmSnrStat),
+    RowWithFlag<ClockOrbitRecord, FormatClockOrbit>(TextForm::ClockOrbit),
+    Row<SystemCountsRecord, FormatSystemCounts>(TextForm::SystemCounts),
+    RowWithFlag<SignalObservationsRecord, FormatSignalObservations>(TextForm::SignalObservations),
+    Row<IntegerSetRecord, FormatIntegerSet>(TextForm::IntegerSet),
 };
-// clang-format on
-
-constexpr std::uint32_t LastRendered = 82;
 
 constexpr auto Formatters = [] {
-  std::array<Formatter, LastRendered + 1> formatters{};
-  for (const FormatterRow& row : Rows) formatters[row.id] = row.formatter;
+  std::array<Formatter, catalogue::TextForms> formatters{};
+  for (const FormatterRow& row : Rows) {
+    formatters[static_cast<std::size_t>(row.form)] = row.formatter;
+  }
   return formatters;
 }();
 
@@ -73,11 +74,13 @@ constexpr auto Formatters = [] {
 
 bool RenderRecord(const GnssMessage& record, char* out, bool leadingFields) {
   out[0] = '\0';
-  if (record.id > LastRendered || Formatters[record.id] == nullptr || record.data == nullptr) {
-    return false;
-  }
+  // The id alone tells: records of ASCII logs are not meant for this.
+  const catalogue::KindRow* const row = catalogue::FindKind(record.id, SourceStream);
+  const Formatter formatter =
+      row == nullptr ? nullptr : Formatters[static_cast<std::size_t>(row->text)];
+  if (formatter == nullptr || record.data == nullptr) return false;
   TextWriter writer(out);
-  Formatters[record.id](record.data, leadingFields, writer);
+  formatter(record.data, leadingFields, writer);
   writer.Terminate();
   return true;
 }

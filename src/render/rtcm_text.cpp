@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "render/names.h"
+
 namespace navframe {
 namespace {
 
@@ -21,34 +23,9 @@ void WholeOr(double value, std::string_view after, std::string_view unknown, Tex
   writer.Text(after);
 }
 
-struct SystemRow {
-  std::uint8_t systemId;
-  std::string_view letters;
-};
-constexpr SystemRow Systems[] = {{1, "GPS,"}, {2, "GLO,"}, {3, "GAL,"},
-                                 {4, "BDS,"}, {5, "QZS,"}, {7, "SBAS,"}};
-
-std::string_view SystemLetters(std::uint8_t systemId) {
-  for (const SystemRow& row : Systems) {
-    if (row.systemId == systemId) return row.letters;
-  }
-  return "Unknown,";
-}
-
-// By NMEA signal id; these records have names of their own for them.
-struct SignalRow {
-  std::uint8_t systemId;
-  std::uint8_t signalId;
-  std::string_view name;
-};
-constexpr SignalRow Signals[] = {{1, 1, "L1C/A"}, {1, 6, "L2C(L)"}, {2, 1, "G1C/A"}, {3, 2, "E5bQ"},
-                                 {3, 1, "E5aQ"},  {5, 1, "L1C/A"},  {5, 6, "L2C(L)"}};
-
-std::string_view SignalLetters(std::uint8_t systemId, std::uint8_t signalId) {
-  for (const SignalRow& row : Signals) {
-    if (row.systemId == systemId && row.signalId == signalId) return row.name;
-  }
-  return {};
+std::string_view SystemOrUnknown(std::uint8_t systemId) {
+  const std::string_view name = SystemName(systemId, NameOf::SignalSet);
+  return name.empty() ? "Unknown" : name;
 }
 
 }  // namespace
@@ -102,8 +79,9 @@ void FormatSignalObservations(const SignalObservationsRecord& record, bool leadi
       const SatelliteSignal& signal = satellite.signals[j];
       if (!first) writer.Text("\n");
       first = false;
-      writer.Text(SystemLetters(satellite.systemId));
-      writer.Text(SignalLetters(satellite.systemId, signal.signalId));
+      writer.Text(SystemOrUnknown(satellite.systemId));
+      writer.Text(",");
+      writer.Text(SignalName(satellite.systemId, signal.signalId, NameOf::SignalSet));
       writer.Text(",");
       writer.IntOr(signal.cn0, "", "");
     }

@@ -58,41 +58,4 @@ inline constexpr std::uint32_t MessageNumberBit = 24;
 inline constexpr std::uint32_t MessageNumberBits = 12;
 inline constexpr std::uint32_t FirstFieldBit = MessageNumberBit + MessageNumberBits;
 
-// Reads fields one behind the other. Past the end of the payload members stay as they are.
-class FieldCursor {
- public:
-  FieldCursor(const Frame& frame, std::uint32_t bit) : frame_(frame), bit_(bit) {}
-
-  void Skip(std::uint32_t width) { bit_ += width; }
-
-  // An unsigned field of at most 57 bits, cut to the member's type. True when it is there.
-  template <class Member>
-  bool Read(std::uint32_t width, Member& member) {
-    const std::uint32_t at = bit_;
-    bit_ += width;
-    if (!frame_.Has(at, width)) return false;
-    member = static_cast<Member>(UnsignedBits(frame_.bytes, at, width));
-    return true;
-  }
-
-  // A run of fields of the same width.
-  template <class Member, std::size_t Count>
-  void Read(std::uint32_t width, Member (&members)[Count]) {
-    for (Member& member : members) Read(width, member);
-  }
-
-  // A two's complement field of 64 bits.
-  bool ReadSigned64(std::int64_t& member) {
-    const std::uint32_t at = bit_;
-    bit_ += 64;
-    if (!frame_.Has(at, 64)) return false;
-    member = static_cast<std::int64_t>(Bits64(frame_.bytes, at));
-    return true;
-  }
-
- private:
-  const Frame& frame_;
-  std::uint32_t bit_;
-};
-
 }  // namespace navframe::rtcm

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "base/unknown.h"
+#include "rtcm/field_rows.h"
 
 namespace navframe::rtcm {
 namespace {
@@ -13,28 +14,48 @@ namespace {
 constexpr std::uint32_t ShortFamilyBit = FirstFieldBit + 8;
 constexpr std::uint32_t LongFamilyBit = FirstFieldBit + 12;
 
-constexpr std::uint32_t TowBits = 30;
-constexpr std::uint32_t NoTow = 0x3FFFFFFF;
-
-// Time of week and week; an unknown time of week leaves `tow` as it is.
-template <class Week>
-void ReadTime(FieldCursor& cursor, std::uint32_t& tow, Week& week) {
-  std::uint32_t raw = NoTow;
-  cursor.Read(TowBits, raw);
-  if (raw != NoTow) tow = raw;
-  cursor.Read(16, week);
+// A time of week, which this raw value leaves as it is.
+constexpr FieldRow TimeOfWeek(FieldRow row) {
+  row.absent = 0x3FFFFFFF;
+  return row;
 }
 
-void ReadUtc(FieldCursor& cursor, UTCTIME& utc) {
-  cursor.Read(16, utc.year);
-  cursor.Read(8, utc.month);
-  cursor.Read(8, utc.day);
-  cursor.Read(8, utc.hour);
-  cursor.Read(8, utc.minute);
-  cursor.Read(8, utc.second);
-  cursor.Read(16, utc.millisecond);
-  utc.flag = IsUnknown(utc.hour) ? 0 : 1;
-}
+#define F(Record, ...) NAVFRAME_FIELD(Record, __VA_ARGS__)
+constexpr auto Sub17 =
+    std::to_array<FieldRow>({F(Sub17Record, first, 8), F(Sub17Record, second, 8)});
+constexpr auto Sub33 = std::to_array<FieldRow>({F(Sub33Record, values, 4)});
+constexpr auto Sub34 = std::to_array<FieldRow>({
+    TimeOfWeek(F(Sub34Record, tow, 30)),
+    F(Sub34Record, week, 16),
+    F(Sub34Record, state, 8),
+    F(Sub34Record, mode, 4),
+    F(Sub34Record, values, 8),
+});
+constexpr auto Sub21 = std::to_array<FieldRow>({
+    TimeOfWeek(F(Sub21Record, tow, 30)),
+    F(Sub21Record, week, 16),
+    F(Sub21Record, body, 8),
+});
+constexpr auto SnrStat =
+    std::to_array<FieldRow>({F(RtcmSnrStatRecord, state, 8), F(RtcmSnrStatRecord, levels, 8)});
+constexpr auto TimeStatus = std::to_array<FieldRow>({
+    TimeOfWeek(F(TimeStatusRecord, tow, 30)),
+    F(TimeStatusRecord, week, 16),
+    F(TimeStatusRecord, status[0], 8),
+    F(TimeStatusRecord, status[1], 4),
+});
+constexpr auto GpsTime =
+    std::to_array<FieldRow>({TimeOfWeek(F(GPSTIME, tow, 30)), F(GPSTIME, week, 16)});
+constexpr auto Utc = std::to_array<FieldRow>({
+    F(UTCTIME, year, 16),
+    F(UTCTIME, month, 8),
+    F(UTCTIME, day, 8),
+    F(UTCTIME, hour, 8),
+    F(UTCTIME, minute, 8),
+    F(UTCTIME, second, 8),
+    F(UTCTIME, millisecond, 16),
+});
+#undef F
 
 // "hhmmss.ss"
 template <std::size_t Width>
@@ -56,51 +77,40 @@ void WriteDateText(const UTCTIME& utc, char (&member)[Width]) {
   CopyText(member, TextOf(text.data(), text.size()));
 }
 
-// What messages with a UTC time of day begin with.
+// What messages with a UTC time of day begin with. The bit behind it.
 template <class Record>
-FieldCursor ReadTimes(const Frame& frame, Record& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  ReadTime(cursor, record.gpsTime.tow, record.gpsTime.week);
-  ReadUtc(cursor, record.utc);
+std::uint32_t ReadTimes(const Frame& frame, Record& record) {
+  std::uint32_t bit = ReadFields(frame, LongFamilyBit, GpsTime, &record.gpsTime);
+  bit = ReadFields(frame, bit, Utc, &record.utc);
+  record.utc.flag = IsUnknown(record.utc.hour) ? 0 : 1;
   WriteTimeText(record.utc, record.timeText);
-  return cursor;
+  return bit;
 }
 
 }  // namespace
 
 void DecodeSub17(const Frame& frame, Sub17Record& record) {
-  FieldCursor cursor(frame, ShortFamilyBit);
-  cursor.Read(8, record.first);
-  cursor.Read(8, record.second);
+  ReadFields(frame, ShortFamilyBit, Sub17, &record);
 }
 
 void DecodeSub33(const Frame& frame, Sub33Record& record) {
-  FieldCursor(frame, ShortFamilyBit).Read(4, record.values);
+  ReadFields(frame, ShortFamilyBit, Sub33, &record);
 }
 
 void DecodeSub34(const Frame& frame, Sub34Record& record) {
-  FieldCursor cursor(frame, ShortFamilyBit);
-  ReadTime(cursor, record.tow, record.week);
-  cursor.Read(8, record.state);
-  cursor.Read(4, record.mode);
-  cursor.Read(8, record.values);
+  ReadFields(frame, ShortFamilyBit, Sub34, &record);
 }
 
 void DecodeSub21(const Frame& frame, Sub21Record& record) {
-  FieldCursor cursor(frame, ShortFamilyBit);
-  ReadTime(cursor, record.tow, record.week);
-  cursor.Read(8, record.body);
+  ReadFields(frame, ShortFamilyBit, Sub21, &record);
 }
 
 void DecodeGyoAcc(const Frame& frame, GyoAccRecord& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  ReadTime(cursor, record.gpsTime.tow, record.gpsTime.week);
+  ReadFields(frame, LongFamilyBit, GpsTime, &record.gpsTime);
 }
 
 void DecodeSnrStat(const Frame& frame, RtcmSnrStatRecord& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  cursor.Read(8, record.state);
-  cursor.Read(8, record.levels);
+  ReadFields(frame, LongFamilyBit, SnrStat, &record);
 }
 
 void DecodeNavAtt(const Frame& frame, NavAttRecord& record) { ReadTimes(frame, record); }
@@ -108,29 +118,30 @@ void DecodeNavAtt(const Frame& frame, NavAttRecord& record) { ReadTimes(frame, r
 void DecodeImuRaw(const Frame& frame, ImuRecord& record) { ReadTimes(frame, record); }
 
 void DecodeInsPva(const Frame& frame, InsPvaRecord& record) {
-  FieldCursor cursor = ReadTimes(frame, record);
+  const std::uint32_t bit = ReadTimes(frame, record);
   WriteDateText(record.utc, record.dateText);
-  std::int64_t value;
-  if (cursor.ReadSigned64(value) && value != INT64_MIN) {
-    record.latitude = static_cast<double>(value) * 0x1p-32;
-  }
+  if (!frame.Has(bit, 64)) return;
+  const auto value = static_cast<std::int64_t>(Bits64(frame.bytes, bit));
+  if (value != INT64_MIN) record.latitude = static_cast<double>(value) * 0x1p-32;
 }
 
 void DecodeTimeStatus(const Frame& frame, TimeStatusRecord& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  ReadTime(cursor, record.tow, record.week);
-  cursor.Read(8, record.status[0]);
-  cursor.Read(4, record.status[1]);
+  ReadFields(frame, LongFamilyBit, TimeStatus, &record);
 }
 
+// Of these the time alone is read.
 void DecodeSignalObservations(const Frame& frame, SignalObservationsRecord& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  ReadTime(cursor, record.tow, record.week);
+  GPSTIME time{record.tow, record.week, 0};
+  ReadFields(frame, LongFamilyBit, GpsTime, &time);
+  record.tow = time.tow;
+  record.week = time.week;
 }
 
 void DecodeIntegerSet(const Frame& frame, IntegerSetRecord& record) {
-  FieldCursor cursor(frame, LongFamilyBit);
-  ReadTime(cursor, record.tow, record.week);
+  GPSTIME time{record.tow, record.week, 0};
+  ReadFields(frame, LongFamilyBit, GpsTime, &time);
+  record.tow = time.tow;
+  record.week = time.week;
 }
 
 }  // namespace navframe::rtcm

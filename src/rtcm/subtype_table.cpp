@@ -2,9 +2,9 @@
 
 #include <cstring>
 
+#include "catalogue/unknown_records.h"
 #include "navframe/navframe.h"
 #include "rtcm/proprietary.h"
-#include "rtcm/unknown_records.h"
 
 namespace navframe::rtcm {
 namespace {
@@ -33,9 +33,9 @@ struct SubTypeRow {
 
 // Adds to a row what follows from the type of its record.
 template <class Record, void (*Decode)(const Frame&, Record&)>
-constexpr SubTypeRow With(SubTypeRow row, const Record& unknown) {
+constexpr SubTypeRow With(SubTypeRow row) {
   row.size = sizeof(Record);
-  row.unknown = &unknown;
+  row.unknown = catalogue::UnknownBytes<Record>.data();
   row.decode = [](const Frame& frame, void* record) {
     Decode(frame, *static_cast<Record*>(record));
   };
@@ -56,31 +56,22 @@ void DecodeNothing(const Frame& /*frame*/, Record& /*record*/) {}
 
 // Message, sub-type, MsgId, second filter value, required frame length, time.
 constexpr SubTypeRow SubTypeRows[] = {
-    With<Sub17Record, DecodeSub17>({910, 17, MsgIdSub17, 0, 0, StampRecord}, UnknownSub17),
-    With<Sub33Record, DecodeSub33>({910, 33, MsgIdSub33, 0, 13, StampRecord}, UnknownSub33),
-    With<Sub34Record, DecodeSub34>({910, 34, MsgIdSub34, 0, 0, SetOrClearClock}, UnknownSub34),
-    With<Sub21Record, DecodeSub21>({999, 21, MsgIdSub21, 0, 63, SetOrClearClock}, UnknownSub21),
-    With<IntegerSetRecord, DecodeIntegerSet>({4074, 255, MsgIdIntegerSet, 0, 0, SetClock},
-                                             UnknownIntegerSet),
+    With<Sub17Record, DecodeSub17>({910, 17, MsgIdSub17, 0, 0, StampRecord}),
+    With<Sub33Record, DecodeSub33>({910, 33, MsgIdSub33, 0, 13, StampRecord}),
+    With<Sub34Record, DecodeSub34>({910, 34, MsgIdSub34, 0, 0, SetOrClearClock}),
+    With<Sub21Record, DecodeSub21>({999, 21, MsgIdSub21, 0, 63, SetOrClearClock}),
+    With<IntegerSetRecord, DecodeIntegerSet>({4074, 255, MsgIdIntegerSet, 0, 0, SetClock}),
     With<SignalObservationsRecord, DecodeSignalObservations>(
-        {4074, 254, MsgIdSignalObservations, 0, 0, SetClock}, UnknownSignalObservations),
-    With<SystemCountsRecord, DecodeNothing>({4074, 253, MsgIdSystemCounts, 0, 0, None},
-                                            UnknownSystemCounts),
-    With<ClockOrbitRecord, DecodeNothing>({4074, 251, MsgIdClockOrbit, 0, 0, None},
-                                          UnknownClockOrbit),
-    With<Sub249Record, DecodeNothing>({4074, 249, MsgIdSub249, 0, 0, None}, UnknownSub249),
-    With<TimeStatusRecord, DecodeTimeStatus>({4074, 243, MsgIdTimeStatus, 0, 0, SetClock},
-                                             UnknownTimeStatus),
-    With<GyoAccRecord, DecodeGyoAcc>({4074, 11, MsgIdRtcmGyoAcc, MsgIdGyoAcc, 0, SetClock},
-                                     UnknownGyoAcc),
-    With<RtcmSnrStatRecord, DecodeSnrStat>({4074, 12, MsgIdRtcmSnrStat, MsgIdSnrStat, 0, None},
-                                           UnknownSnrStat),
-    With<NavAttRecord, DecodeNavAtt>({4074, 13, MsgIdRtcmNavAtt, MsgIdNavAtt, 0, SetClock},
-                                     UnknownNavAtt),
-    With<ImuRecord, DecodeImuRaw>({4074, 14, MsgIdRtcmImuRaw, MsgIdImuRaw, 0, SetClock},
-                                  UnknownImu),
-    With<InsPvaRecord, DecodeInsPva>({4074, 15, MsgIdRtcmInsPva, MsgIdInsPva, 0, SetClock},
-                                     UnknownInsPva),
+        {4074, 254, MsgIdSignalObservations, 0, 0, SetClock}),
+    With<SystemCountsRecord, DecodeNothing>({4074, 253, MsgIdSystemCounts, 0, 0, None}),
+    With<ClockOrbitRecord, DecodeNothing>({4074, 251, MsgIdClockOrbit, 0, 0, None}),
+    With<Sub249Record, DecodeNothing>({4074, 249, MsgIdSub249, 0, 0, None}),
+    With<TimeStatusRecord, DecodeTimeStatus>({4074, 243, MsgIdTimeStatus, 0, 0, SetClock}),
+    With<GyoAccRecord, DecodeGyoAcc>({4074, 11, MsgIdRtcmGyoAcc, MsgIdGyoAcc, 0, SetClock}),
+    With<RtcmSnrStatRecord, DecodeSnrStat>({4074, 12, MsgIdRtcmSnrStat, MsgIdSnrStat, 0, None}),
+    With<NavAttRecord, DecodeNavAtt>({4074, 13, MsgIdRtcmNavAtt, MsgIdNavAtt, 0, SetClock}),
+    With<ImuRecord, DecodeImuRaw>({4074, 14, MsgIdRtcmImuRaw, MsgIdImuRaw, 0, SetClock}),
+    With<InsPvaRecord, DecodeInsPva>({4074, 15, MsgIdRtcmInsPva, MsgIdInsPva, 0, SetClock}),
 };
 
 // Width of the sub-type, which follows the message number.

@@ -32,29 +32,6 @@ constexpr Deviations PseudorangeDeviations = PowersOfTwo(0.01);  // metres
 constexpr Deviations PhaseDeviations = Multiples(0.004);         // cycles
 constexpr Deviations DopplerDeviations = PowersOfTwo(0.002);     // Hz
 
-constexpr auto UnknownMeasurements = [] {
-  constexpr auto NoU8 = Unknown<std::uint8_t>();
-  std::array<UbxRawMeasurement, Room> measurements;
-  measurements.fill({.pseudorange = Unknown<double>(),
-                     .carrierPhase = Unknown<double>(),
-                     .doppler = Unknown<float>(),
-                     .pseudorangeDeviation = Unknown<float>(),
-                     .carrierPhaseDeviation = Unknown<float>(),
-                     .dopplerDeviation = Unknown<float>(),
-                     .systemId = NoU8,
-                     .satelliteId = NoU8,
-                     .signalId = NoU8,
-                     .frequencySlot = NoU8,
-                     .lockTime = Unknown<std::uint16_t>(),
-                     .cn0 = NoU8,
-                     .pseudorangeValid = NoU8,
-                     .carrierPhaseValid = NoU8,
-                     .halfCycleResolved = NoU8,
-                     .halfCycleSubtracted = NoU8,
-                     .reserved = {}});
-  return measurements;
-}();
-
 // A time of week in seconds, in ms; unknown when it is no time of a week, a NaN among them.
 std::uint32_t RoundedTow(double seconds) {
   const double ms = seconds * 1000.0 + 0.5;
@@ -112,8 +89,8 @@ void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
     DecodeMeasurement(payload.bytes + EntriesOffset + i * EntryLength, record.measurements[i]);
   }
   // Only what the count leaves: the record is many times as long as its message.
-  std::memcpy(record.measurements + count, UnknownMeasurements.data(),
-              (Room - count) * sizeof(UbxRawMeasurement));
+  MakeUnknownFrom(
+      offsetof(UbxRawMeasurementsRecord, measurements) + count * sizeof(UbxRawMeasurement), record);
 }
 
 }  // namespace navframe::ubx

@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 #include "base/unknown.h"
+#include "catalogue/unknown_records.h"
 #include "navframe/time_manager.h"
 
 namespace navframe::ubx {
@@ -25,6 +26,13 @@ void WriteHead(std::uint32_t tow, std::uint16_t week, const TimeManager& time, R
   record.week = week;
   record.reserved = 0;
   CopyText(record.timeText, time.timeText);
+}
+
+// Writes the unknown values of a record from `offset` on, to its last byte.
+template <class Record>
+void MakeUnknownFrom(std::size_t offset, Record& record) {
+  std::memcpy(reinterpret_cast<std::uint8_t*>(&record) + offset,
+              catalogue::UnknownBytes<Record>.data() + offset, sizeof(Record) - offset);
 }
 
 // The bits of a byte as flags, the lowest first.

@@ -15,36 +15,6 @@ constexpr std::size_t Room = std::size(UbxSatellitesRecord{}.satellites);
 
 constexpr std::uint8_t LowestUnknownElevation = 91;  // negative ones are above, as unsigned bytes
 
-constexpr auto UnknownSatellites = [] {
-  constexpr auto NoU8 = Unknown<std::uint8_t>();
-  std::array<UbxSatellite, Room> satellites;
-  satellites.fill({.systemId = NoU8,
-                   .satelliteId = NoU8,
-                   .cn0 = NoU8,
-                   .elevation = NoU8,
-                   .azimuth = Unknown<std::uint16_t>(),
-                   .residual = UnknownSigned<std::int16_t>(),
-                   .quality = NoU8,
-                   .used = NoU8,
-                   .health = NoU8,
-                   .corrected = NoU8,
-                   .smoothed = NoU8,
-                   .orbitSource = NoU8,
-                   .ephemeris = NoU8,
-                   .almanac = NoU8,
-                   .offlinePrediction = NoU8,
-                   .autonomousPrediction = NoU8,
-                   .spareFlag = NoU8,
-                   .sbasCorrections = NoU8,
-                   .rtcmCorrections = NoU8,
-                   .slasCorrections = NoU8,
-                   .spartnCorrections = NoU8,
-                   .rangeCorrections = NoU8,
-                   .carrierCorrections = NoU8,
-                   .dopplerCorrections = NoU8});
-  return satellites;
-}();
-
 void DecodeFlags(std::uint32_t flags, UbxSatellite& satellite) {
   satellite.quality = Bits(flags, 0, 3);
   satellite.used = Bits(flags, 3, 1);
@@ -81,11 +51,8 @@ void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRe
   for (std::size_t i = 0; i < count; ++i) {
     DecodeSatellite(payload.bytes + EntriesOffset + i * EntryLength, record.satellites[i]);
   }
-  std::memcpy(record.satellites + count, UnknownSatellites.data(),
-              (Room - count) * sizeof(UbxSatellite));
-  // The record ends in two bytes of padding.
-  constexpr std::size_t End = offsetof(UbxSatellitesRecord, satellites) + sizeof(record.satellites);
-  std::memset(reinterpret_cast<std::uint8_t*>(&record) + End, 0, sizeof(record) - End);
+  // The rest of the record: satellites behind the last one, and padding at its end.
+  MakeUnknownFrom(offsetof(UbxSatellitesRecord, satellites) + count * sizeof(UbxSatellite), record);
 }
 
 }  // namespace navframe::ubx

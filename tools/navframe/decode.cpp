@@ -11,9 +11,9 @@
 #include <memory>
 #include <vector>
 
-#include "kinds.h"
 #include "navframe/feeder.hpp"
 #include "printable.h"
+#include "record_text.h"
 
 namespace navframe::tool {
 namespace {
@@ -124,11 +124,13 @@ int Unreadable(const std::string& name) {
 }
 
 // Pops everything that waits.
-void Drain(Statistics& statistics, RecordPrinter& printer, LineWriter& lines) {
+void Drain(Statistics& statistics, LineWriter& lines) {
   GnssMessage message;
   while (GNSSGetMsg(&message, 0) == 0) {
     ++statistics.records[message.id];
-    printer.Append(message, lines.Buffer());
+    if (const NavframeKind* const kind = navframe_kind(message.id, message.source)) {
+      AppendRecord(*kind, message.data, lines.Buffer());
+    }
     GNSSFreeMem(&message);
   }
   lines.WriteWhenLarge();
@@ -150,7 +152,6 @@ int Decode(const Options& options) {
   GNSSSetOutMsgID(options.only);
 
   Statistics statistics;
-  RecordPrinter printer;
   LineWriter lines;
   Progress progress(input.get());
   Feeder feeder(
@@ -158,7 +159,7 @@ int Decode(const Options& options) {
         ++statistics.rejected;
         if (!options.quiet) PrintRejected(rejected);
       },
-      [&] { Drain(statistics, printer, lines); });
+      [&] { Drain(statistics, lines); });
   const auto start = std::chrono::steady_clock::now();
   std::vector<std::uint8_t> chunk(options.chunk);
   while (lines.Error() == 0) {
@@ -171,7 +172,7 @@ int Decode(const Options& options) {
     if (length == 0) break;
     statistics.bytes += static_cast<std::uint64_t>(length);
     feeder.Push(chunk.data(), static_cast<std::size_t>(length));
-    Drain(statistics, printer, lines);
+    Drain(statistics, lines);
     // A short read is a live source, whose lines are wanted now.
     if (static_cast<std::size_t>(length) < chunk.size()) lines.Write();
     progress.Show(statistics.bytes);

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "decode.h"
-#include "kinds.h"
 #include "navframe/navframe.h"
+#include "record_text.h"
 
 namespace {
 

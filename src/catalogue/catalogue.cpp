@@ -1,0 +1,124 @@
+// The exported walk over kinds and members.
+#include "navframe/catalogue.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+#include "base/characters.h"
+#include "catalogue/kinds.h"
+#include "catalogue/reading.h"
+
+using namespace navframe;
+using namespace navframe::catalogue;
+
+namespace {
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+// "1074-1077" has 1075, and "4074-11" itself alone: a range has numbers of the same length.
+bool NamesMessage(std::string_view message, std::string_view name) {
+  if (message.empty() || name.empty()) return false;
+  if (EqualIgnoringCase(message, name)) return true;
+  const std::size_t dash = message.find('-');
+  if (dash != name.size() || message.size() != 2 * dash + 1) return false;
+  constexpr std::size_t ShortestNumber = 4;
+  return dash >= ShortestNumber && std::ranges::all_of(name, IsDigit) &&
+         name >= message.substr(0, dash) && name <= message.substr(dash + 1);
+}
+
+}  // namespace
+
+extern "C" {
+
+uint32_t navframe_kind_count(void) { return static_cast<uint32_t>(KindRows().size()); }
+
+const NavframeKind* navframe_kind_at(uint32_t index) {
+  return index < KindRows().size() ? &KindRows()[index].kind : nullptr;
+}
+
+const NavframeKind* navframe_kind(uint32_t id, uint32_t source) {
+  const KindRow* const row = FindKind(id, source);
+  return row == nullptr ? nullptr : &row->kind;
+}
+
+const NavframeKind* navframe_kind_named(const char* name) {
+  if (name == nullptr) return nullptr;
+  for (const KindRow& row : KindRows()) {
+    if (EqualIgnoringCase(row.kind.name, name)) return &row.kind;
+  }
+  for (const KindRow& row : KindRows()) {
+    if (NamesMessage(row.kind.message, name)) return &row.kind;
+  }
+  return nullptr;
+}
+
+const NavframeMember* navframe_member(const NavframeRecord* record, const char* name) {
+  if (record == nullptr || name == nullptr) return nullptr;
+  for (const NavframeMember* const member : MembersOf(*record)) {
+    if (std::string_view(member->name) == name) return member;
+  }
+  return nullptr;
+}
+
+uint32_t navframe_length(const NavframeRecord* record, const NavframeMember* member,
+                         const void* data) {
+  return LengthInUse(*record, *member, static_cast<const std::uint8_t*>(data));
+}
+
+const void* navframe_nested(const NavframeMember* member, const void* data, uint32_t index) {
+  if (member->type != NavframeNested || index >= Elements(*member)) return nullptr;
+  return ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
+}
+
+int navframe_number(const NavframeMember* member, const void* data, uint32_t index, double* out) {
+  if (!IsNumber(*member) || index >= Elements(*member)) return NavframeNoNumber;
+  const std::uint8_t* const at = ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
+  return ReadNumber(*member, at, [out](auto value) { *out = static_cast<double>(value); })
+             ? NavframeKnown
+             : NavframeNotKnown;
+}
+
+int navframe_integer(const NavframeMember* member, const void* data, uint32_t index, int64_t* out) {
+  if (!IsNumber(*member) || IsFloat(*member) || index >= Elements(*member)) return NavframeNoNumber;
+  const std::uint8_t* const at = ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
+  return ReadNumber(*member, at, [out](auto value) { *out = static_cast<int64_t>(value); })
+             ? NavframeKnown
+             : NavframeNotKnown;
+}
+
+size_t navframe_text(const NavframeMember* member, const void* data, uint32_t index, char* out,
+                     size_t capacity) {
+  constexpr std::size_t LongestNumber = 32;
+  char number[LongestNumber];
+  std::string_view text;
+  if (index < Elements(*member)) {
+    const std::uint8_t* const at =
+        ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
+    if (IsText(*member)) {
+      text = ReadText(*member, at);
+    } else if (IsNumber(*member)) {
+      char* end = number;
+      ReadNumber(*member, at, [&](auto value) {
+        end = std::to_chars(number, number + LongestNumber, value).ptr;
+      });
+      text = {number, end};
+    }
+  }
+  if (capacity != 0) {
+    const std::size_t length = text.copy(out, capacity - 1);
+    out[length] = '\0';
+  }
+  return text.size();
+}
+
+const char* navframe_value_name(const NavframeMember* member, int64_t value) {
+  for (uint32_t i = 0; i < member->valueCount; ++i) {
+    if (member->values[i].value == value) return member->values[i].name;
+  }
+  return nullptr;
+}
+
+}  // extern "C"

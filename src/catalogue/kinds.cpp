@@ -1,0 +1,238 @@
+#include "catalogue/kinds.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <tuple>
+
+#include "catalogue/layouts.h"
+
+namespace navframe::catalogue {
+namespace {
+
+template <class Record>
+constexpr KindRow Row(std::uint32_t source, const char* protocol, std::uint32_t id,
+                      const char* name, const char* message, TextForm text, const char* content,
+                      std::uint32_t size) {
+  return {{id, source, name, protocol, message, content, size, &RecordOf<Record>}, text};
+}
+
+// Id, name, message, text, content.
+template <class Record>
+constexpr KindRow Nmea(std::uint32_t id, const char* name, const char* message, TextForm text,
+                       const char* content) {
+  return Row<Record>(SourceStream, "NMEA", id, name, message, text, content, sizeof(Record));
+}
+template <class Record>
+constexpr KindRow Rtcm(std::uint32_t id, const char* name, const char* message, TextForm text,
+                       const char* content) {
+  return Row<Record>(SourceStream, "RTCM 3", id, name, message, text, content, sizeof(Record));
+}
+template <class Record>
+constexpr KindRow Ubx(std::uint32_t id, const char* name, const char* message, TextForm text,
+                      const char* content) {
+  return Row<Record>(SourceStream, "UBX", id, name, message, text, content, sizeof(Record));
+}
+template <class Record>
+constexpr KindRow Binary(std::uint32_t id, const char* name, const char* message, TextForm text,
+                         const char* content) {
+  return Row<Record>(SourceStream, "55AA", id, name, message, text, content, sizeof(Record));
+}
+// The payloads of some logs reach beyond what is known of them.
+template <class Record>
+constexpr KindRow AsciiLog(std::uint32_t id, const char* name, const char* message, TextForm text,
+                           const char* content, std::uint32_t size = sizeof(Record)) {
+  return Row<Record>(SourceAsciiLog, "ASCII log", id, name, message, text, content, size);
+}
+
+// clang-format off
+constexpr KindRow Rows[] = {
+    Nmea<GgaRecord>(MsgIdGga, "GGA", "GGA", TextForm::Gga,
+        "position, altitude, quality of the fix, satellites used, age of corrections"),
+    Nmea<RmcRecord>(MsgIdRmc, "RMC", "RMC", TextForm::Rmc,
+        "position, speed, course, date and time"),
+    Nmea<GsaRecord>(MsgIdGsa, "GSA", "GSA", TextForm::Gsa,
+        "satellites used by one system, dilution of precision"),
+    Nmea<GsvRecord>(MsgIdGsv, "GSV", "GSV", TextForm::Gsv,
+        "satellites in view of a whole cycle, all systems, up to three signals each"),
+    Nmea<GllRecord>(MsgIdGll, "GLL", "GLL", TextForm::Gll, "position and time"),
+    Nmea<GstRecord>(MsgIdGst, "GST", "GST", TextForm::Gst, "error statistics of the position"),
+    Nmea<GbsRecord>(MsgIdGbs, "GBS", "GBS", TextForm::Gbs,
+        "expected errors, most likely failed satellite"),
+    Nmea<VtgRecord>(MsgIdVtg, "VTG", "VTG", TextForm::Vtg, "course and speed over ground"),
+    Nmea<ZdaRecord>(MsgIdZda, "ZDA", "ZDA", TextForm::Zda, "date, time, local zone"),
+    Nmea<GgaRecord>(MsgIdTaggedGga, "TAGGED-GGA", "", TextForm::Gga, "never made"),
+    Nmea<RmcRecord>(MsgIdTaggedRmc, "TAGGED-RMC", "", TextForm::Rmc, "never made"),
+    Nmea<GsaRecord>(MsgIdTaggedGsa, "TAGGED-GSA", "", TextForm::Gsa, "never made"),
+    Nmea<GsvRecord>(MsgIdTaggedGsv, "TAGGED-GSV", "", TextForm::Gsv, "never made"),
+    Nmea<GllRecord>(MsgIdTaggedGll, "TAGGED-GLL", "", TextForm::Gll, "never made"),
+    Nmea<GstRecord>(MsgIdTaggedGst, "TAGGED-GST", "", TextForm::Gst, "never made"),
+    Nmea<GbsRecord>(MsgIdTaggedGbs, "TAGGED-GBS", "", TextForm::Gbs, "never made"),
+    Nmea<VtgRecord>(MsgIdTaggedVtg, "TAGGED-VTG", "", TextForm::Vtg, "never made"),
+    Nmea<ZdaRecord>(MsgIdTaggedZda, "TAGGED-ZDA", "", TextForm::Zda, "never made"),
+    Nmea<NavPosRecord>(MsgIdNavPos, "NAVPOS", "NAVPOS", TextForm::NavPos,
+        "Cartesian position, deviations, state of the solution"),
+    Nmea<NavVelRecord>(MsgIdNavVel, "NAVVEL", "NAVVEL", TextForm::NavVel,
+        "velocity, its accuracy, state of the solution"),
+    Nmea<NavTimeRecord>(MsgIdNavTime, "NAVTIME", "NAVTIME", TextForm::NavTime,
+        "four times with their states"),
+    Nmea<NavAccRecord>(MsgIdNavAcc, "NAVACC", "NAVACC", TextForm::NavAcc, "accuracy"),
+    Nmea<PNavMsgRecord>(MsgIdPNavMsg, "PNAVMSG", "PNAVMSG", TextForm::PNavMsg, "diagnostic bytes"),
+    Nmea<CwOutRecord>(MsgIdCwOut, "CWOUT", "CWOUT", TextForm::CwOut,
+        "continuous-wave interference"),
+    Nmea<GyoAccRecord>(MsgIdGyoAcc, "GYOACC", "GYOACC", TextForm::GyoAcc,
+        "gyroscope and accelerometer"),
+    Nmea<SnrStatRecord>(MsgIdSnrStat, "SNRSTAT", "SNRSTAT", TextForm::SnrStat,
+        "signal statistics"),
+    Nmea<ImuRecord>(MsgIdImuRaw, "IMURAW", "IMURAW", TextForm::Imu, "raw inertial measurements"),
+    Nmea<NavAttRecord>(MsgIdNavAtt, "NAVATT", "NAVATT", TextForm::NavAtt, "attitude"),
+    Nmea<InsPvaRecord>(MsgIdInsPva, "INSPVA", "INSPVA", TextForm::InsPva,
+        "position, velocity and attitude of an inertial solution"),
+    Nmea<ImuRecord>(MsgIdImuVeh, "IMUVEH", "IMUVEH", TextForm::Imu,
+        "inertial measurements in the vehicle frame"),
+    Nmea<GyoAccRecord>(MsgIdGyoAccV, "GYOACC-V", "GYOACC-V", TextForm::GyoAcc,
+        "gyroscope and accelerometer"),
+
+    Rtcm<StationPositionRecord>(MsgIdStationPosition, "STATION", "1005", TextForm::None,
+        "antenna position of a reference station"),
+    Rtcm<SystemParametersRecord>(MsgIdSystemParameters, "SYSPARAM", "1013", TextForm::None,
+        "which messages come how often, leap seconds"),
+    Rtcm<MsmRecord>(MsgIdMsmGps, "MSM-GPS", "1074-1077", TextForm::None,
+        "GPS observations: pseudorange, phase, rate, lock and C/N0 of each signal"),
+    Rtcm<MsmRecord>(MsgIdMsmGlonass, "MSM-GLO", "1087", TextForm::None, "GLONASS observations"),
+    Rtcm<MsmRecord>(MsgIdMsmGalileo, "MSM-GAL", "1094-1097", TextForm::None,
+        "Galileo observations"),
+    Rtcm<MsmRecord>(MsgIdMsmBeiDou, "MSM-BDS", "1124-1127", TextForm::None,
+        "BeiDou observations"),
+    Rtcm<MsmRecord>(MsgIdMsmQzss, "MSM-QZS", "1114-1117", TextForm::None, "QZSS observations"),
+    Rtcm<GyoAccRecord>(MsgIdRtcmGyoAcc, "RTCM-GYOACC", "4074-11", TextForm::GyoAcc,
+        "gyroscope and accelerometer"),
+    Rtcm<RtcmSnrStatRecord>(MsgIdRtcmSnrStat, "RTCM-SNRSTAT", "4074-12", TextForm::RtcmSnrStat,
+        "signal statistics"),
+    Rtcm<NavAttRecord>(MsgIdRtcmNavAtt, "RTCM-NAVATT", "4074-13", TextForm::NavAtt, "attitude"),
+    Rtcm<ImuRecord>(MsgIdRtcmImuRaw, "RTCM-IMURAW", "4074-14", TextForm::Imu,
+        "raw inertial measurements"),
+    Rtcm<InsPvaRecord>(MsgIdRtcmInsPva, "RTCM-INSPVA", "4074-15", TextForm::InsPva,
+        "position, velocity and attitude of an inertial solution"),
+    Rtcm<ImuRecord>(MsgIdRtcmImuVeh, "RTCM-IMUVEH", "", TextForm::Imu, "never made"),
+    Rtcm<TimeStatusRecord>(MsgIdTimeStatus, "RTCM-TIMESTATUS", "4074-243", TextForm::None,
+        "time and status"),
+    Rtcm<Sub249Record>(MsgIdSub249, "RTCM-SUB249", "4074-249", TextForm::None, "nothing known"),
+    Rtcm<ClockOrbitRecord>(MsgIdClockOrbit, "RTCM-CLOCKORBIT", "4074-251", TextForm::ClockOrbit,
+        "clock and orbit set"),
+    Rtcm<SystemCountsRecord>(MsgIdSystemCounts, "RTCM-COUNTS", "4074-253", TextForm::SystemCounts,
+        "counts by system"),
+    Rtcm<SignalObservationsRecord>(MsgIdSignalObservations, "RTCM-SIGNALS", "4074-254",
+        TextForm::SignalObservations, "signal observations"),
+    Rtcm<IntegerSetRecord>(MsgIdIntegerSet, "RTCM-INTEGERS", "4074-255", TextForm::IntegerSet,
+        "integer set"),
+    Rtcm<Sub17Record>(MsgIdSub17, "RTCM-SUB17", "910-17", TextForm::None, "bytes"),
+    Rtcm<Sub33Record>(MsgIdSub33, "RTCM-SUB33", "910-33", TextForm::None, "small numbers"),
+    Rtcm<Sub34Record>(MsgIdSub34, "RTCM-SUB34", "910-34", TextForm::None, "time and state"),
+
+    Binary<Binary55AaRecord>(MsgIdBinary55Aa, "55AA", "55AA", TextForm::None,
+        "the payload as it came, and a reading of its head"),
+
+    Ubx<UbxProtectionLevelsRecord>(MsgIdUbxProtectionLevels, "NAV-PL", "01-62", TextForm::None,
+        "protection levels"),
+    Ubx<UbxNavigationRecord>(MsgIdUbxNavigation, "NAV-PVT", "01-07", TextForm::None,
+        "time, position, velocity, accuracies"),
+    Ubx<UbxSatellitesRecord>(MsgIdUbxSatellites, "NAV-SAT", "01-35", TextForm::None,
+        "satellites in view and how they are used"),
+    Ubx<UbxRawMeasurementsRecord>(MsgIdUbxRawMeasurements, "RXM-RAWX", "02-15", TextForm::None,
+        "pseudorange, phase and Doppler of each signal"),
+    Ubx<UbxAttitudeRecord>(MsgIdUbxAttitude, "NAV-ATT", "01-05", TextForm::None, "attitude"),
+
+    Rtcm<Sub21Record>(MsgIdSub21, "RTCM-SUB21", "999-21", TextForm::None, "bytes"),
+
+    Ubx<DiagnosticRecord>(MsgIdDiagnostic, "DIAGNOSTIC", "", TextForm::None,
+        "a frame whose checksum is wrong"),
+
+    AsciiLog<GpsEphemerisLogRecord>(LogIdGpsEphemeris, "GPSEPHEM", "GPSEPHEMA", TextForm::None,
+        "GPS ephemeris"),
+    AsciiLog<HeaderLogRecord>(LogIdCompactObservations, "OBSVM", "OBSVM", TextForm::None,
+        "header of compact observations", 17308),
+    AsciiLog<PositionLogRecord>(LogIdBestPosition, "BESTPOS", "BESTPOSA", TextForm::None,
+        "best position"),
+    AsciiLog<RangeLogRecord>(LogIdRange, "RANGE", "RANGEA", TextForm::None,
+        "pseudoranges and carrier phases"),
+    AsciiLog<PositionLogRecord>(LogIdPseudorangePosition, "PSRPOS", "PSRPOSA", TextForm::None,
+        "pseudorange position"),
+    AsciiLog<VisibilityLogRecord>(LogIdVisibility, "LOG-48", "", TextForm::None,
+        "visible satellites"),
+    AsciiLog<HeaderLogRecord>(LogId52, "LOG-52", "", TextForm::None, "header", 40),
+    AsciiLog<PositionLogRecord>(LogIdMatchedPosition, "MATCHEDPOS", "MATCHEDPOSA", TextForm::None,
+        "position of matched observations"),
+    AsciiLog<VelocityLogRecord>(LogIdBestVelocity, "BESTVEL", "BESTVELA", TextForm::None,
+        "best velocity"),
+    AsciiLog<VelocityLogRecord>(LogIdPseudorangeVelocity, "PSRVEL", "PSRVELA", TextForm::None,
+        "pseudorange velocity"),
+    AsciiLog<TimeLogRecord>(LogIdTime, "TIME", "TIMEA", TextForm::None,
+        "receiver clock and UTC"),
+    AsciiLog<DopLogRecord>(LogIdPseudorangeDop, "PSRDOP", "PSRDOPA", TextForm::None,
+        "dilution of precision"),
+    AsciiLog<HeaderLogRecord>(LogIdRtkData, "LOG-215", "", TextForm::None, "header", 928),
+    AsciiLog<CartesianLogRecord>(LogIdCartesian, "BESTXYZ", "BESTXYZA", TextForm::None,
+        "Cartesian position and velocity"),
+    AsciiLog<GlonassEphemerisLogRecord>(LogIdGlonassEphemeris, "GLOEPHEMERIS", "GLOEPHEMERISA",
+        TextForm::None, "GLONASS ephemeris"),
+    AsciiLog<HeadingLogRecord>(LogIdHeading, "HEADING", "HEADINGA", TextForm::None,
+        "heading of a baseline"),
+    AsciiLog<SystemVisibilityLogRecord>(LogIdSystemVisibility, "SATVIS2", "SATVIS2A",
+        TextForm::None, "visible satellites of one system"),
+    AsciiLog<GalileoEphemerisLogRecord>(LogIdGalileoEphemeris, "GALEPHEMERIS", "GALEPHEMERISA",
+        TextForm::None, "Galileo ephemeris"),
+    AsciiLog<SatelliteListLogRecord>(LogIdSatelliteList, "LOG-1194", "", TextForm::None,
+        "satellites of the best solution"),
+    AsciiLog<HeadingLogRecord>(LogIdSecondHeading, "HEADING2", "HEADING2A", TextForm::None,
+        "heading of a second baseline"),
+    AsciiLog<HeaderLogRecord>(LogId1461, "LOG-1461", "", TextForm::None, "header", 68),
+    AsciiLog<DopLogRecord>(LogIdPseudorangeDop2, "PSRDOP2", "PSRDOP2A", TextForm::None,
+        "dilution of precision"),
+    AsciiLog<NavigationSolutionLogRecord>(LogIdNavigationSolution, "LOG-2118", "", TextForm::None,
+        "position of the best solution"),
+    AsciiLog<RangeLogRecord>(LogIdShortRange, "RANGEH", "RANGEHA", TextForm::None,
+        "pseudoranges and carrier phases"),
+    AsciiLog<PositionLogRecord>(LogIdPosition6006, "LOG-6006", "", TextForm::None, "position"),
+    AsciiLog<AgriculturalLogRecord>(LogIdAgricultural, "AGRIC", "AGRICA", TextForm::None,
+        "agricultural-format summary"),
+    AsciiLog<HeaderLogRecord>(LogIdFirmware, "FWINFO", "FWINFOA", TextForm::None,
+        "header of firmware information", 2944),
+    AsciiLog<BdsEphemerisLogRecord>(LogIdBdsEphemeris, "BDSEPH", "BDSEPHA", TextForm::None,
+        "BeiDou ephemeris: header and satellite"),
+    AsciiLog<IonosphereLogRecord>(LogIdGpsIonosphere, "GPSION", "GPSION", TextForm::None,
+        "ionosphere of GPS"),
+    AsciiLog<IonosphereLogRecord>(LogIdBdsIonosphere, "BDSION", "BDSION", TextForm::None,
+        "ionosphere of BeiDou"),
+    AsciiLog<GalileoIonosphereLogRecord>(LogIdGalileoIonosphere, "GALION", "GALION",
+        TextForm::None, "ionosphere of Galileo"),
+    AsciiLog<UtcLogRecord>(LogIdGpsUtc, "GPSUTC", "GPSUTC", TextForm::None, "UTC of GPS"),
+    AsciiLog<UtcLogRecord>(LogIdBdsUtc, "BDSUTC", "BDSUTC", TextForm::None, "UTC of BeiDou"),
+    AsciiLog<UtcLogRecord>(LogIdGalileoUtc, "GALUTC", "GALUTC", TextForm::None, "UTC of Galileo"),
+};
+// clang-format on
+
+// Places of the kinds of streams, whose ids are small; nothing else is as frequent.
+constexpr std::uint32_t SmallIds = 256;
+constexpr auto SmallPlaces = [] {
+  std::array<const KindRow*, SmallIds> places{};
+  for (const KindRow& row : Rows) {
+    if (row.kind.source == SourceStream && row.kind.id < SmallIds) places[row.kind.id] = &row;
+  }
+  return places;
+}();
+
+constexpr auto Order(const KindRow& row) { return std::tuple(row.kind.source, row.kind.id); }
+static_assert(std::ranges::is_sorted(Rows, std::less{}, Order));
+
+}  // namespace
+
+std::span<const KindRow> KindRows() { return Rows; }
+
+const KindRow* FindKind(std::uint32_t id, std::uint32_t source) {
+  if (source == SourceStream && id < SmallIds) return SmallPlaces[id];
+  const auto* const row = std::ranges::lower_bound(Rows, std::tuple(source, id), {}, Order);
+  return row != std::end(Rows) && Order(*row) == std::tuple(source, id) ? row : nullptr;
+}
+
+}  // namespace navframe::catalogue

@@ -1,0 +1,66 @@
+// Records before they are decoded: every member has the value that its row says.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <new>
+
+#include "base/unknown.h"
+#include "catalogue/layouts.h"
+
+namespace navframe::catalogue {
+
+constexpr void PutLe(std::uint64_t value, std::uint32_t size, std::uint8_t* at) {
+  for (std::uint32_t i = 0; i < size; ++i) {
+    const std::uint32_t byte = std::endian::native == std::endian::little ? i : size - 1 - i;
+    at[i] = static_cast<std::uint8_t>(value >> (8 * byte));
+  }
+}
+
+constexpr std::uint64_t PresetBits(const MemberRow& member) {
+  const std::int64_t value = member.hasPreset ? member.preset : member.unknown;
+  if (member.unknownRule == NavframeUnknownNan && !member.hasPreset) {
+    return member.type == NavframeF64 ? std::bit_cast<std::uint64_t>(Unknown<double>())
+                                      : std::bit_cast<std::uint32_t>(Unknown<float>());
+  }
+  if (member.type == NavframeF64) {
+    return std::bit_cast<std::uint64_t>(static_cast<double>(value));
+  }
+  if (member.type == NavframeF32) {
+    return std::bit_cast<std::uint32_t>(static_cast<float>(value));
+  }
+  return static_cast<std::uint64_t>(value);
+}
+
+// `bytes` are 0 before; texts, reserved members and padding stay so.
+constexpr void PutUnknown(const NavframeRecord& record, std::uint8_t* bytes) {
+  for (const NavframeMember* const member : MembersOf(record)) {
+    const std::uint32_t length = member->length == 0 ? 1 : member->length;
+    for (std::uint32_t i = 0; i < length; ++i) {
+      std::uint8_t* const at = bytes + member->offset + i * member->size;
+      if (member->type == NavframeNested) {
+        PutUnknown(*member->record, at);
+      } else if (member->type < NavframeText) {
+        PutLe(PresetBits(static_cast<const MemberRow&>(*member)), member->size, at);
+      }
+    }
+  }
+}
+
+template <class Record>
+inline constexpr auto UnknownBytes = [] {
+  std::array<std::uint8_t, sizeof(Record)> bytes{};
+  PutUnknown(RecordOf<Record>, bytes.data());
+  return bytes;
+}();
+
+// Writes every byte of the record, those between its members too.
+template <class Record>
+void MakeUnknown(Record& record) {
+  std::memcpy(static_cast<void*>(&record), UnknownBytes<Record>.data(), sizeof(Record));
+  if constexpr (requires { record.text.c_str(); }) new (&record.text) RecordText();
+}
+
+}  // namespace navframe::catalogue

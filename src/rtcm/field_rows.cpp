@@ -1,0 +1,58 @@
+#include "rtcm/field_rows.h"
+
+#include <bit>
+#include <cstring>
+
+namespace navframe::rtcm {
+namespace {
+
+// The field as 64 bits, its sign carried up. Fields of 64 bits have no sign to carry.
+std::uint64_t RawBits(const std::uint8_t* bytes, std::uint32_t bit, const FieldRow& row) {
+  constexpr std::uint32_t WidestLoad = 57;
+  if (row.bits > WidestLoad) return Bits64(bytes, bit) >> (64 - row.bits);
+  if (row.wire == Wire::TwosComplement) {
+    return static_cast<std::uint64_t>(SignedBits(bytes, bit, row.bits));
+  }
+  return UnsignedBits(bytes, bit, row.bits);
+}
+
+double Value(std::uint64_t raw, const FieldRow& row) {
+  switch (row.wire) {
+    case Wire::Unsigned:
+      return static_cast<double>(raw);
+    case Wire::TwosComplement:
+      return static_cast<double>(static_cast<std::int64_t>(raw));
+    case Wire::SignMagnitude:
+      break;
+  }
+  const std::uint64_t sign = std::uint64_t{1} << (row.bits - 1);
+  const auto magnitude = static_cast<double>(raw & (sign - 1));
+  return (raw & sign) != 0 ? -magnitude : magnitude;
+}
+
+void Store(std::uint64_t raw, const FieldRow& row, std::uint8_t* member) {
+  if (row.isDouble) {
+    const double value = Value(raw, row) * row.scale + row.offset;
+    std::memcpy(member, &value, sizeof value);
+    return;
+  }
+  const std::size_t skipped = std::endian::native == std::endian::big ? sizeof raw - row.size : 0;
+  std::memcpy(member, reinterpret_cast<const std::uint8_t*>(&raw) + skipped, row.size);
+}
+
+}  // namespace
+
+std::uint32_t ReadFields(const Frame& frame, std::uint32_t bit, std::span<const FieldRow> rows,
+                         void* record) {
+  for (const FieldRow& row : rows) {
+    auto* member = static_cast<std::uint8_t*>(record) + row.member;
+    for (std::uint32_t i = 0; i < row.count; ++i, bit += row.bits, member += row.size) {
+      if (row.size == 0 || !frame.Has(bit, row.bits)) continue;
+      const std::uint64_t raw = RawBits(frame.bytes, bit, row);
+      if (raw != row.absent) Store(raw, row, member);
+    }
+  }
+  return bit;
+}
+
+}  // namespace navframe::rtcm

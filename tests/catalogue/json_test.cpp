@@ -1,0 +1,211 @@
+// Records as JSON, read by a parser that is not ours.
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "generator/mixed_stream.h"
+#include "navframe/catalogue.h"
+#include "navframe/records.h"
+
+namespace navframe {
+namespace {
+
+using rapidjson::Value;
+
+std::string Json(const char* kind, const void* payload) {
+  std::string text(navframe_json(navframe_kind_named(kind), payload, nullptr, 0), '\0');
+  navframe_json(navframe_kind_named(kind), payload, text.data(), text.size() + 1);
+  return text;
+}
+
+// Numbers are kept as they are written, so that they are read back in the member's own type.
+rapidjson::Document Parsed(const std::string& text) {
+  rapidjson::Document document;
+  document.Parse<rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag>(
+      text.c_str());
+  EXPECT_FALSE(document.HasParseError()) << text;
+  return document;
+}
+
+template <class T>
+void ExpectNumber(const Value& value, const std::uint8_t* at) {
+  T wanted;
+  std::memcpy(&wanted, at, sizeof wanted);
+  T read{};
+  const std::string_view text(value.GetString(), value.GetStringLength());
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), read);
+  EXPECT_TRUE(error == std::errc{} && end == text.data() + text.size()) << text;
+  EXPECT_EQ(read, wanted) << text;
+}
+
+void ExpectRecord(const Value& object, const NavframeRecord& record, const std::uint8_t* data);
+
+void ExpectElement(const Value& value, const NavframeMember& member, const std::uint8_t* at,
+                   bool known) {
+  if (member.type == NavframeNested) return ExpectRecord(value, *member.record, at);
+  ASSERT_EQ(value.IsNull(), !known) << member.name;
+  if (!known) return;
+  switch (member.type) {
+    case NavframeU8:
+      return ExpectNumber<std::uint8_t>(value, at);
+    case NavframeU16:
+      return ExpectNumber<std::uint16_t>(value, at);
+    case NavframeU32:
+      return ExpectNumber<std::uint32_t>(value, at);
+    case NavframeI8:
+      return ExpectNumber<std::int8_t>(value, at);
+    case NavframeI16:
+      return ExpectNumber<std::int16_t>(value, at);
+    case NavframeI32:
+      return ExpectNumber<std::int32_t>(value, at);
+    case NavframeI64:
+      return ExpectNumber<std::int64_t>(value, at);
+    case NavframeF32:
+      return ExpectNumber<float>(value, at);
+    case NavframeF64:
+      return ExpectNumber<double>(value, at);
+    case NavframeText:
+      EXPECT_STREQ(value.GetString(), reinterpret_cast<const char*>(at)) << member.name;
+      return;
+    default:
+      EXPECT_EQ(value.GetString(), *reinterpret_cast<const RecordText*>(at)) << member.name;
+  }
+}
+
+void ExpectRecord(const Value& object, const NavframeRecord& record, const std::uint8_t* data) {
+  ASSERT_TRUE(object.IsObject()) << record.name;
+  std::uint32_t written = 0;
+  for (std::uint32_t i = 0; i < record.memberCount; ++i) {
+    const NavframeMember& member = *record.members[i];
+    if (member.type == NavframePadding || (member.flags & NavframeReserved) != 0) {
+      EXPECT_FALSE(object.HasMember(member.name)) << record.name << " " << member.name;
+      continue;
+    }
+    ++written;
+    ASSERT_TRUE(object.HasMember(member.name)) << record.name << " " << member.name;
+    const Value& value = object[member.name];
+    const std::uint8_t* const at = data + member.offset;
+    const auto known = [&](std::uint32_t index) {
+      double number;
+      char character[2];
+      return navframe_number(&member, data, index, &number) == NavframeKnown ||
+             navframe_text(&member, data, index, character, 2) != 0;
+    };
+    if (member.length == 0) {
+      ExpectElement(value, member, at, known(0));
+      continue;
+    }
+    ASSERT_TRUE(value.IsArray()) << member.name;
+    ASSERT_EQ(value.Size(), navframe_length(&record, &member, data)) << member.name;
+    for (std::uint32_t e = 0; e < value.Size(); ++e) {
+      ExpectElement(value[e], member, at + e * member.size, known(e));
+    }
+  }
+  EXPECT_EQ(object.MemberCount(), written) << record.name;
+}
+
+TEST(Json, ReadsBackToTheSameValuesInEveryKindOfTheSample) {
+  const std::vector<std::uint8_t> bytes = sample::MixedStream();
+  GNSSPutData(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+  std::size_t records = 0;
+  for (GnssMessage message; GNSSGetMsg(&message, 0) == 0; GNSSFreeMem(&message), ++records) {
+    const NavframeKind* const kind = navframe_kind(message.id, message.source);
+    ASSERT_NE(kind, nullptr) << message.id;
+    SCOPED_TRACE(kind->name);
+    ExpectRecord(Parsed(Json(kind->name, message.data)), *kind->record,
+                 static_cast<const std::uint8_t*>(message.data));
+  }
+  EXPECT_GT(records, 100U);
+}
+
+TEST(Json, WritesTheShortestDigitsOfTheMembersType) {
+  struct Row {
+    double value;
+    const char* asDouble;
+    const char* asFloat;
+  };
+  const double infinity = std::numeric_limits<double>::infinity();
+  const Row rows[] = {
+      {0.64, "0.64", "0.64"},
+      {0.1 + 0.2, "0.30000000000000004", "0.3"},
+      {-0.0, "-0", "-0"},
+      {63, "63", "63"},
+      {-1.5, "-1.5", "-1.5"},
+      {48.24, "48.24", "48.24"},
+      {0.001, "0.001", "0.001"},
+      {999999999999999.9, "999999999999999.9", "1e+15"},
+      {16777216, "16777216", "16777216"},
+      {1e22, "1e+22", "1e+22"},
+      {5e-324, "5e-324", "0"},
+      {8.547758383333333, "8.547758383333333", "8.547758"},
+      {123456.789, "123456.789", "123456.79"},
+      {infinity, "null", "null"},
+      {std::nan(""), "null", "null"},
+  };
+  for (const Row& row : rows) {
+    CartesianLogRecord record{};  // nothing in it is unknown
+    record.position[0] = row.value;
+    record.positionDeviation[0] = static_cast<float>(row.value);
+    const std::string json = Json("BESTXYZ", &record);
+    EXPECT_NE(json.find("\"position\":[" + std::string(row.asDouble) + ","), std::string::npos)
+        << row.asDouble << " in " << json;
+    EXPECT_NE(json.find("\"positionDeviation\":[" + std::string(row.asFloat) + ","),
+              std::string::npos)
+        << row.asFloat << " in " << json;
+  }
+}
+
+TEST(Json, EscapesTexts) {
+  struct Row {
+    const char* text;
+    const char* json;
+  };
+  constexpr Row Rows[] = {
+      {"a\"b\\c/", R"("a\"b\\c/")"},
+      {"\t\x1b\x7f", R"("\u0009\u001b\u007f")"},
+      {"\xc3\xa9\xe2\x82\xac", "\"\xc3\xa9\xe2\x82\xac\""},
+      {"\xf0\x9f\x9b\xb0", "\"\xf0\x9f\x9b\xb0\""},
+      // Bytes of no character: alone, cut off, longer than needed, half of a pair, above the last.
+      {"\x80z", R"("\u0080z")"},
+      {"\xe2\x82", R"("\u00e2\u0082")"},
+      {"\xc0\xaf", R"("\u00c0\u00af")"},
+      {"\xed\xa0\x80", R"("\u00ed\u00a0\u0080")"},
+      {"\xf4\x90\x80\x80", R"("\u00f4\u0090\u0080\u0080")"},
+      {"", "null"},
+  };
+  for (const Row& row : Rows) {
+    GgaRecord record{};
+    std::strcpy(record.timeText, row.text);
+    const std::string json = Json("GGA", &record);
+    EXPECT_NE(json.find("\"timeText\":" + std::string(row.json) + ","), std::string::npos) << json;
+    Parsed(json);
+  }
+}
+
+TEST(Json, WritesNothingBehindItsCapacity) {
+  GgaRecord record{};
+  std::strcpy(record.timeText, "120000.00");
+  const NavframeKind* const kind = navframe_kind_named("GGA");
+  const std::string whole = Json("GGA", &record);
+  for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
+    std::vector<char> out(capacity + 1, '#');
+    ASSERT_EQ(navframe_json(kind, &record, out.data(), capacity), whole.size());
+    EXPECT_EQ(out[capacity], '#');
+    if (capacity != 0) {
+      EXPECT_EQ(std::string(out.data()), whole.substr(0, capacity - 1));
+    }
+  }
+  char out[] = "x";
+  EXPECT_EQ(navframe_json(nullptr, &record, out, sizeof out), 0U);
+  EXPECT_STREQ(out, "");
+  EXPECT_EQ(navframe_json(kind, nullptr, nullptr, 0), 0U);
+}
+
+}  // namespace
+}  // namespace navframe
