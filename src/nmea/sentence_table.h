@@ -1,10 +1,18 @@
-// The kinds of sentences: how they are recognised and what becomes of them.
+// The kinds of sentences: how they are recognised and what becomes of them. Parsers and rows stand
+// together, in standard_sentences.cpp and proprietary_sentences.cpp.
+//
+// A parser fills a record of unknown values from a sentence's fields; an empty field leaves the
+// value unknown, a field that cannot be converted throws.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <new>
 #include <string_view>
 
+#include "catalogue/unknown_records.h"
+#include "navframe/records.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
 #include "nmea/time_keeping.h"
@@ -61,7 +69,38 @@ struct SentenceRow {
 // The largest record that a row names, and its alignment.
 inline constexpr std::size_t LargestRecord = 128;
 
-// The row of a sentence; null when it is of no known kind.
+// Copies every byte of a record, also those between its members.
+template <class Record>
+void CopyRecord(void* to, const void* from) {
+  std::memcpy(to, from, sizeof(Record));
+  if constexpr (requires { Record::text.c_str(); }) {
+    // A string's bytes may point into the string itself.
+    new (&static_cast<Record*>(to)->text) RecordText(static_cast<const Record*>(from)->text);
+  }
+}
+
+// Adds to a row what follows from the type of its record.
+template <class Record, void (*Parse)(NmeaContext&, const Fields&, Record&)>
+constexpr SentenceRow With(SentenceRow row) {
+  static_assert(sizeof(Record) <= LargestRecord);
+  row.size = sizeof(Record);
+  row.hasTag = requires { Record::tag; };
+  row.makeUnknown = [](void* record) { catalogue::MakeUnknown(*static_cast<Record*>(record)); };
+  row.copy = CopyRecord<Record>;
+  row.parse = [](NmeaContext& context, const Fields& fields, void* record) {
+    Parse(context, fields, *static_cast<Record*>(record));
+  };
+  row.gpsTimeOffset = offsetof(Record, gpsTime);
+  if constexpr (requires { Record::utc; }) row.utcOffset = offsetof(Record, utc);
+  if constexpr (requires { Record::timeText; }) {
+    row.text = {offsetof(Record, timeText), sizeof(Record::timeText)};
+  }
+  return row;
+}
+
+// The row of a sentence: that of the three characters behind "$" and a two-letter talker, or else
+// that of the text behind "$"; null when it is of no known kind.
 const SentenceRow* Classify(std::string_view text);
+const SentenceRow* FindProprietary(std::string_view text);  // by the text behind "$" alone
 
 }  // namespace navframe::nmea

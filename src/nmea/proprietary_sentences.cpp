@@ -1,10 +1,10 @@
-#include "nmea/proprietary.h"
-
+// The proprietary sentences.
 #include <algorithm>
 #include <concepts>
 #include <string_view>
 
 #include "nmea/field.h"
+#include "nmea/sentence_table.h"
 
 namespace navframe::nmea {
 namespace {
@@ -37,13 +37,15 @@ void ReadEach(const Fields& fields, std::size_t first, Member (&members)[Count])
   for (Member& member : members) Read(fields[first++], member);
 }
 
-}  // namespace
-
+// An INSPVA whose time field has its point where a time with decimals has it.
 bool IsInsPva(const Fields& fields) {
   constexpr std::size_t PointPosition = 6;
   return fields[2].size() > PointPosition && fields[2][PointPosition] == '.';
 }
 
+// PNAVMSG and CWOUT need exactly their number of fields; with any other the record keeps its
+// unknown values. PNAVMSG does not allow for an empty field.
+//
 // $PNAVMSG,1,2,0A,1B,2C,3D,4E,5F,60,71,82,93,A4,B5,C6,D7,E8*hh
 void ParsePNavMsg(NmeaContext& /*context*/, const Fields& fields, PNavMsgRecord& record) {
   constexpr std::size_t FieldCount = 18;
@@ -133,6 +135,51 @@ void ParseInsPva(NmeaContext& /*context*/, const Fields& fields, InsPvaRecord& r
   ReadInOrder(fields, 3, record.latitude, record.longitude, record.height, record.velocity[0],
               record.velocity[1], record.velocity[2], record.attitude[0], record.attitude[1],
               record.attitude[2]);
+}
+
+using enum FilterTest;
+
+// Text behind "$"; kind, when the filter is asked, clock, fields, twin. Tried in this order.
+struct PrefixRow {
+  std::string_view prefix;
+  SentenceRow sentence;
+};
+constexpr PrefixRow Prefixes[] = {
+    {"PNAVMSG", With<PNavMsgRecord, ParsePNavMsg>({MsgIdPNavMsg, Never})},
+    {"CWOUT", With<CwOutRecord, ParseCwOut>({MsgIdCwOut, BeforeBuilding})},
+    {"GYOACC,", With<GyoAccRecord, ParseGyoAcc>(
+                    {MsgIdGyoAcc, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmGyoAcc})},
+    // The same record under a number of its own, which the filter knows by the other's values
+    // alone.
+    {"GYOACC-V", With<GyoAccRecord, ParseGyoAcc>({MsgIdGyoAccV, AfterParsing, ClockRule::TimeOfDay,
+                                                  nullptr, MsgIdRtcmGyoAcc, MsgIdGyoAcc})},
+    // The twins of IMURAW and NAVATT are crossed; hosts rely on it.
+    {"IMURAW", With<ImuRecord, ParseImuRaw>(
+                   {MsgIdImuRaw, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmImuRaw})},
+    {"SNRSTAT", With<SnrStatRecord, ParseSnrStat>(
+                    {MsgIdSnrStat, BeforeBuilding, ClockRule::None, nullptr, MsgIdRtcmSnrStat})},
+    {"NAVATT", With<NavAttRecord, ParseNavAtt>(
+                   {MsgIdNavAtt, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmNavAtt})},
+    {"INSPVA", With<InsPvaRecord, ParseInsPva>(
+                   {MsgIdInsPva, AfterParsing, ClockRule::TimeOfDay, IsInsPva, MsgIdRtcmInsPva})},
+    {"IMUVEH", With<ImuRecord, ParseImuVeh>({.kind = MsgIdImuVeh,
+                                             .filterTest = BeforeBuilding,
+                                             .twin = MsgIdRtcmImuVeh,
+                                             .keepsTimeText = true})},
+    {"NAVPOS", With<NavPosRecord, ParseNavPos>({MsgIdNavPos, BeforeBuilding})},
+    {"NAVVEL", With<NavVelRecord, ParseNavVel>({MsgIdNavVel, BeforeBuilding})},
+    {"NAVTIME", With<NavTimeRecord, ParseNavTime>({MsgIdNavTime, BeforeBuilding})},
+    {"NAVACC", With<NavAccRecord, ParseNavAcc>({MsgIdNavAcc, AfterParsing, ClockRule::TimeOfDay})},
+};
+
+}  // namespace
+
+const SentenceRow* FindProprietary(std::string_view text) {
+  const std::string_view address = text.substr(1);
+  for (const PrefixRow& row : Prefixes) {
+    if (address.starts_with(row.prefix)) return &row.sentence;
+  }
+  return nullptr;
 }
 
 }  // namespace navframe::nmea

@@ -1,8 +1,11 @@
-#include "nmea/fix_sentences.h"
-
+// The sentences that the standard names: position, time, quality, satellites.
+#include <array>
 #include <span>
+#include <string_view>
 
 #include "nmea/field.h"
+#include "nmea/satellite_sentences.h"
+#include "nmea/sentence_table.h"
 
 namespace navframe::nmea {
 namespace {
@@ -20,8 +23,6 @@ void ReadMode(std::span<const ModeLetter> modes, std::string_view field, std::ui
     if (field == letter.text) mode = letter.mode;
   }
 }
-
-}  // namespace
 
 // $GPGGA,123519.00,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,*hh
 void ParseGga(NmeaContext& /*context*/, const Fields& fields, GgaRecord& record) {
@@ -103,6 +104,59 @@ void ParseZda(NmeaContext& /*context*/, const Fields& fields, ZdaRecord& record)
   ReadInt(fields[4], record.utc.year);
   ReadInt(fields[5], record.zoneHours);
   ReadInt(fields[6], record.zoneMinutes);
+}
+
+using enum FilterTest;
+
+// Formatter; kind, when the filter is asked, clock, fields.
+struct FormatterRow {
+  std::string_view formatter;
+  SentenceRow sentence;
+};
+constexpr FormatterRow Formatters[] = {
+    {"RMC", With<RmcRecord, ParseRmc>({MsgIdRmc, AfterParsing, ClockRule::DateByEpoch})},
+    {"GGA", With<GgaRecord, ParseGga>({MsgIdGga, AfterParsing, ClockRule::TimeOfDayByEpoch})},
+    {"GSA", With<GsaRecord, ParseGsa>({MsgIdGsa, AfterParsing, ClockRule::None, IsGsa})},
+    // Accumulated until the cycle ends, so there is no record of the sentence itself.
+    {"GSV", {MsgIdGsv, BeforeBuilding, ClockRule::None, IsGsv}},
+    {"TXT", {MsgIdTxt, Never}},
+    {"ZDA", With<ZdaRecord, ParseZda>({MsgIdZda, AfterParsing, ClockRule::Date})},
+    {"VTG", With<VtgRecord, ParseVtg>({MsgIdVtg, BeforeBuilding})},
+    {"GLL", With<GllRecord, ParseGll>({MsgIdGll, BeforeBuilding})},
+    {"GST", With<GstRecord, ParseGst>({MsgIdGst, AfterParsing, ClockRule::TimeOfDay})},
+    {"GBS", With<GbsRecord, ParseGbs>({MsgIdGbs, AfterParsing, ClockRule::TimeOfDay})},
+};
+
+constexpr std::uint32_t Packed(std::string_view formatter) {
+  return static_cast<std::uint32_t>(static_cast<unsigned char>(formatter[0])) |
+         static_cast<std::uint32_t>(static_cast<unsigned char>(formatter[1])) << 8U |
+         static_cast<std::uint32_t>(static_cast<unsigned char>(formatter[2])) << 16U;
+}
+
+// What is searched: a match is a load, not the product of a place and the size of a row.
+struct PackedRow {
+  std::uint32_t formatter;
+  const SentenceRow* sentence;
+};
+constexpr auto PackedFormatters = [] {
+  std::array<PackedRow, std::size(Formatters)> packed{};
+  for (std::size_t i = 0; i < packed.size(); ++i) {
+    packed[i] = {Packed(Formatters[i].formatter), &Formatters[i].sentence};
+  }
+  return packed;
+}();
+
+}  // namespace
+
+const SentenceRow* Classify(std::string_view text) {
+  constexpr std::size_t FormatterAt = 3;
+  if (text.size() >= FormatterAt + 3) {
+    const std::uint32_t formatter = Packed(text.substr(FormatterAt, 3));
+    for (const PackedRow& row : PackedFormatters) {
+      if (formatter == row.formatter) return row.sentence;
+    }
+  }
+  return FindProprietary(text);
 }
 
 }  // namespace navframe::nmea
