@@ -1,45 +1,11 @@
 #include "rtcm/rtcm_decoder.h"
 
-#include <cstring>
-
-#include "navframe/records.h"
 #include "rtcm/ephemeris.h"
 #include "rtcm/station_messages.h"
 #include "rtcm/subtype_table.h"
 
 namespace navframe::rtcm {
 namespace {
-
-// Message number, MsgId, record, decoder. The record is zero before it is decoded and begins with
-// the decoder's time of week.
-struct StationRow {
-  std::uint32_t number;
-  std::uint32_t msgId;
-  std::uint32_t size;
-  void (*decode)(const Frame& frame, void* record);
-};
-constexpr StationRow StationRows[] = {
-    {1005, MsgIdStationPosition, sizeof(StationPositionRecord),
-     [](const Frame& frame, void* record) {
-       DecodeStationPosition(frame, *static_cast<StationPositionRecord*>(record));
-     }},
-    {1013, MsgIdSystemParameters, sizeof(SystemParametersRecord),
-     [](const Frame& frame, void* record) {
-       DecodeSystemParameters(frame, *static_cast<SystemParametersRecord*>(record));
-     }},
-};
-
-// Unlike everywhere else the filter is asked before the kind counts as decoded.
-void DecodeStation(const StationRow& row, const Frame& frame, Services& services) {
-  if (!services.sink.Passes(row.msgId)) return;
-  services.sink.NoteDecoded(row.msgId);
-  void* const record = services.sink.Allocate(row.size);
-  std::memset(record, 0, row.size);
-  row.decode(frame, record);
-  const std::uint32_t tow = services.time.getTOW();
-  std::memcpy(record, &tow, sizeof tow);
-  services.sink.PushMessage(row.msgId, record, row.size);
-}
 
 // Message number, the filter value that stands for it, decoder.
 template <class Ephemeris, Ephemeris (*Decode)(const Frame&)>
@@ -75,9 +41,7 @@ void RtcmDecoder::Decode(const Frame& frame) {
   if (number >= FirstMsmNumber && number <= LastMsmNumber) {
     return msm_.Decode(number, frame, services_);
   }
-  for (const StationRow& row : StationRows) {
-    if (row.number == number) return DecodeStation(row, frame, services_);
-  }
+  if (DecodeStation(number, frame, services_)) return;
   for (const EphemerisRow& row : EphemerisRows) {
     if (row.number == number) return DecodeEphemeris(row, frame, services_.sink);
   }

@@ -1,7 +1,10 @@
 #include "rtcm/station_messages.h"
 
 #include <array>
+#include <cstring>
 
+#include "catalogue/unknown_records.h"
+#include "navframe/records.h"
 #include "rtcm/field_rows.h"
 
 namespace navframe::rtcm {
@@ -42,17 +45,69 @@ constexpr auto Announcement =
 #undef A
 static_assert(BitLength(Announcement) == 29);
 
-}  // namespace
-
-void DecodeStationPosition(const Frame& frame, StationPositionRecord& record) {
-  ReadFields(frame, FirstFieldBit, StationPosition, &record);
-}
-
-void DecodeSystemParameters(const Frame& frame, SystemParametersRecord& record) {
-  std::uint32_t bit = ReadFields(frame, FirstFieldBit, SystemParameters, &record);
+void DecodeAnnouncements(const Frame& frame, std::uint32_t bit, SystemParametersRecord& record) {
   for (std::uint32_t i = 0; i < record.count; ++i) {  // 5 bits: at most the 31 there are
     bit = ReadFields(frame, bit, Announcement, &record.announcements[i]);
   }
+}
+
+// What a message becomes.
+struct StationRow {
+  std::uint32_t number;
+  std::uint32_t msgId;
+  std::span<const FieldRow> fields;
+  std::uint32_t size = 0;         // of the record
+  const void* unknown = nullptr;  // as it is before its fields are read
+  // Reads what no row of fields tells, from `bit` on, where they end; null for nothing.
+  void (*rest)(const Frame& frame, std::uint32_t bit, void* record) = nullptr;
+};
+
+// Adds to a row what follows from the type of its record.
+template <class Record>
+constexpr StationRow With(StationRow row) {
+  static_assert(offsetof(Record, tow) == 0);
+  row.size = sizeof(Record);
+  row.unknown = catalogue::UnknownBytes<Record>.data();
+  return row;
+}
+template <class Record, void (*Rest)(const Frame&, std::uint32_t, Record&)>
+constexpr StationRow With(StationRow row) {
+  row = With<Record>(row);
+  row.rest = [](const Frame& frame, std::uint32_t bit, void* record) {
+    Rest(frame, bit, *static_cast<Record*>(record));
+  };
+  return row;
+}
+
+// Message number, kind, fields.
+constexpr StationRow StationRows[] = {
+    With<StationPositionRecord>({1005, MsgIdStationPosition, StationPosition}),
+    With<SystemParametersRecord, DecodeAnnouncements>(
+        {1013, MsgIdSystemParameters, SystemParameters}),
+};
+
+// Unlike everywhere else the filter is asked before the kind counts as decoded.
+void Decode(const StationRow& row, const Frame& frame, Services& services) {
+  if (!services.sink.Passes(row.msgId)) return;
+  services.sink.NoteDecoded(row.msgId);
+  void* const record = services.sink.Allocate(row.size);
+  std::memcpy(record, row.unknown, row.size);
+  const std::uint32_t bit = ReadFields(frame, FirstFieldBit, row.fields, record);
+  if (row.rest != nullptr) row.rest(frame, bit, record);
+  const std::uint32_t tow = services.time.getTOW();
+  std::memcpy(record, &tow, sizeof tow);
+  services.sink.PushMessage(row.msgId, record, row.size);
+}
+
+}  // namespace
+
+bool DecodeStation(std::uint32_t number, const Frame& frame, Services& services) {
+  for (const StationRow& row : StationRows) {
+    if (row.number != number) continue;
+    Decode(row, frame, services);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace navframe::rtcm

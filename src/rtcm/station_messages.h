@@ -1,13 +1,14 @@
-// Messages about the reference station itself.
+// Messages about the reference station itself: rows, each a list of fields.
 #pragma once
 
-#include "navframe/records.h"
 #include "rtcm/bits.h"
+#include "rtcm/services.h"
 
 namespace navframe::rtcm {
 
-// Both leave members that a short message does not reach, and the time stamp, as they are.
-void DecodeStationPosition(const Frame& frame, StationPositionRecord& record);    // 1005
-void DecodeSystemParameters(const Frame& frame, SystemParametersRecord& record);  // 1013
+// Decodes a standard message and pushes its record with the decoder's time of week; members that a
+// short message does not reach keep their unknown value, which for many is 0. False for a message
+// without a row.
+bool DecodeStation(std::uint32_t number, const Frame& frame, Services& services);
 
 }  // namespace navframe::rtcm
