@@ -1,4 +1,4 @@
-// The decoders of the UBX messages, one file each.
+// The decoders of the UBX messages that are more than rows of fields, one file each.
 //
 // A decoder fills every byte of a record from a payload of a length that its row of the message
 // table takes.
@@ -10,12 +10,9 @@
 
 namespace navframe::ubx {
 
-void DecodeProtectionLevels(const Payload& payload, TimeManager& time,
-                            UbxProtectionLevelsRecord& record);
 void DecodeNavigation(const Payload& payload, TimeManager& time, UbxNavigationRecord& record);
 void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record);
 void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
                            UbxRawMeasurementsRecord& record);
-void DecodeAttitude(const Payload& payload, TimeManager& time, UbxAttitudeRecord& record);
 
 }  // namespace navframe::ubx
