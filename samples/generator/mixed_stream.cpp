@@ -29,9 +29,8 @@ Bytes WithWrongChecksum(Bytes frame) {
   return frame;
 }
 
-}  // namespace
-
-std::string ProprietarySentences(const Epoch& epoch) {
+// One of each sentence that NmeaEpoch has not; the place for a new one.
+std::string FurtherSentences(const Epoch& epoch) {
   const std::string time = TimeField(epoch);
   const std::string date = Format("%02d0326", epoch.day);
   const std::string sensors = Format("0.0120%d,-0.034000,0.001000,0.050000,0.060000,9.81000%d",
@@ -57,6 +56,8 @@ std::string ProprietarySentences(const Epoch& epoch) {
   return text;
 }
 
+}  // namespace
+
 Bytes MixedStream() {
   Drive drive;
   Bytes bytes;
@@ -70,12 +71,11 @@ Bytes MixedStream() {
     if (msm == Msm::Msm4) {
       Append(bytes, UbxSatellites(whole));
       Append(bytes, UbxRawMeasurements(whole));
-      Append(bytes, UbxAttitude(epoch));
-      Append(bytes, UbxProtectionLevels(epoch));
+      Append(bytes, UbxFurther(epoch));
       Append(bytes, WithWrongChecksum(UbxAttitude(epoch)));
     }
-    if (msm == Msm::Msm5) Append(bytes, ProprietarySentences(epoch));
-    if (msm == Msm::Msm6) Append(bytes, RtcmProprietary(epoch));
+    if (msm == Msm::Msm5) Append(bytes, FurtherSentences(epoch));
+    if (msm == Msm::Msm6) Append(bytes, RtcmFurther(epoch));
     Append(bytes, Binary55Aa(epoch));
   }
   return bytes;

@@ -1,15 +1,10 @@
 // The drive as one stream of every protocol, with garbage between.
 #pragma once
 
-#include <string>
-
 #include "generator/drive.h"
 #include "generator/writers.h"
 
 namespace navframe::sample {
-
-// One sentence of each proprietary kind.
-std::string ProprietarySentences(const Epoch& epoch);
 
 // The first four seconds of the drive under a thin sky: of every kind of record that a stream can
 // yield at least one.

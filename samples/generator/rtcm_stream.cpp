@@ -164,7 +164,7 @@ Bytes RtcmObservations(const Epoch& epoch, System system, Msm msm, bool last) {
   return RtcmFrame(bits.Written());
 }
 
-Bytes RtcmProprietary(const Epoch& epoch) {
+Bytes RtcmFurther(const Epoch& epoch) {
   Bytes bytes;
   const auto send = [&](const BitWriter& bits) { Append(bytes, RtcmFrame(bits.Written())); };
   const auto numbered = [](unsigned count, int width, BitWriter bits) {

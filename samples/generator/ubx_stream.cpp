@@ -120,6 +120,12 @@ Bytes UbxProtectionLevels(const Epoch& epoch) {
   return UbxFrame(0x01, 0x62, p.Written());
 }
 
+Bytes UbxFurther(const Epoch& epoch) {
+  Bytes bytes = UbxAttitude(epoch);
+  Append(bytes, UbxProtectionLevels(epoch));
+  return bytes;
+}
+
 Bytes Binary55Aa(const Epoch& epoch) {
   constexpr std::array<std::size_t, 4> Lengths = {224, 264, 420, 460};
   const std::size_t length = Lengths[static_cast<std::size_t>(epoch.second) % Lengths.size()];
