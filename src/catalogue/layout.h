@@ -1,49 +1,22 @@
 // What a row of the catalogue is made of; layouts.h has the rows.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <limits>
 #include <span>
 
 #include "navframe/catalogue.h"
 
 namespace navframe::catalogue {
 
-// A member's name as JSON has it, with its colon; as wide as it is so that it is copied whole.
-struct JsonKey {
-  std::array<char, 31> text;
-  std::uint8_t length;
-};
-
-template <std::size_t Size>
-consteval JsonKey KeyOf(const char (&name)[Size]) {
-  JsonKey key{};
-  static_assert(Size + 2 <= sizeof(key.text));
-  key.text[key.length++] = '"';
-  for (std::size_t i = 0; i + 1 < Size; ++i) key.text[key.length++] = name[i];
-  key.text[key.length++] = '"';
-  key.text[key.length++] = ':';
-  return key;
-}
-
 // A member with what the public row does not tell.
 struct MemberRow : NavframeMember {
-  JsonKey key;
   bool hasPreset;  // else it is the unknown value before decoding, or 0 without one
   std::int64_t preset;
-};
-
-template <std::size_t Count>
-constexpr std::array<const NavframeMember*, Count> PointersTo(const MemberRow (&rows)[Count]) {
-  std::array<const NavframeMember*, Count> pointers{};
-  for (std::size_t i = 0; i < Count; ++i) pointers[i] = &rows[i];
-  return pointers;
-}
-
-// A layout with what the public one does not tell.
-struct RecordRow : NavframeRecord {
-  std::uint32_t longestJson;  // characters, and what is copied beyond a key
 };
 
 // Members that mean nothing, which no text shows.
@@ -51,30 +24,79 @@ constexpr bool IsLeftOut(const NavframeMember& member) {
   return member.type == NavframePadding || (member.flags & NavframeReserved) != 0;
 }
 
-// Characters that an element of a member takes in JSON at most, a comma among them.
-constexpr std::uint32_t LongestJsonElement(const NavframeMember& member) {
-  constexpr std::uint32_t LongestNumber = 32;
-  constexpr std::uint32_t LongestEscape = 6;
-  constexpr std::uint32_t Around = 4;
-  if (member.type == NavframeNested) {
-    return static_cast<const RecordRow*>(member.record)->longestJson + Around;
+// What JSON needs to know of a member, as wide as a cache line.
+struct JsonStep {
+  std::array<char, 32> key;  // what stands in front, the name and its colon; copied as a whole
+  std::uint8_t keyLength;
+  std::uint8_t type;  // a NavframeType, or JsonList
+  std::uint32_t offset;
+  std::int64_t unknownInteger;  // of integers below 64 bits; one that they never have for none
+  double unknownNumber;         // of floating-point numbers; a NaN for none
+  const NavframeMember* member;
+};
+inline constexpr std::uint8_t JsonList = 255;
+
+constexpr std::int64_t UnknownIntegerOf(const NavframeMember& member) {
+  if (member.unknownRule != NavframeUnknownValue || member.type > NavframeI64) {
+    return std::numeric_limits<std::int64_t>::min();
   }
-  return member.type == NavframeText || member.type == NavframeRecordText
-             ? LongestEscape * member.size + Around
-             : LongestNumber;
+  const std::uint32_t above = 64 - 8 * member.size;
+  const std::uint64_t bits = static_cast<std::uint64_t>(member.unknown) << above;
+  return member.type < NavframeI8 ? static_cast<std::int64_t>(bits >> above)
+                                  : static_cast<std::int64_t>(bits) >> above;
 }
 
-template <class Record, std::size_t Count>
-constexpr RecordRow LayoutOf(const char* name,
-                             const std::array<const NavframeMember*, Count>& members) {
-  std::uint32_t longest = 2;
-  for (const NavframeMember* const member : members) {
-    if (IsLeftOut(*member)) continue;
-    const std::uint32_t elements = member->length == 0 ? 1 : member->length;
-    longest +=
-        static_cast<std::uint32_t>(2 * sizeof(JsonKey)) + elements * LongestJsonElement(*member);
+constexpr double UnknownNumberOf(const NavframeMember& member) {
+  return member.unknownRule == NavframeUnknownValue ? static_cast<double>(member.unknown)
+                                                    : std::numeric_limits<double>::quiet_NaN();
+}
+
+constexpr JsonStep JsonStepOf(const NavframeMember& member, bool isFirst) {
+  JsonStep step{};
+  step.type = member.length == 0 ? static_cast<std::uint8_t>(member.type) : JsonList;
+  step.offset = member.offset;
+  step.unknownInteger = UnknownIntegerOf(member);
+  step.unknownNumber = UnknownNumberOf(member);
+  step.member = &member;
+  const auto put = [&step](char c) { step.key[step.keyLength++] = c; };
+  put(isFirst ? '{' : ',');
+  put('"');
+  for (const char* name = member.name; *name != '\0'; ++name) put(*name);
+  put('"');
+  put(':');
+  return step;
+}
+
+// The steps of all members that are shown. Every record has some.
+template <const auto& Rows>
+inline constexpr auto JsonStepsOf = [] {
+  constexpr auto Shown = std::ranges::count_if(Rows, [](auto& row) { return !IsLeftOut(row); });
+  std::array<JsonStep, static_cast<std::size_t>(Shown)> steps{};
+  std::size_t count = 0;
+  for (const MemberRow& row : Rows) {
+    if (IsLeftOut(row)) continue;
+    steps[count] = JsonStepOf(row, count == 0);
+    ++count;
   }
-  return {{name, sizeof(Record), Count, members.data()}, longest};
+  return steps;
+}();
+
+template <const auto& Rows>
+inline constexpr auto PointersTo = [] {
+  std::array<const NavframeMember*, std::size(Rows)> pointers{};
+  std::ranges::transform(Rows, pointers.begin(), [](auto& row) { return &row; });
+  return pointers;
+}();
+
+// A layout with what the public one does not tell.
+struct RecordRow : NavframeRecord {
+  std::span<const JsonStep> json;
+};
+
+template <class Record, const auto& Rows>
+constexpr RecordRow LayoutOf(const char* name) {
+  static_assert(!JsonStepsOf<Rows>.empty());
+  return {{name, sizeof(Record), std::size(Rows), PointersTo<Rows>.data()}, JsonStepsOf<Rows>};
 }
 
 // The bytes that a member takes.

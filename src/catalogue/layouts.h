@@ -26,737 +26,691 @@ inline constexpr NavframeValueName ClockStatusValues[] = {{1, "VALID"}, {2, "INV
 inline constexpr NavframeValueName LogSystemValues[] = {{0, "GPS or not known"}, {1, "GLONASS"}, {2, "SBAS"}, {5, "GALILEO"}, {6, "BEIDOU"}, {7, "QZSS"}, {9, "NAVIC"},};
 
 inline constexpr MemberRow UTCTIMEMembers[] = {
-    {{"year", "", "four digits", NavframeU16, offsetof(UTCTIME, year), sizeof(UTCTIME::year), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("year"), false, 0},
-    {{"month", "", "1 to 12", NavframeU8, offsetof(UTCTIME, month), sizeof(UTCTIME::month), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("month"), false, 0},
-    {{"day", "", "1 to 31", NavframeU8, offsetof(UTCTIME, day), sizeof(UTCTIME::day), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("day"), false, 0},
-    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UTCTIME, hour), sizeof(UTCTIME::hour), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("hour"), false, 0},
-    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UTCTIME, minute), sizeof(UTCTIME::minute), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("minute"), false, 0},
-    {{"second", "s", "0 to 60, 60 being a leap second", NavframeU8, offsetof(UTCTIME, second), sizeof(UTCTIME::second), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("second"), false, 0},
-    {{"reserved0", "", "reserved", NavframeU8, offsetof(UTCTIME, reserved0), sizeof(UTCTIME::reserved0), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved0"), false, 0},
-    {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(UTCTIME, millisecond), sizeof(UTCTIME::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("millisecond"), false, 0},
-    {{"flag", "", "the message's time field was read", NavframeU8, offsetof(UTCTIME, flag), sizeof(UTCTIME::flag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("flag"), false, 0},
-    {{"reserved1", "", "reserved", NavframeU8, offsetof(UTCTIME, reserved1), sizeof(UTCTIME::reserved1), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved1"), false, 0},
+    {{"year", "", "four digits", NavframeU16, offsetof(UTCTIME, year), sizeof(UTCTIME::year), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"month", "", "1 to 12", NavframeU8, offsetof(UTCTIME, month), sizeof(UTCTIME::month), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"day", "", "1 to 31", NavframeU8, offsetof(UTCTIME, day), sizeof(UTCTIME::day), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UTCTIME, hour), sizeof(UTCTIME::hour), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UTCTIME, minute), sizeof(UTCTIME::minute), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"second", "s", "0 to 60, 60 being a leap second", NavframeU8, offsetof(UTCTIME, second), sizeof(UTCTIME::second), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved0", "", "reserved", NavframeU8, offsetof(UTCTIME, reserved0), sizeof(UTCTIME::reserved0), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(UTCTIME, millisecond), sizeof(UTCTIME::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"flag", "", "the message's time field was read", NavframeU8, offsetof(UTCTIME, flag), sizeof(UTCTIME::flag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved1", "", "reserved", NavframeU8, offsetof(UTCTIME, reserved1), sizeof(UTCTIME::reserved1), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UTCTIMEPointers = PointersTo(UTCTIMEMembers);
-inline constexpr RecordRow UTCTIMELayout = LayoutOf<UTCTIME>("UTCTIME", UTCTIMEPointers);
+inline constexpr RecordRow UTCTIMELayout = LayoutOf<UTCTIME, UTCTIMEMembers>("UTCTIME");
 static_assert(CoversEveryByte(UTCTIMELayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UTCTIME> = UTCTIMELayout;
 
 inline constexpr MemberRow GPSTIMEMembers[] = {
-    {{"tow", "ms", "time of week", NavframeU32, offsetof(GPSTIME, tow), sizeof(GPSTIME::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "weeks since 1980-01-06, never rolled over", NavframeU16, offsetof(GPSTIME, week), sizeof(GPSTIME::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(GPSTIME, reserved), sizeof(GPSTIME::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"tow", "ms", "time of week", NavframeU32, offsetof(GPSTIME, tow), sizeof(GPSTIME::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "weeks since 1980-01-06, never rolled over", NavframeU16, offsetof(GPSTIME, week), sizeof(GPSTIME::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(GPSTIME, reserved), sizeof(GPSTIME::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GPSTIMEPointers = PointersTo(GPSTIMEMembers);
-inline constexpr RecordRow GPSTIMELayout = LayoutOf<GPSTIME>("GPSTIME", GPSTIMEPointers);
+inline constexpr RecordRow GPSTIMELayout = LayoutOf<GPSTIME, GPSTIMEMembers>("GPSTIME");
 static_assert(CoversEveryByte(GPSTIMELayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GPSTIME> = GPSTIMELayout;
 
 inline constexpr MemberRow HMSTimeTypeMembers[] = {
-    {{"hour", "h", "0 to 23", NavframeU8, offsetof(HMSTimeType, hour), sizeof(HMSTimeType::hour), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("hour"), false, 0},
-    {{"minute", "min", "0 to 59", NavframeU8, offsetof(HMSTimeType, minute), sizeof(HMSTimeType::minute), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("minute"), false, 0},
-    {{"second", "s", "0 to 60", NavframeU8, offsetof(HMSTimeType, second), sizeof(HMSTimeType::second), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("second"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(HMSTimeType, reserved), sizeof(HMSTimeType::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(HMSTimeType, millisecond), sizeof(HMSTimeType::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("millisecond"), false, 0},
+    {{"hour", "h", "0 to 23", NavframeU8, offsetof(HMSTimeType, hour), sizeof(HMSTimeType::hour), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"minute", "min", "0 to 59", NavframeU8, offsetof(HMSTimeType, minute), sizeof(HMSTimeType::minute), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"second", "s", "0 to 60", NavframeU8, offsetof(HMSTimeType, second), sizeof(HMSTimeType::second), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(HMSTimeType, reserved), sizeof(HMSTimeType::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(HMSTimeType, millisecond), sizeof(HMSTimeType::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto HMSTimeTypePointers = PointersTo(HMSTimeTypeMembers);
-inline constexpr RecordRow HMSTimeTypeLayout = LayoutOf<HMSTimeType>("HMSTimeType", HMSTimeTypePointers);
+inline constexpr RecordRow HMSTimeTypeLayout = LayoutOf<HMSTimeType, HMSTimeTypeMembers>("HMSTimeType");
 static_assert(CoversEveryByte(HMSTimeTypeLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<HMSTimeType> = HMSTimeTypeLayout;
 
 inline constexpr NavframeValueName GgaRecordFixQualityValues[] = {{0, "invalid"}, {1, "autonomous"}, {2, "differential"}, {3, "PPS"}, {4, "RTK fixed"}, {5, "RTK float"}, {6, "estimated"}, {7, "manual"}, {8, "simulated"},};
 inline constexpr MemberRow GgaRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GgaRecord, tag), sizeof(GgaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(GgaRecord, timeText), sizeof(GgaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GgaRecord, utc), sizeof(GgaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GgaRecord, gpsTime), sizeof(GgaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"fixQuality", "", "quality of the fix", NavframeU8, offsetof(GgaRecord, fixQuality), sizeof(GgaRecord::fixQuality), 0, -1, 0, NavframeUnknownValue, 255, 9, GgaRecordFixQualityValues, nullptr}, KeyOf("fixQuality"), false, 0},
-    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(GgaRecord, satellites), sizeof(GgaRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("satellites"), false, 0},
-    {{"padding1", "", "", NavframePadding, 42, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(GgaRecord, longitude), sizeof(GgaRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(GgaRecord, latitude), sizeof(GgaRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GgaRecord, hdop), sizeof(GgaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("hdop"), false, 0},
-    {{"altitude", "m", "above mean sea level", NavframeF32, offsetof(GgaRecord, altitude), sizeof(GgaRecord::altitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("altitude"), false, 0},
-    {{"geoidSeparation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(GgaRecord, geoidSeparation), sizeof(GgaRecord::geoidSeparation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("geoidSeparation"), false, 0},
-    {{"correctionAge", "s", "age of differential data", NavframeF32, offsetof(GgaRecord, correctionAge), sizeof(GgaRecord::correctionAge), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("correctionAge"), false, 0},
-    {{"stationId", "", "differential reference station", NavframeU16, offsetof(GgaRecord, stationId), sizeof(GgaRecord::stationId), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"padding2", "", "", NavframePadding, 82, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GgaRecord, tag), sizeof(GgaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GgaRecord, timeText), sizeof(GgaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GgaRecord, utc), sizeof(GgaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GgaRecord, gpsTime), sizeof(GgaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"fixQuality", "", "quality of the fix", NavframeU8, offsetof(GgaRecord, fixQuality), sizeof(GgaRecord::fixQuality), 0, -1, 0, NavframeUnknownValue, 255, 9, GgaRecordFixQualityValues, nullptr}, false, 0},
+    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(GgaRecord, satellites), sizeof(GgaRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 42, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(GgaRecord, longitude), sizeof(GgaRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(GgaRecord, latitude), sizeof(GgaRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GgaRecord, hdop), sizeof(GgaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitude", "m", "above mean sea level", NavframeF32, offsetof(GgaRecord, altitude), sizeof(GgaRecord::altitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"geoidSeparation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(GgaRecord, geoidSeparation), sizeof(GgaRecord::geoidSeparation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"correctionAge", "s", "age of differential data", NavframeF32, offsetof(GgaRecord, correctionAge), sizeof(GgaRecord::correctionAge), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "differential reference station", NavframeU16, offsetof(GgaRecord, stationId), sizeof(GgaRecord::stationId), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 82, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GgaRecordPointers = PointersTo(GgaRecordMembers);
-inline constexpr RecordRow GgaRecordLayout = LayoutOf<GgaRecord>("GgaRecord", GgaRecordPointers);
+inline constexpr RecordRow GgaRecordLayout = LayoutOf<GgaRecord, GgaRecordMembers>("GgaRecord");
 static_assert(CoversEveryByte(GgaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GgaRecord> = GgaRecordLayout;
 
 inline constexpr NavframeValueName RmcRecordStatusValues[] = {{0, "warning"}, {1, "valid"},};
 inline constexpr NavframeValueName RmcRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {4, "RTK fixed"}, {5, "RTK float"}, {6, "estimated"},};
 inline constexpr MemberRow RmcRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(RmcRecord, tag), sizeof(RmcRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(RmcRecord, timeText), sizeof(RmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(RmcRecord, dateText), sizeof(RmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("dateText"), false, 0},
-    {{"status", "", "state of the receiver", NavframeU8, offsetof(RmcRecord, status), sizeof(RmcRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, RmcRecordStatusValues, nullptr}, KeyOf("status"), false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(RmcRecord, mode), sizeof(RmcRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 6, RmcRecordModeValues, nullptr}, KeyOf("mode"), false, 0},
-    {{"padding0", "", "", NavframePadding, 28, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(RmcRecord, longitude), sizeof(RmcRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(RmcRecord, latitude), sizeof(RmcRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(RmcRecord, speedKnots), sizeof(RmcRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("speedKnots"), false, 0},
-    {{"course", "deg", "course over ground, true", NavframeF32, offsetof(RmcRecord, course), sizeof(RmcRecord::course), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("course"), false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(RmcRecord, utc), sizeof(RmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(RmcRecord, gpsTime), sizeof(RmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"spare", "", "reserved, all bits set", NavframeU16, offsetof(RmcRecord, spare), sizeof(RmcRecord::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("spare"), true, 65535},
-    {{"padding1", "", "", NavframePadding, 78, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(RmcRecord, tag), sizeof(RmcRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(RmcRecord, timeText), sizeof(RmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(RmcRecord, dateText), sizeof(RmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state of the receiver", NavframeU8, offsetof(RmcRecord, status), sizeof(RmcRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, RmcRecordStatusValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(RmcRecord, mode), sizeof(RmcRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 6, RmcRecordModeValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 28, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(RmcRecord, longitude), sizeof(RmcRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(RmcRecord, latitude), sizeof(RmcRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(RmcRecord, speedKnots), sizeof(RmcRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"course", "deg", "course over ground, true", NavframeF32, offsetof(RmcRecord, course), sizeof(RmcRecord::course), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(RmcRecord, utc), sizeof(RmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(RmcRecord, gpsTime), sizeof(RmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"spare", "", "reserved, all bits set", NavframeU16, offsetof(RmcRecord, spare), sizeof(RmcRecord::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 65535},
+    {{"padding1", "", "", NavframePadding, 78, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto RmcRecordPointers = PointersTo(RmcRecordMembers);
-inline constexpr RecordRow RmcRecordLayout = LayoutOf<RmcRecord>("RmcRecord", RmcRecordPointers);
+inline constexpr RecordRow RmcRecordLayout = LayoutOf<RmcRecord, RmcRecordMembers>("RmcRecord");
 static_assert(CoversEveryByte(RmcRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<RmcRecord> = RmcRecordLayout;
 
 inline constexpr NavframeValueName GsaRecordSelectionModeValues[] = {{1, "automatic"},};
 inline constexpr NavframeValueName GsaRecordFixTypeValues[] = {{1, "none"}, {2, "two-dimensional"}, {3, "three-dimensional"},};
 inline constexpr MemberRow GsaRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GsaRecord, tag), sizeof(GsaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"padding0", "", "", NavframePadding, 1, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"systemId", "", "system of the satellites", NavframeU32, offsetof(GsaRecord, systemId), sizeof(GsaRecord::systemId), 0, -1, 0, NavframeUnknownValue, 4294967295, 7, NmeaSystemValues, nullptr}, KeyOf("systemId"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GsaRecord, timeText), sizeof(GsaRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(GsaRecord, selectionMode), sizeof(GsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 1, GsaRecordSelectionModeValues, nullptr}, KeyOf("selectionMode"), false, 0},
-    {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(GsaRecord, fixType), sizeof(GsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, GsaRecordFixTypeValues, nullptr}, KeyOf("fixType"), true, 1},
-    {{"padding1", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GsaRecord, gpsTime), sizeof(GsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(GsaRecord, pdop), sizeof(GsaRecord::pdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("pdop"), false, 0},
-    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GsaRecord, hdop), sizeof(GsaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("hdop"), false, 0},
-    {{"vdop", "", "vertical dilution of precision", NavframeF32, offsetof(GsaRecord, vdop), sizeof(GsaRecord::vdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("vdop"), false, 0},
-    {{"usedCount", "", "satellites in use, 0 to 12", NavframeU8, offsetof(GsaRecord, usedCount), sizeof(GsaRecord::usedCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("usedCount"), false, 0},
-    {{"usedSatellites", "", "satellite numbers", NavframeU8, offsetof(GsaRecord, usedSatellites), sizeof(GsaRecord::usedSatellites[0]), 12, 11, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("usedSatellites"), false, 0},
-    {{"padding2", "", "", NavframePadding, 61, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GsaRecord, tag), sizeof(GsaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 1, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of the satellites", NavframeU32, offsetof(GsaRecord, systemId), sizeof(GsaRecord::systemId), 0, -1, 0, NavframeUnknownValue, 4294967295, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GsaRecord, timeText), sizeof(GsaRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(GsaRecord, selectionMode), sizeof(GsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 1, GsaRecordSelectionModeValues, nullptr}, false, 0},
+    {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(GsaRecord, fixType), sizeof(GsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, GsaRecordFixTypeValues, nullptr}, true, 1},
+    {{"padding1", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GsaRecord, gpsTime), sizeof(GsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(GsaRecord, pdop), sizeof(GsaRecord::pdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GsaRecord, hdop), sizeof(GsaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"vdop", "", "vertical dilution of precision", NavframeF32, offsetof(GsaRecord, vdop), sizeof(GsaRecord::vdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"usedCount", "", "satellites in use, 0 to 12", NavframeU8, offsetof(GsaRecord, usedCount), sizeof(GsaRecord::usedCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"usedSatellites", "", "satellite numbers", NavframeU8, offsetof(GsaRecord, usedSatellites), sizeof(GsaRecord::usedSatellites[0]), 12, 11, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 61, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GsaRecordPointers = PointersTo(GsaRecordMembers);
-inline constexpr RecordRow GsaRecordLayout = LayoutOf<GsaRecord>("GsaRecord", GsaRecordPointers);
+inline constexpr RecordRow GsaRecordLayout = LayoutOf<GsaRecord, GsaRecordMembers>("GsaRecord");
 static_assert(CoversEveryByte(GsaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GsaRecord> = GsaRecordLayout;
 
 inline constexpr MemberRow SatelliteSignalMembers[] = {
-    {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(SatelliteSignal, signalId), sizeof(SatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("signalId"), false, 0},
-    {{"cn0", "dB-Hz", "carrier-to-noise density, integer part", NavframeU8, offsetof(SatelliteSignal, cn0), sizeof(SatelliteSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("cn0"), false, 0},
-    {{"reserved", "", "reserved, all bits set", NavframeU8, offsetof(SatelliteSignal, reserved), sizeof(SatelliteSignal::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), true, 255},
+    {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(SatelliteSignal, signalId), sizeof(SatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density, integer part", NavframeU8, offsetof(SatelliteSignal, cn0), sizeof(SatelliteSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved, all bits set", NavframeU8, offsetof(SatelliteSignal, reserved), sizeof(SatelliteSignal::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
 };
-inline constexpr auto SatelliteSignalPointers = PointersTo(SatelliteSignalMembers);
-inline constexpr RecordRow SatelliteSignalLayout = LayoutOf<SatelliteSignal>("SatelliteSignal", SatelliteSignalPointers);
+inline constexpr RecordRow SatelliteSignalLayout = LayoutOf<SatelliteSignal, SatelliteSignalMembers>("SatelliteSignal");
 static_assert(CoversEveryByte(SatelliteSignalLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SatelliteSignal> = SatelliteSignalLayout;
 
 inline constexpr MemberRow SatelliteInViewMembers[] = {
-    {{"number", "", "satellite number", NavframeU8, offsetof(SatelliteInView, number), sizeof(SatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("number"), false, 0},
-    {{"systemId", "", "system of the satellite", NavframeU8, offsetof(SatelliteInView, systemId), sizeof(SatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, KeyOf("systemId"), false, 0},
-    {{"azimuth", "deg", "from true north", NavframeU16, offsetof(SatelliteInView, azimuth), sizeof(SatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("azimuth"), false, 0},
-    {{"elevation", "deg", "above the horizon", NavframeU16, offsetof(SatelliteInView, elevation), sizeof(SatelliteInView::elevation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("elevation"), false, 0},
-    {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(SatelliteInView, used), sizeof(SatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("used"), false, 0},
-    {{"signalCount", "", "signals, 0 to 3", NavframeU8, offsetof(SatelliteInView, signalCount), sizeof(SatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("signalCount"), false, 0},
-    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(SatelliteInView, signals), sizeof(SatelliteInView::signals[0]), 3, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteSignalLayout}, KeyOf("signals"), false, 0},
+    {{"number", "", "satellite number", NavframeU8, offsetof(SatelliteInView, number), sizeof(SatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of the satellite", NavframeU8, offsetof(SatelliteInView, systemId), sizeof(SatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"azimuth", "deg", "from true north", NavframeU16, offsetof(SatelliteInView, azimuth), sizeof(SatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "above the horizon", NavframeU16, offsetof(SatelliteInView, elevation), sizeof(SatelliteInView::elevation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(SatelliteInView, used), sizeof(SatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signalCount", "", "signals, 0 to 3", NavframeU8, offsetof(SatelliteInView, signalCount), sizeof(SatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(SatelliteInView, signals), sizeof(SatelliteInView::signals[0]), 3, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteSignalLayout}, false, 0},
 };
-inline constexpr auto SatelliteInViewPointers = PointersTo(SatelliteInViewMembers);
-inline constexpr RecordRow SatelliteInViewLayout = LayoutOf<SatelliteInView>("SatelliteInView", SatelliteInViewPointers);
+inline constexpr RecordRow SatelliteInViewLayout = LayoutOf<SatelliteInView, SatelliteInViewMembers>("SatelliteInView");
 static_assert(CoversEveryByte(SatelliteInViewLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SatelliteInView> = SatelliteInViewLayout;
 
 inline constexpr MemberRow GsvRecordMembers[] = {
-    {{"tag", "", "the sentences stood behind tag blocks, which is never the case", NavframeU8, offsetof(GsvRecord, tag), sizeof(GsvRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(GsvRecord, timeText), sizeof(GsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(GsvRecord, gpsTime), sizeof(GsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"cycleComplete", "", "the cycle is complete, which it always is", NavframeU8, offsetof(GsvRecord, cycleComplete), sizeof(GsvRecord::cycleComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("cycleComplete"), false, 0},
-    {{"satelliteCount", "", "satellites, 0 to 96", NavframeU8, offsetof(GsvRecord, satelliteCount), sizeof(GsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satelliteCount"), false, 0},
-    {{"satellites", "", "numbered ones in order of appearance, then unnumbered ones", NavframeNested, offsetof(GsvRecord, satellites), sizeof(GsvRecord::satellites[0]), 96, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, KeyOf("satellites"), false, 0},
-    {{"padding0", "", "", NavframePadding, 2526, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentences stood behind tag blocks, which is never the case", NavframeU8, offsetof(GsvRecord, tag), sizeof(GsvRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(GsvRecord, timeText), sizeof(GsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(GsvRecord, gpsTime), sizeof(GsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"cycleComplete", "", "the cycle is complete, which it always is", NavframeU8, offsetof(GsvRecord, cycleComplete), sizeof(GsvRecord::cycleComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satelliteCount", "", "satellites, 0 to 96", NavframeU8, offsetof(GsvRecord, satelliteCount), sizeof(GsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "numbered ones in order of appearance, then unnumbered ones", NavframeNested, offsetof(GsvRecord, satellites), sizeof(GsvRecord::satellites[0]), 96, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 2526, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GsvRecordPointers = PointersTo(GsvRecordMembers);
-inline constexpr RecordRow GsvRecordLayout = LayoutOf<GsvRecord>("GsvRecord", GsvRecordPointers);
+inline constexpr RecordRow GsvRecordLayout = LayoutOf<GsvRecord, GsvRecordMembers>("GsvRecord");
 static_assert(CoversEveryByte(GsvRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GsvRecord> = GsvRecordLayout;
 
 inline constexpr NavframeValueName GllRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
 inline constexpr NavframeValueName GllRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {6, "estimated"},};
 inline constexpr MemberRow GllRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GllRecord, tag), sizeof(GllRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"padding0", "", "", NavframePadding, 1, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GllRecord, utc), sizeof(GllRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GllRecord, timeText), sizeof(GllRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"padding1", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GllRecord, gpsTime), sizeof(GllRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(GllRecord, longitude), sizeof(GllRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(GllRecord, latitude), sizeof(GllRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"status", "", "state of the data", NavframeU8, offsetof(GllRecord, status), sizeof(GllRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, GllRecordStatusValues, nullptr}, KeyOf("status"), false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(GllRecord, mode), sizeof(GllRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, GllRecordModeValues, nullptr}, KeyOf("mode"), false, 0},
-    {{"padding2", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GllRecord, tag), sizeof(GllRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 1, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GllRecord, utc), sizeof(GllRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GllRecord, timeText), sizeof(GllRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GllRecord, gpsTime), sizeof(GllRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(GllRecord, longitude), sizeof(GllRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(GllRecord, latitude), sizeof(GllRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state of the data", NavframeU8, offsetof(GllRecord, status), sizeof(GllRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, GllRecordStatusValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(GllRecord, mode), sizeof(GllRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, GllRecordModeValues, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GllRecordPointers = PointersTo(GllRecordMembers);
-inline constexpr RecordRow GllRecordLayout = LayoutOf<GllRecord>("GllRecord", GllRecordPointers);
+inline constexpr RecordRow GllRecordLayout = LayoutOf<GllRecord, GllRecordMembers>("GllRecord");
 static_assert(CoversEveryByte(GllRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GllRecord> = GllRecordLayout;
 
 inline constexpr MemberRow GstRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GstRecord, tag), sizeof(GstRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(GstRecord, timeText), sizeof(GstRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GstRecord, utc), sizeof(GstRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GstRecord, gpsTime), sizeof(GstRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"rangeRms", "m", "RMS of the range residuals", NavframeF32, offsetof(GstRecord, rangeRms), sizeof(GstRecord::rangeRms), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("rangeRms"), false, 0},
-    {{"ellipseSemiMajor", "m", "semi-major axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMajor), sizeof(GstRecord::ellipseSemiMajor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("ellipseSemiMajor"), false, 0},
-    {{"ellipseSemiMinor", "m", "semi-minor axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMinor), sizeof(GstRecord::ellipseSemiMinor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("ellipseSemiMinor"), false, 0},
-    {{"ellipseOrientation", "deg", "of the semi-major axis, from true north", NavframeF32, offsetof(GstRecord, ellipseOrientation), sizeof(GstRecord::ellipseOrientation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("ellipseOrientation"), false, 0},
-    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(GstRecord, latitudeDeviation), sizeof(GstRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitudeDeviation"), false, 0},
-    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(GstRecord, longitudeDeviation), sizeof(GstRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitudeDeviation"), false, 0},
-    {{"altitudeDeviation", "m", "standard deviation of the altitude", NavframeF32, offsetof(GstRecord, altitudeDeviation), sizeof(GstRecord::altitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("altitudeDeviation"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GstRecord, tag), sizeof(GstRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GstRecord, timeText), sizeof(GstRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GstRecord, utc), sizeof(GstRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GstRecord, gpsTime), sizeof(GstRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"rangeRms", "m", "RMS of the range residuals", NavframeF32, offsetof(GstRecord, rangeRms), sizeof(GstRecord::rangeRms), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseSemiMajor", "m", "semi-major axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMajor), sizeof(GstRecord::ellipseSemiMajor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseSemiMinor", "m", "semi-minor axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMinor), sizeof(GstRecord::ellipseSemiMinor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseOrientation", "deg", "of the semi-major axis, from true north", NavframeF32, offsetof(GstRecord, ellipseOrientation), sizeof(GstRecord::ellipseOrientation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(GstRecord, latitudeDeviation), sizeof(GstRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(GstRecord, longitudeDeviation), sizeof(GstRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitudeDeviation", "m", "standard deviation of the altitude", NavframeF32, offsetof(GstRecord, altitudeDeviation), sizeof(GstRecord::altitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GstRecordPointers = PointersTo(GstRecordMembers);
-inline constexpr RecordRow GstRecordLayout = LayoutOf<GstRecord>("GstRecord", GstRecordPointers);
+inline constexpr RecordRow GstRecordLayout = LayoutOf<GstRecord, GstRecordMembers>("GstRecord");
 static_assert(CoversEveryByte(GstRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GstRecord> = GstRecordLayout;
 
 inline constexpr MemberRow GbsRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GbsRecord, tag), sizeof(GbsRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(GbsRecord, timeText), sizeof(GbsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GbsRecord, utc), sizeof(GbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GbsRecord, gpsTime), sizeof(GbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"latitudeError", "m", "expected error of the latitude", NavframeF32, offsetof(GbsRecord, latitudeError), sizeof(GbsRecord::latitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitudeError"), false, 0},
-    {{"longitudeError", "m", "expected error of the longitude", NavframeF32, offsetof(GbsRecord, longitudeError), sizeof(GbsRecord::longitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitudeError"), false, 0},
-    {{"altitudeError", "m", "expected error of the altitude", NavframeF32, offsetof(GbsRecord, altitudeError), sizeof(GbsRecord::altitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("altitudeError"), false, 0},
-    {{"failedSatellite", "", "number of the most likely failed satellite", NavframeU32, offsetof(GbsRecord, failedSatellite), sizeof(GbsRecord::failedSatellite), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("failedSatellite"), false, 0},
-    {{"bias", "m", "estimated range bias of that satellite", NavframeF32, offsetof(GbsRecord, bias), sizeof(GbsRecord::bias), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("bias"), false, 0},
-    {{"biasDeviation", "m", "standard deviation of the bias", NavframeF32, offsetof(GbsRecord, biasDeviation), sizeof(GbsRecord::biasDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("biasDeviation"), false, 0},
-    {{"systemId", "", "system of that satellite", NavframeU8, offsetof(GbsRecord, systemId), sizeof(GbsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, KeyOf("systemId"), false, 0},
-    {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(GbsRecord, signalId), sizeof(GbsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("signalId"), false, 0},
-    {{"padding1", "", "", NavframePadding, 66, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GbsRecord, tag), sizeof(GbsRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GbsRecord, timeText), sizeof(GbsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GbsRecord, utc), sizeof(GbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GbsRecord, gpsTime), sizeof(GbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"latitudeError", "m", "expected error of the latitude", NavframeF32, offsetof(GbsRecord, latitudeError), sizeof(GbsRecord::latitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeError", "m", "expected error of the longitude", NavframeF32, offsetof(GbsRecord, longitudeError), sizeof(GbsRecord::longitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitudeError", "m", "expected error of the altitude", NavframeF32, offsetof(GbsRecord, altitudeError), sizeof(GbsRecord::altitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"failedSatellite", "", "number of the most likely failed satellite", NavframeU32, offsetof(GbsRecord, failedSatellite), sizeof(GbsRecord::failedSatellite), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"bias", "m", "estimated range bias of that satellite", NavframeF32, offsetof(GbsRecord, bias), sizeof(GbsRecord::bias), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"biasDeviation", "m", "standard deviation of the bias", NavframeF32, offsetof(GbsRecord, biasDeviation), sizeof(GbsRecord::biasDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of that satellite", NavframeU8, offsetof(GbsRecord, systemId), sizeof(GbsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(GbsRecord, signalId), sizeof(GbsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 66, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GbsRecordPointers = PointersTo(GbsRecordMembers);
-inline constexpr RecordRow GbsRecordLayout = LayoutOf<GbsRecord>("GbsRecord", GbsRecordPointers);
+inline constexpr RecordRow GbsRecordLayout = LayoutOf<GbsRecord, GbsRecordMembers>("GbsRecord");
 static_assert(CoversEveryByte(GbsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GbsRecord> = GbsRecordLayout;
 
 inline constexpr NavframeValueName VtgRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {6, "estimated"},};
 inline constexpr MemberRow VtgRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(VtgRecord, tag), sizeof(VtgRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(VtgRecord, timeText), sizeof(VtgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"padding0", "", "", NavframePadding, 18, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(VtgRecord, gpsTime), sizeof(VtgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"courseTrue", "deg", "course over ground from true north", NavframeF32, offsetof(VtgRecord, courseTrue), sizeof(VtgRecord::courseTrue), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("courseTrue"), false, 0},
-    {{"courseMagnetic", "deg", "course over ground from magnetic north", NavframeF32, offsetof(VtgRecord, courseMagnetic), sizeof(VtgRecord::courseMagnetic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("courseMagnetic"), false, 0},
-    {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKnots), sizeof(VtgRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("speedKnots"), false, 0},
-    {{"speedKmh", "km/h", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKmh), sizeof(VtgRecord::speedKmh), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("speedKmh"), false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(VtgRecord, mode), sizeof(VtgRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, VtgRecordModeValues, nullptr}, KeyOf("mode"), false, 0},
-    {{"padding1", "", "", NavframePadding, 45, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(VtgRecord, tag), sizeof(VtgRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(VtgRecord, timeText), sizeof(VtgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 18, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(VtgRecord, gpsTime), sizeof(VtgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"courseTrue", "deg", "course over ground from true north", NavframeF32, offsetof(VtgRecord, courseTrue), sizeof(VtgRecord::courseTrue), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"courseMagnetic", "deg", "course over ground from magnetic north", NavframeF32, offsetof(VtgRecord, courseMagnetic), sizeof(VtgRecord::courseMagnetic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKnots), sizeof(VtgRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedKmh", "km/h", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKmh), sizeof(VtgRecord::speedKmh), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(VtgRecord, mode), sizeof(VtgRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, VtgRecordModeValues, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 45, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto VtgRecordPointers = PointersTo(VtgRecordMembers);
-inline constexpr RecordRow VtgRecordLayout = LayoutOf<VtgRecord>("VtgRecord", VtgRecordPointers);
+inline constexpr RecordRow VtgRecordLayout = LayoutOf<VtgRecord, VtgRecordMembers>("VtgRecord");
 static_assert(CoversEveryByte(VtgRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<VtgRecord> = VtgRecordLayout;
 
 inline constexpr MemberRow ZdaRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ZdaRecord, tag), sizeof(ZdaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(ZdaRecord, timeText), sizeof(ZdaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(ZdaRecord, utc), sizeof(ZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(ZdaRecord, gpsTime), sizeof(ZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"zoneHours", "h", "local zone, modulo 256 (-5 is 251)", NavframeU8, offsetof(ZdaRecord, zoneHours), sizeof(ZdaRecord::zoneHours), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("zoneHours"), false, 0},
-    {{"zoneMinutes", "min", "local zone", NavframeU8, offsetof(ZdaRecord, zoneMinutes), sizeof(ZdaRecord::zoneMinutes), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("zoneMinutes"), false, 0},
-    {{"padding1", "", "", NavframePadding, 42, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ZdaRecord, tag), sizeof(ZdaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(ZdaRecord, timeText), sizeof(ZdaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(ZdaRecord, utc), sizeof(ZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(ZdaRecord, gpsTime), sizeof(ZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"zoneHours", "h", "local zone, modulo 256 (-5 is 251)", NavframeU8, offsetof(ZdaRecord, zoneHours), sizeof(ZdaRecord::zoneHours), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"zoneMinutes", "min", "local zone", NavframeU8, offsetof(ZdaRecord, zoneMinutes), sizeof(ZdaRecord::zoneMinutes), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 42, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto ZdaRecordPointers = PointersTo(ZdaRecordMembers);
-inline constexpr RecordRow ZdaRecordLayout = LayoutOf<ZdaRecord>("ZdaRecord", ZdaRecordPointers);
+inline constexpr RecordRow ZdaRecordLayout = LayoutOf<ZdaRecord, ZdaRecordMembers>("ZdaRecord");
 static_assert(CoversEveryByte(ZdaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ZdaRecord> = ZdaRecordLayout;
 
 inline constexpr MemberRow NavPosRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavPosRecord, gpsTime), sizeof(NavPosRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavPosRecord, timeText), sizeof(NavPosRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavPosRecord, solutionStatus), sizeof(NavPosRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("solutionStatus"), false, 0},
-    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavPosRecord, positionType), sizeof(NavPosRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("positionType"), false, 0},
-    {{"datum", "", "datum", NavframeI32, offsetof(NavPosRecord, datum), sizeof(NavPosRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("datum"), false, 0},
-    {{"stationNumber", "", "reference station", NavframeI32, offsetof(NavPosRecord, stationNumber), sizeof(NavPosRecord::stationNumber), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("stationNumber"), false, 0},
-    {{"text", "", "text of at most 15 characters", NavframeRecordText, offsetof(NavPosRecord, text), sizeof(NavPosRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("text"), false, 0},
-    {{"status", "", "state", NavframeU8, offsetof(NavPosRecord, status), sizeof(NavPosRecord::status), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("status"), false, 0},
-    {{"count", "", "count", NavframeU8, offsetof(NavPosRecord, count), sizeof(NavPosRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"padding0", "", "", NavframePadding, 74, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"x", "m", "Cartesian coordinate X", NavframeF64, offsetof(NavPosRecord, x), sizeof(NavPosRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("x"), false, 0},
-    {{"y", "m", "Cartesian coordinate Y", NavframeF64, offsetof(NavPosRecord, y), sizeof(NavPosRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("y"), false, 0},
-    {{"z", "m", "Cartesian coordinate Z", NavframeF64, offsetof(NavPosRecord, z), sizeof(NavPosRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("z"), false, 0},
-    {{"sigmaX", "m", "standard deviation of X", NavframeF64, offsetof(NavPosRecord, sigmaX), sizeof(NavPosRecord::sigmaX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("sigmaX"), false, 0},
-    {{"sigmaY", "m", "standard deviation of Y", NavframeF64, offsetof(NavPosRecord, sigmaY), sizeof(NavPosRecord::sigmaY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("sigmaY"), false, 0},
-    {{"sigmaZ", "m", "standard deviation of Z", NavframeF64, offsetof(NavPosRecord, sigmaZ), sizeof(NavPosRecord::sigmaZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("sigmaZ"), false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavPosRecord, gpsTime), sizeof(NavPosRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavPosRecord, timeText), sizeof(NavPosRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavPosRecord, solutionStatus), sizeof(NavPosRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavPosRecord, positionType), sizeof(NavPosRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"datum", "", "datum", NavframeI32, offsetof(NavPosRecord, datum), sizeof(NavPosRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"stationNumber", "", "reference station", NavframeI32, offsetof(NavPosRecord, stationNumber), sizeof(NavPosRecord::stationNumber), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"text", "", "text of at most 15 characters", NavframeRecordText, offsetof(NavPosRecord, text), sizeof(NavPosRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state", NavframeU8, offsetof(NavPosRecord, status), sizeof(NavPosRecord::status), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "count", NavframeU8, offsetof(NavPosRecord, count), sizeof(NavPosRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 74, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "Cartesian coordinate X", NavframeF64, offsetof(NavPosRecord, x), sizeof(NavPosRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "Cartesian coordinate Y", NavframeF64, offsetof(NavPosRecord, y), sizeof(NavPosRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "Cartesian coordinate Z", NavframeF64, offsetof(NavPosRecord, z), sizeof(NavPosRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sigmaX", "m", "standard deviation of X", NavframeF64, offsetof(NavPosRecord, sigmaX), sizeof(NavPosRecord::sigmaX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sigmaY", "m", "standard deviation of Y", NavframeF64, offsetof(NavPosRecord, sigmaY), sizeof(NavPosRecord::sigmaY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sigmaZ", "m", "standard deviation of Z", NavframeF64, offsetof(NavPosRecord, sigmaZ), sizeof(NavPosRecord::sigmaZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavPosRecordPointers = PointersTo(NavPosRecordMembers);
-inline constexpr RecordRow NavPosRecordLayout = LayoutOf<NavPosRecord>("NavPosRecord", NavPosRecordPointers);
+inline constexpr RecordRow NavPosRecordLayout = LayoutOf<NavPosRecord, NavPosRecordMembers>("NavPosRecord");
 static_assert(CoversEveryByte(NavPosRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavPosRecord> = NavPosRecordLayout;
 
 inline constexpr MemberRow NavVelRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavVelRecord, gpsTime), sizeof(NavVelRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavVelRecord, timeText), sizeof(NavVelRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavVelRecord, solutionStatus), sizeof(NavVelRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("solutionStatus"), false, 0},
-    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavVelRecord, positionType), sizeof(NavVelRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("positionType"), false, 0},
-    {{"datum", "", "datum", NavframeI32, offsetof(NavVelRecord, datum), sizeof(NavVelRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("datum"), false, 0},
-    {{"stationNumber", "", "reference station", NavframeI32, offsetof(NavVelRecord, stationNumber), sizeof(NavVelRecord::stationNumber), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("stationNumber"), false, 0},
-    {{"text", "", "text of at most 15 characters", NavframeRecordText, offsetof(NavVelRecord, text), sizeof(NavVelRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("text"), false, 0},
-    {{"status", "", "state", NavframeU8, offsetof(NavVelRecord, status), sizeof(NavVelRecord::status), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("status"), false, 0},
-    {{"count", "", "count", NavframeU8, offsetof(NavVelRecord, count), sizeof(NavVelRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"padding0", "", "", NavframePadding, 74, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(NavVelRecord, velocity), sizeof(NavVelRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("velocity"), false, 0},
-    {{"speedAccuracy", "m/s", "accuracy of the velocity", NavframeF64, offsetof(NavVelRecord, speedAccuracy), sizeof(NavVelRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("speedAccuracy"), false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavVelRecord, gpsTime), sizeof(NavVelRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavVelRecord, timeText), sizeof(NavVelRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavVelRecord, solutionStatus), sizeof(NavVelRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavVelRecord, positionType), sizeof(NavVelRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"datum", "", "datum", NavframeI32, offsetof(NavVelRecord, datum), sizeof(NavVelRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"stationNumber", "", "reference station", NavframeI32, offsetof(NavVelRecord, stationNumber), sizeof(NavVelRecord::stationNumber), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"text", "", "text of at most 15 characters", NavframeRecordText, offsetof(NavVelRecord, text), sizeof(NavVelRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state", NavframeU8, offsetof(NavVelRecord, status), sizeof(NavVelRecord::status), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "count", NavframeU8, offsetof(NavVelRecord, count), sizeof(NavVelRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 74, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(NavVelRecord, velocity), sizeof(NavVelRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedAccuracy", "m/s", "accuracy of the velocity", NavframeF64, offsetof(NavVelRecord, speedAccuracy), sizeof(NavVelRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavVelRecordPointers = PointersTo(NavVelRecordMembers);
-inline constexpr RecordRow NavVelRecordLayout = LayoutOf<NavVelRecord>("NavVelRecord", NavVelRecordPointers);
+inline constexpr RecordRow NavVelRecordLayout = LayoutOf<NavVelRecord, NavVelRecordMembers>("NavVelRecord");
 static_assert(CoversEveryByte(NavVelRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavVelRecord> = NavVelRecordLayout;
 
 inline constexpr MemberRow NavTimeGroupMembers[] = {
-    {{"status", "", "state of the time", NavframeI32, offsetof(NavTimeGroup, status), sizeof(NavTimeGroup::status), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("status"), false, 0},
-    {{"flag", "", "flag of the time", NavframeU8, offsetof(NavTimeGroup, flag), sizeof(NavTimeGroup::flag), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("flag"), false, 0},
-    {{"padding0", "", "", NavframePadding, 5, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"seconds", "s", "the time", NavframeF64, offsetof(NavTimeGroup, seconds), sizeof(NavTimeGroup::seconds), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("seconds"), false, 0},
+    {{"status", "", "state of the time", NavframeI32, offsetof(NavTimeGroup, status), sizeof(NavTimeGroup::status), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"flag", "", "flag of the time", NavframeU8, offsetof(NavTimeGroup, flag), sizeof(NavTimeGroup::flag), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 5, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"seconds", "s", "the time", NavframeF64, offsetof(NavTimeGroup, seconds), sizeof(NavTimeGroup::seconds), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavTimeGroupPointers = PointersTo(NavTimeGroupMembers);
-inline constexpr RecordRow NavTimeGroupLayout = LayoutOf<NavTimeGroup>("NavTimeGroup", NavTimeGroupPointers);
+inline constexpr RecordRow NavTimeGroupLayout = LayoutOf<NavTimeGroup, NavTimeGroupMembers>("NavTimeGroup");
 static_assert(CoversEveryByte(NavTimeGroupLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavTimeGroup> = NavTimeGroupLayout;
 
 inline constexpr MemberRow NavTimeRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavTimeRecord, gpsTime), sizeof(NavTimeRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"groups", "", "times with their states", NavframeNested, offsetof(NavTimeRecord, groups), sizeof(NavTimeRecord::groups[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &NavTimeGroupLayout}, KeyOf("groups"), false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavTimeRecord, gpsTime), sizeof(NavTimeRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"groups", "", "times with their states", NavframeNested, offsetof(NavTimeRecord, groups), sizeof(NavTimeRecord::groups[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &NavTimeGroupLayout}, false, 0},
 };
-inline constexpr auto NavTimeRecordPointers = PointersTo(NavTimeRecordMembers);
-inline constexpr RecordRow NavTimeRecordLayout = LayoutOf<NavTimeRecord>("NavTimeRecord", NavTimeRecordPointers);
+inline constexpr RecordRow NavTimeRecordLayout = LayoutOf<NavTimeRecord, NavTimeRecordMembers>("NavTimeRecord");
 static_assert(CoversEveryByte(NavTimeRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavTimeRecord> = NavTimeRecordLayout;
 
 inline constexpr NavframeValueName NavAccRecordStatusValues[] = {{0, "not valid"}, {1, "valid"},};
 inline constexpr MemberRow NavAccRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavAccRecord, gpsTime), sizeof(NavAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"timeText", "", "time field", NavframeText, offsetof(NavAccRecord, timeText), sizeof(NavAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(NavAccRecord, utc), sizeof(NavAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"status", "", "state", NavframeU8, offsetof(NavAccRecord, status), sizeof(NavAccRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 2, NavAccRecordStatusValues, nullptr}, KeyOf("status"), false, 0},
-    {{"padding0", "", "", NavframePadding, 37, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"values", "", "accuracies", NavframeU32, offsetof(NavAccRecord, values), sizeof(NavAccRecord::values[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavAccRecord, gpsTime), sizeof(NavAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(NavAccRecord, timeText), sizeof(NavAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(NavAccRecord, utc), sizeof(NavAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"status", "", "state", NavframeU8, offsetof(NavAccRecord, status), sizeof(NavAccRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 2, NavAccRecordStatusValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 37, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"values", "", "accuracies", NavframeU32, offsetof(NavAccRecord, values), sizeof(NavAccRecord::values[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavAccRecordPointers = PointersTo(NavAccRecordMembers);
-inline constexpr RecordRow NavAccRecordLayout = LayoutOf<NavAccRecord>("NavAccRecord", NavAccRecordPointers);
+inline constexpr RecordRow NavAccRecordLayout = LayoutOf<NavAccRecord, NavAccRecordMembers>("NavAccRecord");
 static_assert(CoversEveryByte(NavAccRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavAccRecord> = NavAccRecordLayout;
 
 inline constexpr MemberRow PNavMsgRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(PNavMsgRecord, gpsTime), sizeof(PNavMsgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(PNavMsgRecord, timeText), sizeof(PNavMsgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"head", "", "first two numbers", NavframeU8, offsetof(PNavMsgRecord, head), sizeof(PNavMsgRecord::head[0]), 2, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("head"), true, 255},
-    {{"values", "", "diagnostic bytes", NavframeU8, offsetof(PNavMsgRecord, values), sizeof(PNavMsgRecord::values[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("values"), true, 255},
-    {{"padding0", "", "", NavframePadding, 41, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(PNavMsgRecord, gpsTime), sizeof(PNavMsgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(PNavMsgRecord, timeText), sizeof(PNavMsgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"head", "", "first two numbers", NavframeU8, offsetof(PNavMsgRecord, head), sizeof(PNavMsgRecord::head[0]), 2, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
+    {{"values", "", "diagnostic bytes", NavframeU8, offsetof(PNavMsgRecord, values), sizeof(PNavMsgRecord::values[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
+    {{"padding0", "", "", NavframePadding, 41, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto PNavMsgRecordPointers = PointersTo(PNavMsgRecordMembers);
-inline constexpr RecordRow PNavMsgRecordLayout = LayoutOf<PNavMsgRecord>("PNavMsgRecord", PNavMsgRecordPointers);
+inline constexpr RecordRow PNavMsgRecordLayout = LayoutOf<PNavMsgRecord, PNavMsgRecordMembers>("PNavMsgRecord");
 static_assert(CoversEveryByte(PNavMsgRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<PNavMsgRecord> = PNavMsgRecordLayout;
 
 inline constexpr MemberRow CwOutRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(CwOutRecord, gpsTime), sizeof(CwOutRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(CwOutRecord, timeText), sizeof(CwOutRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"values", "", "interference values", NavframeI32, offsetof(CwOutRecord, values), sizeof(CwOutRecord::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("values"), true, -1},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(CwOutRecord, gpsTime), sizeof(CwOutRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(CwOutRecord, timeText), sizeof(CwOutRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"values", "", "interference values", NavframeI32, offsetof(CwOutRecord, values), sizeof(CwOutRecord::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, -1},
 };
-inline constexpr auto CwOutRecordPointers = PointersTo(CwOutRecordMembers);
-inline constexpr RecordRow CwOutRecordLayout = LayoutOf<CwOutRecord>("CwOutRecord", CwOutRecordPointers);
+inline constexpr RecordRow CwOutRecordLayout = LayoutOf<CwOutRecord, CwOutRecordMembers>("CwOutRecord");
 static_assert(CoversEveryByte(CwOutRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<CwOutRecord> = CwOutRecordLayout;
 
 inline constexpr MemberRow GyoAccRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GyoAccRecord, tag), sizeof(GyoAccRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field, nothing in 71", NavframeText, offsetof(GyoAccRecord, timeText), sizeof(GyoAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(GyoAccRecord, utc), sizeof(GyoAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(GyoAccRecord, gpsTime), sizeof(GyoAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"gyro", "", "angular rates about x, y and z", NavframeF64, offsetof(GyoAccRecord, gyro), sizeof(GyoAccRecord::gyro[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("gyro"), false, 0},
-    {{"acceleration", "", "accelerations along x, y and z", NavframeF64, offsetof(GyoAccRecord, acceleration), sizeof(GyoAccRecord::acceleration[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("acceleration"), false, 0},
-    {{"spare", "", "reserved, always unknown", NavframeF64, offsetof(GyoAccRecord, spare), sizeof(GyoAccRecord::spare[0]), 2, -1, NavframeReserved, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("spare"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GyoAccRecord, tag), sizeof(GyoAccRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field, nothing in 71", NavframeText, offsetof(GyoAccRecord, timeText), sizeof(GyoAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(GyoAccRecord, utc), sizeof(GyoAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(GyoAccRecord, gpsTime), sizeof(GyoAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gyro", "", "angular rates about x, y and z", NavframeF64, offsetof(GyoAccRecord, gyro), sizeof(GyoAccRecord::gyro[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"acceleration", "", "accelerations along x, y and z", NavframeF64, offsetof(GyoAccRecord, acceleration), sizeof(GyoAccRecord::acceleration[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"spare", "", "reserved, always unknown", NavframeF64, offsetof(GyoAccRecord, spare), sizeof(GyoAccRecord::spare[0]), 2, -1, NavframeReserved, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GyoAccRecordPointers = PointersTo(GyoAccRecordMembers);
-inline constexpr RecordRow GyoAccRecordLayout = LayoutOf<GyoAccRecord>("GyoAccRecord", GyoAccRecordPointers);
+inline constexpr RecordRow GyoAccRecordLayout = LayoutOf<GyoAccRecord, GyoAccRecordMembers>("GyoAccRecord");
 static_assert(CoversEveryByte(GyoAccRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GyoAccRecord> = GyoAccRecordLayout;
 
 inline constexpr MemberRow SnrStatRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(SnrStatRecord, tag), sizeof(SnrStatRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(SnrStatRecord, timeText), sizeof(SnrStatRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(SnrStatRecord, gpsTime), sizeof(SnrStatRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"count", "", "first number", NavframeU32, offsetof(SnrStatRecord, count), sizeof(SnrStatRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"state", "", "second number", NavframeU8, offsetof(SnrStatRecord, state), sizeof(SnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("state"), false, 0},
-    {{"levels", "", "signed numbers", NavframeI8, offsetof(SnrStatRecord, levels), sizeof(SnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("levels"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(SnrStatRecord, tag), sizeof(SnrStatRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(SnrStatRecord, timeText), sizeof(SnrStatRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(SnrStatRecord, gpsTime), sizeof(SnrStatRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"count", "", "first number", NavframeU32, offsetof(SnrStatRecord, count), sizeof(SnrStatRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"state", "", "second number", NavframeU8, offsetof(SnrStatRecord, state), sizeof(SnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"levels", "", "signed numbers", NavframeI8, offsetof(SnrStatRecord, levels), sizeof(SnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto SnrStatRecordPointers = PointersTo(SnrStatRecordMembers);
-inline constexpr RecordRow SnrStatRecordLayout = LayoutOf<SnrStatRecord>("SnrStatRecord", SnrStatRecordPointers);
+inline constexpr RecordRow SnrStatRecordLayout = LayoutOf<SnrStatRecord, SnrStatRecordMembers>("SnrStatRecord");
 static_assert(CoversEveryByte(SnrStatRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SnrStatRecord> = SnrStatRecordLayout;
 
 inline constexpr MemberRow NavAttRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(NavAttRecord, tag), sizeof(NavAttRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field, hhmmss.ss in 73", NavframeText, offsetof(NavAttRecord, timeText), sizeof(NavAttRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(NavAttRecord, utc), sizeof(NavAttRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(NavAttRecord, gpsTime), sizeof(NavAttRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"values", "", "angles and their deviations", NavframeF64, offsetof(NavAttRecord, values), sizeof(NavAttRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
-    {{"spare", "", "reserved", NavframeU8, offsetof(NavAttRecord, spare), sizeof(NavAttRecord::spare[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("spare"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(NavAttRecord, tag), sizeof(NavAttRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field, hhmmss.ss in 73", NavframeText, offsetof(NavAttRecord, timeText), sizeof(NavAttRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(NavAttRecord, utc), sizeof(NavAttRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(NavAttRecord, gpsTime), sizeof(NavAttRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"values", "", "angles and their deviations", NavframeF64, offsetof(NavAttRecord, values), sizeof(NavAttRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"spare", "", "reserved", NavframeU8, offsetof(NavAttRecord, spare), sizeof(NavAttRecord::spare[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavAttRecordPointers = PointersTo(NavAttRecordMembers);
-inline constexpr RecordRow NavAttRecordLayout = LayoutOf<NavAttRecord>("NavAttRecord", NavAttRecordPointers);
+inline constexpr RecordRow NavAttRecordLayout = LayoutOf<NavAttRecord, NavAttRecordMembers>("NavAttRecord");
 static_assert(CoversEveryByte(NavAttRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavAttRecord> = NavAttRecordLayout;
 
 inline constexpr MemberRow ImuRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ImuRecord, tag), sizeof(ImuRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field, hhmmss.ss in 74", NavframeText, offsetof(ImuRecord, timeText), sizeof(ImuRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(ImuRecord, utc), sizeof(ImuRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(ImuRecord, gpsTime), sizeof(ImuRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"text", "", "texts", NavframeText, offsetof(ImuRecord, text), sizeof(ImuRecord::text[0]), 2, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("text"), false, 0},
-    {{"values", "", "measurements", NavframeF64, offsetof(ImuRecord, values), sizeof(ImuRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ImuRecord, tag), sizeof(ImuRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field, hhmmss.ss in 74", NavframeText, offsetof(ImuRecord, timeText), sizeof(ImuRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(ImuRecord, utc), sizeof(ImuRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(ImuRecord, gpsTime), sizeof(ImuRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"text", "", "texts", NavframeText, offsetof(ImuRecord, text), sizeof(ImuRecord::text[0]), 2, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"values", "", "measurements", NavframeF64, offsetof(ImuRecord, values), sizeof(ImuRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto ImuRecordPointers = PointersTo(ImuRecordMembers);
-inline constexpr RecordRow ImuRecordLayout = LayoutOf<ImuRecord>("ImuRecord", ImuRecordPointers);
+inline constexpr RecordRow ImuRecordLayout = LayoutOf<ImuRecord, ImuRecordMembers>("ImuRecord");
 static_assert(CoversEveryByte(ImuRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ImuRecord> = ImuRecordLayout;
 
 inline constexpr MemberRow InsPvaRecordMembers[] = {
-    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(InsPvaRecord, tag), sizeof(InsPvaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tag"), false, 0},
-    {{"timeText", "", "time field, hhmmss.ss in 75", NavframeText, offsetof(InsPvaRecord, timeText), sizeof(InsPvaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"dateText", "", "date field, ddmmyy in 75", NavframeText, offsetof(InsPvaRecord, dateText), sizeof(InsPvaRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("dateText"), false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(InsPvaRecord, utc), sizeof(InsPvaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, KeyOf("utc"), false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(InsPvaRecord, gpsTime), sizeof(InsPvaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, KeyOf("gpsTime"), false, 0},
-    {{"latitude", "deg", "north positive; in 75 the one 64-bit value of the message, in units of 2^-32", NavframeF64, offsetof(InsPvaRecord, latitude), sizeof(InsPvaRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(InsPvaRecord, longitude), sizeof(InsPvaRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"height", "m", "height", NavframeF64, offsetof(InsPvaRecord, height), sizeof(InsPvaRecord::height), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("height"), false, 0},
-    {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(InsPvaRecord, velocity), sizeof(InsPvaRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("velocity"), false, 0},
-    {{"attitude", "deg", "angles of the attitude", NavframeF32, offsetof(InsPvaRecord, attitude), sizeof(InsPvaRecord::attitude[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("attitude"), false, 0},
-    {{"spare", "", "reserved", NavframeU8, offsetof(InsPvaRecord, spare), sizeof(InsPvaRecord::spare[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("spare"), false, 0},
+    {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(InsPvaRecord, tag), sizeof(InsPvaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "time field, hhmmss.ss in 75", NavframeText, offsetof(InsPvaRecord, timeText), sizeof(InsPvaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dateText", "", "date field, ddmmyy in 75", NavframeText, offsetof(InsPvaRecord, dateText), sizeof(InsPvaRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(InsPvaRecord, utc), sizeof(InsPvaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(InsPvaRecord, gpsTime), sizeof(InsPvaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"latitude", "deg", "north positive; in 75 the one 64-bit value of the message, in units of 2^-32", NavframeF64, offsetof(InsPvaRecord, latitude), sizeof(InsPvaRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(InsPvaRecord, longitude), sizeof(InsPvaRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "height", NavframeF64, offsetof(InsPvaRecord, height), sizeof(InsPvaRecord::height), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(InsPvaRecord, velocity), sizeof(InsPvaRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"attitude", "deg", "angles of the attitude", NavframeF32, offsetof(InsPvaRecord, attitude), sizeof(InsPvaRecord::attitude[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"spare", "", "reserved", NavframeU8, offsetof(InsPvaRecord, spare), sizeof(InsPvaRecord::spare[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto InsPvaRecordPointers = PointersTo(InsPvaRecordMembers);
-inline constexpr RecordRow InsPvaRecordLayout = LayoutOf<InsPvaRecord>("InsPvaRecord", InsPvaRecordPointers);
+inline constexpr RecordRow InsPvaRecordLayout = LayoutOf<InsPvaRecord, InsPvaRecordMembers>("InsPvaRecord");
 static_assert(CoversEveryByte(InsPvaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<InsPvaRecord> = InsPvaRecordLayout;
 
 inline constexpr MemberRow StationPositionRecordMembers[] = {
-    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(StationPositionRecord, tow), sizeof(StationPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), true, 0},
-    {{"stationId", "", "reference station, 0 to 4095", NavframeU32, offsetof(StationPositionRecord, stationId), sizeof(StationPositionRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"itrfYear", "", "ITRF realization year", NavframeU8, offsetof(StationPositionRecord, itrfYear), sizeof(StationPositionRecord::itrfYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("itrfYear"), false, 0},
-    {{"gps", "", "the station serves GPS", NavframeU8, offsetof(StationPositionRecord, gps), sizeof(StationPositionRecord::gps), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("gps"), false, 0},
-    {{"glonass", "", "the station serves GLONASS", NavframeU8, offsetof(StationPositionRecord, glonass), sizeof(StationPositionRecord::glonass), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("glonass"), false, 0},
-    {{"galileo", "", "the station serves Galileo", NavframeU8, offsetof(StationPositionRecord, galileo), sizeof(StationPositionRecord::galileo), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("galileo"), false, 0},
-    {{"referenceStation", "", "a computed (virtual) station, not a physical one", NavframeU8, offsetof(StationPositionRecord, referenceStation), sizeof(StationPositionRecord::referenceStation), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("referenceStation"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(StationPositionRecord, reserved), sizeof(StationPositionRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"x", "0.0001 m", "ECEF X without its sign", NavframeI64, offsetof(StationPositionRecord, x), sizeof(StationPositionRecord::x), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("x"), false, 0},
-    {{"y", "0.0001 m", "ECEF Y without its sign", NavframeI64, offsetof(StationPositionRecord, y), sizeof(StationPositionRecord::y), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("y"), false, 0},
-    {{"z", "0.0001 m", "ECEF Z without its sign", NavframeI64, offsetof(StationPositionRecord, z), sizeof(StationPositionRecord::z), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("z"), false, 0},
+    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(StationPositionRecord, tow), sizeof(StationPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU32, offsetof(StationPositionRecord, stationId), sizeof(StationPositionRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"itrfYear", "", "ITRF realization year", NavframeU8, offsetof(StationPositionRecord, itrfYear), sizeof(StationPositionRecord::itrfYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gps", "", "the station serves GPS", NavframeU8, offsetof(StationPositionRecord, gps), sizeof(StationPositionRecord::gps), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonass", "", "the station serves GLONASS", NavframeU8, offsetof(StationPositionRecord, glonass), sizeof(StationPositionRecord::glonass), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"galileo", "", "the station serves Galileo", NavframeU8, offsetof(StationPositionRecord, galileo), sizeof(StationPositionRecord::galileo), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"referenceStation", "", "a computed (virtual) station, not a physical one", NavframeU8, offsetof(StationPositionRecord, referenceStation), sizeof(StationPositionRecord::referenceStation), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(StationPositionRecord, reserved), sizeof(StationPositionRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "0.0001 m", "ECEF X without its sign", NavframeI64, offsetof(StationPositionRecord, x), sizeof(StationPositionRecord::x), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "0.0001 m", "ECEF Y without its sign", NavframeI64, offsetof(StationPositionRecord, y), sizeof(StationPositionRecord::y), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "0.0001 m", "ECEF Z without its sign", NavframeI64, offsetof(StationPositionRecord, z), sizeof(StationPositionRecord::z), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto StationPositionRecordPointers = PointersTo(StationPositionRecordMembers);
-inline constexpr RecordRow StationPositionRecordLayout = LayoutOf<StationPositionRecord>("StationPositionRecord", StationPositionRecordPointers);
+inline constexpr RecordRow StationPositionRecordLayout = LayoutOf<StationPositionRecord, StationPositionRecordMembers>("StationPositionRecord");
 static_assert(CoversEveryByte(StationPositionRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<StationPositionRecord> = StationPositionRecordLayout;
 
 inline constexpr MemberRow MessageAnnouncementMembers[] = {
-    {{"messageId", "", "message number", NavframeU16, offsetof(MessageAnnouncement, messageId), sizeof(MessageAnnouncement::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("messageId"), false, 0},
-    {{"synchronous", "", "sent at fixed times", NavframeU16, offsetof(MessageAnnouncement, synchronous), sizeof(MessageAnnouncement::synchronous), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("synchronous"), false, 0},
-    {{"interval", "0.1 s", "interval of transmission", NavframeU16, offsetof(MessageAnnouncement, interval), sizeof(MessageAnnouncement::interval), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("interval"), false, 0},
+    {{"messageId", "", "message number", NavframeU16, offsetof(MessageAnnouncement, messageId), sizeof(MessageAnnouncement::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"synchronous", "", "sent at fixed times", NavframeU16, offsetof(MessageAnnouncement, synchronous), sizeof(MessageAnnouncement::synchronous), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"interval", "0.1 s", "interval of transmission", NavframeU16, offsetof(MessageAnnouncement, interval), sizeof(MessageAnnouncement::interval), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto MessageAnnouncementPointers = PointersTo(MessageAnnouncementMembers);
-inline constexpr RecordRow MessageAnnouncementLayout = LayoutOf<MessageAnnouncement>("MessageAnnouncement", MessageAnnouncementPointers);
+inline constexpr RecordRow MessageAnnouncementLayout = LayoutOf<MessageAnnouncement, MessageAnnouncementMembers>("MessageAnnouncement");
 static_assert(CoversEveryByte(MessageAnnouncementLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<MessageAnnouncement> = MessageAnnouncementLayout;
 
 inline constexpr MemberRow SystemParametersRecordMembers[] = {
-    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(SystemParametersRecord, tow), sizeof(SystemParametersRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), true, 0},
-    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(SystemParametersRecord, stationId), sizeof(SystemParametersRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"modifiedJulianDay", "d", "modified Julian day", NavframeU16, offsetof(SystemParametersRecord, modifiedJulianDay), sizeof(SystemParametersRecord::modifiedJulianDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("modifiedJulianDay"), false, 0},
-    {{"secondsOfDay", "s", "second of the day, UTC", NavframeU32, offsetof(SystemParametersRecord, secondsOfDay), sizeof(SystemParametersRecord::secondsOfDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("secondsOfDay"), false, 0},
-    {{"count", "", "announcements, 0 to 31", NavframeU8, offsetof(SystemParametersRecord, count), sizeof(SystemParametersRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"leapSeconds", "s", "GPS time less UTC", NavframeU8, offsetof(SystemParametersRecord, leapSeconds), sizeof(SystemParametersRecord::leapSeconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("leapSeconds"), false, 0},
-    {{"announcements", "", "messages that the station sends", NavframeNested, offsetof(SystemParametersRecord, announcements), sizeof(SystemParametersRecord::announcements[0]), 31, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &MessageAnnouncementLayout}, KeyOf("announcements"), false, 0},
+    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(SystemParametersRecord, tow), sizeof(SystemParametersRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(SystemParametersRecord, stationId), sizeof(SystemParametersRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"modifiedJulianDay", "d", "modified Julian day", NavframeU16, offsetof(SystemParametersRecord, modifiedJulianDay), sizeof(SystemParametersRecord::modifiedJulianDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"secondsOfDay", "s", "second of the day, UTC", NavframeU32, offsetof(SystemParametersRecord, secondsOfDay), sizeof(SystemParametersRecord::secondsOfDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "announcements, 0 to 31", NavframeU8, offsetof(SystemParametersRecord, count), sizeof(SystemParametersRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"leapSeconds", "s", "GPS time less UTC", NavframeU8, offsetof(SystemParametersRecord, leapSeconds), sizeof(SystemParametersRecord::leapSeconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"announcements", "", "messages that the station sends", NavframeNested, offsetof(SystemParametersRecord, announcements), sizeof(SystemParametersRecord::announcements[0]), 31, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &MessageAnnouncementLayout}, false, 0},
 };
-inline constexpr auto SystemParametersRecordPointers = PointersTo(SystemParametersRecordMembers);
-inline constexpr RecordRow SystemParametersRecordLayout = LayoutOf<SystemParametersRecord>("SystemParametersRecord", SystemParametersRecordPointers);
+inline constexpr RecordRow SystemParametersRecordLayout = LayoutOf<SystemParametersRecord, SystemParametersRecordMembers>("SystemParametersRecord");
 static_assert(CoversEveryByte(SystemParametersRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SystemParametersRecord> = SystemParametersRecordLayout;
 
 inline constexpr NavframeValueName MsmObservationPhaseStatusValues[] = {{0, "not usable"}, {1, "valid"}, {2, "valid and tracked for longer than the epoch interval"},};
 inline constexpr MemberRow MsmObservationMembers[] = {
-    {{"system", "", "satellite system", NavframeU8, offsetof(MsmObservation, system), sizeof(MsmObservation::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, KeyOf("system"), true, 1},
-    {{"satellite", "", "satellite, 1 to 64", NavframeU8, offsetof(MsmObservation, satellite), sizeof(MsmObservation::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"signal", "", "RTCM MSM signal id, 1 to 32", NavframeU8, offsetof(MsmObservation, signal), sizeof(MsmObservation::signal), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("signal"), false, 0},
-    {{"pseudorangeValid", "", "the pseudorange is set", NavframeU8, offsetof(MsmObservation, pseudorangeValid), sizeof(MsmObservation::pseudorangeValid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pseudorangeValid"), false, 0},
-    {{"phaseStatus", "", "state of the phase", NavframeU8, offsetof(MsmObservation, phaseStatus), sizeof(MsmObservation::phaseStatus), 0, -1, 0, NavframeUnknownNever, 0, 3, MsmObservationPhaseStatusValues, nullptr}, KeyOf("phaseStatus"), false, 0},
-    {{"rateValid", "", "the rate is set (MSM5 and MSM7 alone)", NavframeU8, offsetof(MsmObservation, rateValid), sizeof(MsmObservation::rateValid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("rateValid"), false, 0},
-    {{"cn0", "dB-Hz", "carrier-to-noise density, integer part", NavframeU8, offsetof(MsmObservation, cn0), sizeof(MsmObservation::cn0), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("cn0"), false, 0},
-    {{"halfCycleAmbiguity", "", "the phase may be off by half a cycle", NavframeU8, offsetof(MsmObservation, halfCycleAmbiguity), sizeof(MsmObservation::halfCycleAmbiguity), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("halfCycleAmbiguity"), false, 0},
-    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(MsmObservation, pseudorange), sizeof(MsmObservation::pseudorange), 0, -1, 0, NavframeUnknownValue, 0, 0, nullptr, nullptr}, KeyOf("pseudorange"), false, 0},
-    {{"carrierPhase", "cycles", "carrier phase, of the frequency that this library takes for the signal's", NavframeF64, offsetof(MsmObservation, carrierPhase), sizeof(MsmObservation::carrierPhase), 0, -1, 0, NavframeUnknownValue, 0, 0, nullptr, nullptr}, KeyOf("carrierPhase"), false, 0},
-    {{"phaseRangeRate", "m/s", "grows with the range, 0 when rateValid is", NavframeF64, offsetof(MsmObservation, phaseRangeRate), sizeof(MsmObservation::phaseRangeRate), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("phaseRangeRate"), true, 0},
-    {{"lockTime", "ms", "time of continuous lock, at least", NavframeU32, offsetof(MsmObservation, lockTime), sizeof(MsmObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("lockTime"), false, 0},
-    {{"reserved", "", "reserved", NavframeU32, offsetof(MsmObservation, reserved), sizeof(MsmObservation::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"system", "", "satellite system", NavframeU8, offsetof(MsmObservation, system), sizeof(MsmObservation::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, true, 1},
+    {{"satellite", "", "satellite, 1 to 64", NavframeU8, offsetof(MsmObservation, satellite), sizeof(MsmObservation::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signal", "", "RTCM MSM signal id, 1 to 32", NavframeU8, offsetof(MsmObservation, signal), sizeof(MsmObservation::signal), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorangeValid", "", "the pseudorange is set", NavframeU8, offsetof(MsmObservation, pseudorangeValid), sizeof(MsmObservation::pseudorangeValid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"phaseStatus", "", "state of the phase", NavframeU8, offsetof(MsmObservation, phaseStatus), sizeof(MsmObservation::phaseStatus), 0, -1, 0, NavframeUnknownNever, 0, 3, MsmObservationPhaseStatusValues, nullptr}, false, 0},
+    {{"rateValid", "", "the rate is set (MSM5 and MSM7 alone)", NavframeU8, offsetof(MsmObservation, rateValid), sizeof(MsmObservation::rateValid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density, integer part", NavframeU8, offsetof(MsmObservation, cn0), sizeof(MsmObservation::cn0), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"halfCycleAmbiguity", "", "the phase may be off by half a cycle", NavframeU8, offsetof(MsmObservation, halfCycleAmbiguity), sizeof(MsmObservation::halfCycleAmbiguity), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(MsmObservation, pseudorange), sizeof(MsmObservation::pseudorange), 0, -1, 0, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhase", "cycles", "carrier phase, of the frequency that this library takes for the signal's", NavframeF64, offsetof(MsmObservation, carrierPhase), sizeof(MsmObservation::carrierPhase), 0, -1, 0, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
+    {{"phaseRangeRate", "m/s", "grows with the range, 0 when rateValid is", NavframeF64, offsetof(MsmObservation, phaseRangeRate), sizeof(MsmObservation::phaseRangeRate), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 0},
+    {{"lockTime", "ms", "time of continuous lock, at least", NavframeU32, offsetof(MsmObservation, lockTime), sizeof(MsmObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU32, offsetof(MsmObservation, reserved), sizeof(MsmObservation::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto MsmObservationPointers = PointersTo(MsmObservationMembers);
-inline constexpr RecordRow MsmObservationLayout = LayoutOf<MsmObservation>("MsmObservation", MsmObservationPointers);
+inline constexpr RecordRow MsmObservationLayout = LayoutOf<MsmObservation, MsmObservationMembers>("MsmObservation");
 static_assert(CoversEveryByte(MsmObservationLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<MsmObservation> = MsmObservationLayout;
 
 inline constexpr MemberRow MsmRecordMembers[] = {
-    {{"epochTime", "ms", "GPS time of week; BeiDou and GLONASS epochs are converted", NavframeU32, offsetof(MsmRecord, epochTime), sizeof(MsmRecord::epochTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("epochTime"), false, 0},
-    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(MsmRecord, week), sizeof(MsmRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"timeText", "", "the decoder's time of day, hhmmss.mmm, after this epoch set it", NavframeText, offsetof(MsmRecord, timeText), sizeof(MsmRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"count", "", "observations, 0 to 64", NavframeU8, offsetof(MsmRecord, count), sizeof(MsmRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"system", "", "satellite system", NavframeU8, offsetof(MsmRecord, system), sizeof(MsmRecord::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, KeyOf("system"), false, 0},
-    {{"epochComplete", "", "the last message of its epoch", NavframeU32, offsetof(MsmRecord, epochComplete), sizeof(MsmRecord::epochComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("epochComplete"), false, 0},
-    {{"reserved", "", "reserved", NavframeU32, offsetof(MsmRecord, reserved), sizeof(MsmRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"observations", "", "by satellite, then signal", NavframeNested, offsetof(MsmRecord, observations), sizeof(MsmRecord::observations[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &MsmObservationLayout}, KeyOf("observations"), false, 0},
+    {{"epochTime", "ms", "GPS time of week; BeiDou and GLONASS epochs are converted", NavframeU32, offsetof(MsmRecord, epochTime), sizeof(MsmRecord::epochTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(MsmRecord, week), sizeof(MsmRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day, hhmmss.mmm, after this epoch set it", NavframeText, offsetof(MsmRecord, timeText), sizeof(MsmRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "observations, 0 to 64", NavframeU8, offsetof(MsmRecord, count), sizeof(MsmRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"system", "", "satellite system", NavframeU8, offsetof(MsmRecord, system), sizeof(MsmRecord::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, false, 0},
+    {{"epochComplete", "", "the last message of its epoch", NavframeU32, offsetof(MsmRecord, epochComplete), sizeof(MsmRecord::epochComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU32, offsetof(MsmRecord, reserved), sizeof(MsmRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"observations", "", "by satellite, then signal", NavframeNested, offsetof(MsmRecord, observations), sizeof(MsmRecord::observations[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &MsmObservationLayout}, false, 0},
 };
-inline constexpr auto MsmRecordPointers = PointersTo(MsmRecordMembers);
-inline constexpr RecordRow MsmRecordLayout = LayoutOf<MsmRecord>("MsmRecord", MsmRecordPointers);
+inline constexpr RecordRow MsmRecordLayout = LayoutOf<MsmRecord, MsmRecordMembers>("MsmRecord");
 static_assert(CoversEveryByte(MsmRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<MsmRecord> = MsmRecordLayout;
 
 inline constexpr MemberRow RtcmSnrStatRecordMembers[] = {
-    {{"count", "", "always 1", NavframeU32, offsetof(RtcmSnrStatRecord, count), sizeof(RtcmSnrStatRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), true, 1},
-    {{"state", "", "first of four small numbers", NavframeU8, offsetof(RtcmSnrStatRecord, state), sizeof(RtcmSnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("state"), false, 0},
-    {{"levels", "", "the others", NavframeI8, offsetof(RtcmSnrStatRecord, levels), sizeof(RtcmSnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("levels"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(RtcmSnrStatRecord, reserved), sizeof(RtcmSnrStatRecord::reserved[0]), 24, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"count", "", "always 1", NavframeU32, offsetof(RtcmSnrStatRecord, count), sizeof(RtcmSnrStatRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 1},
+    {{"state", "", "first of four small numbers", NavframeU8, offsetof(RtcmSnrStatRecord, state), sizeof(RtcmSnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"levels", "", "the others", NavframeI8, offsetof(RtcmSnrStatRecord, levels), sizeof(RtcmSnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(RtcmSnrStatRecord, reserved), sizeof(RtcmSnrStatRecord::reserved[0]), 24, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto RtcmSnrStatRecordPointers = PointersTo(RtcmSnrStatRecordMembers);
-inline constexpr RecordRow RtcmSnrStatRecordLayout = LayoutOf<RtcmSnrStatRecord>("RtcmSnrStatRecord", RtcmSnrStatRecordPointers);
+inline constexpr RecordRow RtcmSnrStatRecordLayout = LayoutOf<RtcmSnrStatRecord, RtcmSnrStatRecordMembers>("RtcmSnrStatRecord");
 static_assert(CoversEveryByte(RtcmSnrStatRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<RtcmSnrStatRecord> = RtcmSnrStatRecordLayout;
 
 inline constexpr MemberRow TimeStatusRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week, 0 when the message has none", NavframeU32, offsetof(TimeStatusRecord, tow), sizeof(TimeStatusRecord::tow), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "GPS week", NavframeU16, offsetof(TimeStatusRecord, week), sizeof(TimeStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"timeText", "", "always empty", NavframeText, offsetof(TimeStatusRecord, timeText), sizeof(TimeStatusRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"status", "", "states", NavframeU8, offsetof(TimeStatusRecord, status), sizeof(TimeStatusRecord::status[0]), 2, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("status"), false, 0},
+    {{"tow", "ms", "GPS time of week, 0 when the message has none", NavframeU32, offsetof(TimeStatusRecord, tow), sizeof(TimeStatusRecord::tow), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week", NavframeU16, offsetof(TimeStatusRecord, week), sizeof(TimeStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "always empty", NavframeText, offsetof(TimeStatusRecord, timeText), sizeof(TimeStatusRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "states", NavframeU8, offsetof(TimeStatusRecord, status), sizeof(TimeStatusRecord::status[0]), 2, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto TimeStatusRecordPointers = PointersTo(TimeStatusRecordMembers);
-inline constexpr RecordRow TimeStatusRecordLayout = LayoutOf<TimeStatusRecord>("TimeStatusRecord", TimeStatusRecordPointers);
+inline constexpr RecordRow TimeStatusRecordLayout = LayoutOf<TimeStatusRecord, TimeStatusRecordMembers>("TimeStatusRecord");
 static_assert(CoversEveryByte(TimeStatusRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<TimeStatusRecord> = TimeStatusRecordLayout;
 
 inline constexpr MemberRow Sub249RecordMembers[] = {
-    {{"tow", "ms", "always unknown", NavframeU32, offsetof(Sub249Record, tow), sizeof(Sub249Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "always unknown", NavframeU16, offsetof(Sub249Record, week), sizeof(Sub249Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(Sub249Record, reserved), sizeof(Sub249Record::reserved[0]), 74, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"tow", "ms", "always unknown", NavframeU32, offsetof(Sub249Record, tow), sizeof(Sub249Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "always unknown", NavframeU16, offsetof(Sub249Record, week), sizeof(Sub249Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(Sub249Record, reserved), sizeof(Sub249Record::reserved[0]), 74, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Sub249RecordPointers = PointersTo(Sub249RecordMembers);
-inline constexpr RecordRow Sub249RecordLayout = LayoutOf<Sub249Record>("Sub249Record", Sub249RecordPointers);
+inline constexpr RecordRow Sub249RecordLayout = LayoutOf<Sub249Record, Sub249RecordMembers>("Sub249Record");
 static_assert(CoversEveryByte(Sub249RecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Sub249Record> = Sub249RecordLayout;
 
 inline constexpr NavframeValueName ClockOrbitRecordSystemValues[] = {{0, "GPS"}, {1, "BeiDou"},};
 inline constexpr MemberRow ClockOrbitRecordMembers[] = {
-    {{"system", "", "satellite system, always unknown", NavframeU32, offsetof(ClockOrbitRecord, system), sizeof(ClockOrbitRecord::system), 0, -1, 0, NavframeUnknownValue, 4294967295, 2, ClockOrbitRecordSystemValues, nullptr}, KeyOf("system"), false, 0},
-    {{"tow", "ms", "always unknown", NavframeU32, offsetof(ClockOrbitRecord, tow), sizeof(ClockOrbitRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "always unknown", NavframeU16, offsetof(ClockOrbitRecord, week), sizeof(ClockOrbitRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved0", "", "reserved", NavframeU8, offsetof(ClockOrbitRecord, reserved0), sizeof(ClockOrbitRecord::reserved0[0]), 6, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved0"), false, 0},
-    {{"values", "", "always unknown", NavframeF64, offsetof(ClockOrbitRecord, values), sizeof(ClockOrbitRecord::values[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
-    {{"integers", "", "whole numbers, always unknown", NavframeF64, offsetof(ClockOrbitRecord, integers), sizeof(ClockOrbitRecord::integers[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("integers"), false, 0},
-    {{"reserved1", "", "reserved", NavframeU8, offsetof(ClockOrbitRecord, reserved1), sizeof(ClockOrbitRecord::reserved1[0]), 16, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved1"), false, 0},
+    {{"system", "", "satellite system, always unknown", NavframeU32, offsetof(ClockOrbitRecord, system), sizeof(ClockOrbitRecord::system), 0, -1, 0, NavframeUnknownValue, 4294967295, 2, ClockOrbitRecordSystemValues, nullptr}, false, 0},
+    {{"tow", "ms", "always unknown", NavframeU32, offsetof(ClockOrbitRecord, tow), sizeof(ClockOrbitRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "always unknown", NavframeU16, offsetof(ClockOrbitRecord, week), sizeof(ClockOrbitRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved0", "", "reserved", NavframeU8, offsetof(ClockOrbitRecord, reserved0), sizeof(ClockOrbitRecord::reserved0[0]), 6, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"values", "", "always unknown", NavframeF64, offsetof(ClockOrbitRecord, values), sizeof(ClockOrbitRecord::values[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"integers", "", "whole numbers, always unknown", NavframeF64, offsetof(ClockOrbitRecord, integers), sizeof(ClockOrbitRecord::integers[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved1", "", "reserved", NavframeU8, offsetof(ClockOrbitRecord, reserved1), sizeof(ClockOrbitRecord::reserved1[0]), 16, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto ClockOrbitRecordPointers = PointersTo(ClockOrbitRecordMembers);
-inline constexpr RecordRow ClockOrbitRecordLayout = LayoutOf<ClockOrbitRecord>("ClockOrbitRecord", ClockOrbitRecordPointers);
+inline constexpr RecordRow ClockOrbitRecordLayout = LayoutOf<ClockOrbitRecord, ClockOrbitRecordMembers>("ClockOrbitRecord");
 static_assert(CoversEveryByte(ClockOrbitRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ClockOrbitRecord> = ClockOrbitRecordLayout;
 
 inline constexpr MemberRow SystemCountMembers[] = {
-    {{"values", "", "always 0, where 0 as the first stands for no entry", NavframeI32, offsetof(SystemCount, values), sizeof(SystemCount::values[0]), 6, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
+    {{"values", "", "always 0, where 0 as the first stands for no entry", NavframeI32, offsetof(SystemCount, values), sizeof(SystemCount::values[0]), 6, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto SystemCountPointers = PointersTo(SystemCountMembers);
-inline constexpr RecordRow SystemCountLayout = LayoutOf<SystemCount>("SystemCount", SystemCountPointers);
+inline constexpr RecordRow SystemCountLayout = LayoutOf<SystemCount, SystemCountMembers>("SystemCount");
 static_assert(CoversEveryByte(SystemCountLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SystemCount> = SystemCountLayout;
 
 inline constexpr MemberRow SystemCountsRecordMembers[] = {
-    {{"tow", "ms", "always unknown", NavframeU32, offsetof(SystemCountsRecord, tow), sizeof(SystemCountsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "always unknown", NavframeU16, offsetof(SystemCountsRecord, week), sizeof(SystemCountsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"timeText", "", "always empty", NavframeText, offsetof(SystemCountsRecord, timeText), sizeof(SystemCountsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"counts", "", "of GPS, BeiDou, Galileo and QZSS, always 0", NavframeU8, offsetof(SystemCountsRecord, counts), sizeof(SystemCountsRecord::counts[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("counts"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(SystemCountsRecord, reserved), sizeof(SystemCountsRecord::reserved[0]), 2, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"entries", "", "always 0", NavframeNested, offsetof(SystemCountsRecord, entries), sizeof(SystemCountsRecord::entries[0]), 64, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SystemCountLayout}, KeyOf("entries"), false, 0},
+    {{"tow", "ms", "always unknown", NavframeU32, offsetof(SystemCountsRecord, tow), sizeof(SystemCountsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "always unknown", NavframeU16, offsetof(SystemCountsRecord, week), sizeof(SystemCountsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "always empty", NavframeText, offsetof(SystemCountsRecord, timeText), sizeof(SystemCountsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"counts", "", "of GPS, BeiDou, Galileo and QZSS, always 0", NavframeU8, offsetof(SystemCountsRecord, counts), sizeof(SystemCountsRecord::counts[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(SystemCountsRecord, reserved), sizeof(SystemCountsRecord::reserved[0]), 2, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"entries", "", "always 0", NavframeNested, offsetof(SystemCountsRecord, entries), sizeof(SystemCountsRecord::entries[0]), 64, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SystemCountLayout}, false, 0},
 };
-inline constexpr auto SystemCountsRecordPointers = PointersTo(SystemCountsRecordMembers);
-inline constexpr RecordRow SystemCountsRecordLayout = LayoutOf<SystemCountsRecord>("SystemCountsRecord", SystemCountsRecordPointers);
+inline constexpr RecordRow SystemCountsRecordLayout = LayoutOf<SystemCountsRecord, SystemCountsRecordMembers>("SystemCountsRecord");
 static_assert(CoversEveryByte(SystemCountsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SystemCountsRecord> = SystemCountsRecordLayout;
 
 inline constexpr MemberRow SignalObservationsRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(SignalObservationsRecord, tow), sizeof(SignalObservationsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "GPS week", NavframeU16, offsetof(SignalObservationsRecord, week), sizeof(SignalObservationsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"timeText", "", "always empty", NavframeText, offsetof(SignalObservationsRecord, timeText), sizeof(SignalObservationsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"count", "", "satellites, always 0", NavframeU8, offsetof(SignalObservationsRecord, count), sizeof(SignalObservationsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(SignalObservationsRecord, reserved), sizeof(SignalObservationsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"satellites", "", "satellites with their signals", NavframeNested, offsetof(SignalObservationsRecord, satellites), sizeof(SignalObservationsRecord::satellites[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, KeyOf("satellites"), false, 0},
+    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(SignalObservationsRecord, tow), sizeof(SignalObservationsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week", NavframeU16, offsetof(SignalObservationsRecord, week), sizeof(SignalObservationsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "always empty", NavframeText, offsetof(SignalObservationsRecord, timeText), sizeof(SignalObservationsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites, always 0", NavframeU8, offsetof(SignalObservationsRecord, count), sizeof(SignalObservationsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(SignalObservationsRecord, reserved), sizeof(SignalObservationsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites with their signals", NavframeNested, offsetof(SignalObservationsRecord, satellites), sizeof(SignalObservationsRecord::satellites[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, false, 0},
 };
-inline constexpr auto SignalObservationsRecordPointers = PointersTo(SignalObservationsRecordMembers);
-inline constexpr RecordRow SignalObservationsRecordLayout = LayoutOf<SignalObservationsRecord>("SignalObservationsRecord", SignalObservationsRecordPointers);
+inline constexpr RecordRow SignalObservationsRecordLayout = LayoutOf<SignalObservationsRecord, SignalObservationsRecordMembers>("SignalObservationsRecord");
 static_assert(CoversEveryByte(SignalObservationsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SignalObservationsRecord> = SignalObservationsRecordLayout;
 
 inline constexpr MemberRow IntegerSetRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(IntegerSetRecord, tow), sizeof(IntegerSetRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "GPS week", NavframeU16, offsetof(IntegerSetRecord, week), sizeof(IntegerSetRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"timeText", "", "always empty", NavframeText, offsetof(IntegerSetRecord, timeText), sizeof(IntegerSetRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"reserved0", "", "reserved", NavframeU8, offsetof(IntegerSetRecord, reserved0), sizeof(IntegerSetRecord::reserved0[0]), 2, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved0"), false, 0},
-    {{"latitude", "deg", "always unknown", NavframeF64, offsetof(IntegerSetRecord, latitude), sizeof(IntegerSetRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"longitude", "deg", "always unknown", NavframeF64, offsetof(IntegerSetRecord, longitude), sizeof(IntegerSetRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"integers", "", "always 0", NavframeI64, offsetof(IntegerSetRecord, integers), sizeof(IntegerSetRecord::integers[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("integers"), false, 0},
-    {{"reserved1", "", "reserved", NavframeU8, offsetof(IntegerSetRecord, reserved1), sizeof(IntegerSetRecord::reserved1[0]), 104, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved1"), false, 0},
+    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(IntegerSetRecord, tow), sizeof(IntegerSetRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week", NavframeU16, offsetof(IntegerSetRecord, week), sizeof(IntegerSetRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "always empty", NavframeText, offsetof(IntegerSetRecord, timeText), sizeof(IntegerSetRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved0", "", "reserved", NavframeU8, offsetof(IntegerSetRecord, reserved0), sizeof(IntegerSetRecord::reserved0[0]), 2, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "always unknown", NavframeF64, offsetof(IntegerSetRecord, latitude), sizeof(IntegerSetRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "always unknown", NavframeF64, offsetof(IntegerSetRecord, longitude), sizeof(IntegerSetRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"integers", "", "always 0", NavframeI64, offsetof(IntegerSetRecord, integers), sizeof(IntegerSetRecord::integers[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved1", "", "reserved", NavframeU8, offsetof(IntegerSetRecord, reserved1), sizeof(IntegerSetRecord::reserved1[0]), 104, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto IntegerSetRecordPointers = PointersTo(IntegerSetRecordMembers);
-inline constexpr RecordRow IntegerSetRecordLayout = LayoutOf<IntegerSetRecord>("IntegerSetRecord", IntegerSetRecordPointers);
+inline constexpr RecordRow IntegerSetRecordLayout = LayoutOf<IntegerSetRecord, IntegerSetRecordMembers>("IntegerSetRecord");
 static_assert(CoversEveryByte(IntegerSetRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<IntegerSetRecord> = IntegerSetRecordLayout;
 
 inline constexpr MemberRow Sub17RecordMembers[] = {
-    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub17Record, tow), sizeof(Sub17Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), true, 0},
-    {{"first", "", "first bytes", NavframeU8, offsetof(Sub17Record, first), sizeof(Sub17Record::first[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("first"), false, 0},
-    {{"zero", "", "reserved", NavframeU8, offsetof(Sub17Record, zero), sizeof(Sub17Record::zero), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("zero"), false, 0},
-    {{"second", "", "the bytes behind them", NavframeU8, offsetof(Sub17Record, second), sizeof(Sub17Record::second[0]), 12, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("second"), false, 0},
-    {{"reserved", "", "reserved", NavframeU32, offsetof(Sub17Record, reserved), sizeof(Sub17Record::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub17Record, tow), sizeof(Sub17Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
+    {{"first", "", "first bytes", NavframeU8, offsetof(Sub17Record, first), sizeof(Sub17Record::first[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"zero", "", "reserved", NavframeU8, offsetof(Sub17Record, zero), sizeof(Sub17Record::zero), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"second", "", "the bytes behind them", NavframeU8, offsetof(Sub17Record, second), sizeof(Sub17Record::second[0]), 12, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU32, offsetof(Sub17Record, reserved), sizeof(Sub17Record::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Sub17RecordPointers = PointersTo(Sub17RecordMembers);
-inline constexpr RecordRow Sub17RecordLayout = LayoutOf<Sub17Record>("Sub17Record", Sub17RecordPointers);
+inline constexpr RecordRow Sub17RecordLayout = LayoutOf<Sub17Record, Sub17RecordMembers>("Sub17Record");
 static_assert(CoversEveryByte(Sub17RecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Sub17Record> = Sub17RecordLayout;
 
 inline constexpr MemberRow Sub33RecordMembers[] = {
-    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub33Record, tow), sizeof(Sub33Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), true, 0},
-    {{"values", "", "numbers, 0 to 15", NavframeU8, offsetof(Sub33Record, values), sizeof(Sub33Record::values[0]), 7, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
-    {{"spare", "", "reserved", NavframeU8, offsetof(Sub33Record, spare), sizeof(Sub33Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("spare"), false, 0},
+    {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub33Record, tow), sizeof(Sub33Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
+    {{"values", "", "numbers, 0 to 15", NavframeU8, offsetof(Sub33Record, values), sizeof(Sub33Record::values[0]), 7, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"spare", "", "reserved", NavframeU8, offsetof(Sub33Record, spare), sizeof(Sub33Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Sub33RecordPointers = PointersTo(Sub33RecordMembers);
-inline constexpr RecordRow Sub33RecordLayout = LayoutOf<Sub33Record>("Sub33Record", Sub33RecordPointers);
+inline constexpr RecordRow Sub33RecordLayout = LayoutOf<Sub33Record, Sub33RecordMembers>("Sub33Record");
 static_assert(CoversEveryByte(Sub33RecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Sub33Record> = Sub33RecordLayout;
 
 inline constexpr MemberRow Sub34RecordMembers[] = {
-    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub34Record, tow), sizeof(Sub34Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "GPS week", NavframeU32, offsetof(Sub34Record, week), sizeof(Sub34Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"state", "", "state", NavframeU8, offsetof(Sub34Record, state), sizeof(Sub34Record::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("state"), false, 0},
-    {{"mode", "", "0 to 15, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, mode), sizeof(Sub34Record::mode), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("mode"), false, 0},
-    {{"values", "", "bytes, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, values), sizeof(Sub34Record::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("values"), false, 0},
-    {{"spare", "", "reserved", NavframeU8, offsetof(Sub34Record, spare), sizeof(Sub34Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("spare"), false, 0},
+    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub34Record, tow), sizeof(Sub34Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week", NavframeU32, offsetof(Sub34Record, week), sizeof(Sub34Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"state", "", "state", NavframeU8, offsetof(Sub34Record, state), sizeof(Sub34Record::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"mode", "", "0 to 15, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, mode), sizeof(Sub34Record::mode), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"values", "", "bytes, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, values), sizeof(Sub34Record::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"spare", "", "reserved", NavframeU8, offsetof(Sub34Record, spare), sizeof(Sub34Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Sub34RecordPointers = PointersTo(Sub34RecordMembers);
-inline constexpr RecordRow Sub34RecordLayout = LayoutOf<Sub34Record>("Sub34Record", Sub34RecordPointers);
+inline constexpr RecordRow Sub34RecordLayout = LayoutOf<Sub34Record, Sub34RecordMembers>("Sub34Record");
 static_assert(CoversEveryByte(Sub34RecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Sub34Record> = Sub34RecordLayout;
 
 inline constexpr MemberRow Sub21RecordMembers[] = {
-    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub21Record, tow), sizeof(Sub21Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "GPS week", NavframeU32, offsetof(Sub21Record, week), sizeof(Sub21Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"body", "", "bytes of the message", NavframeU8, offsetof(Sub21Record, body), sizeof(Sub21Record::body[0]), 48, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("body"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(Sub21Record, reserved), sizeof(Sub21Record::reserved[0]), 64, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub21Record, tow), sizeof(Sub21Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week", NavframeU32, offsetof(Sub21Record, week), sizeof(Sub21Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"body", "", "bytes of the message", NavframeU8, offsetof(Sub21Record, body), sizeof(Sub21Record::body[0]), 48, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(Sub21Record, reserved), sizeof(Sub21Record::reserved[0]), 64, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Sub21RecordPointers = PointersTo(Sub21RecordMembers);
-inline constexpr RecordRow Sub21RecordLayout = LayoutOf<Sub21Record>("Sub21Record", Sub21RecordPointers);
+inline constexpr RecordRow Sub21RecordLayout = LayoutOf<Sub21Record, Sub21RecordMembers>("Sub21Record");
 static_assert(CoversEveryByte(Sub21RecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Sub21Record> = Sub21RecordLayout;
 
 inline constexpr MemberRow Binary55AaRecordMembers[] = {
-    {{"payloadLength", "", "bytes of the payload", NavframeU32, offsetof(Binary55AaRecord, payloadLength), sizeof(Binary55AaRecord::payloadLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("payloadLength"), false, 0},
-    {{"payload", "", "the payload, little-endian, without header and checksum", NavframeU8, offsetof(Binary55AaRecord, payload), sizeof(Binary55AaRecord::payload[0]), 480, 0, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("payload"), false, 0},
-    {{"stampWhole", "", "u32 at payload offset 0, in hundredths: whole units", NavframeU32, offsetof(Binary55AaRecord, stampWhole), sizeof(Binary55AaRecord::stampWhole), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stampWhole"), false, 0},
-    {{"stampHundredths", "", "and the rest, 0 to 99", NavframeU32, offsetof(Binary55AaRecord, stampHundredths), sizeof(Binary55AaRecord::stampHundredths), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stampHundredths"), false, 0},
-    {{"reserved", "", "reserved", NavframeU32, offsetof(Binary55AaRecord, reserved), sizeof(Binary55AaRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"angles", "rad", "i32 in 0.001 degrees at payload offsets 4, 8 and 12", NavframeF64, offsetof(Binary55AaRecord, angles), sizeof(Binary55AaRecord::angles[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("angles"), true, 0},
-    {{"rates", "", "i32 * 0.001 at payload offsets 16, 20 and 24", NavframeF64, offsetof(Binary55AaRecord, rates), sizeof(Binary55AaRecord::rates[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("rates"), true, 0},
-    {{"tenths", "", "i32 * 0.1 at payload offsets 28 and 32", NavframeF64, offsetof(Binary55AaRecord, tenths), sizeof(Binary55AaRecord::tenths[0]), 2, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("tenths"), true, 0},
-    {{"reservedAtEnd", "", "reserved", NavframeU8, offsetof(Binary55AaRecord, reservedAtEnd), sizeof(Binary55AaRecord::reservedAtEnd[0]), 2544, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reservedAtEnd"), false, 0},
+    {{"payloadLength", "", "bytes of the payload", NavframeU32, offsetof(Binary55AaRecord, payloadLength), sizeof(Binary55AaRecord::payloadLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"payload", "", "the payload, little-endian, without header and checksum", NavframeU8, offsetof(Binary55AaRecord, payload), sizeof(Binary55AaRecord::payload[0]), 480, 0, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stampWhole", "", "u32 at payload offset 0, in hundredths: whole units", NavframeU32, offsetof(Binary55AaRecord, stampWhole), sizeof(Binary55AaRecord::stampWhole), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stampHundredths", "", "and the rest, 0 to 99", NavframeU32, offsetof(Binary55AaRecord, stampHundredths), sizeof(Binary55AaRecord::stampHundredths), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU32, offsetof(Binary55AaRecord, reserved), sizeof(Binary55AaRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"angles", "rad", "i32 in 0.001 degrees at payload offsets 4, 8 and 12", NavframeF64, offsetof(Binary55AaRecord, angles), sizeof(Binary55AaRecord::angles[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, true, 0},
+    {{"rates", "", "i32 * 0.001 at payload offsets 16, 20 and 24", NavframeF64, offsetof(Binary55AaRecord, rates), sizeof(Binary55AaRecord::rates[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, true, 0},
+    {{"tenths", "", "i32 * 0.1 at payload offsets 28 and 32", NavframeF64, offsetof(Binary55AaRecord, tenths), sizeof(Binary55AaRecord::tenths[0]), 2, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, true, 0},
+    {{"reservedAtEnd", "", "reserved", NavframeU8, offsetof(Binary55AaRecord, reservedAtEnd), sizeof(Binary55AaRecord::reservedAtEnd[0]), 2544, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto Binary55AaRecordPointers = PointersTo(Binary55AaRecordMembers);
-inline constexpr RecordRow Binary55AaRecordLayout = LayoutOf<Binary55AaRecord>("Binary55AaRecord", Binary55AaRecordPointers);
+inline constexpr RecordRow Binary55AaRecordLayout = LayoutOf<Binary55AaRecord, Binary55AaRecordMembers>("Binary55AaRecord");
 static_assert(CoversEveryByte(Binary55AaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<Binary55AaRecord> = Binary55AaRecordLayout;
 
 inline constexpr MemberRow UbxProtectionLevelsRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxProtectionLevelsRecord, tow), sizeof(UbxProtectionLevelsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxProtectionLevelsRecord, week), sizeof(UbxProtectionLevelsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxProtectionLevelsRecord, reserved), sizeof(UbxProtectionLevelsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxProtectionLevelsRecord, timeText), sizeof(UbxProtectionLevelsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"version", "", "version of the message", NavframeU8, offsetof(UbxProtectionLevelsRecord, version), sizeof(UbxProtectionLevelsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("version"), false, 0},
-    {{"riskCoefficient", "", "target risk of misleading information: riskCoefficient * 10^riskExponent per coverage interval", NavframeU8, offsetof(UbxProtectionLevelsRecord, riskCoefficient), sizeof(UbxProtectionLevelsRecord::riskCoefficient), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("riskCoefficient"), false, 0},
-    {{"riskExponent", "", "see riskCoefficient", NavframeI8, offsetof(UbxProtectionLevelsRecord, riskExponent), sizeof(UbxProtectionLevelsRecord::riskExponent), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, KeyOf("riskExponent"), false, 0},
-    {{"positionValid", "", "position levels can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionValid), sizeof(UbxProtectionLevelsRecord::positionValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("positionValid"), false, 0},
-    {{"positionFrame", "", "frame of the position levels", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionFrame), sizeof(UbxProtectionLevelsRecord::positionFrame), 0, -1, 0, NavframeUnknownValue, 255, 4, ProtectionFrameValues, nullptr}, KeyOf("positionFrame"), false, 0},
-    {{"velocityValid", "", "velocity levels can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityValid), sizeof(UbxProtectionLevelsRecord::velocityValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("velocityValid"), false, 0},
-    {{"velocityFrame", "", "frame of the velocity levels", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityFrame), sizeof(UbxProtectionLevelsRecord::velocityFrame), 0, -1, 0, NavframeUnknownValue, 255, 4, ProtectionFrameValues, nullptr}, KeyOf("velocityFrame"), false, 0},
-    {{"timeValid", "", "the time level can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, timeValid), sizeof(UbxProtectionLevelsRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("timeValid"), false, 0},
-    {{"positionInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionInvalidReason), sizeof(UbxProtectionLevelsRecord::positionInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("positionInvalidReason"), false, 0},
-    {{"velocityInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityInvalidReason), sizeof(UbxProtectionLevelsRecord::velocityInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("velocityInvalidReason"), false, 0},
-    {{"timeInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, timeInvalidReason), sizeof(UbxProtectionLevelsRecord::timeInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("timeInvalidReason"), false, 0},
-    {{"padding0", "", "", NavframePadding, 35, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"positionLevels", "mm", "position levels along the axes of their frame", NavframeU32, offsetof(UbxProtectionLevelsRecord, positionLevels), sizeof(UbxProtectionLevelsRecord::positionLevels[0]), 3, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("positionLevels"), false, 0},
-    {{"velocityLevels", "mm/s", "velocity levels along the axes of their frame", NavframeU32, offsetof(UbxProtectionLevelsRecord, velocityLevels), sizeof(UbxProtectionLevelsRecord::velocityLevels[0]), 3, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("velocityLevels"), false, 0},
-    {{"positionOrientation", "0.01 deg", "of the horizontal ellipse, clockwise from north", NavframeU16, offsetof(UbxProtectionLevelsRecord, positionOrientation), sizeof(UbxProtectionLevelsRecord::positionOrientation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("positionOrientation"), false, 0},
-    {{"velocityOrientation", "0.01 deg", "of the horizontal ellipse, clockwise from north", NavframeU16, offsetof(UbxProtectionLevelsRecord, velocityOrientation), sizeof(UbxProtectionLevelsRecord::velocityOrientation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("velocityOrientation"), false, 0},
-    {{"timeLevel", "ns", "time level", NavframeU32, offsetof(UbxProtectionLevelsRecord, timeLevel), sizeof(UbxProtectionLevelsRecord::timeLevel), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("timeLevel"), false, 0},
-    {{"reservedAtEnd", "", "last bytes of the message, reserved there", NavframeU32, offsetof(UbxProtectionLevelsRecord, reservedAtEnd), sizeof(UbxProtectionLevelsRecord::reservedAtEnd), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reservedAtEnd"), false, 0},
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxProtectionLevelsRecord, tow), sizeof(UbxProtectionLevelsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxProtectionLevelsRecord, week), sizeof(UbxProtectionLevelsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxProtectionLevelsRecord, reserved), sizeof(UbxProtectionLevelsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxProtectionLevelsRecord, timeText), sizeof(UbxProtectionLevelsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxProtectionLevelsRecord, version), sizeof(UbxProtectionLevelsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"riskCoefficient", "", "target risk of misleading information: riskCoefficient * 10^riskExponent per coverage interval", NavframeU8, offsetof(UbxProtectionLevelsRecord, riskCoefficient), sizeof(UbxProtectionLevelsRecord::riskCoefficient), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"riskExponent", "", "see riskCoefficient", NavframeI8, offsetof(UbxProtectionLevelsRecord, riskExponent), sizeof(UbxProtectionLevelsRecord::riskExponent), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"positionValid", "", "position levels can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionValid), sizeof(UbxProtectionLevelsRecord::positionValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"positionFrame", "", "frame of the position levels", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionFrame), sizeof(UbxProtectionLevelsRecord::positionFrame), 0, -1, 0, NavframeUnknownValue, 255, 4, ProtectionFrameValues, nullptr}, false, 0},
+    {{"velocityValid", "", "velocity levels can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityValid), sizeof(UbxProtectionLevelsRecord::velocityValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"velocityFrame", "", "frame of the velocity levels", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityFrame), sizeof(UbxProtectionLevelsRecord::velocityFrame), 0, -1, 0, NavframeUnknownValue, 255, 4, ProtectionFrameValues, nullptr}, false, 0},
+    {{"timeValid", "", "the time level can be used", NavframeU8, offsetof(UbxProtectionLevelsRecord, timeValid), sizeof(UbxProtectionLevelsRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"positionInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, positionInvalidReason), sizeof(UbxProtectionLevelsRecord::positionInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"velocityInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, velocityInvalidReason), sizeof(UbxProtectionLevelsRecord::velocityInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeInvalidReason", "", "the receiver's code, 0 when valid", NavframeU8, offsetof(UbxProtectionLevelsRecord, timeInvalidReason), sizeof(UbxProtectionLevelsRecord::timeInvalidReason), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 35, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"positionLevels", "mm", "position levels along the axes of their frame", NavframeU32, offsetof(UbxProtectionLevelsRecord, positionLevels), sizeof(UbxProtectionLevelsRecord::positionLevels[0]), 3, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"velocityLevels", "mm/s", "velocity levels along the axes of their frame", NavframeU32, offsetof(UbxProtectionLevelsRecord, velocityLevels), sizeof(UbxProtectionLevelsRecord::velocityLevels[0]), 3, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"positionOrientation", "0.01 deg", "of the horizontal ellipse, clockwise from north", NavframeU16, offsetof(UbxProtectionLevelsRecord, positionOrientation), sizeof(UbxProtectionLevelsRecord::positionOrientation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"velocityOrientation", "0.01 deg", "of the horizontal ellipse, clockwise from north", NavframeU16, offsetof(UbxProtectionLevelsRecord, velocityOrientation), sizeof(UbxProtectionLevelsRecord::velocityOrientation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeLevel", "ns", "time level", NavframeU32, offsetof(UbxProtectionLevelsRecord, timeLevel), sizeof(UbxProtectionLevelsRecord::timeLevel), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"reservedAtEnd", "", "last bytes of the message, reserved there", NavframeU32, offsetof(UbxProtectionLevelsRecord, reservedAtEnd), sizeof(UbxProtectionLevelsRecord::reservedAtEnd), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxProtectionLevelsRecordPointers = PointersTo(UbxProtectionLevelsRecordMembers);
-inline constexpr RecordRow UbxProtectionLevelsRecordLayout = LayoutOf<UbxProtectionLevelsRecord>("UbxProtectionLevelsRecord", UbxProtectionLevelsRecordPointers);
+inline constexpr RecordRow UbxProtectionLevelsRecordLayout = LayoutOf<UbxProtectionLevelsRecord, UbxProtectionLevelsRecordMembers>("UbxProtectionLevelsRecord");
 static_assert(CoversEveryByte(UbxProtectionLevelsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxProtectionLevelsRecord> = UbxProtectionLevelsRecordLayout;
 
 inline constexpr NavframeValueName UbxNavigationRecordFixTypeValues[] = {{0, "none"}, {1, "dead reckoning"}, {2, "two-dimensional"}, {3, "three-dimensional"}, {4, "GNSS and dead reckoning"}, {5, "time only"},};
 inline constexpr NavframeValueName UbxNavigationRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
 inline constexpr MemberRow UbxNavigationRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxNavigationRecord, tow), sizeof(UbxNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "the decoder's GPS week, after it has taken this message's date and time", NavframeU16, offsetof(UbxNavigationRecord, week), sizeof(UbxNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxNavigationRecord, reserved), sizeof(UbxNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxNavigationRecord, timeText), sizeof(UbxNavigationRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"year", "", "UTC", NavframeU16, offsetof(UbxNavigationRecord, year), sizeof(UbxNavigationRecord::year), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("year"), false, 0},
-    {{"month", "", "1 to 12", NavframeU8, offsetof(UbxNavigationRecord, month), sizeof(UbxNavigationRecord::month), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("month"), false, 0},
-    {{"day", "", "1 to 31", NavframeU8, offsetof(UbxNavigationRecord, day), sizeof(UbxNavigationRecord::day), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("day"), false, 0},
-    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UbxNavigationRecord, hour), sizeof(UbxNavigationRecord::hour), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("hour"), false, 0},
-    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UbxNavigationRecord, minute), sizeof(UbxNavigationRecord::minute), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("minute"), false, 0},
-    {{"second", "s", "0 to 60", NavframeU8, offsetof(UbxNavigationRecord, second), sizeof(UbxNavigationRecord::second), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("second"), false, 0},
-    {{"padding0", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"millisecond", "ms", "of the second: nanoseconds / 1000000 towards 0, a negative one modulo 2^32", NavframeU32, offsetof(UbxNavigationRecord, millisecond), sizeof(UbxNavigationRecord::millisecond), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("millisecond"), false, 0},
-    {{"dateValid", "", "the date is valid", NavframeU8, offsetof(UbxNavigationRecord, dateValid), sizeof(UbxNavigationRecord::dateValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("dateValid"), false, 0},
-    {{"timeValid", "", "the time of day is valid", NavframeU8, offsetof(UbxNavigationRecord, timeValid), sizeof(UbxNavigationRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("timeValid"), false, 0},
-    {{"fullyResolved", "", "no uncertainty of whole seconds is left", NavframeU8, offsetof(UbxNavigationRecord, fullyResolved), sizeof(UbxNavigationRecord::fullyResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("fullyResolved"), false, 0},
-    {{"magValid", "", "the magnetic declination is valid", NavframeU8, offsetof(UbxNavigationRecord, magValid), sizeof(UbxNavigationRecord::magValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("magValid"), false, 0},
-    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxNavigationRecord, timeAccuracy), sizeof(UbxNavigationRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("timeAccuracy"), false, 0},
-    {{"nanoseconds", "ns", "fraction of the second, -10^9 to 10^9", NavframeI32, offsetof(UbxNavigationRecord, nanoseconds), sizeof(UbxNavigationRecord::nanoseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("nanoseconds"), false, 0},
-    {{"fixType", "", "type of the fix", NavframeU8, offsetof(UbxNavigationRecord, fixType), sizeof(UbxNavigationRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxNavigationRecordFixTypeValues, nullptr}, KeyOf("fixType"), false, 0},
-    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxNavigationRecord, fixOk), sizeof(UbxNavigationRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("fixOk"), false, 0},
-    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxNavigationRecord, diffSolution), sizeof(UbxNavigationRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("diffSolution"), false, 0},
-    {{"powerSaveState", "", "0 to 7, 0 without power saving", NavframeU8, offsetof(UbxNavigationRecord, powerSaveState), sizeof(UbxNavigationRecord::powerSaveState), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("powerSaveState"), false, 0},
-    {{"headingValid", "", "the vehicle's heading is valid", NavframeU8, offsetof(UbxNavigationRecord, headingValid), sizeof(UbxNavigationRecord::headingValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("headingValid"), false, 0},
-    {{"carrierSolution", "", "carrier phase solution", NavframeU8, offsetof(UbxNavigationRecord, carrierSolution), sizeof(UbxNavigationRecord::carrierSolution), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxNavigationRecordCarrierSolutionValues, nullptr}, KeyOf("carrierSolution"), false, 0},
-    {{"confirmedAvailable", "", "the confirmations below are available", NavframeU8, offsetof(UbxNavigationRecord, confirmedAvailable), sizeof(UbxNavigationRecord::confirmedAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("confirmedAvailable"), false, 0},
-    {{"confirmedDate", "", "the date was confirmed", NavframeU8, offsetof(UbxNavigationRecord, confirmedDate), sizeof(UbxNavigationRecord::confirmedDate), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("confirmedDate"), false, 0},
-    {{"confirmedTime", "", "the time of day was confirmed", NavframeU8, offsetof(UbxNavigationRecord, confirmedTime), sizeof(UbxNavigationRecord::confirmedTime), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("confirmedTime"), false, 0},
-    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(UbxNavigationRecord, satellites), sizeof(UbxNavigationRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("satellites"), false, 0},
-    {{"padding1", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"longitude", "deg", "east positive; unknown while fixType is 0", NavframeF64, offsetof(UbxNavigationRecord, longitude), sizeof(UbxNavigationRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"latitude", "deg", "north positive; unknown while fixType is 0", NavframeF64, offsetof(UbxNavigationRecord, latitude), sizeof(UbxNavigationRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"height", "m", "above the ellipsoid; unknown while fixType is 0", NavframeF32, offsetof(UbxNavigationRecord, height), sizeof(UbxNavigationRecord::height), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("height"), false, 0},
-    {{"heightMsl", "m", "above mean sea level; unknown while fixType is 0", NavframeF32, offsetof(UbxNavigationRecord, heightMsl), sizeof(UbxNavigationRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("heightMsl"), false, 0},
-    {{"horizontalAccuracy", "mm", "accuracy of the horizontal position", NavframeU32, offsetof(UbxNavigationRecord, horizontalAccuracy), sizeof(UbxNavigationRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("horizontalAccuracy"), false, 0},
-    {{"verticalAccuracy", "mm", "accuracy of the height", NavframeU32, offsetof(UbxNavigationRecord, verticalAccuracy), sizeof(UbxNavigationRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("verticalAccuracy"), false, 0},
-    {{"velocityEast", "mm/s", "velocity to the east", NavframeI32, offsetof(UbxNavigationRecord, velocityEast), sizeof(UbxNavigationRecord::velocityEast), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("velocityEast"), false, 0},
-    {{"velocityNorth", "mm/s", "velocity to the north", NavframeI32, offsetof(UbxNavigationRecord, velocityNorth), sizeof(UbxNavigationRecord::velocityNorth), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("velocityNorth"), false, 0},
-    {{"velocityUp", "mm/s", "velocity upwards", NavframeI32, offsetof(UbxNavigationRecord, velocityUp), sizeof(UbxNavigationRecord::velocityUp), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("velocityUp"), false, 0},
-    {{"groundSpeed", "mm/s", "speed over ground", NavframeI32, offsetof(UbxNavigationRecord, groundSpeed), sizeof(UbxNavigationRecord::groundSpeed), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("groundSpeed"), false, 0},
-    {{"motionHeading", "1e-5 deg", "heading of motion", NavframeI32, offsetof(UbxNavigationRecord, motionHeading), sizeof(UbxNavigationRecord::motionHeading), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("motionHeading"), false, 0},
-    {{"speedAccuracy", "mm/s", "accuracy of the speed", NavframeU32, offsetof(UbxNavigationRecord, speedAccuracy), sizeof(UbxNavigationRecord::speedAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("speedAccuracy"), false, 0},
-    {{"headingAccuracy", "1e-5 deg", "accuracy of the heading", NavframeU32, offsetof(UbxNavigationRecord, headingAccuracy), sizeof(UbxNavigationRecord::headingAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("headingAccuracy"), false, 0},
-    {{"positionDop", "", "a tenth of the position DOP: the number sent, in hundredths, / 1000", NavframeF32, offsetof(UbxNavigationRecord, positionDop), sizeof(UbxNavigationRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("positionDop"), false, 0},
-    {{"invalidHeight", "", "position and heights are not valid", NavframeU8, offsetof(UbxNavigationRecord, invalidHeight), sizeof(UbxNavigationRecord::invalidHeight), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("invalidHeight"), false, 0},
-    {{"correctionAge", "", "of the last differential correction, the receiver's code, 0 to 15", NavframeU8, offsetof(UbxNavigationRecord, correctionAge), sizeof(UbxNavigationRecord::correctionAge), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("correctionAge"), false, 0},
-    {{"padding2", "", "", NavframePadding, 130, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
-    {{"reservedWord", "", "bytes that the message reserves", NavframeU32, offsetof(UbxNavigationRecord, reservedWord), sizeof(UbxNavigationRecord::reservedWord), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reservedWord"), false, 0},
-    {{"vehicleHeading", "1e-5 deg", "low 16 bits of the heading of the vehicle", NavframeU16, offsetof(UbxNavigationRecord, vehicleHeading), sizeof(UbxNavigationRecord::vehicleHeading), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("vehicleHeading"), true, 32768},
-    {{"padding3", "", "", NavframePadding, 138, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxNavigationRecord, tow), sizeof(UbxNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week, after it has taken this message's date and time", NavframeU16, offsetof(UbxNavigationRecord, week), sizeof(UbxNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxNavigationRecord, reserved), sizeof(UbxNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxNavigationRecord, timeText), sizeof(UbxNavigationRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"year", "", "UTC", NavframeU16, offsetof(UbxNavigationRecord, year), sizeof(UbxNavigationRecord::year), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"month", "", "1 to 12", NavframeU8, offsetof(UbxNavigationRecord, month), sizeof(UbxNavigationRecord::month), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"day", "", "1 to 31", NavframeU8, offsetof(UbxNavigationRecord, day), sizeof(UbxNavigationRecord::day), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UbxNavigationRecord, hour), sizeof(UbxNavigationRecord::hour), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UbxNavigationRecord, minute), sizeof(UbxNavigationRecord::minute), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"second", "s", "0 to 60", NavframeU8, offsetof(UbxNavigationRecord, second), sizeof(UbxNavigationRecord::second), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"millisecond", "ms", "of the second: nanoseconds / 1000000 towards 0, a negative one modulo 2^32", NavframeU32, offsetof(UbxNavigationRecord, millisecond), sizeof(UbxNavigationRecord::millisecond), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dateValid", "", "the date is valid", NavframeU8, offsetof(UbxNavigationRecord, dateValid), sizeof(UbxNavigationRecord::dateValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeValid", "", "the time of day is valid", NavframeU8, offsetof(UbxNavigationRecord, timeValid), sizeof(UbxNavigationRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"fullyResolved", "", "no uncertainty of whole seconds is left", NavframeU8, offsetof(UbxNavigationRecord, fullyResolved), sizeof(UbxNavigationRecord::fullyResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"magValid", "", "the magnetic declination is valid", NavframeU8, offsetof(UbxNavigationRecord, magValid), sizeof(UbxNavigationRecord::magValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxNavigationRecord, timeAccuracy), sizeof(UbxNavigationRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"nanoseconds", "ns", "fraction of the second, -10^9 to 10^9", NavframeI32, offsetof(UbxNavigationRecord, nanoseconds), sizeof(UbxNavigationRecord::nanoseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"fixType", "", "type of the fix", NavframeU8, offsetof(UbxNavigationRecord, fixType), sizeof(UbxNavigationRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxNavigationRecordFixTypeValues, nullptr}, false, 0},
+    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxNavigationRecord, fixOk), sizeof(UbxNavigationRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxNavigationRecord, diffSolution), sizeof(UbxNavigationRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"powerSaveState", "", "0 to 7, 0 without power saving", NavframeU8, offsetof(UbxNavigationRecord, powerSaveState), sizeof(UbxNavigationRecord::powerSaveState), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"headingValid", "", "the vehicle's heading is valid", NavframeU8, offsetof(UbxNavigationRecord, headingValid), sizeof(UbxNavigationRecord::headingValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierSolution", "", "carrier phase solution", NavframeU8, offsetof(UbxNavigationRecord, carrierSolution), sizeof(UbxNavigationRecord::carrierSolution), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxNavigationRecordCarrierSolutionValues, nullptr}, false, 0},
+    {{"confirmedAvailable", "", "the confirmations below are available", NavframeU8, offsetof(UbxNavigationRecord, confirmedAvailable), sizeof(UbxNavigationRecord::confirmedAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"confirmedDate", "", "the date was confirmed", NavframeU8, offsetof(UbxNavigationRecord, confirmedDate), sizeof(UbxNavigationRecord::confirmedDate), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"confirmedTime", "", "the time of day was confirmed", NavframeU8, offsetof(UbxNavigationRecord, confirmedTime), sizeof(UbxNavigationRecord::confirmedTime), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(UbxNavigationRecord, satellites), sizeof(UbxNavigationRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive; unknown while fixType is 0", NavframeF64, offsetof(UbxNavigationRecord, longitude), sizeof(UbxNavigationRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive; unknown while fixType is 0", NavframeF64, offsetof(UbxNavigationRecord, latitude), sizeof(UbxNavigationRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above the ellipsoid; unknown while fixType is 0", NavframeF32, offsetof(UbxNavigationRecord, height), sizeof(UbxNavigationRecord::height), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightMsl", "m", "above mean sea level; unknown while fixType is 0", NavframeF32, offsetof(UbxNavigationRecord, heightMsl), sizeof(UbxNavigationRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalAccuracy", "mm", "accuracy of the horizontal position", NavframeU32, offsetof(UbxNavigationRecord, horizontalAccuracy), sizeof(UbxNavigationRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"verticalAccuracy", "mm", "accuracy of the height", NavframeU32, offsetof(UbxNavigationRecord, verticalAccuracy), sizeof(UbxNavigationRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"velocityEast", "mm/s", "velocity to the east", NavframeI32, offsetof(UbxNavigationRecord, velocityEast), sizeof(UbxNavigationRecord::velocityEast), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"velocityNorth", "mm/s", "velocity to the north", NavframeI32, offsetof(UbxNavigationRecord, velocityNorth), sizeof(UbxNavigationRecord::velocityNorth), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"velocityUp", "mm/s", "velocity upwards", NavframeI32, offsetof(UbxNavigationRecord, velocityUp), sizeof(UbxNavigationRecord::velocityUp), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"groundSpeed", "mm/s", "speed over ground", NavframeI32, offsetof(UbxNavigationRecord, groundSpeed), sizeof(UbxNavigationRecord::groundSpeed), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"motionHeading", "1e-5 deg", "heading of motion", NavframeI32, offsetof(UbxNavigationRecord, motionHeading), sizeof(UbxNavigationRecord::motionHeading), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"speedAccuracy", "mm/s", "accuracy of the speed", NavframeU32, offsetof(UbxNavigationRecord, speedAccuracy), sizeof(UbxNavigationRecord::speedAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"headingAccuracy", "1e-5 deg", "accuracy of the heading", NavframeU32, offsetof(UbxNavigationRecord, headingAccuracy), sizeof(UbxNavigationRecord::headingAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"positionDop", "", "a tenth of the position DOP: the number sent, in hundredths, / 1000", NavframeF32, offsetof(UbxNavigationRecord, positionDop), sizeof(UbxNavigationRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"invalidHeight", "", "position and heights are not valid", NavframeU8, offsetof(UbxNavigationRecord, invalidHeight), sizeof(UbxNavigationRecord::invalidHeight), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"correctionAge", "", "of the last differential correction, the receiver's code, 0 to 15", NavframeU8, offsetof(UbxNavigationRecord, correctionAge), sizeof(UbxNavigationRecord::correctionAge), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 130, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reservedWord", "", "bytes that the message reserves", NavframeU32, offsetof(UbxNavigationRecord, reservedWord), sizeof(UbxNavigationRecord::reservedWord), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"vehicleHeading", "1e-5 deg", "low 16 bits of the heading of the vehicle", NavframeU16, offsetof(UbxNavigationRecord, vehicleHeading), sizeof(UbxNavigationRecord::vehicleHeading), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 32768},
+    {{"padding3", "", "", NavframePadding, 138, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxNavigationRecordPointers = PointersTo(UbxNavigationRecordMembers);
-inline constexpr RecordRow UbxNavigationRecordLayout = LayoutOf<UbxNavigationRecord>("UbxNavigationRecord", UbxNavigationRecordPointers);
+inline constexpr RecordRow UbxNavigationRecordLayout = LayoutOf<UbxNavigationRecord, UbxNavigationRecordMembers>("UbxNavigationRecord");
 static_assert(CoversEveryByte(UbxNavigationRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxNavigationRecord> = UbxNavigationRecordLayout;
 
@@ -764,592 +718,560 @@ inline constexpr NavframeValueName UbxSatelliteQualityValues[] = {{0, "no signal
 inline constexpr NavframeValueName UbxSatelliteHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
 inline constexpr NavframeValueName UbxSatelliteOrbitSourceValues[] = {{0, "none"}, {1, "ephemeris"}, {2, "almanac"}, {3, "offline prediction"}, {4, "autonomous prediction"}, {5, "other"}, {6, "other"}, {7, "other"},};
 inline constexpr MemberRow UbxSatelliteMembers[] = {
-    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSatellite, systemId), sizeof(UbxSatellite::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, KeyOf("systemId"), false, 0},
-    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSatellite, satelliteId), sizeof(UbxSatellite::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("satelliteId"), false, 0},
-    {{"cn0", "dB-Hz", "carrier-to-noise density; unknown for a 0 sent", NavframeU8, offsetof(UbxSatellite, cn0), sizeof(UbxSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("cn0"), false, 0},
-    {{"elevation", "deg", "0 to 90; unknown for any other value sent", NavframeU8, offsetof(UbxSatellite, elevation), sizeof(UbxSatellite::elevation), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("elevation"), false, 0},
-    {{"azimuth", "deg", "unknown when the elevation is", NavframeU16, offsetof(UbxSatellite, azimuth), sizeof(UbxSatellite::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("azimuth"), false, 0},
-    {{"residual", "0.1 m", "residual of the pseudorange", NavframeI16, offsetof(UbxSatellite, residual), sizeof(UbxSatellite::residual), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, KeyOf("residual"), false, 0},
-    {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxSatellite, quality), sizeof(UbxSatellite::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxSatelliteQualityValues, nullptr}, KeyOf("quality"), false, 0},
-    {{"used", "", "in the solution", NavframeU8, offsetof(UbxSatellite, used), sizeof(UbxSatellite::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("used"), false, 0},
-    {{"health", "", "health", NavframeU8, offsetof(UbxSatellite, health), sizeof(UbxSatellite::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxSatelliteHealthValues, nullptr}, KeyOf("health"), false, 0},
-    {{"corrected", "", "differential corrections are available", NavframeU8, offsetof(UbxSatellite, corrected), sizeof(UbxSatellite::corrected), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("corrected"), false, 0},
-    {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxSatellite, smoothed), sizeof(UbxSatellite::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("smoothed"), false, 0},
-    {{"orbitSource", "", "source of the orbit", NavframeU8, offsetof(UbxSatellite, orbitSource), sizeof(UbxSatellite::orbitSource), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxSatelliteOrbitSourceValues, nullptr}, KeyOf("orbitSource"), false, 0},
-    {{"ephemeris", "", "an ephemeris is available", NavframeU8, offsetof(UbxSatellite, ephemeris), sizeof(UbxSatellite::ephemeris), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("ephemeris"), false, 0},
-    {{"almanac", "", "an almanac is available", NavframeU8, offsetof(UbxSatellite, almanac), sizeof(UbxSatellite::almanac), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("almanac"), false, 0},
-    {{"offlinePrediction", "", "a downloaded orbit prediction is available", NavframeU8, offsetof(UbxSatellite, offlinePrediction), sizeof(UbxSatellite::offlinePrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("offlinePrediction"), false, 0},
-    {{"autonomousPrediction", "", "an orbit prediction of the receiver is available", NavframeU8, offsetof(UbxSatellite, autonomousPrediction), sizeof(UbxSatellite::autonomousPrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("autonomousPrediction"), false, 0},
-    {{"spareFlag", "", "bit 15 of the flags sent", NavframeU8, offsetof(UbxSatellite, spareFlag), sizeof(UbxSatellite::spareFlag), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("spareFlag"), false, 0},
-    {{"sbasCorrections", "", "SBAS corrections were used", NavframeU8, offsetof(UbxSatellite, sbasCorrections), sizeof(UbxSatellite::sbasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("sbasCorrections"), false, 0},
-    {{"rtcmCorrections", "", "RTCM corrections were used", NavframeU8, offsetof(UbxSatellite, rtcmCorrections), sizeof(UbxSatellite::rtcmCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("rtcmCorrections"), false, 0},
-    {{"slasCorrections", "", "QZSS SLAS corrections were used", NavframeU8, offsetof(UbxSatellite, slasCorrections), sizeof(UbxSatellite::slasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("slasCorrections"), false, 0},
-    {{"spartnCorrections", "", "SPARTN corrections were used", NavframeU8, offsetof(UbxSatellite, spartnCorrections), sizeof(UbxSatellite::spartnCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("spartnCorrections"), false, 0},
-    {{"rangeCorrections", "", "corrections of the pseudorange were used", NavframeU8, offsetof(UbxSatellite, rangeCorrections), sizeof(UbxSatellite::rangeCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("rangeCorrections"), false, 0},
-    {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxSatellite, carrierCorrections), sizeof(UbxSatellite::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("carrierCorrections"), false, 0},
-    {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSatellite, dopplerCorrections), sizeof(UbxSatellite::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("dopplerCorrections"), false, 0},
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSatellite, systemId), sizeof(UbxSatellite::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSatellite, satelliteId), sizeof(UbxSatellite::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density; unknown for a 0 sent", NavframeU8, offsetof(UbxSatellite, cn0), sizeof(UbxSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "0 to 90; unknown for any other value sent", NavframeU8, offsetof(UbxSatellite, elevation), sizeof(UbxSatellite::elevation), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "unknown when the elevation is", NavframeU16, offsetof(UbxSatellite, azimuth), sizeof(UbxSatellite::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "0.1 m", "residual of the pseudorange", NavframeI16, offsetof(UbxSatellite, residual), sizeof(UbxSatellite::residual), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxSatellite, quality), sizeof(UbxSatellite::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxSatelliteQualityValues, nullptr}, false, 0},
+    {{"used", "", "in the solution", NavframeU8, offsetof(UbxSatellite, used), sizeof(UbxSatellite::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU8, offsetof(UbxSatellite, health), sizeof(UbxSatellite::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxSatelliteHealthValues, nullptr}, false, 0},
+    {{"corrected", "", "differential corrections are available", NavframeU8, offsetof(UbxSatellite, corrected), sizeof(UbxSatellite::corrected), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxSatellite, smoothed), sizeof(UbxSatellite::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitSource", "", "source of the orbit", NavframeU8, offsetof(UbxSatellite, orbitSource), sizeof(UbxSatellite::orbitSource), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxSatelliteOrbitSourceValues, nullptr}, false, 0},
+    {{"ephemeris", "", "an ephemeris is available", NavframeU8, offsetof(UbxSatellite, ephemeris), sizeof(UbxSatellite::ephemeris), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"almanac", "", "an almanac is available", NavframeU8, offsetof(UbxSatellite, almanac), sizeof(UbxSatellite::almanac), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"offlinePrediction", "", "a downloaded orbit prediction is available", NavframeU8, offsetof(UbxSatellite, offlinePrediction), sizeof(UbxSatellite::offlinePrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"autonomousPrediction", "", "an orbit prediction of the receiver is available", NavframeU8, offsetof(UbxSatellite, autonomousPrediction), sizeof(UbxSatellite::autonomousPrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"spareFlag", "", "bit 15 of the flags sent", NavframeU8, offsetof(UbxSatellite, spareFlag), sizeof(UbxSatellite::spareFlag), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"sbasCorrections", "", "SBAS corrections were used", NavframeU8, offsetof(UbxSatellite, sbasCorrections), sizeof(UbxSatellite::sbasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmCorrections", "", "RTCM corrections were used", NavframeU8, offsetof(UbxSatellite, rtcmCorrections), sizeof(UbxSatellite::rtcmCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"slasCorrections", "", "QZSS SLAS corrections were used", NavframeU8, offsetof(UbxSatellite, slasCorrections), sizeof(UbxSatellite::slasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"spartnCorrections", "", "SPARTN corrections were used", NavframeU8, offsetof(UbxSatellite, spartnCorrections), sizeof(UbxSatellite::spartnCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rangeCorrections", "", "corrections of the pseudorange were used", NavframeU8, offsetof(UbxSatellite, rangeCorrections), sizeof(UbxSatellite::rangeCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxSatellite, carrierCorrections), sizeof(UbxSatellite::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSatellite, dopplerCorrections), sizeof(UbxSatellite::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxSatellitePointers = PointersTo(UbxSatelliteMembers);
-inline constexpr RecordRow UbxSatelliteLayout = LayoutOf<UbxSatellite>("UbxSatellite", UbxSatellitePointers);
+inline constexpr RecordRow UbxSatelliteLayout = LayoutOf<UbxSatellite, UbxSatelliteMembers>("UbxSatellite");
 static_assert(CoversEveryByte(UbxSatelliteLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxSatellite> = UbxSatelliteLayout;
 
 inline constexpr MemberRow UbxSatellitesRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSatellitesRecord, tow), sizeof(UbxSatellitesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSatellitesRecord, week), sizeof(UbxSatellitesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSatellitesRecord, reserved), sizeof(UbxSatellitesRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSatellitesRecord, timeText), sizeof(UbxSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"version", "", "version of the message", NavframeU8, offsetof(UbxSatellitesRecord, version), sizeof(UbxSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("version"), false, 0},
-    {{"count", "", "satellites: as many as the message counts, has bytes for and the record has room for", NavframeU8, offsetof(UbxSatellitesRecord, count), sizeof(UbxSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSatellitesRecord, satellites), sizeof(UbxSatellitesRecord::satellites[0]), 96, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSatelliteLayout}, KeyOf("satellites"), false, 0},
-    {{"padding0", "", "", NavframePadding, 2522, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf(""), false, 0},
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSatellitesRecord, tow), sizeof(UbxSatellitesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSatellitesRecord, week), sizeof(UbxSatellitesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSatellitesRecord, reserved), sizeof(UbxSatellitesRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSatellitesRecord, timeText), sizeof(UbxSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxSatellitesRecord, version), sizeof(UbxSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites: as many as the message counts, has bytes for and the record has room for", NavframeU8, offsetof(UbxSatellitesRecord, count), sizeof(UbxSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSatellitesRecord, satellites), sizeof(UbxSatellitesRecord::satellites[0]), 96, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSatelliteLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 2522, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxSatellitesRecordPointers = PointersTo(UbxSatellitesRecordMembers);
-inline constexpr RecordRow UbxSatellitesRecordLayout = LayoutOf<UbxSatellitesRecord>("UbxSatellitesRecord", UbxSatellitesRecordPointers);
+inline constexpr RecordRow UbxSatellitesRecordLayout = LayoutOf<UbxSatellitesRecord, UbxSatellitesRecordMembers>("UbxSatellitesRecord");
 static_assert(CoversEveryByte(UbxSatellitesRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxSatellitesRecord> = UbxSatellitesRecordLayout;
 
 inline constexpr MemberRow UbxRawMeasurementMembers[] = {
-    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(UbxRawMeasurement, pseudorange), sizeof(UbxRawMeasurement::pseudorange), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("pseudorange"), false, 0},
-    {{"carrierPhase", "cycles", "carrier phase", NavframeF64, offsetof(UbxRawMeasurement, carrierPhase), sizeof(UbxRawMeasurement::carrierPhase), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("carrierPhase"), false, 0},
-    {{"doppler", "Hz", "Doppler, positive for approaching satellites", NavframeF32, offsetof(UbxRawMeasurement, doppler), sizeof(UbxRawMeasurement::doppler), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("doppler"), false, 0},
-    {{"pseudorangeDeviation", "m", "standard deviation of the pseudorange", NavframeF32, offsetof(UbxRawMeasurement, pseudorangeDeviation), sizeof(UbxRawMeasurement::pseudorangeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("pseudorangeDeviation"), false, 0},
-    {{"carrierPhaseDeviation", "cycles", "standard deviation of the carrier phase", NavframeF32, offsetof(UbxRawMeasurement, carrierPhaseDeviation), sizeof(UbxRawMeasurement::carrierPhaseDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("carrierPhaseDeviation"), false, 0},
-    {{"dopplerDeviation", "Hz", "standard deviation of the Doppler", NavframeF32, offsetof(UbxRawMeasurement, dopplerDeviation), sizeof(UbxRawMeasurement::dopplerDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("dopplerDeviation"), false, 0},
-    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxRawMeasurement, systemId), sizeof(UbxRawMeasurement::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, KeyOf("systemId"), false, 0},
-    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxRawMeasurement, satelliteId), sizeof(UbxRawMeasurement::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("satelliteId"), false, 0},
-    {{"signalId", "", "signal of the system", NavframeU8, offsetof(UbxRawMeasurement, signalId), sizeof(UbxRawMeasurement::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("signalId"), false, 0},
-    {{"frequencySlot", "", "of GLONASS the slot + 7, 0 to 13", NavframeU8, offsetof(UbxRawMeasurement, frequencySlot), sizeof(UbxRawMeasurement::frequencySlot), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("frequencySlot"), false, 0},
-    {{"lockTime", "ms", "lock of the carrier phase, 64500 at most", NavframeU16, offsetof(UbxRawMeasurement, lockTime), sizeof(UbxRawMeasurement::lockTime), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("lockTime"), false, 0},
-    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxRawMeasurement, cn0), sizeof(UbxRawMeasurement::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("cn0"), false, 0},
-    {{"pseudorangeValid", "", "the pseudorange is valid", NavframeU8, offsetof(UbxRawMeasurement, pseudorangeValid), sizeof(UbxRawMeasurement::pseudorangeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("pseudorangeValid"), false, 0},
-    {{"carrierPhaseValid", "", "the carrier phase is valid", NavframeU8, offsetof(UbxRawMeasurement, carrierPhaseValid), sizeof(UbxRawMeasurement::carrierPhaseValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("carrierPhaseValid"), false, 0},
-    {{"halfCycleResolved", "", "the half cycle is resolved", NavframeU8, offsetof(UbxRawMeasurement, halfCycleResolved), sizeof(UbxRawMeasurement::halfCycleResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("halfCycleResolved"), false, 0},
-    {{"halfCycleSubtracted", "", "a half cycle was subtracted from the phase", NavframeU8, offsetof(UbxRawMeasurement, halfCycleSubtracted), sizeof(UbxRawMeasurement::halfCycleSubtracted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("halfCycleSubtracted"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(UbxRawMeasurement, reserved), sizeof(UbxRawMeasurement::reserved[0]), 5, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(UbxRawMeasurement, pseudorange), sizeof(UbxRawMeasurement::pseudorange), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhase", "cycles", "carrier phase", NavframeF64, offsetof(UbxRawMeasurement, carrierPhase), sizeof(UbxRawMeasurement::carrierPhase), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"doppler", "Hz", "Doppler, positive for approaching satellites", NavframeF32, offsetof(UbxRawMeasurement, doppler), sizeof(UbxRawMeasurement::doppler), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorangeDeviation", "m", "standard deviation of the pseudorange", NavframeF32, offsetof(UbxRawMeasurement, pseudorangeDeviation), sizeof(UbxRawMeasurement::pseudorangeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhaseDeviation", "cycles", "standard deviation of the carrier phase", NavframeF32, offsetof(UbxRawMeasurement, carrierPhaseDeviation), sizeof(UbxRawMeasurement::carrierPhaseDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerDeviation", "Hz", "standard deviation of the Doppler", NavframeF32, offsetof(UbxRawMeasurement, dopplerDeviation), sizeof(UbxRawMeasurement::dopplerDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxRawMeasurement, systemId), sizeof(UbxRawMeasurement::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxRawMeasurement, satelliteId), sizeof(UbxRawMeasurement::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"signalId", "", "signal of the system", NavframeU8, offsetof(UbxRawMeasurement, signalId), sizeof(UbxRawMeasurement::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"frequencySlot", "", "of GLONASS the slot + 7, 0 to 13", NavframeU8, offsetof(UbxRawMeasurement, frequencySlot), sizeof(UbxRawMeasurement::frequencySlot), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"lockTime", "ms", "lock of the carrier phase, 64500 at most", NavframeU16, offsetof(UbxRawMeasurement, lockTime), sizeof(UbxRawMeasurement::lockTime), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxRawMeasurement, cn0), sizeof(UbxRawMeasurement::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorangeValid", "", "the pseudorange is valid", NavframeU8, offsetof(UbxRawMeasurement, pseudorangeValid), sizeof(UbxRawMeasurement::pseudorangeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhaseValid", "", "the carrier phase is valid", NavframeU8, offsetof(UbxRawMeasurement, carrierPhaseValid), sizeof(UbxRawMeasurement::carrierPhaseValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"halfCycleResolved", "", "the half cycle is resolved", NavframeU8, offsetof(UbxRawMeasurement, halfCycleResolved), sizeof(UbxRawMeasurement::halfCycleResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"halfCycleSubtracted", "", "a half cycle was subtracted from the phase", NavframeU8, offsetof(UbxRawMeasurement, halfCycleSubtracted), sizeof(UbxRawMeasurement::halfCycleSubtracted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(UbxRawMeasurement, reserved), sizeof(UbxRawMeasurement::reserved[0]), 5, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxRawMeasurementPointers = PointersTo(UbxRawMeasurementMembers);
-inline constexpr RecordRow UbxRawMeasurementLayout = LayoutOf<UbxRawMeasurement>("UbxRawMeasurement", UbxRawMeasurementPointers);
+inline constexpr RecordRow UbxRawMeasurementLayout = LayoutOf<UbxRawMeasurement, UbxRawMeasurementMembers>("UbxRawMeasurement");
 static_assert(CoversEveryByte(UbxRawMeasurementLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxRawMeasurement> = UbxRawMeasurementLayout;
 
 inline constexpr MemberRow UbxRawMeasurementsRecordMembers[] = {
-    {{"tow", "ms", "the receiver's time of week rounded; unknown when it is no time of a week", NavframeU32, offsetof(UbxRawMeasurementsRecord, tow), sizeof(UbxRawMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "the receiver's GPS week", NavframeU16, offsetof(UbxRawMeasurementsRecord, week), sizeof(UbxRawMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRawMeasurementsRecord, reserved), sizeof(UbxRawMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRawMeasurementsRecord, timeText), sizeof(UbxRawMeasurementsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"leapSeconds", "s", "GPS time less UTC", NavframeI8, offsetof(UbxRawMeasurementsRecord, leapSeconds), sizeof(UbxRawMeasurementsRecord::leapSeconds), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, KeyOf("leapSeconds"), false, 0},
-    {{"count", "", "measurements: as many as the message counts and has bytes for", NavframeU8, offsetof(UbxRawMeasurementsRecord, count), sizeof(UbxRawMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"leapKnown", "", "leapSeconds was received, not assumed", NavframeU8, offsetof(UbxRawMeasurementsRecord, leapKnown), sizeof(UbxRawMeasurementsRecord::leapKnown), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("leapKnown"), false, 0},
-    {{"clockReset", "", "the receiver's clock was reset", NavframeU8, offsetof(UbxRawMeasurementsRecord, clockReset), sizeof(UbxRawMeasurementsRecord::clockReset), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("clockReset"), false, 0},
-    {{"version", "", "version of the message", NavframeU8, offsetof(UbxRawMeasurementsRecord, version), sizeof(UbxRawMeasurementsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("version"), false, 0},
-    {{"reservedInHead", "", "reserved", NavframeU8, offsetof(UbxRawMeasurementsRecord, reservedInHead), sizeof(UbxRawMeasurementsRecord::reservedInHead[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reservedInHead"), false, 0},
-    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawMeasurementsRecord, measurements), sizeof(UbxRawMeasurementsRecord::measurements[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxRawMeasurementLayout}, KeyOf("measurements"), false, 0},
+    {{"tow", "ms", "the receiver's time of week rounded; unknown when it is no time of a week", NavframeU32, offsetof(UbxRawMeasurementsRecord, tow), sizeof(UbxRawMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the receiver's GPS week", NavframeU16, offsetof(UbxRawMeasurementsRecord, week), sizeof(UbxRawMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRawMeasurementsRecord, reserved), sizeof(UbxRawMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRawMeasurementsRecord, timeText), sizeof(UbxRawMeasurementsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"leapSeconds", "s", "GPS time less UTC", NavframeI8, offsetof(UbxRawMeasurementsRecord, leapSeconds), sizeof(UbxRawMeasurementsRecord::leapSeconds), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "measurements: as many as the message counts and has bytes for", NavframeU8, offsetof(UbxRawMeasurementsRecord, count), sizeof(UbxRawMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"leapKnown", "", "leapSeconds was received, not assumed", NavframeU8, offsetof(UbxRawMeasurementsRecord, leapKnown), sizeof(UbxRawMeasurementsRecord::leapKnown), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"clockReset", "", "the receiver's clock was reset", NavframeU8, offsetof(UbxRawMeasurementsRecord, clockReset), sizeof(UbxRawMeasurementsRecord::clockReset), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxRawMeasurementsRecord, version), sizeof(UbxRawMeasurementsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reservedInHead", "", "reserved", NavframeU8, offsetof(UbxRawMeasurementsRecord, reservedInHead), sizeof(UbxRawMeasurementsRecord::reservedInHead[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawMeasurementsRecord, measurements), sizeof(UbxRawMeasurementsRecord::measurements[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxRawMeasurementLayout}, false, 0},
 };
-inline constexpr auto UbxRawMeasurementsRecordPointers = PointersTo(UbxRawMeasurementsRecordMembers);
-inline constexpr RecordRow UbxRawMeasurementsRecordLayout = LayoutOf<UbxRawMeasurementsRecord>("UbxRawMeasurementsRecord", UbxRawMeasurementsRecordPointers);
+inline constexpr RecordRow UbxRawMeasurementsRecordLayout = LayoutOf<UbxRawMeasurementsRecord, UbxRawMeasurementsRecordMembers>("UbxRawMeasurementsRecord");
 static_assert(CoversEveryByte(UbxRawMeasurementsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxRawMeasurementsRecord> = UbxRawMeasurementsRecordLayout;
 
 inline constexpr MemberRow UbxAttitudeRecordMembers[] = {
-    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxAttitudeRecord, tow), sizeof(UbxAttitudeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxAttitudeRecord, week), sizeof(UbxAttitudeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxAttitudeRecord, reserved), sizeof(UbxAttitudeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxAttitudeRecord, timeText), sizeof(UbxAttitudeRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("timeText"), false, 0},
-    {{"version", "", "version of the message", NavframeU8, offsetof(UbxAttitudeRecord, version), sizeof(UbxAttitudeRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("version"), false, 0},
-    {{"reservedInHead", "", "reserved", NavframeU8, offsetof(UbxAttitudeRecord, reservedInHead), sizeof(UbxAttitudeRecord::reservedInHead[0]), 7, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reservedInHead"), false, 0},
-    {{"roll", "deg", "roll", NavframeF64, offsetof(UbxAttitudeRecord, roll), sizeof(UbxAttitudeRecord::roll), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("roll"), false, 0},
-    {{"pitch", "deg", "pitch", NavframeF64, offsetof(UbxAttitudeRecord, pitch), sizeof(UbxAttitudeRecord::pitch), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("pitch"), false, 0},
-    {{"heading", "deg", "heading", NavframeF64, offsetof(UbxAttitudeRecord, heading), sizeof(UbxAttitudeRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("heading"), false, 0},
-    {{"rollAccuracy", "deg", "accuracy of the roll", NavframeF64, offsetof(UbxAttitudeRecord, rollAccuracy), sizeof(UbxAttitudeRecord::rollAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("rollAccuracy"), false, 0},
-    {{"pitchAccuracy", "deg", "accuracy of the pitch", NavframeF64, offsetof(UbxAttitudeRecord, pitchAccuracy), sizeof(UbxAttitudeRecord::pitchAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("pitchAccuracy"), false, 0},
-    {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxAttitudeRecord, headingAccuracy), sizeof(UbxAttitudeRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("headingAccuracy"), false, 0},
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxAttitudeRecord, tow), sizeof(UbxAttitudeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxAttitudeRecord, week), sizeof(UbxAttitudeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxAttitudeRecord, reserved), sizeof(UbxAttitudeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxAttitudeRecord, timeText), sizeof(UbxAttitudeRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxAttitudeRecord, version), sizeof(UbxAttitudeRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reservedInHead", "", "reserved", NavframeU8, offsetof(UbxAttitudeRecord, reservedInHead), sizeof(UbxAttitudeRecord::reservedInHead[0]), 7, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"roll", "deg", "roll", NavframeF64, offsetof(UbxAttitudeRecord, roll), sizeof(UbxAttitudeRecord::roll), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitch", "deg", "pitch", NavframeF64, offsetof(UbxAttitudeRecord, pitch), sizeof(UbxAttitudeRecord::pitch), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heading", "deg", "heading", NavframeF64, offsetof(UbxAttitudeRecord, heading), sizeof(UbxAttitudeRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rollAccuracy", "deg", "accuracy of the roll", NavframeF64, offsetof(UbxAttitudeRecord, rollAccuracy), sizeof(UbxAttitudeRecord::rollAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitchAccuracy", "deg", "accuracy of the pitch", NavframeF64, offsetof(UbxAttitudeRecord, pitchAccuracy), sizeof(UbxAttitudeRecord::pitchAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxAttitudeRecord, headingAccuracy), sizeof(UbxAttitudeRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UbxAttitudeRecordPointers = PointersTo(UbxAttitudeRecordMembers);
-inline constexpr RecordRow UbxAttitudeRecordLayout = LayoutOf<UbxAttitudeRecord>("UbxAttitudeRecord", UbxAttitudeRecordPointers);
+inline constexpr RecordRow UbxAttitudeRecordLayout = LayoutOf<UbxAttitudeRecord, UbxAttitudeRecordMembers>("UbxAttitudeRecord");
 static_assert(CoversEveryByte(UbxAttitudeRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxAttitudeRecord> = UbxAttitudeRecordLayout;
 
 inline constexpr NavframeValueName DiagnosticRecordCodeValues[] = {{1, "UBX frame with a wrong checksum"},};
 inline constexpr MemberRow DiagnosticRecordMembers[] = {
-    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(DiagnosticRecord, tow), sizeof(DiagnosticRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tow"), false, 0},
-    {{"code", "", "what happened", NavframeU32, offsetof(DiagnosticRecord, code), sizeof(DiagnosticRecord::code), 0, -1, 0, NavframeUnknownNever, 0, 1, DiagnosticRecordCodeValues, nullptr}, KeyOf("code"), false, 0},
-    {{"text", "", "the same in words", NavframeText, offsetof(DiagnosticRecord, text), sizeof(DiagnosticRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, KeyOf("text"), false, 0},
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(DiagnosticRecord, tow), sizeof(DiagnosticRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"code", "", "what happened", NavframeU32, offsetof(DiagnosticRecord, code), sizeof(DiagnosticRecord::code), 0, -1, 0, NavframeUnknownNever, 0, 1, DiagnosticRecordCodeValues, nullptr}, false, 0},
+    {{"text", "", "the same in words", NavframeText, offsetof(DiagnosticRecord, text), sizeof(DiagnosticRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto DiagnosticRecordPointers = PointersTo(DiagnosticRecordMembers);
-inline constexpr RecordRow DiagnosticRecordLayout = LayoutOf<DiagnosticRecord>("DiagnosticRecord", DiagnosticRecordPointers);
+inline constexpr RecordRow DiagnosticRecordLayout = LayoutOf<DiagnosticRecord, DiagnosticRecordMembers>("DiagnosticRecord");
 static_assert(CoversEveryByte(DiagnosticRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<DiagnosticRecord> = DiagnosticRecordLayout;
 
 inline constexpr NavframeValueName AsciiLogHeaderPortValues[] = {{0, "any other"}, {1, "COM1"}, {2, "COM2"}, {3, "COM3"}, {4, "THISPORT"}, {5, "XCOM1"}, {6, "XCOM2"}, {7, "XCOM3"}, {8, "USB1"}, {9, "USB2"}, {10, "USB3"}, {11, "COM1_30"}, {12, "ICOM1 to ICOM14"}, {13, "ICOM1 to ICOM14"}, {14, "ICOM1 to ICOM14"}, {15, "ICOM1 to ICOM14"}, {16, "ICOM1 to ICOM14"}, {17, "ICOM1 to ICOM14"}, {18, "ICOM1 to ICOM14"}, {19, "ICOM1 to ICOM14"}, {20, "ICOM1 to ICOM14"}, {21, "ICOM1 to ICOM14"}, {22, "ICOM1 to ICOM14"}, {23, "ICOM1 to ICOM14"}, {24, "ICOM1 to ICOM14"}, {25, "ICOM1 to ICOM14"},};
 inline constexpr NavframeValueName AsciiLogHeaderTimeStatusValues[] = {{20, "UNKNOWN"}, {60, "APPROXIMATE"}, {80, "COARSEADJUSTING"}, {100, "COARSE"}, {120, "COARSESTEERING"}, {130, "FREEWHEELING"}, {140, "FINEADJUSTING"}, {160, "FINE"}, {170, "FINEBACKUPSTEERING"}, {180, "FINESTEERING"}, {200, "SATTIME"}, {201, "LOCAL"},};
 inline constexpr MemberRow AsciiLogHeaderMembers[] = {
-    {{"sync", "", "always 0xAA 0x44 0x12", NavframeU8, offsetof(AsciiLogHeader, sync), sizeof(AsciiLogHeader::sync[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("sync"), false, 0},
-    {{"headerLength", "B", "always 28", NavframeU8, offsetof(AsciiLogHeader, headerLength), sizeof(AsciiLogHeader::headerLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("headerLength"), false, 0},
-    {{"messageId", "", "log number, as GnssMessage::id", NavframeU16, offsetof(AsciiLogHeader, messageId), sizeof(AsciiLogHeader::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("messageId"), false, 0},
-    {{"messageType", "", "always 0", NavframeU8, offsetof(AsciiLogHeader, messageType), sizeof(AsciiLogHeader::messageType), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("messageType"), false, 0},
-    {{"port", "", "port that the log came from", NavframeU8, offsetof(AsciiLogHeader, port), sizeof(AsciiLogHeader::port), 0, -1, 0, NavframeUnknownNever, 0, 26, AsciiLogHeaderPortValues, nullptr}, KeyOf("port"), false, 0},
-    {{"messageLength", "B", "bytes behind the header that the log filled", NavframeU16, offsetof(AsciiLogHeader, messageLength), sizeof(AsciiLogHeader::messageLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("messageLength"), false, 0},
-    {{"sequence", "", "sequence number, modulo 65536", NavframeU16, offsetof(AsciiLogHeader, sequence), sizeof(AsciiLogHeader::sequence), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("sequence"), false, 0},
-    {{"idleTime", "0.5 %", "idle time of the receiver's processor, 255 for more", NavframeU8, offsetof(AsciiLogHeader, idleTime), sizeof(AsciiLogHeader::idleTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("idleTime"), false, 0},
-    {{"timeStatus", "", "quality of the time", NavframeU8, offsetof(AsciiLogHeader, timeStatus), sizeof(AsciiLogHeader::timeStatus), 0, -1, 0, NavframeUnknownNever, 0, 12, AsciiLogHeaderTimeStatusValues, nullptr}, KeyOf("timeStatus"), false, 0},
-    {{"week", "", "week, modulo 65536: of GPS in the long form, in the short form of the system that the line's time reference word names, GPS or BDS, which is not kept here (BDS counts its weeks from GPS week 1356, and its time of week is 14 s behind that of GPS)", NavframeU16, offsetof(AsciiLogHeader, week), sizeof(AsciiLogHeader::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"milliseconds", "ms", "time of that week: in the long form rounded, in the short form as the line has it, modulo 2^32", NavframeI32, offsetof(AsciiLogHeader, milliseconds), sizeof(AsciiLogHeader::milliseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, KeyOf("milliseconds"), false, 0},
-    {{"receiverStatus", "", "digits of the status, which are hexadecimal, read as a decimal number (20 for \"00000020\", a line whose status has a letter gives no record)", NavframeU32, offsetof(AsciiLogHeader, receiverStatus), sizeof(AsciiLogHeader::receiverStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("receiverStatus"), false, 0},
-    {{"reserved", "", "reserved", NavframeU16, offsetof(AsciiLogHeader, reserved), sizeof(AsciiLogHeader::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"softwareBuild", "", "build number of the software", NavframeU16, offsetof(AsciiLogHeader, softwareBuild), sizeof(AsciiLogHeader::softwareBuild), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("softwareBuild"), false, 0},
+    {{"sync", "", "always 0xAA 0x44 0x12", NavframeU8, offsetof(AsciiLogHeader, sync), sizeof(AsciiLogHeader::sync[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headerLength", "B", "always 28", NavframeU8, offsetof(AsciiLogHeader, headerLength), sizeof(AsciiLogHeader::headerLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"messageId", "", "log number, as GnssMessage::id", NavframeU16, offsetof(AsciiLogHeader, messageId), sizeof(AsciiLogHeader::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"messageType", "", "always 0", NavframeU8, offsetof(AsciiLogHeader, messageType), sizeof(AsciiLogHeader::messageType), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"port", "", "port that the log came from", NavframeU8, offsetof(AsciiLogHeader, port), sizeof(AsciiLogHeader::port), 0, -1, 0, NavframeUnknownNever, 0, 26, AsciiLogHeaderPortValues, nullptr}, false, 0},
+    {{"messageLength", "B", "bytes behind the header that the log filled", NavframeU16, offsetof(AsciiLogHeader, messageLength), sizeof(AsciiLogHeader::messageLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sequence", "", "sequence number, modulo 65536", NavframeU16, offsetof(AsciiLogHeader, sequence), sizeof(AsciiLogHeader::sequence), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"idleTime", "0.5 %", "idle time of the receiver's processor, 255 for more", NavframeU8, offsetof(AsciiLogHeader, idleTime), sizeof(AsciiLogHeader::idleTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeStatus", "", "quality of the time", NavframeU8, offsetof(AsciiLogHeader, timeStatus), sizeof(AsciiLogHeader::timeStatus), 0, -1, 0, NavframeUnknownNever, 0, 12, AsciiLogHeaderTimeStatusValues, nullptr}, false, 0},
+    {{"week", "", "week, modulo 65536: of GPS in the long form, in the short form of the system that the line's time reference word names, GPS or BDS, which is not kept here (BDS counts its weeks from GPS week 1356, and its time of week is 14 s behind that of GPS)", NavframeU16, offsetof(AsciiLogHeader, week), sizeof(AsciiLogHeader::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"milliseconds", "ms", "time of that week: in the long form rounded, in the short form as the line has it, modulo 2^32", NavframeI32, offsetof(AsciiLogHeader, milliseconds), sizeof(AsciiLogHeader::milliseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"receiverStatus", "", "digits of the status, which are hexadecimal, read as a decimal number (20 for \"00000020\", a line whose status has a letter gives no record)", NavframeU32, offsetof(AsciiLogHeader, receiverStatus), sizeof(AsciiLogHeader::receiverStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(AsciiLogHeader, reserved), sizeof(AsciiLogHeader::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"softwareBuild", "", "build number of the software", NavframeU16, offsetof(AsciiLogHeader, softwareBuild), sizeof(AsciiLogHeader::softwareBuild), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto AsciiLogHeaderPointers = PointersTo(AsciiLogHeaderMembers);
-inline constexpr RecordRow AsciiLogHeaderLayout = LayoutOf<AsciiLogHeader>("AsciiLogHeader", AsciiLogHeaderPointers);
+inline constexpr RecordRow AsciiLogHeaderLayout = LayoutOf<AsciiLogHeader, AsciiLogHeaderMembers>("AsciiLogHeader");
 static_assert(CoversEveryByte(AsciiLogHeaderLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<AsciiLogHeader> = AsciiLogHeaderLayout;
 
 inline constexpr MemberRow SolutionSatellitesMembers[] = {
-    {{"tracked", "", "satellites tracked", NavframeU8, offsetof(SolutionSatellites, tracked), sizeof(SolutionSatellites::tracked), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tracked"), false, 0},
-    {{"used", "", "satellites used in the solution", NavframeU8, offsetof(SolutionSatellites, used), sizeof(SolutionSatellites::used), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("used"), false, 0},
-    {{"usedL1", "", "satellites with L1 in the solution; heading logs: above the elevation mask", NavframeU8, offsetof(SolutionSatellites, usedL1), sizeof(SolutionSatellites::usedL1), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("usedL1"), false, 0},
-    {{"usedMultiFreq", "", "satellites with several frequencies in the solution; heading logs: above the mask with L2", NavframeU8, offsetof(SolutionSatellites, usedMultiFreq), sizeof(SolutionSatellites::usedMultiFreq), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("usedMultiFreq"), false, 0},
-    {{"reserved", "", "reserved; heading logs: source of the solution", NavframeU8, offsetof(SolutionSatellites, reserved), sizeof(SolutionSatellites::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"extendedStatus", "", "extended status of the solution", NavframeU8, offsetof(SolutionSatellites, extendedStatus), sizeof(SolutionSatellites::extendedStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("extendedStatus"), false, 0},
-    {{"galileoBdsSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, galileoBdsSignals), sizeof(SolutionSatellites::galileoBdsSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("galileoBdsSignals"), false, 0},
-    {{"gpsGlonassSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, gpsGlonassSignals), sizeof(SolutionSatellites::gpsGlonassSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("gpsGlonassSignals"), false, 0},
+    {{"tracked", "", "satellites tracked", NavframeU8, offsetof(SolutionSatellites, tracked), sizeof(SolutionSatellites::tracked), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"used", "", "satellites used in the solution", NavframeU8, offsetof(SolutionSatellites, used), sizeof(SolutionSatellites::used), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"usedL1", "", "satellites with L1 in the solution; heading logs: above the elevation mask", NavframeU8, offsetof(SolutionSatellites, usedL1), sizeof(SolutionSatellites::usedL1), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"usedMultiFreq", "", "satellites with several frequencies in the solution; heading logs: above the mask with L2", NavframeU8, offsetof(SolutionSatellites, usedMultiFreq), sizeof(SolutionSatellites::usedMultiFreq), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved; heading logs: source of the solution", NavframeU8, offsetof(SolutionSatellites, reserved), sizeof(SolutionSatellites::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"extendedStatus", "", "extended status of the solution", NavframeU8, offsetof(SolutionSatellites, extendedStatus), sizeof(SolutionSatellites::extendedStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"galileoBdsSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, galileoBdsSignals), sizeof(SolutionSatellites::galileoBdsSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsGlonassSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, gpsGlonassSignals), sizeof(SolutionSatellites::gpsGlonassSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto SolutionSatellitesPointers = PointersTo(SolutionSatellitesMembers);
-inline constexpr RecordRow SolutionSatellitesLayout = LayoutOf<SolutionSatellites>("SolutionSatellites", SolutionSatellitesPointers);
+inline constexpr RecordRow SolutionSatellitesLayout = LayoutOf<SolutionSatellites, SolutionSatellitesMembers>("SolutionSatellites");
 static_assert(CoversEveryByte(SolutionSatellitesLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SolutionSatellites> = SolutionSatellitesLayout;
 
 inline constexpr NavframeValueName PositionLogRecordDatumValues[] = {{0, "ERROR or not known"}, {61, "WGS84"}, {63, "USER"},};
 inline constexpr MemberRow PositionLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(PositionLogRecord, header), sizeof(PositionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(PositionLogRecord, solutionStatus), sizeof(PositionLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("solutionStatus"), false, 0},
-    {{"positionType", "", "type of the solution", NavframeI32, offsetof(PositionLogRecord, positionType), sizeof(PositionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("positionType"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(PositionLogRecord, latitude), sizeof(PositionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(PositionLogRecord, longitude), sizeof(PositionLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"height", "m", "above mean sea level", NavframeF64, offsetof(PositionLogRecord, height), sizeof(PositionLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("height"), false, 0},
-    {{"undulation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(PositionLogRecord, undulation), sizeof(PositionLogRecord::undulation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undulation"), false, 0},
-    {{"datum", "", "place in the receivers' list of datums", NavframeI32, offsetof(PositionLogRecord, datum), sizeof(PositionLogRecord::datum), 0, -1, 0, NavframeUnknownNever, 0, 3, PositionLogRecordDatumValues, nullptr}, KeyOf("datum"), false, 0},
-    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(PositionLogRecord, latitudeDeviation), sizeof(PositionLogRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latitudeDeviation"), false, 0},
-    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(PositionLogRecord, longitudeDeviation), sizeof(PositionLogRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("longitudeDeviation"), false, 0},
-    {{"heightDeviation", "m", "standard deviation of the height", NavframeF32, offsetof(PositionLogRecord, heightDeviation), sizeof(PositionLogRecord::heightDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("heightDeviation"), false, 0},
-    {{"stationId", "", "reference station", NavframeText, offsetof(PositionLogRecord, stationId), sizeof(PositionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(PositionLogRecord, differentialAge), sizeof(PositionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("differentialAge"), false, 0},
-    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(PositionLogRecord, solutionAge), sizeof(PositionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("solutionAge"), false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(PositionLogRecord, satellites), sizeof(PositionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(PositionLogRecord, header), sizeof(PositionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(PositionLogRecord, solutionStatus), sizeof(PositionLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"positionType", "", "type of the solution", NavframeI32, offsetof(PositionLogRecord, positionType), sizeof(PositionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(PositionLogRecord, latitude), sizeof(PositionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(PositionLogRecord, longitude), sizeof(PositionLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above mean sea level", NavframeF64, offsetof(PositionLogRecord, height), sizeof(PositionLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"undulation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(PositionLogRecord, undulation), sizeof(PositionLogRecord::undulation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"datum", "", "place in the receivers' list of datums", NavframeI32, offsetof(PositionLogRecord, datum), sizeof(PositionLogRecord::datum), 0, -1, 0, NavframeUnknownNever, 0, 3, PositionLogRecordDatumValues, nullptr}, false, 0},
+    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(PositionLogRecord, latitudeDeviation), sizeof(PositionLogRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(PositionLogRecord, longitudeDeviation), sizeof(PositionLogRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightDeviation", "m", "standard deviation of the height", NavframeF32, offsetof(PositionLogRecord, heightDeviation), sizeof(PositionLogRecord::heightDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station", NavframeText, offsetof(PositionLogRecord, stationId), sizeof(PositionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(PositionLogRecord, differentialAge), sizeof(PositionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(PositionLogRecord, solutionAge), sizeof(PositionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(PositionLogRecord, satellites), sizeof(PositionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
 };
-inline constexpr auto PositionLogRecordPointers = PointersTo(PositionLogRecordMembers);
-inline constexpr RecordRow PositionLogRecordLayout = LayoutOf<PositionLogRecord>("PositionLogRecord", PositionLogRecordPointers);
+inline constexpr RecordRow PositionLogRecordLayout = LayoutOf<PositionLogRecord, PositionLogRecordMembers>("PositionLogRecord");
 static_assert(CoversEveryByte(PositionLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<PositionLogRecord> = PositionLogRecordLayout;
 
 inline constexpr MemberRow VelocityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(VelocityLogRecord, header), sizeof(VelocityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(VelocityLogRecord, solutionStatus), sizeof(VelocityLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("solutionStatus"), false, 0},
-    {{"velocityType", "", "type of the solution", NavframeI32, offsetof(VelocityLogRecord, velocityType), sizeof(VelocityLogRecord::velocityType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("velocityType"), false, 0},
-    {{"latency", "s", "of the velocity's time", NavframeF32, offsetof(VelocityLogRecord, latency), sizeof(VelocityLogRecord::latency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latency"), false, 0},
-    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(VelocityLogRecord, differentialAge), sizeof(VelocityLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("differentialAge"), false, 0},
-    {{"horizontalSpeed", "m/s", "speed over ground", NavframeF64, offsetof(VelocityLogRecord, horizontalSpeed), sizeof(VelocityLogRecord::horizontalSpeed), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("horizontalSpeed"), false, 0},
-    {{"track", "deg", "course over ground, true", NavframeF64, offsetof(VelocityLogRecord, track), sizeof(VelocityLogRecord::track), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("track"), false, 0},
-    {{"verticalSpeed", "m/s", "positive up", NavframeF64, offsetof(VelocityLogRecord, verticalSpeed), sizeof(VelocityLogRecord::verticalSpeed), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("verticalSpeed"), false, 0},
-    {{"reserved", "", "reserved", NavframeF32, offsetof(VelocityLogRecord, reserved), sizeof(VelocityLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(VelocityLogRecord, header), sizeof(VelocityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(VelocityLogRecord, solutionStatus), sizeof(VelocityLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"velocityType", "", "type of the solution", NavframeI32, offsetof(VelocityLogRecord, velocityType), sizeof(VelocityLogRecord::velocityType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"latency", "s", "of the velocity's time", NavframeF32, offsetof(VelocityLogRecord, latency), sizeof(VelocityLogRecord::latency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(VelocityLogRecord, differentialAge), sizeof(VelocityLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalSpeed", "m/s", "speed over ground", NavframeF64, offsetof(VelocityLogRecord, horizontalSpeed), sizeof(VelocityLogRecord::horizontalSpeed), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"track", "deg", "course over ground, true", NavframeF64, offsetof(VelocityLogRecord, track), sizeof(VelocityLogRecord::track), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalSpeed", "m/s", "positive up", NavframeF64, offsetof(VelocityLogRecord, verticalSpeed), sizeof(VelocityLogRecord::verticalSpeed), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeF32, offsetof(VelocityLogRecord, reserved), sizeof(VelocityLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto VelocityLogRecordPointers = PointersTo(VelocityLogRecordMembers);
-inline constexpr RecordRow VelocityLogRecordLayout = LayoutOf<VelocityLogRecord>("VelocityLogRecord", VelocityLogRecordPointers);
+inline constexpr RecordRow VelocityLogRecordLayout = LayoutOf<VelocityLogRecord, VelocityLogRecordMembers>("VelocityLogRecord");
 static_assert(CoversEveryByte(VelocityLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<VelocityLogRecord> = VelocityLogRecordLayout;
 
 inline constexpr MemberRow DopLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(DopLogRecord, header), sizeof(DopLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"gdop", "", "geometric dilution of precision", NavframeF32, offsetof(DopLogRecord, gdop), sizeof(DopLogRecord::gdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("gdop"), false, 0},
-    {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(DopLogRecord, pdop), sizeof(DopLogRecord::pdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pdop"), false, 0},
-    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(DopLogRecord, hdop), sizeof(DopLogRecord::hdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("hdop"), false, 0},
-    {{"htdop", "", "dilution of precision of horizontal position and time", NavframeF32, offsetof(DopLogRecord, htdop), sizeof(DopLogRecord::htdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("htdop"), false, 0},
-    {{"tdop", "", "time dilution of precision", NavframeF32, offsetof(DopLogRecord, tdop), sizeof(DopLogRecord::tdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("tdop"), false, 0},
-    {{"elevationCutoff", "deg", "lowest elevation in use", NavframeF32, offsetof(DopLogRecord, elevationCutoff), sizeof(DopLogRecord::elevationCutoff), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("elevationCutoff"), false, 0},
-    {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(DopLogRecord, count), sizeof(DopLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"satellites", "", "satellite numbers", NavframeU32, offsetof(DopLogRecord, satellites), sizeof(DopLogRecord::satellites[0]), 66, 7, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(DopLogRecord, header), sizeof(DopLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"gdop", "", "geometric dilution of precision", NavframeF32, offsetof(DopLogRecord, gdop), sizeof(DopLogRecord::gdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(DopLogRecord, pdop), sizeof(DopLogRecord::pdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(DopLogRecord, hdop), sizeof(DopLogRecord::hdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"htdop", "", "dilution of precision of horizontal position and time", NavframeF32, offsetof(DopLogRecord, htdop), sizeof(DopLogRecord::htdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tdop", "", "time dilution of precision", NavframeF32, offsetof(DopLogRecord, tdop), sizeof(DopLogRecord::tdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"elevationCutoff", "deg", "lowest elevation in use", NavframeF32, offsetof(DopLogRecord, elevationCutoff), sizeof(DopLogRecord::elevationCutoff), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(DopLogRecord, count), sizeof(DopLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellite numbers", NavframeU32, offsetof(DopLogRecord, satellites), sizeof(DopLogRecord::satellites[0]), 66, 7, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto DopLogRecordPointers = PointersTo(DopLogRecordMembers);
-inline constexpr RecordRow DopLogRecordLayout = LayoutOf<DopLogRecord>("DopLogRecord", DopLogRecordPointers);
+inline constexpr RecordRow DopLogRecordLayout = LayoutOf<DopLogRecord, DopLogRecordMembers>("DopLogRecord");
 static_assert(CoversEveryByte(DopLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<DopLogRecord> = DopLogRecordLayout;
 
 inline constexpr MemberRow TimeLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(TimeLogRecord, header), sizeof(TimeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"clockStatus", "", "state of the receiver's clock", NavframeI32, offsetof(TimeLogRecord, clockStatus), sizeof(TimeLogRecord::clockStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, KeyOf("clockStatus"), false, 0},
-    {{"offset", "s", "of the receiver's clock from GPS time", NavframeF64, offsetof(TimeLogRecord, offset), sizeof(TimeLogRecord::offset), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("offset"), false, 0},
-    {{"offsetDeviation", "s", "standard deviation of the offset", NavframeF64, offsetof(TimeLogRecord, offsetDeviation), sizeof(TimeLogRecord::offsetDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("offsetDeviation"), false, 0},
-    {{"utcOffset", "s", "of GPS time from UTC", NavframeF64, offsetof(TimeLogRecord, utcOffset), sizeof(TimeLogRecord::utcOffset), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcOffset"), false, 0},
-    {{"utcYear", "", "year, UTC", NavframeU32, offsetof(TimeLogRecord, utcYear), sizeof(TimeLogRecord::utcYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcYear"), false, 0},
-    {{"utcMonth", "", "1 to 12", NavframeU8, offsetof(TimeLogRecord, utcMonth), sizeof(TimeLogRecord::utcMonth), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcMonth"), false, 0},
-    {{"utcDay", "", "1 to 31", NavframeU8, offsetof(TimeLogRecord, utcDay), sizeof(TimeLogRecord::utcDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcDay"), false, 0},
-    {{"utcHour", "h", "0 to 23", NavframeU8, offsetof(TimeLogRecord, utcHour), sizeof(TimeLogRecord::utcHour), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcHour"), false, 0},
-    {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(TimeLogRecord, utcMinute), sizeof(TimeLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcMinute"), false, 0},
-    {{"utcMilliseconds", "ms", "of the minute", NavframeU32, offsetof(TimeLogRecord, utcMilliseconds), sizeof(TimeLogRecord::utcMilliseconds), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcMilliseconds"), false, 0},
-    {{"utcStatus", "", "state of UTC", NavframeI32, offsetof(TimeLogRecord, utcStatus), sizeof(TimeLogRecord::utcStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, KeyOf("utcStatus"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(TimeLogRecord, header), sizeof(TimeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"clockStatus", "", "state of the receiver's clock", NavframeI32, offsetof(TimeLogRecord, clockStatus), sizeof(TimeLogRecord::clockStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, false, 0},
+    {{"offset", "s", "of the receiver's clock from GPS time", NavframeF64, offsetof(TimeLogRecord, offset), sizeof(TimeLogRecord::offset), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"offsetDeviation", "s", "standard deviation of the offset", NavframeF64, offsetof(TimeLogRecord, offsetDeviation), sizeof(TimeLogRecord::offsetDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcOffset", "s", "of GPS time from UTC", NavframeF64, offsetof(TimeLogRecord, utcOffset), sizeof(TimeLogRecord::utcOffset), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcYear", "", "year, UTC", NavframeU32, offsetof(TimeLogRecord, utcYear), sizeof(TimeLogRecord::utcYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcMonth", "", "1 to 12", NavframeU8, offsetof(TimeLogRecord, utcMonth), sizeof(TimeLogRecord::utcMonth), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcDay", "", "1 to 31", NavframeU8, offsetof(TimeLogRecord, utcDay), sizeof(TimeLogRecord::utcDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcHour", "h", "0 to 23", NavframeU8, offsetof(TimeLogRecord, utcHour), sizeof(TimeLogRecord::utcHour), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(TimeLogRecord, utcMinute), sizeof(TimeLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcMilliseconds", "ms", "of the minute", NavframeU32, offsetof(TimeLogRecord, utcMilliseconds), sizeof(TimeLogRecord::utcMilliseconds), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcStatus", "", "state of UTC", NavframeI32, offsetof(TimeLogRecord, utcStatus), sizeof(TimeLogRecord::utcStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, false, 0},
 };
-inline constexpr auto TimeLogRecordPointers = PointersTo(TimeLogRecordMembers);
-inline constexpr RecordRow TimeLogRecordLayout = LayoutOf<TimeLogRecord>("TimeLogRecord", TimeLogRecordPointers);
+inline constexpr RecordRow TimeLogRecordLayout = LayoutOf<TimeLogRecord, TimeLogRecordMembers>("TimeLogRecord");
 static_assert(CoversEveryByte(TimeLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<TimeLogRecord> = TimeLogRecordLayout;
 
 inline constexpr MemberRow CartesianLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(CartesianLogRecord, header), sizeof(CartesianLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"positionStatus", "", "status of the position", NavframeI32, offsetof(CartesianLogRecord, positionStatus), sizeof(CartesianLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("positionStatus"), false, 0},
-    {{"positionType", "", "type of the position", NavframeI32, offsetof(CartesianLogRecord, positionType), sizeof(CartesianLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("positionType"), false, 0},
-    {{"position", "m", "X, Y and Z", NavframeF64, offsetof(CartesianLogRecord, position), sizeof(CartesianLogRecord::position[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("position"), false, 0},
-    {{"positionDeviation", "m", "standard deviations of X, Y and Z", NavframeF32, offsetof(CartesianLogRecord, positionDeviation), sizeof(CartesianLogRecord::positionDeviation[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("positionDeviation"), false, 0},
-    {{"velocityStatus", "", "status of the velocity", NavframeI32, offsetof(CartesianLogRecord, velocityStatus), sizeof(CartesianLogRecord::velocityStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("velocityStatus"), false, 0},
-    {{"velocityType", "", "type of the velocity", NavframeI32, offsetof(CartesianLogRecord, velocityType), sizeof(CartesianLogRecord::velocityType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("velocityType"), false, 0},
-    {{"velocity", "m/s", "along X, Y and Z", NavframeF64, offsetof(CartesianLogRecord, velocity), sizeof(CartesianLogRecord::velocity[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("velocity"), false, 0},
-    {{"velocityDeviation", "m/s", "standard deviations of the velocity", NavframeF32, offsetof(CartesianLogRecord, velocityDeviation), sizeof(CartesianLogRecord::velocityDeviation[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("velocityDeviation"), false, 0},
-    {{"stationId", "", "reference station", NavframeText, offsetof(CartesianLogRecord, stationId), sizeof(CartesianLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"velocityLatency", "s", "of the velocity's time", NavframeF32, offsetof(CartesianLogRecord, velocityLatency), sizeof(CartesianLogRecord::velocityLatency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("velocityLatency"), false, 0},
-    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(CartesianLogRecord, differentialAge), sizeof(CartesianLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("differentialAge"), false, 0},
-    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(CartesianLogRecord, solutionAge), sizeof(CartesianLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("solutionAge"), false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(CartesianLogRecord, satellites), sizeof(CartesianLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(CartesianLogRecord, header), sizeof(CartesianLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"positionStatus", "", "status of the position", NavframeI32, offsetof(CartesianLogRecord, positionStatus), sizeof(CartesianLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"positionType", "", "type of the position", NavframeI32, offsetof(CartesianLogRecord, positionType), sizeof(CartesianLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"position", "m", "X, Y and Z", NavframeF64, offsetof(CartesianLogRecord, position), sizeof(CartesianLogRecord::position[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"positionDeviation", "m", "standard deviations of X, Y and Z", NavframeF32, offsetof(CartesianLogRecord, positionDeviation), sizeof(CartesianLogRecord::positionDeviation[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityStatus", "", "status of the velocity", NavframeI32, offsetof(CartesianLogRecord, velocityStatus), sizeof(CartesianLogRecord::velocityStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"velocityType", "", "type of the velocity", NavframeI32, offsetof(CartesianLogRecord, velocityType), sizeof(CartesianLogRecord::velocityType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"velocity", "m/s", "along X, Y and Z", NavframeF64, offsetof(CartesianLogRecord, velocity), sizeof(CartesianLogRecord::velocity[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityDeviation", "m/s", "standard deviations of the velocity", NavframeF32, offsetof(CartesianLogRecord, velocityDeviation), sizeof(CartesianLogRecord::velocityDeviation[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station", NavframeText, offsetof(CartesianLogRecord, stationId), sizeof(CartesianLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityLatency", "s", "of the velocity's time", NavframeF32, offsetof(CartesianLogRecord, velocityLatency), sizeof(CartesianLogRecord::velocityLatency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(CartesianLogRecord, differentialAge), sizeof(CartesianLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(CartesianLogRecord, solutionAge), sizeof(CartesianLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(CartesianLogRecord, satellites), sizeof(CartesianLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
 };
-inline constexpr auto CartesianLogRecordPointers = PointersTo(CartesianLogRecordMembers);
-inline constexpr RecordRow CartesianLogRecordLayout = LayoutOf<CartesianLogRecord>("CartesianLogRecord", CartesianLogRecordPointers);
+inline constexpr RecordRow CartesianLogRecordLayout = LayoutOf<CartesianLogRecord, CartesianLogRecordMembers>("CartesianLogRecord");
 static_assert(CoversEveryByte(CartesianLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<CartesianLogRecord> = CartesianLogRecordLayout;
 
 inline constexpr MemberRow HeadingLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(HeadingLogRecord, header), sizeof(HeadingLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(HeadingLogRecord, solutionStatus), sizeof(HeadingLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("solutionStatus"), false, 0},
-    {{"positionType", "", "type of the solution", NavframeI32, offsetof(HeadingLogRecord, positionType), sizeof(HeadingLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("positionType"), false, 0},
-    {{"length", "m", "of the baseline", NavframeF32, offsetof(HeadingLogRecord, length), sizeof(HeadingLogRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("length"), false, 0},
-    {{"heading", "deg", "0 to 360", NavframeF32, offsetof(HeadingLogRecord, heading), sizeof(HeadingLogRecord::heading), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("heading"), false, 0},
-    {{"pitch", "deg", "of the baseline", NavframeF32, offsetof(HeadingLogRecord, pitch), sizeof(HeadingLogRecord::pitch), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pitch"), false, 0},
-    {{"reserved", "", "reserved", NavframeF32, offsetof(HeadingLogRecord, reserved), sizeof(HeadingLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"headingDeviation", "deg", "standard deviation of the heading", NavframeF32, offsetof(HeadingLogRecord, headingDeviation), sizeof(HeadingLogRecord::headingDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("headingDeviation"), false, 0},
-    {{"pitchDeviation", "deg", "standard deviation of the pitch", NavframeF32, offsetof(HeadingLogRecord, pitchDeviation), sizeof(HeadingLogRecord::pitchDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pitchDeviation"), false, 0},
-    {{"stationId", "", "reference station", NavframeText, offsetof(HeadingLogRecord, stationId), sizeof(HeadingLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(HeadingLogRecord, satellites), sizeof(HeadingLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(HeadingLogRecord, header), sizeof(HeadingLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(HeadingLogRecord, solutionStatus), sizeof(HeadingLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"positionType", "", "type of the solution", NavframeI32, offsetof(HeadingLogRecord, positionType), sizeof(HeadingLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"length", "m", "of the baseline", NavframeF32, offsetof(HeadingLogRecord, length), sizeof(HeadingLogRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heading", "deg", "0 to 360", NavframeF32, offsetof(HeadingLogRecord, heading), sizeof(HeadingLogRecord::heading), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitch", "deg", "of the baseline", NavframeF32, offsetof(HeadingLogRecord, pitch), sizeof(HeadingLogRecord::pitch), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeF32, offsetof(HeadingLogRecord, reserved), sizeof(HeadingLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headingDeviation", "deg", "standard deviation of the heading", NavframeF32, offsetof(HeadingLogRecord, headingDeviation), sizeof(HeadingLogRecord::headingDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitchDeviation", "deg", "standard deviation of the pitch", NavframeF32, offsetof(HeadingLogRecord, pitchDeviation), sizeof(HeadingLogRecord::pitchDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station", NavframeText, offsetof(HeadingLogRecord, stationId), sizeof(HeadingLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(HeadingLogRecord, satellites), sizeof(HeadingLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
 };
-inline constexpr auto HeadingLogRecordPointers = PointersTo(HeadingLogRecordMembers);
-inline constexpr RecordRow HeadingLogRecordLayout = LayoutOf<HeadingLogRecord>("HeadingLogRecord", HeadingLogRecordPointers);
+inline constexpr RecordRow HeadingLogRecordLayout = LayoutOf<HeadingLogRecord, HeadingLogRecordMembers>("HeadingLogRecord");
 static_assert(CoversEveryByte(HeadingLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<HeadingLogRecord> = HeadingLogRecordLayout;
 
 inline constexpr NavframeValueName InertialLogRecordStatusValues[] = {{1, "INS_INACTIVE"}, {2, "INS_ALIGNING"}, {3, "INS_HIGH_VARIANCE"}, {4, "INS_SOLUTION_GOOD"}, {5, "INS_SOLUTION_FREE"}, {6, "INS_ALIGNMENT_COMPLETE"}, {7, "DETERMINING_ORIENTATION"}, {8, "WAITING_INITIALPOS"},};
 inline constexpr MemberRow InertialLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(InertialLogRecord, header), sizeof(InertialLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"week", "", "GPS week", NavframeU32, offsetof(InertialLogRecord, week), sizeof(InertialLogRecord::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"seconds", "s", "time of week", NavframeF64, offsetof(InertialLogRecord, seconds), sizeof(InertialLogRecord::seconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("seconds"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(InertialLogRecord, latitude), sizeof(InertialLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(InertialLogRecord, longitude), sizeof(InertialLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"height", "m", "above the ellipsoid", NavframeF64, offsetof(InertialLogRecord, height), sizeof(InertialLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("height"), false, 0},
-    {{"northVelocity", "m/s", "velocity to the north", NavframeF64, offsetof(InertialLogRecord, northVelocity), sizeof(InertialLogRecord::northVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("northVelocity"), false, 0},
-    {{"eastVelocity", "m/s", "velocity to the east", NavframeF64, offsetof(InertialLogRecord, eastVelocity), sizeof(InertialLogRecord::eastVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("eastVelocity"), false, 0},
-    {{"upVelocity", "m/s", "velocity upwards", NavframeF64, offsetof(InertialLogRecord, upVelocity), sizeof(InertialLogRecord::upVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("upVelocity"), false, 0},
-    {{"roll", "deg", "roll", NavframeF64, offsetof(InertialLogRecord, roll), sizeof(InertialLogRecord::roll), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("roll"), false, 0},
-    {{"pitch", "deg", "pitch", NavframeF64, offsetof(InertialLogRecord, pitch), sizeof(InertialLogRecord::pitch), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pitch"), false, 0},
-    {{"azimuth", "deg", "azimuth", NavframeF64, offsetof(InertialLogRecord, azimuth), sizeof(InertialLogRecord::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("azimuth"), false, 0},
-    {{"status", "", "state of the inertial solution", NavframeI32, offsetof(InertialLogRecord, status), sizeof(InertialLogRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 8, InertialLogRecordStatusValues, nullptr}, KeyOf("status"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(InertialLogRecord, header), sizeof(InertialLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"week", "", "GPS week", NavframeU32, offsetof(InertialLogRecord, week), sizeof(InertialLogRecord::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"seconds", "s", "time of week", NavframeF64, offsetof(InertialLogRecord, seconds), sizeof(InertialLogRecord::seconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(InertialLogRecord, latitude), sizeof(InertialLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(InertialLogRecord, longitude), sizeof(InertialLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above the ellipsoid", NavframeF64, offsetof(InertialLogRecord, height), sizeof(InertialLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"northVelocity", "m/s", "velocity to the north", NavframeF64, offsetof(InertialLogRecord, northVelocity), sizeof(InertialLogRecord::northVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eastVelocity", "m/s", "velocity to the east", NavframeF64, offsetof(InertialLogRecord, eastVelocity), sizeof(InertialLogRecord::eastVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"upVelocity", "m/s", "velocity upwards", NavframeF64, offsetof(InertialLogRecord, upVelocity), sizeof(InertialLogRecord::upVelocity), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"roll", "deg", "roll", NavframeF64, offsetof(InertialLogRecord, roll), sizeof(InertialLogRecord::roll), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitch", "deg", "pitch", NavframeF64, offsetof(InertialLogRecord, pitch), sizeof(InertialLogRecord::pitch), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "azimuth", NavframeF64, offsetof(InertialLogRecord, azimuth), sizeof(InertialLogRecord::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state of the inertial solution", NavframeI32, offsetof(InertialLogRecord, status), sizeof(InertialLogRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 8, InertialLogRecordStatusValues, nullptr}, false, 0},
 };
-inline constexpr auto InertialLogRecordPointers = PointersTo(InertialLogRecordMembers);
-inline constexpr RecordRow InertialLogRecordLayout = LayoutOf<InertialLogRecord>("InertialLogRecord", InertialLogRecordPointers);
+inline constexpr RecordRow InertialLogRecordLayout = LayoutOf<InertialLogRecord, InertialLogRecordMembers>("InertialLogRecord");
 static_assert(CoversEveryByte(InertialLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<InertialLogRecord> = InertialLogRecordLayout;
 
 inline constexpr MemberRow RangeObservationMembers[] = {
-    {{"satellite", "", "satellite number", NavframeU16, offsetof(RangeObservation, satellite), sizeof(RangeObservation::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"glonassFrequency", "", "GLONASS frequency channel + 7", NavframeU16, offsetof(RangeObservation, glonassFrequency), sizeof(RangeObservation::glonassFrequency), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("glonassFrequency"), false, 0},
-    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(RangeObservation, pseudorange), sizeof(RangeObservation::pseudorange), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pseudorange"), false, 0},
-    {{"pseudorangeDeviation", "m", "standard deviation of the pseudorange", NavframeF32, offsetof(RangeObservation, pseudorangeDeviation), sizeof(RangeObservation::pseudorangeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("pseudorangeDeviation"), false, 0},
-    {{"carrierPhase", "cycles", "accumulated Doppler range", NavframeF64, offsetof(RangeObservation, carrierPhase), sizeof(RangeObservation::carrierPhase), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("carrierPhase"), false, 0},
-    {{"carrierPhaseDeviation", "cycles", "standard deviation of the carrier phase", NavframeF32, offsetof(RangeObservation, carrierPhaseDeviation), sizeof(RangeObservation::carrierPhaseDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("carrierPhaseDeviation"), false, 0},
-    {{"doppler", "Hz", "Doppler", NavframeF32, offsetof(RangeObservation, doppler), sizeof(RangeObservation::doppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("doppler"), false, 0},
-    {{"carrierToNoise", "dB-Hz", "carrier-to-noise density", NavframeF32, offsetof(RangeObservation, carrierToNoise), sizeof(RangeObservation::carrierToNoise), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("carrierToNoise"), false, 0},
-    {{"lockTime", "s", "time of continuous lock", NavframeF32, offsetof(RangeObservation, lockTime), sizeof(RangeObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("lockTime"), false, 0},
-    {{"trackingStatus", "", "channel tracking status word", NavframeU32, offsetof(RangeObservation, trackingStatus), sizeof(RangeObservation::trackingStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("trackingStatus"), false, 0},
+    {{"satellite", "", "satellite number", NavframeU16, offsetof(RangeObservation, satellite), sizeof(RangeObservation::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonassFrequency", "", "GLONASS frequency channel + 7", NavframeU16, offsetof(RangeObservation, glonassFrequency), sizeof(RangeObservation::glonassFrequency), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(RangeObservation, pseudorange), sizeof(RangeObservation::pseudorange), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorangeDeviation", "m", "standard deviation of the pseudorange", NavframeF32, offsetof(RangeObservation, pseudorangeDeviation), sizeof(RangeObservation::pseudorangeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhase", "cycles", "accumulated Doppler range", NavframeF64, offsetof(RangeObservation, carrierPhase), sizeof(RangeObservation::carrierPhase), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhaseDeviation", "cycles", "standard deviation of the carrier phase", NavframeF32, offsetof(RangeObservation, carrierPhaseDeviation), sizeof(RangeObservation::carrierPhaseDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"doppler", "Hz", "Doppler", NavframeF32, offsetof(RangeObservation, doppler), sizeof(RangeObservation::doppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierToNoise", "dB-Hz", "carrier-to-noise density", NavframeF32, offsetof(RangeObservation, carrierToNoise), sizeof(RangeObservation::carrierToNoise), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"lockTime", "s", "time of continuous lock", NavframeF32, offsetof(RangeObservation, lockTime), sizeof(RangeObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"trackingStatus", "", "channel tracking status word", NavframeU32, offsetof(RangeObservation, trackingStatus), sizeof(RangeObservation::trackingStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto RangeObservationPointers = PointersTo(RangeObservationMembers);
-inline constexpr RecordRow RangeObservationLayout = LayoutOf<RangeObservation>("RangeObservation", RangeObservationPointers);
+inline constexpr RecordRow RangeObservationLayout = LayoutOf<RangeObservation, RangeObservationMembers>("RangeObservation");
 static_assert(CoversEveryByte(RangeObservationLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<RangeObservation> = RangeObservationLayout;
 
 inline constexpr MemberRow RangeLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(RangeLogRecord, header), sizeof(RangeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"count", "", "observations, 0 to 432", NavframeU32, offsetof(RangeLogRecord, count), sizeof(RangeLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"observations", "", "observations in the order of the line", NavframeNested, offsetof(RangeLogRecord, observations), sizeof(RangeLogRecord::observations[0]), 432, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &RangeObservationLayout}, KeyOf("observations"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(RangeLogRecord, header), sizeof(RangeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"count", "", "observations, 0 to 432", NavframeU32, offsetof(RangeLogRecord, count), sizeof(RangeLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"observations", "", "observations in the order of the line", NavframeNested, offsetof(RangeLogRecord, observations), sizeof(RangeLogRecord::observations[0]), 432, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &RangeObservationLayout}, false, 0},
 };
-inline constexpr auto RangeLogRecordPointers = PointersTo(RangeLogRecordMembers);
-inline constexpr RecordRow RangeLogRecordLayout = LayoutOf<RangeLogRecord>("RangeLogRecord", RangeLogRecordPointers);
+inline constexpr RecordRow RangeLogRecordLayout = LayoutOf<RangeLogRecord, RangeLogRecordMembers>("RangeLogRecord");
 static_assert(CoversEveryByte(RangeLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<RangeLogRecord> = RangeLogRecordLayout;
 
 inline constexpr MemberRow SatelliteVisibilityMembers[] = {
-    {{"satellite", "", "satellite number, in log 1043 the slot of GLONASS", NavframeU16, offsetof(SatelliteVisibility, satellite), sizeof(SatelliteVisibility::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"glonassFrequency", "", "in log 48 as the line has it, in log 1043 the channel or 0 without one", NavframeI16, offsetof(SatelliteVisibility, glonassFrequency), sizeof(SatelliteVisibility::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("glonassFrequency"), false, 0},
-    {{"health", "", "health", NavframeU32, offsetof(SatelliteVisibility, health), sizeof(SatelliteVisibility::health), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("health"), false, 0},
-    {{"elevation", "deg", "above the horizon", NavframeF64, offsetof(SatelliteVisibility, elevation), sizeof(SatelliteVisibility::elevation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("elevation"), false, 0},
-    {{"azimuth", "deg", "from true north", NavframeF64, offsetof(SatelliteVisibility, azimuth), sizeof(SatelliteVisibility::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("azimuth"), false, 0},
-    {{"trueDoppler", "Hz", "Doppler", NavframeF64, offsetof(SatelliteVisibility, trueDoppler), sizeof(SatelliteVisibility::trueDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("trueDoppler"), false, 0},
-    {{"apparentDoppler", "Hz", "Doppler with the receiver's clock drift", NavframeF64, offsetof(SatelliteVisibility, apparentDoppler), sizeof(SatelliteVisibility::apparentDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("apparentDoppler"), false, 0},
+    {{"satellite", "", "satellite number, in log 1043 the slot of GLONASS", NavframeU16, offsetof(SatelliteVisibility, satellite), sizeof(SatelliteVisibility::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonassFrequency", "", "in log 48 as the line has it, in log 1043 the channel or 0 without one", NavframeI16, offsetof(SatelliteVisibility, glonassFrequency), sizeof(SatelliteVisibility::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU32, offsetof(SatelliteVisibility, health), sizeof(SatelliteVisibility::health), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "above the horizon", NavframeF64, offsetof(SatelliteVisibility, elevation), sizeof(SatelliteVisibility::elevation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "from true north", NavframeF64, offsetof(SatelliteVisibility, azimuth), sizeof(SatelliteVisibility::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"trueDoppler", "Hz", "Doppler", NavframeF64, offsetof(SatelliteVisibility, trueDoppler), sizeof(SatelliteVisibility::trueDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"apparentDoppler", "Hz", "Doppler with the receiver's clock drift", NavframeF64, offsetof(SatelliteVisibility, apparentDoppler), sizeof(SatelliteVisibility::apparentDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto SatelliteVisibilityPointers = PointersTo(SatelliteVisibilityMembers);
-inline constexpr RecordRow SatelliteVisibilityLayout = LayoutOf<SatelliteVisibility>("SatelliteVisibility", SatelliteVisibilityPointers);
+inline constexpr RecordRow SatelliteVisibilityLayout = LayoutOf<SatelliteVisibility, SatelliteVisibilityMembers>("SatelliteVisibility");
 static_assert(CoversEveryByte(SatelliteVisibilityLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SatelliteVisibility> = SatelliteVisibilityLayout;
 
 inline constexpr MemberRow VisibilityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(VisibilityLogRecord, header), sizeof(VisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(VisibilityLogRecord, valid), sizeof(VisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("valid"), false, 0},
-    {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(VisibilityLogRecord, completeAlmanac), sizeof(VisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("completeAlmanac"), false, 0},
-    {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(VisibilityLogRecord, count), sizeof(VisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(VisibilityLogRecord, satellites), sizeof(VisibilityLogRecord::satellites[0]), 66, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(VisibilityLogRecord, header), sizeof(VisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(VisibilityLogRecord, valid), sizeof(VisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(VisibilityLogRecord, completeAlmanac), sizeof(VisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(VisibilityLogRecord, count), sizeof(VisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(VisibilityLogRecord, satellites), sizeof(VisibilityLogRecord::satellites[0]), 66, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, false, 0},
 };
-inline constexpr auto VisibilityLogRecordPointers = PointersTo(VisibilityLogRecordMembers);
-inline constexpr RecordRow VisibilityLogRecordLayout = LayoutOf<VisibilityLogRecord>("VisibilityLogRecord", VisibilityLogRecordPointers);
+inline constexpr RecordRow VisibilityLogRecordLayout = LayoutOf<VisibilityLogRecord, VisibilityLogRecordMembers>("VisibilityLogRecord");
 static_assert(CoversEveryByte(VisibilityLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<VisibilityLogRecord> = VisibilityLogRecordLayout;
 
 inline constexpr MemberRow SystemVisibilityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, header), sizeof(SystemVisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"system", "", "satellite system, not by the numbers of GNSSSysIdToName", NavframeI32, offsetof(SystemVisibilityLogRecord, system), sizeof(SystemVisibilityLogRecord::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, KeyOf("system"), false, 0},
-    {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(SystemVisibilityLogRecord, valid), sizeof(SystemVisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("valid"), false, 0},
-    {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(SystemVisibilityLogRecord, completeAlmanac), sizeof(SystemVisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("completeAlmanac"), false, 0},
-    {{"count", "", "satellites, 0 to 432", NavframeU32, offsetof(SystemVisibilityLogRecord, count), sizeof(SystemVisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, satellites), sizeof(SystemVisibilityLogRecord::satellites[0]), 432, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, KeyOf("satellites"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, header), sizeof(SystemVisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"system", "", "satellite system, not by the numbers of GNSSSysIdToName", NavframeI32, offsetof(SystemVisibilityLogRecord, system), sizeof(SystemVisibilityLogRecord::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, false, 0},
+    {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(SystemVisibilityLogRecord, valid), sizeof(SystemVisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(SystemVisibilityLogRecord, completeAlmanac), sizeof(SystemVisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites, 0 to 432", NavframeU32, offsetof(SystemVisibilityLogRecord, count), sizeof(SystemVisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, satellites), sizeof(SystemVisibilityLogRecord::satellites[0]), 432, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, false, 0},
 };
-inline constexpr auto SystemVisibilityLogRecordPointers = PointersTo(SystemVisibilityLogRecordMembers);
-inline constexpr RecordRow SystemVisibilityLogRecordLayout = LayoutOf<SystemVisibilityLogRecord>("SystemVisibilityLogRecord", SystemVisibilityLogRecordPointers);
+inline constexpr RecordRow SystemVisibilityLogRecordLayout = LayoutOf<SystemVisibilityLogRecord, SystemVisibilityLogRecordMembers>("SystemVisibilityLogRecord");
 static_assert(CoversEveryByte(SystemVisibilityLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SystemVisibilityLogRecord> = SystemVisibilityLogRecordLayout;
 
 inline constexpr NavframeValueName ListedSatelliteStatusValues[] = {{0, "GOOD or not known"}, {1, "BADHEALTH"}, {2, "OLDEPHEMERIS"}, {99, "NA"},};
 inline constexpr MemberRow ListedSatelliteMembers[] = {
-    {{"system", "", "satellite system", NavframeI32, offsetof(ListedSatellite, system), sizeof(ListedSatellite::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, KeyOf("system"), false, 0},
-    {{"satellite", "", "satellite number", NavframeU16, offsetof(ListedSatellite, satellite), sizeof(ListedSatellite::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"glonassFrequency", "", "channel, 0 without one", NavframeI16, offsetof(ListedSatellite, glonassFrequency), sizeof(ListedSatellite::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("glonassFrequency"), false, 0},
-    {{"status", "", "why the satellite is used or not", NavframeI32, offsetof(ListedSatellite, status), sizeof(ListedSatellite::status), 0, -1, 0, NavframeUnknownNever, 0, 4, ListedSatelliteStatusValues, nullptr}, KeyOf("status"), false, 0},
-    {{"signals", "", "bit mask of the signals used", NavframeU32, offsetof(ListedSatellite, signals), sizeof(ListedSatellite::signals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("signals"), false, 0},
+    {{"system", "", "satellite system", NavframeI32, offsetof(ListedSatellite, system), sizeof(ListedSatellite::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, false, 0},
+    {{"satellite", "", "satellite number", NavframeU16, offsetof(ListedSatellite, satellite), sizeof(ListedSatellite::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonassFrequency", "", "channel, 0 without one", NavframeI16, offsetof(ListedSatellite, glonassFrequency), sizeof(ListedSatellite::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "why the satellite is used or not", NavframeI32, offsetof(ListedSatellite, status), sizeof(ListedSatellite::status), 0, -1, 0, NavframeUnknownNever, 0, 4, ListedSatelliteStatusValues, nullptr}, false, 0},
+    {{"signals", "", "bit mask of the signals used", NavframeU32, offsetof(ListedSatellite, signals), sizeof(ListedSatellite::signals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto ListedSatellitePointers = PointersTo(ListedSatelliteMembers);
-inline constexpr RecordRow ListedSatelliteLayout = LayoutOf<ListedSatellite>("ListedSatellite", ListedSatellitePointers);
+inline constexpr RecordRow ListedSatelliteLayout = LayoutOf<ListedSatellite, ListedSatelliteMembers>("ListedSatellite");
 static_assert(CoversEveryByte(ListedSatelliteLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ListedSatellite> = ListedSatelliteLayout;
 
 inline constexpr MemberRow SatelliteListLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(SatelliteListLogRecord, header), sizeof(SatelliteListLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"count", "", "satellites, 0 to 431", NavframeU32, offsetof(SatelliteListLogRecord, count), sizeof(SatelliteListLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("count"), false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SatelliteListLogRecord, satellites), sizeof(SatelliteListLogRecord::satellites[0]), 431, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &ListedSatelliteLayout}, KeyOf("satellites"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(SatelliteListLogRecord, undecoded), sizeof(SatelliteListLogRecord::undecoded[0]), 12, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(SatelliteListLogRecord, header), sizeof(SatelliteListLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"count", "", "satellites, 0 to 431", NavframeU32, offsetof(SatelliteListLogRecord, count), sizeof(SatelliteListLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SatelliteListLogRecord, satellites), sizeof(SatelliteListLogRecord::satellites[0]), 431, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &ListedSatelliteLayout}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(SatelliteListLogRecord, undecoded), sizeof(SatelliteListLogRecord::undecoded[0]), 12, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto SatelliteListLogRecordPointers = PointersTo(SatelliteListLogRecordMembers);
-inline constexpr RecordRow SatelliteListLogRecordLayout = LayoutOf<SatelliteListLogRecord>("SatelliteListLogRecord", SatelliteListLogRecordPointers);
+inline constexpr RecordRow SatelliteListLogRecordLayout = LayoutOf<SatelliteListLogRecord, SatelliteListLogRecordMembers>("SatelliteListLogRecord");
 static_assert(CoversEveryByte(SatelliteListLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<SatelliteListLogRecord> = SatelliteListLogRecordLayout;
 
 inline constexpr NavframeValueName NavigationSolutionLogRecordDatumValues[] = {{0, "ERROR or not known"}, {61, "WGS84"}, {63, "USER"},};
 inline constexpr MemberRow NavigationSolutionLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(NavigationSolutionLogRecord, header), sizeof(NavigationSolutionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"positionStatus", "", "status of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionStatus), sizeof(NavigationSolutionLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, KeyOf("positionStatus"), false, 0},
-    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionType), sizeof(NavigationSolutionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, KeyOf("positionType"), false, 0},
-    {{"latitude", "deg", "north positive", NavframeF64, offsetof(NavigationSolutionLogRecord, latitude), sizeof(NavigationSolutionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latitude"), false, 0},
-    {{"longitude", "deg", "east positive", NavframeF64, offsetof(NavigationSolutionLogRecord, longitude), sizeof(NavigationSolutionLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("longitude"), false, 0},
-    {{"height", "m", "above mean sea level", NavframeF64, offsetof(NavigationSolutionLogRecord, height), sizeof(NavigationSolutionLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("height"), false, 0},
-    {{"undulation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(NavigationSolutionLogRecord, undulation), sizeof(NavigationSolutionLogRecord::undulation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undulation"), false, 0},
-    {{"datum", "", "place in the receivers' list of datums", NavframeI32, offsetof(NavigationSolutionLogRecord, datum), sizeof(NavigationSolutionLogRecord::datum), 0, -1, 0, NavframeUnknownNever, 0, 3, NavigationSolutionLogRecordDatumValues, nullptr}, KeyOf("datum"), false, 0},
-    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(NavigationSolutionLogRecord, latitudeDeviation), sizeof(NavigationSolutionLogRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("latitudeDeviation"), false, 0},
-    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(NavigationSolutionLogRecord, longitudeDeviation), sizeof(NavigationSolutionLogRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("longitudeDeviation"), false, 0},
-    {{"heightDeviation", "m", "standard deviation of the height", NavframeF32, offsetof(NavigationSolutionLogRecord, heightDeviation), sizeof(NavigationSolutionLogRecord::heightDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("heightDeviation"), false, 0},
-    {{"stationId", "", "reference station", NavframeText, offsetof(NavigationSolutionLogRecord, stationId), sizeof(NavigationSolutionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("stationId"), false, 0},
-    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(NavigationSolutionLogRecord, differentialAge), sizeof(NavigationSolutionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("differentialAge"), false, 0},
-    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(NavigationSolutionLogRecord, solutionAge), sizeof(NavigationSolutionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("solutionAge"), false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(NavigationSolutionLogRecord, satellites), sizeof(NavigationSolutionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, KeyOf("satellites"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(NavigationSolutionLogRecord, undecoded), sizeof(NavigationSolutionLogRecord::undecoded[0]), 44, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(NavigationSolutionLogRecord, header), sizeof(NavigationSolutionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"positionStatus", "", "status of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionStatus), sizeof(NavigationSolutionLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
+    {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionType), sizeof(NavigationSolutionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(NavigationSolutionLogRecord, latitude), sizeof(NavigationSolutionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(NavigationSolutionLogRecord, longitude), sizeof(NavigationSolutionLogRecord::longitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above mean sea level", NavframeF64, offsetof(NavigationSolutionLogRecord, height), sizeof(NavigationSolutionLogRecord::height), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"undulation", "m", "geoid above the ellipsoid", NavframeF32, offsetof(NavigationSolutionLogRecord, undulation), sizeof(NavigationSolutionLogRecord::undulation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"datum", "", "place in the receivers' list of datums", NavframeI32, offsetof(NavigationSolutionLogRecord, datum), sizeof(NavigationSolutionLogRecord::datum), 0, -1, 0, NavframeUnknownNever, 0, 3, NavigationSolutionLogRecordDatumValues, nullptr}, false, 0},
+    {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(NavigationSolutionLogRecord, latitudeDeviation), sizeof(NavigationSolutionLogRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(NavigationSolutionLogRecord, longitudeDeviation), sizeof(NavigationSolutionLogRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightDeviation", "m", "standard deviation of the height", NavframeF32, offsetof(NavigationSolutionLogRecord, heightDeviation), sizeof(NavigationSolutionLogRecord::heightDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station", NavframeText, offsetof(NavigationSolutionLogRecord, stationId), sizeof(NavigationSolutionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(NavigationSolutionLogRecord, differentialAge), sizeof(NavigationSolutionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(NavigationSolutionLogRecord, solutionAge), sizeof(NavigationSolutionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(NavigationSolutionLogRecord, satellites), sizeof(NavigationSolutionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(NavigationSolutionLogRecord, undecoded), sizeof(NavigationSolutionLogRecord::undecoded[0]), 44, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto NavigationSolutionLogRecordPointers = PointersTo(NavigationSolutionLogRecordMembers);
-inline constexpr RecordRow NavigationSolutionLogRecordLayout = LayoutOf<NavigationSolutionLogRecord>("NavigationSolutionLogRecord", NavigationSolutionLogRecordPointers);
+inline constexpr RecordRow NavigationSolutionLogRecordLayout = LayoutOf<NavigationSolutionLogRecord, NavigationSolutionLogRecordMembers>("NavigationSolutionLogRecord");
 static_assert(CoversEveryByte(NavigationSolutionLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<NavigationSolutionLogRecord> = NavigationSolutionLogRecordLayout;
 
 inline constexpr MemberRow AgriculturalLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(AgriculturalLogRecord, header), sizeof(AgriculturalLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"format", "", "\"GNSS\"", NavframeText, offsetof(AgriculturalLogRecord, format), sizeof(AgriculturalLogRecord::format), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("format"), false, 0},
-    {{"commandLength", "", "length of the command", NavframeU8, offsetof(AgriculturalLogRecord, commandLength), sizeof(AgriculturalLogRecord::commandLength), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("commandLength"), false, 0},
-    {{"utcYear", "", "two digits", NavframeU8, offsetof(AgriculturalLogRecord, utcYear), sizeof(AgriculturalLogRecord::utcYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcYear"), false, 0},
-    {{"utcMonth", "", "1 to 12", NavframeU8, offsetof(AgriculturalLogRecord, utcMonth), sizeof(AgriculturalLogRecord::utcMonth), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcMonth"), false, 0},
-    {{"utcDay", "", "1 to 31", NavframeU8, offsetof(AgriculturalLogRecord, utcDay), sizeof(AgriculturalLogRecord::utcDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcDay"), false, 0},
-    {{"utcHour", "h", "0 to 23", NavframeU8, offsetof(AgriculturalLogRecord, utcHour), sizeof(AgriculturalLogRecord::utcHour), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcHour"), false, 0},
-    {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(AgriculturalLogRecord, utcMinute), sizeof(AgriculturalLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcMinute"), false, 0},
-    {{"utcSecond", "s", "0 to 60", NavframeU8, offsetof(AgriculturalLogRecord, utcSecond), sizeof(AgriculturalLogRecord::utcSecond), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("utcSecond"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(AgriculturalLogRecord, undecoded), sizeof(AgriculturalLogRecord::undecoded[0]), 213, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(AgriculturalLogRecord, header), sizeof(AgriculturalLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"format", "", "\"GNSS\"", NavframeText, offsetof(AgriculturalLogRecord, format), sizeof(AgriculturalLogRecord::format), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"commandLength", "", "length of the command", NavframeU8, offsetof(AgriculturalLogRecord, commandLength), sizeof(AgriculturalLogRecord::commandLength), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcYear", "", "two digits", NavframeU8, offsetof(AgriculturalLogRecord, utcYear), sizeof(AgriculturalLogRecord::utcYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcMonth", "", "1 to 12", NavframeU8, offsetof(AgriculturalLogRecord, utcMonth), sizeof(AgriculturalLogRecord::utcMonth), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcDay", "", "1 to 31", NavframeU8, offsetof(AgriculturalLogRecord, utcDay), sizeof(AgriculturalLogRecord::utcDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcHour", "h", "0 to 23", NavframeU8, offsetof(AgriculturalLogRecord, utcHour), sizeof(AgriculturalLogRecord::utcHour), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(AgriculturalLogRecord, utcMinute), sizeof(AgriculturalLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"utcSecond", "s", "0 to 60", NavframeU8, offsetof(AgriculturalLogRecord, utcSecond), sizeof(AgriculturalLogRecord::utcSecond), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(AgriculturalLogRecord, undecoded), sizeof(AgriculturalLogRecord::undecoded[0]), 213, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto AgriculturalLogRecordPointers = PointersTo(AgriculturalLogRecordMembers);
-inline constexpr RecordRow AgriculturalLogRecordLayout = LayoutOf<AgriculturalLogRecord>("AgriculturalLogRecord", AgriculturalLogRecordPointers);
+inline constexpr RecordRow AgriculturalLogRecordLayout = LayoutOf<AgriculturalLogRecord, AgriculturalLogRecordMembers>("AgriculturalLogRecord");
 static_assert(CoversEveryByte(AgriculturalLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<AgriculturalLogRecord> = AgriculturalLogRecordLayout;
 
 inline constexpr MemberRow HeaderLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(HeaderLogRecord, header), sizeof(HeaderLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(HeaderLogRecord, header), sizeof(HeaderLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
 };
-inline constexpr auto HeaderLogRecordPointers = PointersTo(HeaderLogRecordMembers);
-inline constexpr RecordRow HeaderLogRecordLayout = LayoutOf<HeaderLogRecord>("HeaderLogRecord", HeaderLogRecordPointers);
+inline constexpr RecordRow HeaderLogRecordLayout = LayoutOf<HeaderLogRecord, HeaderLogRecordMembers>("HeaderLogRecord");
 static_assert(CoversEveryByte(HeaderLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<HeaderLogRecord> = HeaderLogRecordLayout;
 
 inline constexpr MemberRow GpsEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GpsEphemerisLogRecord, header), sizeof(GpsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"satellite", "", "satellite number", NavframeU32, offsetof(GpsEphemerisLogRecord, satellite), sizeof(GpsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"timeOfWeek", "s", "of subframe 1", NavframeF64, offsetof(GpsEphemerisLogRecord, timeOfWeek), sizeof(GpsEphemerisLogRecord::timeOfWeek), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("timeOfWeek"), false, 0},
-    {{"health", "", "health", NavframeU32, offsetof(GpsEphemerisLogRecord, health), sizeof(GpsEphemerisLogRecord::health), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("health"), false, 0},
-    {{"iode1", "", "issue of data", NavframeU32, offsetof(GpsEphemerisLogRecord, iode1), sizeof(GpsEphemerisLogRecord::iode1), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("iode1"), false, 0},
-    {{"iode2", "", "issue of data", NavframeU32, offsetof(GpsEphemerisLogRecord, iode2), sizeof(GpsEphemerisLogRecord::iode2), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("iode2"), false, 0},
-    {{"week", "", "GPS week of timeOfWeek", NavframeU32, offsetof(GpsEphemerisLogRecord, week), sizeof(GpsEphemerisLogRecord::week), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"zWeek", "", "GPS week of toe, from the Z count", NavframeU32, offsetof(GpsEphemerisLogRecord, zWeek), sizeof(GpsEphemerisLogRecord::zWeek), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("zWeek"), false, 0},
-    {{"toe", "s", "reference time of the ephemeris", NavframeF64, offsetof(GpsEphemerisLogRecord, toe), sizeof(GpsEphemerisLogRecord::toe), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("toe"), false, 0},
-    {{"semiMajorAxis", "m", "semi-major axis", NavframeF64, offsetof(GpsEphemerisLogRecord, semiMajorAxis), sizeof(GpsEphemerisLogRecord::semiMajorAxis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("semiMajorAxis"), false, 0},
-    {{"deltaN", "rad/s", "correction of the mean motion", NavframeF64, offsetof(GpsEphemerisLogRecord, deltaN), sizeof(GpsEphemerisLogRecord::deltaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("deltaN"), false, 0},
-    {{"m0", "rad", "mean anomaly at the reference time", NavframeF64, offsetof(GpsEphemerisLogRecord, m0), sizeof(GpsEphemerisLogRecord::m0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("m0"), false, 0},
-    {{"eccentricity", "", "eccentricity", NavframeF64, offsetof(GpsEphemerisLogRecord, eccentricity), sizeof(GpsEphemerisLogRecord::eccentricity), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("eccentricity"), false, 0},
-    {{"omega", "rad", "argument of perigee", NavframeF64, offsetof(GpsEphemerisLogRecord, omega), sizeof(GpsEphemerisLogRecord::omega), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omega"), false, 0},
-    {{"cuc", "rad", "cosine correction of the argument of latitude", NavframeF64, offsetof(GpsEphemerisLogRecord, cuc), sizeof(GpsEphemerisLogRecord::cuc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cuc"), false, 0},
-    {{"cus", "rad", "sine correction of the argument of latitude", NavframeF64, offsetof(GpsEphemerisLogRecord, cus), sizeof(GpsEphemerisLogRecord::cus), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cus"), false, 0},
-    {{"crc", "m", "cosine correction of the radius", NavframeF64, offsetof(GpsEphemerisLogRecord, crc), sizeof(GpsEphemerisLogRecord::crc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("crc"), false, 0},
-    {{"crs", "m", "sine correction of the radius", NavframeF64, offsetof(GpsEphemerisLogRecord, crs), sizeof(GpsEphemerisLogRecord::crs), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("crs"), false, 0},
-    {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, cic), sizeof(GpsEphemerisLogRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cic"), false, 0},
-    {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, cis), sizeof(GpsEphemerisLogRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cis"), false, 0},
-    {{"i0", "rad", "inclination at the reference time", NavframeF64, offsetof(GpsEphemerisLogRecord, i0), sizeof(GpsEphemerisLogRecord::i0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("i0"), false, 0},
-    {{"iDot", "rad/s", "rate of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, iDot), sizeof(GpsEphemerisLogRecord::iDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("iDot"), false, 0},
-    {{"omega0", "rad", "right ascension", NavframeF64, offsetof(GpsEphemerisLogRecord, omega0), sizeof(GpsEphemerisLogRecord::omega0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omega0"), false, 0},
-    {{"omegaDot", "rad/s", "rate of the right ascension", NavframeF64, offsetof(GpsEphemerisLogRecord, omegaDot), sizeof(GpsEphemerisLogRecord::omegaDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omegaDot"), false, 0},
-    {{"iodc", "", "issue of data of the clock", NavframeU32, offsetof(GpsEphemerisLogRecord, iodc), sizeof(GpsEphemerisLogRecord::iodc), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("iodc"), false, 0},
-    {{"toc", "s", "reference time of the clock", NavframeF64, offsetof(GpsEphemerisLogRecord, toc), sizeof(GpsEphemerisLogRecord::toc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("toc"), false, 0},
-    {{"tgd", "s", "group delay", NavframeF64, offsetof(GpsEphemerisLogRecord, tgd), sizeof(GpsEphemerisLogRecord::tgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("tgd"), false, 0},
-    {{"af0", "s", "clock offset", NavframeF64, offsetof(GpsEphemerisLogRecord, af0), sizeof(GpsEphemerisLogRecord::af0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("af0"), false, 0},
-    {{"af1", "s/s", "clock drift", NavframeF64, offsetof(GpsEphemerisLogRecord, af1), sizeof(GpsEphemerisLogRecord::af1), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("af1"), false, 0},
-    {{"af2", "s/s^2", "clock drift rate", NavframeF64, offsetof(GpsEphemerisLogRecord, af2), sizeof(GpsEphemerisLogRecord::af2), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("af2"), false, 0},
-    {{"antiSpoofing", "", "anti-spoofing is on", NavframeI32, offsetof(GpsEphemerisLogRecord, antiSpoofing), sizeof(GpsEphemerisLogRecord::antiSpoofing), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("antiSpoofing"), false, 0},
-    {{"n", "rad/s", "corrected mean motion", NavframeF64, offsetof(GpsEphemerisLogRecord, n), sizeof(GpsEphemerisLogRecord::n), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("n"), false, 0},
-    {{"ura", "m^2", "variance of the user range accuracy", NavframeF64, offsetof(GpsEphemerisLogRecord, ura), sizeof(GpsEphemerisLogRecord::ura), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("ura"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(GpsEphemerisLogRecord, header), sizeof(GpsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"satellite", "", "satellite number", NavframeU32, offsetof(GpsEphemerisLogRecord, satellite), sizeof(GpsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"timeOfWeek", "s", "of subframe 1", NavframeF64, offsetof(GpsEphemerisLogRecord, timeOfWeek), sizeof(GpsEphemerisLogRecord::timeOfWeek), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU32, offsetof(GpsEphemerisLogRecord, health), sizeof(GpsEphemerisLogRecord::health), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"iode1", "", "issue of data", NavframeU32, offsetof(GpsEphemerisLogRecord, iode1), sizeof(GpsEphemerisLogRecord::iode1), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"iode2", "", "issue of data", NavframeU32, offsetof(GpsEphemerisLogRecord, iode2), sizeof(GpsEphemerisLogRecord::iode2), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of timeOfWeek", NavframeU32, offsetof(GpsEphemerisLogRecord, week), sizeof(GpsEphemerisLogRecord::week), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"zWeek", "", "GPS week of toe, from the Z count", NavframeU32, offsetof(GpsEphemerisLogRecord, zWeek), sizeof(GpsEphemerisLogRecord::zWeek), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"toe", "s", "reference time of the ephemeris", NavframeF64, offsetof(GpsEphemerisLogRecord, toe), sizeof(GpsEphemerisLogRecord::toe), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"semiMajorAxis", "m", "semi-major axis", NavframeF64, offsetof(GpsEphemerisLogRecord, semiMajorAxis), sizeof(GpsEphemerisLogRecord::semiMajorAxis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"deltaN", "rad/s", "correction of the mean motion", NavframeF64, offsetof(GpsEphemerisLogRecord, deltaN), sizeof(GpsEphemerisLogRecord::deltaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"m0", "rad", "mean anomaly at the reference time", NavframeF64, offsetof(GpsEphemerisLogRecord, m0), sizeof(GpsEphemerisLogRecord::m0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eccentricity", "", "eccentricity", NavframeF64, offsetof(GpsEphemerisLogRecord, eccentricity), sizeof(GpsEphemerisLogRecord::eccentricity), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega", "rad", "argument of perigee", NavframeF64, offsetof(GpsEphemerisLogRecord, omega), sizeof(GpsEphemerisLogRecord::omega), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cuc", "rad", "cosine correction of the argument of latitude", NavframeF64, offsetof(GpsEphemerisLogRecord, cuc), sizeof(GpsEphemerisLogRecord::cuc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cus", "rad", "sine correction of the argument of latitude", NavframeF64, offsetof(GpsEphemerisLogRecord, cus), sizeof(GpsEphemerisLogRecord::cus), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crc", "m", "cosine correction of the radius", NavframeF64, offsetof(GpsEphemerisLogRecord, crc), sizeof(GpsEphemerisLogRecord::crc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crs", "m", "sine correction of the radius", NavframeF64, offsetof(GpsEphemerisLogRecord, crs), sizeof(GpsEphemerisLogRecord::crs), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, cic), sizeof(GpsEphemerisLogRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, cis), sizeof(GpsEphemerisLogRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"i0", "rad", "inclination at the reference time", NavframeF64, offsetof(GpsEphemerisLogRecord, i0), sizeof(GpsEphemerisLogRecord::i0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"iDot", "rad/s", "rate of the inclination", NavframeF64, offsetof(GpsEphemerisLogRecord, iDot), sizeof(GpsEphemerisLogRecord::iDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega0", "rad", "right ascension", NavframeF64, offsetof(GpsEphemerisLogRecord, omega0), sizeof(GpsEphemerisLogRecord::omega0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omegaDot", "rad/s", "rate of the right ascension", NavframeF64, offsetof(GpsEphemerisLogRecord, omegaDot), sizeof(GpsEphemerisLogRecord::omegaDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"iodc", "", "issue of data of the clock", NavframeU32, offsetof(GpsEphemerisLogRecord, iodc), sizeof(GpsEphemerisLogRecord::iodc), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"toc", "s", "reference time of the clock", NavframeF64, offsetof(GpsEphemerisLogRecord, toc), sizeof(GpsEphemerisLogRecord::toc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tgd", "s", "group delay", NavframeF64, offsetof(GpsEphemerisLogRecord, tgd), sizeof(GpsEphemerisLogRecord::tgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af0", "s", "clock offset", NavframeF64, offsetof(GpsEphemerisLogRecord, af0), sizeof(GpsEphemerisLogRecord::af0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af1", "s/s", "clock drift", NavframeF64, offsetof(GpsEphemerisLogRecord, af1), sizeof(GpsEphemerisLogRecord::af1), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af2", "s/s^2", "clock drift rate", NavframeF64, offsetof(GpsEphemerisLogRecord, af2), sizeof(GpsEphemerisLogRecord::af2), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"antiSpoofing", "", "anti-spoofing is on", NavframeI32, offsetof(GpsEphemerisLogRecord, antiSpoofing), sizeof(GpsEphemerisLogRecord::antiSpoofing), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"n", "rad/s", "corrected mean motion", NavframeF64, offsetof(GpsEphemerisLogRecord, n), sizeof(GpsEphemerisLogRecord::n), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ura", "m^2", "variance of the user range accuracy", NavframeF64, offsetof(GpsEphemerisLogRecord, ura), sizeof(GpsEphemerisLogRecord::ura), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GpsEphemerisLogRecordPointers = PointersTo(GpsEphemerisLogRecordMembers);
-inline constexpr RecordRow GpsEphemerisLogRecordLayout = LayoutOf<GpsEphemerisLogRecord>("GpsEphemerisLogRecord", GpsEphemerisLogRecordPointers);
+inline constexpr RecordRow GpsEphemerisLogRecordLayout = LayoutOf<GpsEphemerisLogRecord, GpsEphemerisLogRecordMembers>("GpsEphemerisLogRecord");
 static_assert(CoversEveryByte(GpsEphemerisLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GpsEphemerisLogRecord> = GpsEphemerisLogRecordLayout;
 
 inline constexpr MemberRow GlonassEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GlonassEphemerisLogRecord, header), sizeof(GlonassEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"slot", "", "37 + slot number", NavframeU16, offsetof(GlonassEphemerisLogRecord, slot), sizeof(GlonassEphemerisLogRecord::slot), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("slot"), false, 0},
-    {{"frequency", "", "channel + 7", NavframeU16, offsetof(GlonassEphemerisLogRecord, frequency), sizeof(GlonassEphemerisLogRecord::frequency), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("frequency"), false, 0},
-    {{"satelliteType", "", "type of the satellite", NavframeU8, offsetof(GlonassEphemerisLogRecord, satelliteType), sizeof(GlonassEphemerisLogRecord::satelliteType), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("satelliteType"), false, 0},
-    {{"reserved0", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved0), sizeof(GlonassEphemerisLogRecord::reserved0), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved0"), false, 0},
-    {{"week", "", "GPS week of the ephemeris", NavframeU16, offsetof(GlonassEphemerisLogRecord, week), sizeof(GlonassEphemerisLogRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"milliseconds", "ms", "GPS time of week of the ephemeris", NavframeU32, offsetof(GlonassEphemerisLogRecord, milliseconds), sizeof(GlonassEphemerisLogRecord::milliseconds), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("milliseconds"), false, 0},
-    {{"timeOffset", "s", "of GLONASS time from GPS time", NavframeU32, offsetof(GlonassEphemerisLogRecord, timeOffset), sizeof(GlonassEphemerisLogRecord::timeOffset), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("timeOffset"), false, 0},
-    {{"dayNumber", "", "N_T", NavframeU16, offsetof(GlonassEphemerisLogRecord, dayNumber), sizeof(GlonassEphemerisLogRecord::dayNumber), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, KeyOf("dayNumber"), false, 0},
-    {{"reserved1", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved1), sizeof(GlonassEphemerisLogRecord::reserved1), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved1"), false, 0},
-    {{"reserved2", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved2), sizeof(GlonassEphemerisLogRecord::reserved2), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved2"), false, 0},
-    {{"issue", "", "15-minute interval of the day", NavframeU32, offsetof(GlonassEphemerisLogRecord, issue), sizeof(GlonassEphemerisLogRecord::issue), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("issue"), false, 0},
-    {{"health", "", "health", NavframeU32, offsetof(GlonassEphemerisLogRecord, health), sizeof(GlonassEphemerisLogRecord::health), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("health"), false, 0},
-    {{"position", "m", "PZ-90 X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, position), sizeof(GlonassEphemerisLogRecord::position[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("position"), false, 0},
-    {{"velocity", "m/s", "along X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, velocity), sizeof(GlonassEphemerisLogRecord::velocity[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("velocity"), false, 0},
-    {{"acceleration", "m/s^2", "of sun and moon along X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, acceleration), sizeof(GlonassEphemerisLogRecord::acceleration[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("acceleration"), false, 0},
-    {{"tau", "s", "clock correction", NavframeF64, offsetof(GlonassEphemerisLogRecord, tau), sizeof(GlonassEphemerisLogRecord::tau), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("tau"), false, 0},
-    {{"deltaTau", "s", "between the L2 and L1 signals", NavframeF64, offsetof(GlonassEphemerisLogRecord, deltaTau), sizeof(GlonassEphemerisLogRecord::deltaTau), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("deltaTau"), false, 0},
-    {{"gamma", "", "relative frequency correction", NavframeF64, offsetof(GlonassEphemerisLogRecord, gamma), sizeof(GlonassEphemerisLogRecord::gamma), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("gamma"), false, 0},
-    {{"frameTime", "s", "t_k, second of the day", NavframeU32, offsetof(GlonassEphemerisLogRecord, frameTime), sizeof(GlonassEphemerisLogRecord::frameTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("frameTime"), false, 0},
-    {{"p", "", "technological parameter", NavframeU32, offsetof(GlonassEphemerisLogRecord, p), sizeof(GlonassEphemerisLogRecord::p), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("p"), false, 0},
-    {{"accuracy", "", "F_T", NavframeU32, offsetof(GlonassEphemerisLogRecord, accuracy), sizeof(GlonassEphemerisLogRecord::accuracy), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("accuracy"), false, 0},
-    {{"age", "d", "age of the data", NavframeU32, offsetof(GlonassEphemerisLogRecord, age), sizeof(GlonassEphemerisLogRecord::age), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("age"), false, 0},
-    {{"flags", "", "bit mask", NavframeU32, offsetof(GlonassEphemerisLogRecord, flags), sizeof(GlonassEphemerisLogRecord::flags), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("flags"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(GlonassEphemerisLogRecord, header), sizeof(GlonassEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"slot", "", "37 + slot number", NavframeU16, offsetof(GlonassEphemerisLogRecord, slot), sizeof(GlonassEphemerisLogRecord::slot), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"frequency", "", "channel + 7", NavframeU16, offsetof(GlonassEphemerisLogRecord, frequency), sizeof(GlonassEphemerisLogRecord::frequency), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"satelliteType", "", "type of the satellite", NavframeU8, offsetof(GlonassEphemerisLogRecord, satelliteType), sizeof(GlonassEphemerisLogRecord::satelliteType), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved0", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved0), sizeof(GlonassEphemerisLogRecord::reserved0), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the ephemeris", NavframeU16, offsetof(GlonassEphemerisLogRecord, week), sizeof(GlonassEphemerisLogRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"milliseconds", "ms", "GPS time of week of the ephemeris", NavframeU32, offsetof(GlonassEphemerisLogRecord, milliseconds), sizeof(GlonassEphemerisLogRecord::milliseconds), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"timeOffset", "s", "of GLONASS time from GPS time", NavframeU32, offsetof(GlonassEphemerisLogRecord, timeOffset), sizeof(GlonassEphemerisLogRecord::timeOffset), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"dayNumber", "", "N_T", NavframeU16, offsetof(GlonassEphemerisLogRecord, dayNumber), sizeof(GlonassEphemerisLogRecord::dayNumber), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved1", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved1), sizeof(GlonassEphemerisLogRecord::reserved1), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved2", "", "reserved", NavframeU8, offsetof(GlonassEphemerisLogRecord, reserved2), sizeof(GlonassEphemerisLogRecord::reserved2), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"issue", "", "15-minute interval of the day", NavframeU32, offsetof(GlonassEphemerisLogRecord, issue), sizeof(GlonassEphemerisLogRecord::issue), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU32, offsetof(GlonassEphemerisLogRecord, health), sizeof(GlonassEphemerisLogRecord::health), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"position", "m", "PZ-90 X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, position), sizeof(GlonassEphemerisLogRecord::position[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocity", "m/s", "along X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, velocity), sizeof(GlonassEphemerisLogRecord::velocity[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"acceleration", "m/s^2", "of sun and moon along X, Y and Z", NavframeF64, offsetof(GlonassEphemerisLogRecord, acceleration), sizeof(GlonassEphemerisLogRecord::acceleration[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tau", "s", "clock correction", NavframeF64, offsetof(GlonassEphemerisLogRecord, tau), sizeof(GlonassEphemerisLogRecord::tau), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"deltaTau", "s", "between the L2 and L1 signals", NavframeF64, offsetof(GlonassEphemerisLogRecord, deltaTau), sizeof(GlonassEphemerisLogRecord::deltaTau), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gamma", "", "relative frequency correction", NavframeF64, offsetof(GlonassEphemerisLogRecord, gamma), sizeof(GlonassEphemerisLogRecord::gamma), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"frameTime", "s", "t_k, second of the day", NavframeU32, offsetof(GlonassEphemerisLogRecord, frameTime), sizeof(GlonassEphemerisLogRecord::frameTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"p", "", "technological parameter", NavframeU32, offsetof(GlonassEphemerisLogRecord, p), sizeof(GlonassEphemerisLogRecord::p), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "", "F_T", NavframeU32, offsetof(GlonassEphemerisLogRecord, accuracy), sizeof(GlonassEphemerisLogRecord::accuracy), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"age", "d", "age of the data", NavframeU32, offsetof(GlonassEphemerisLogRecord, age), sizeof(GlonassEphemerisLogRecord::age), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"flags", "", "bit mask", NavframeU32, offsetof(GlonassEphemerisLogRecord, flags), sizeof(GlonassEphemerisLogRecord::flags), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GlonassEphemerisLogRecordPointers = PointersTo(GlonassEphemerisLogRecordMembers);
-inline constexpr RecordRow GlonassEphemerisLogRecordLayout = LayoutOf<GlonassEphemerisLogRecord>("GlonassEphemerisLogRecord", GlonassEphemerisLogRecordPointers);
+inline constexpr RecordRow GlonassEphemerisLogRecordLayout = LayoutOf<GlonassEphemerisLogRecord, GlonassEphemerisLogRecordMembers>("GlonassEphemerisLogRecord");
 static_assert(CoversEveryByte(GlonassEphemerisLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GlonassEphemerisLogRecord> = GlonassEphemerisLogRecordLayout;
 
 inline constexpr MemberRow GalileoEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoEphemerisLogRecord, header), sizeof(GalileoEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"satellite", "", "satellite number", NavframeU32, offsetof(GalileoEphemerisLogRecord, satellite), sizeof(GalileoEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"fnavReceived", "", "F/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, fnavReceived), sizeof(GalileoEphemerisLogRecord::fnavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("fnavReceived"), false, 0},
-    {{"inavReceived", "", "I/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, inavReceived), sizeof(GalileoEphemerisLogRecord::inavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("inavReceived"), false, 0},
-    {{"e1bHealth", "", "health of E1-B", NavframeU8, offsetof(GalileoEphemerisLogRecord, e1bHealth), sizeof(GalileoEphemerisLogRecord::e1bHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e1bHealth"), false, 0},
-    {{"e5aHealth", "", "health of E5a", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5aHealth), sizeof(GalileoEphemerisLogRecord::e5aHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e5aHealth"), false, 0},
-    {{"e5bHealth", "", "health of E5b", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5bHealth), sizeof(GalileoEphemerisLogRecord::e5bHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e5bHealth"), false, 0},
-    {{"e1bDataValidity", "", "data validity of E1-B", NavframeU8, offsetof(GalileoEphemerisLogRecord, e1bDataValidity), sizeof(GalileoEphemerisLogRecord::e1bDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e1bDataValidity"), false, 0},
-    {{"e5aDataValidity", "", "data validity of E5a", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5aDataValidity), sizeof(GalileoEphemerisLogRecord::e5aDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e5aDataValidity"), false, 0},
-    {{"e5bDataValidity", "", "data validity of E5b", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5bDataValidity), sizeof(GalileoEphemerisLogRecord::e5bDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("e5bDataValidity"), false, 0},
-    {{"sisa", "", "signal-in-space accuracy index", NavframeU8, offsetof(GalileoEphemerisLogRecord, sisa), sizeof(GalileoEphemerisLogRecord::sisa), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, KeyOf("sisa"), false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(GalileoEphemerisLogRecord, reserved), sizeof(GalileoEphemerisLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("reserved"), false, 0},
-    {{"iodNav", "", "issue of data", NavframeU32, offsetof(GalileoEphemerisLogRecord, iodNav), sizeof(GalileoEphemerisLogRecord::iodNav), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("iodNav"), false, 0},
-    {{"toe", "s", "reference time of the ephemeris", NavframeU32, offsetof(GalileoEphemerisLogRecord, toe), sizeof(GalileoEphemerisLogRecord::toe), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("toe"), false, 0},
-    {{"rootA", "m^0.5", "square root of the semi-major axis", NavframeF64, offsetof(GalileoEphemerisLogRecord, rootA), sizeof(GalileoEphemerisLogRecord::rootA), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("rootA"), false, 0},
-    {{"deltaN", "rad/s", "correction of the mean motion", NavframeF64, offsetof(GalileoEphemerisLogRecord, deltaN), sizeof(GalileoEphemerisLogRecord::deltaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("deltaN"), false, 0},
-    {{"m0", "rad", "mean anomaly at the reference time", NavframeF64, offsetof(GalileoEphemerisLogRecord, m0), sizeof(GalileoEphemerisLogRecord::m0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("m0"), false, 0},
-    {{"eccentricity", "", "eccentricity", NavframeF64, offsetof(GalileoEphemerisLogRecord, eccentricity), sizeof(GalileoEphemerisLogRecord::eccentricity), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("eccentricity"), false, 0},
-    {{"omega", "rad", "argument of perigee", NavframeF64, offsetof(GalileoEphemerisLogRecord, omega), sizeof(GalileoEphemerisLogRecord::omega), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omega"), false, 0},
-    {{"cuc", "rad", "cosine correction of the argument of latitude", NavframeF64, offsetof(GalileoEphemerisLogRecord, cuc), sizeof(GalileoEphemerisLogRecord::cuc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cuc"), false, 0},
-    {{"cus", "rad", "sine correction of the argument of latitude", NavframeF64, offsetof(GalileoEphemerisLogRecord, cus), sizeof(GalileoEphemerisLogRecord::cus), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cus"), false, 0},
-    {{"crc", "m", "cosine correction of the radius", NavframeF64, offsetof(GalileoEphemerisLogRecord, crc), sizeof(GalileoEphemerisLogRecord::crc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("crc"), false, 0},
-    {{"crs", "m", "sine correction of the radius", NavframeF64, offsetof(GalileoEphemerisLogRecord, crs), sizeof(GalileoEphemerisLogRecord::crs), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("crs"), false, 0},
-    {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, cic), sizeof(GalileoEphemerisLogRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cic"), false, 0},
-    {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, cis), sizeof(GalileoEphemerisLogRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("cis"), false, 0},
-    {{"i0", "rad", "inclination at the reference time", NavframeF64, offsetof(GalileoEphemerisLogRecord, i0), sizeof(GalileoEphemerisLogRecord::i0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("i0"), false, 0},
-    {{"iDot", "rad/s", "rate of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, iDot), sizeof(GalileoEphemerisLogRecord::iDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("iDot"), false, 0},
-    {{"omega0", "rad", "right ascension", NavframeF64, offsetof(GalileoEphemerisLogRecord, omega0), sizeof(GalileoEphemerisLogRecord::omega0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omega0"), false, 0},
-    {{"omegaDot", "rad/s", "rate of the right ascension", NavframeF64, offsetof(GalileoEphemerisLogRecord, omegaDot), sizeof(GalileoEphemerisLogRecord::omegaDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("omegaDot"), false, 0},
-    {{"fnavToc", "s", "reference time of the F/NAV clock", NavframeU32, offsetof(GalileoEphemerisLogRecord, fnavToc), sizeof(GalileoEphemerisLogRecord::fnavToc), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("fnavToc"), false, 0},
-    {{"fnavAf", "", "F/NAV clock offset (s), drift (s/s) and drift rate (s/s^2)", NavframeF64, offsetof(GalileoEphemerisLogRecord, fnavAf), sizeof(GalileoEphemerisLogRecord::fnavAf[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("fnavAf"), false, 0},
-    {{"inavToc", "s", "reference time of the I/NAV clock", NavframeU32, offsetof(GalileoEphemerisLogRecord, inavToc), sizeof(GalileoEphemerisLogRecord::inavToc), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("inavToc"), false, 0},
-    {{"inavAf", "", "I/NAV clock offset (s), drift (s/s) and drift rate (s/s^2)", NavframeF64, offsetof(GalileoEphemerisLogRecord, inavAf), sizeof(GalileoEphemerisLogRecord::inavAf[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("inavAf"), false, 0},
-    {{"e1E5aBgd", "s", "broadcast group delay of E1 and E5a", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5aBgd), sizeof(GalileoEphemerisLogRecord::e1E5aBgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("e1E5aBgd"), false, 0},
-    {{"e1E5bBgd", "s", "broadcast group delay of E1 and E5b", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5bBgd), sizeof(GalileoEphemerisLogRecord::e1E5bBgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("e1E5bBgd"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoEphemerisLogRecord, header), sizeof(GalileoEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"satellite", "", "satellite number", NavframeU32, offsetof(GalileoEphemerisLogRecord, satellite), sizeof(GalileoEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"fnavReceived", "", "F/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, fnavReceived), sizeof(GalileoEphemerisLogRecord::fnavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"inavReceived", "", "I/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, inavReceived), sizeof(GalileoEphemerisLogRecord::inavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"e1bHealth", "", "health of E1-B", NavframeU8, offsetof(GalileoEphemerisLogRecord, e1bHealth), sizeof(GalileoEphemerisLogRecord::e1bHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"e5aHealth", "", "health of E5a", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5aHealth), sizeof(GalileoEphemerisLogRecord::e5aHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"e5bHealth", "", "health of E5b", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5bHealth), sizeof(GalileoEphemerisLogRecord::e5bHealth), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"e1bDataValidity", "", "data validity of E1-B", NavframeU8, offsetof(GalileoEphemerisLogRecord, e1bDataValidity), sizeof(GalileoEphemerisLogRecord::e1bDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"e5aDataValidity", "", "data validity of E5a", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5aDataValidity), sizeof(GalileoEphemerisLogRecord::e5aDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"e5bDataValidity", "", "data validity of E5b", NavframeU8, offsetof(GalileoEphemerisLogRecord, e5bDataValidity), sizeof(GalileoEphemerisLogRecord::e5bDataValidity), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"sisa", "", "signal-in-space accuracy index", NavframeU8, offsetof(GalileoEphemerisLogRecord, sisa), sizeof(GalileoEphemerisLogRecord::sisa), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(GalileoEphemerisLogRecord, reserved), sizeof(GalileoEphemerisLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"iodNav", "", "issue of data", NavframeU32, offsetof(GalileoEphemerisLogRecord, iodNav), sizeof(GalileoEphemerisLogRecord::iodNav), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"toe", "s", "reference time of the ephemeris", NavframeU32, offsetof(GalileoEphemerisLogRecord, toe), sizeof(GalileoEphemerisLogRecord::toe), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"rootA", "m^0.5", "square root of the semi-major axis", NavframeF64, offsetof(GalileoEphemerisLogRecord, rootA), sizeof(GalileoEphemerisLogRecord::rootA), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"deltaN", "rad/s", "correction of the mean motion", NavframeF64, offsetof(GalileoEphemerisLogRecord, deltaN), sizeof(GalileoEphemerisLogRecord::deltaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"m0", "rad", "mean anomaly at the reference time", NavframeF64, offsetof(GalileoEphemerisLogRecord, m0), sizeof(GalileoEphemerisLogRecord::m0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eccentricity", "", "eccentricity", NavframeF64, offsetof(GalileoEphemerisLogRecord, eccentricity), sizeof(GalileoEphemerisLogRecord::eccentricity), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega", "rad", "argument of perigee", NavframeF64, offsetof(GalileoEphemerisLogRecord, omega), sizeof(GalileoEphemerisLogRecord::omega), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cuc", "rad", "cosine correction of the argument of latitude", NavframeF64, offsetof(GalileoEphemerisLogRecord, cuc), sizeof(GalileoEphemerisLogRecord::cuc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cus", "rad", "sine correction of the argument of latitude", NavframeF64, offsetof(GalileoEphemerisLogRecord, cus), sizeof(GalileoEphemerisLogRecord::cus), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crc", "m", "cosine correction of the radius", NavframeF64, offsetof(GalileoEphemerisLogRecord, crc), sizeof(GalileoEphemerisLogRecord::crc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crs", "m", "sine correction of the radius", NavframeF64, offsetof(GalileoEphemerisLogRecord, crs), sizeof(GalileoEphemerisLogRecord::crs), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, cic), sizeof(GalileoEphemerisLogRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, cis), sizeof(GalileoEphemerisLogRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"i0", "rad", "inclination at the reference time", NavframeF64, offsetof(GalileoEphemerisLogRecord, i0), sizeof(GalileoEphemerisLogRecord::i0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"iDot", "rad/s", "rate of the inclination", NavframeF64, offsetof(GalileoEphemerisLogRecord, iDot), sizeof(GalileoEphemerisLogRecord::iDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega0", "rad", "right ascension", NavframeF64, offsetof(GalileoEphemerisLogRecord, omega0), sizeof(GalileoEphemerisLogRecord::omega0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omegaDot", "rad/s", "rate of the right ascension", NavframeF64, offsetof(GalileoEphemerisLogRecord, omegaDot), sizeof(GalileoEphemerisLogRecord::omegaDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"fnavToc", "s", "reference time of the F/NAV clock", NavframeU32, offsetof(GalileoEphemerisLogRecord, fnavToc), sizeof(GalileoEphemerisLogRecord::fnavToc), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"fnavAf", "", "F/NAV clock offset (s), drift (s/s) and drift rate (s/s^2)", NavframeF64, offsetof(GalileoEphemerisLogRecord, fnavAf), sizeof(GalileoEphemerisLogRecord::fnavAf[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"inavToc", "s", "reference time of the I/NAV clock", NavframeU32, offsetof(GalileoEphemerisLogRecord, inavToc), sizeof(GalileoEphemerisLogRecord::inavToc), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"inavAf", "", "I/NAV clock offset (s), drift (s/s) and drift rate (s/s^2)", NavframeF64, offsetof(GalileoEphemerisLogRecord, inavAf), sizeof(GalileoEphemerisLogRecord::inavAf[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"e1E5aBgd", "s", "broadcast group delay of E1 and E5a", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5aBgd), sizeof(GalileoEphemerisLogRecord::e1E5aBgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"e1E5bBgd", "s", "broadcast group delay of E1 and E5b", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5bBgd), sizeof(GalileoEphemerisLogRecord::e1E5bBgd), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GalileoEphemerisLogRecordPointers = PointersTo(GalileoEphemerisLogRecordMembers);
-inline constexpr RecordRow GalileoEphemerisLogRecordLayout = LayoutOf<GalileoEphemerisLogRecord>("GalileoEphemerisLogRecord", GalileoEphemerisLogRecordPointers);
+inline constexpr RecordRow GalileoEphemerisLogRecordLayout = LayoutOf<GalileoEphemerisLogRecord, GalileoEphemerisLogRecordMembers>("GalileoEphemerisLogRecord");
 static_assert(CoversEveryByte(GalileoEphemerisLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GalileoEphemerisLogRecord> = GalileoEphemerisLogRecordLayout;
 
 inline constexpr MemberRow BdsEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(BdsEphemerisLogRecord, header), sizeof(BdsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"satellite", "", "satellite number", NavframeU32, offsetof(BdsEphemerisLogRecord, satellite), sizeof(BdsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("satellite"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(BdsEphemerisLogRecord, undecoded), sizeof(BdsEphemerisLogRecord::undecoded[0]), 224, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(BdsEphemerisLogRecord, header), sizeof(BdsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"satellite", "", "satellite number", NavframeU32, offsetof(BdsEphemerisLogRecord, satellite), sizeof(BdsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(BdsEphemerisLogRecord, undecoded), sizeof(BdsEphemerisLogRecord::undecoded[0]), 224, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto BdsEphemerisLogRecordPointers = PointersTo(BdsEphemerisLogRecordMembers);
-inline constexpr RecordRow BdsEphemerisLogRecordLayout = LayoutOf<BdsEphemerisLogRecord>("BdsEphemerisLogRecord", BdsEphemerisLogRecordPointers);
+inline constexpr RecordRow BdsEphemerisLogRecordLayout = LayoutOf<BdsEphemerisLogRecord, BdsEphemerisLogRecordMembers>("BdsEphemerisLogRecord");
 static_assert(CoversEveryByte(BdsEphemerisLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<BdsEphemerisLogRecord> = BdsEphemerisLogRecordLayout;
 
 inline constexpr MemberRow IonosphereLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(IonosphereLogRecord, header), sizeof(IonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"alpha", "", "coefficients of the amplitude, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, alpha), sizeof(IonosphereLogRecord::alpha[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("alpha"), false, 0},
-    {{"beta", "", "coefficients of the period, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, beta), sizeof(IonosphereLogRecord::beta[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("beta"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(IonosphereLogRecord, undecoded), sizeof(IonosphereLogRecord::undecoded[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(IonosphereLogRecord, header), sizeof(IonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"alpha", "", "coefficients of the amplitude, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, alpha), sizeof(IonosphereLogRecord::alpha[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"beta", "", "coefficients of the period, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, beta), sizeof(IonosphereLogRecord::beta[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(IonosphereLogRecord, undecoded), sizeof(IonosphereLogRecord::undecoded[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto IonosphereLogRecordPointers = PointersTo(IonosphereLogRecordMembers);
-inline constexpr RecordRow IonosphereLogRecordLayout = LayoutOf<IonosphereLogRecord>("IonosphereLogRecord", IonosphereLogRecordPointers);
+inline constexpr RecordRow IonosphereLogRecordLayout = LayoutOf<IonosphereLogRecord, IonosphereLogRecordMembers>("IonosphereLogRecord");
 static_assert(CoversEveryByte(IonosphereLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<IonosphereLogRecord> = IonosphereLogRecordLayout;
 
 inline constexpr MemberRow GalileoIonosphereLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoIonosphereLogRecord, header), sizeof(GalileoIonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"effectiveIonisation", "", "a_i0, a_i1 and a_i2", NavframeF64, offsetof(GalileoIonosphereLogRecord, effectiveIonisation), sizeof(GalileoIonosphereLogRecord::effectiveIonisation[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("effectiveIonisation"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(GalileoIonosphereLogRecord, undecoded), sizeof(GalileoIonosphereLogRecord::undecoded[0]), 48, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoIonosphereLogRecord, header), sizeof(GalileoIonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"effectiveIonisation", "", "a_i0, a_i1 and a_i2", NavframeF64, offsetof(GalileoIonosphereLogRecord, effectiveIonisation), sizeof(GalileoIonosphereLogRecord::effectiveIonisation[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(GalileoIonosphereLogRecord, undecoded), sizeof(GalileoIonosphereLogRecord::undecoded[0]), 48, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto GalileoIonosphereLogRecordPointers = PointersTo(GalileoIonosphereLogRecordMembers);
-inline constexpr RecordRow GalileoIonosphereLogRecordLayout = LayoutOf<GalileoIonosphereLogRecord>("GalileoIonosphereLogRecord", GalileoIonosphereLogRecordPointers);
+inline constexpr RecordRow GalileoIonosphereLogRecordLayout = LayoutOf<GalileoIonosphereLogRecord, GalileoIonosphereLogRecordMembers>("GalileoIonosphereLogRecord");
 static_assert(CoversEveryByte(GalileoIonosphereLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GalileoIonosphereLogRecord> = GalileoIonosphereLogRecordLayout;
 
 inline constexpr MemberRow UtcLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(UtcLogRecord, header), sizeof(UtcLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, KeyOf("header"), false, 0},
-    {{"week", "", "reference week", NavframeU32, offsetof(UtcLogRecord, week), sizeof(UtcLogRecord::week), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("week"), false, 0},
-    {{"tot", "s", "reference time of week", NavframeU32, offsetof(UtcLogRecord, tot), sizeof(UtcLogRecord::tot), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("tot"), false, 0},
-    {{"a0", "s", "offset", NavframeF64, offsetof(UtcLogRecord, a0), sizeof(UtcLogRecord::a0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("a0"), false, 0},
-    {{"a1", "s/s", "drift", NavframeF64, offsetof(UtcLogRecord, a1), sizeof(UtcLogRecord::a1), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, KeyOf("a1"), false, 0},
-    {{"leapWeek", "", "week of the next or last leap second", NavframeU32, offsetof(UtcLogRecord, leapWeek), sizeof(UtcLogRecord::leapWeek), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("leapWeek"), false, 0},
-    {{"leapDay", "", "day of that week", NavframeU32, offsetof(UtcLogRecord, leapDay), sizeof(UtcLogRecord::leapDay), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, KeyOf("leapDay"), false, 0},
-    {{"leapBefore", "s", "leap seconds until then", NavframeI32, offsetof(UtcLogRecord, leapBefore), sizeof(UtcLogRecord::leapBefore), 0, -1, 0, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("leapBefore"), false, 0},
-    {{"leapAfter", "s", "leap seconds from then on", NavframeI32, offsetof(UtcLogRecord, leapAfter), sizeof(UtcLogRecord::leapAfter), 0, -1, 0, NavframeUnknownValue, -1, 0, nullptr, nullptr}, KeyOf("leapAfter"), false, 0},
-    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(UtcLogRecord, undecoded), sizeof(UtcLogRecord::undecoded[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, KeyOf("undecoded"), false, 0},
+    {{"header", "", "header of the line", NavframeNested, offsetof(UtcLogRecord, header), sizeof(UtcLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+    {{"week", "", "reference week", NavframeU32, offsetof(UtcLogRecord, week), sizeof(UtcLogRecord::week), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"tot", "s", "reference time of week", NavframeU32, offsetof(UtcLogRecord, tot), sizeof(UtcLogRecord::tot), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"a0", "s", "offset", NavframeF64, offsetof(UtcLogRecord, a0), sizeof(UtcLogRecord::a0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"a1", "s/s", "drift", NavframeF64, offsetof(UtcLogRecord, a1), sizeof(UtcLogRecord::a1), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"leapWeek", "", "week of the next or last leap second", NavframeU32, offsetof(UtcLogRecord, leapWeek), sizeof(UtcLogRecord::leapWeek), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"leapDay", "", "day of that week", NavframeU32, offsetof(UtcLogRecord, leapDay), sizeof(UtcLogRecord::leapDay), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"leapBefore", "s", "leap seconds until then", NavframeI32, offsetof(UtcLogRecord, leapBefore), sizeof(UtcLogRecord::leapBefore), 0, -1, 0, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"leapAfter", "s", "leap seconds from then on", NavframeI32, offsetof(UtcLogRecord, leapAfter), sizeof(UtcLogRecord::leapAfter), 0, -1, 0, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+    {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(UtcLogRecord, undecoded), sizeof(UtcLogRecord::undecoded[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
-inline constexpr auto UtcLogRecordPointers = PointersTo(UtcLogRecordMembers);
-inline constexpr RecordRow UtcLogRecordLayout = LayoutOf<UtcLogRecord>("UtcLogRecord", UtcLogRecordPointers);
+inline constexpr RecordRow UtcLogRecordLayout = LayoutOf<UtcLogRecord, UtcLogRecordMembers>("UtcLogRecord");
 static_assert(CoversEveryByte(UtcLogRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UtcLogRecord> = UtcLogRecordLayout;
 
