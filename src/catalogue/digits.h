@@ -17,10 +17,10 @@ namespace navframe::catalogue {
 // Characters that a number takes at most, with those that may be written behind it.
 inline constexpr std::size_t LongestNumber = 32;
 
-// The numbers below 1000: three digits, and how many zeros stand in front. One entry more, since
-// four characters are copied from behind the zeros.
+// The numbers below 1000: three digits, and how many zeros stand in front. Four characters are
+// copied from behind the zeros, of which there are none at the end of the table.
 inline constexpr auto DigitsBelow1000 = [] {
-  std::array<char, 4 * 1001> digits{};
+  std::array<char, 4 * 1000> digits{};
   for (unsigned i = 0; i < 1000; ++i) {
     char* const entry = &digits[4 * i];
     entry[0] = static_cast<char>('0' + i / 100);

@@ -2,10 +2,13 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <limits>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -46,9 +49,28 @@ void ExpectNumber(const Value& value, const std::uint8_t* at) {
 
 void ExpectRecord(const Value& object, const NavframeRecord& record, const std::uint8_t* data);
 
-void ExpectElement(const Value& value, const NavframeMember& member, const std::uint8_t* at,
-                   bool known) {
+// What a text reads back to whose bytes above 0x7F are no UTF-8.
+std::string AsLatin1(std::string_view bytes) {
+  std::string text;
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x80) text += static_cast<char>(0xC0 | byte >> 6);
+    text += static_cast<char>(byte < 0x80 ? byte : 0x80 | (byte & 0x3F));
+  }
+  return text;
+}
+
+void ExpectElement(const Value& value, const NavframeMember& member, const std::uint8_t* record,
+                   std::uint32_t index) {
+  const std::uint8_t* const at = record + member.offset + index * member.size;
   if (member.type == NavframeNested) return ExpectRecord(value, *member.record, at);
+  double number = 0;
+  const int reading = navframe_number(&member, record, index, &number);
+  bool known = reading == NavframeKnown && std::isfinite(number);
+  if (reading == NavframeNoNumber) {
+    known = member.unknownRule == NavframeUnknownNever ||
+            navframe_text(&member, record, index, nullptr, 0) != 0;
+  }
   ASSERT_EQ(value.IsNull(), !known) << member.name;
   if (!known) return;
   switch (member.type) {
@@ -70,11 +92,11 @@ void ExpectElement(const Value& value, const NavframeMember& member, const std::
       return ExpectNumber<float>(value, at);
     case NavframeF64:
       return ExpectNumber<double>(value, at);
-    case NavframeText:
-      EXPECT_STREQ(value.GetString(), reinterpret_cast<const char*>(at)) << member.name;
-      return;
-    default:
-      EXPECT_EQ(value.GetString(), *reinterpret_cast<const RecordText*>(at)) << member.name;
+    default: {
+      std::string text(member.size, '\0');
+      text.resize(navframe_text(&member, record, index, text.data(), text.size() + 1));
+      EXPECT_EQ(value.GetString(), AsLatin1(text)) << member.name;
+    }
   }
 }
 
@@ -90,22 +112,13 @@ void ExpectRecord(const Value& object, const NavframeRecord& record, const std::
     ++written;
     ASSERT_TRUE(object.HasMember(member.name)) << record.name << " " << member.name;
     const Value& value = object[member.name];
-    const std::uint8_t* const at = data + member.offset;
-    const auto known = [&](std::uint32_t index) {
-      double number;
-      char character[2];
-      return navframe_number(&member, data, index, &number) == NavframeKnown ||
-             navframe_text(&member, data, index, character, 2) != 0;
-    };
     if (member.length == 0) {
-      ExpectElement(value, member, at, known(0));
+      ExpectElement(value, member, data, 0);
       continue;
     }
     ASSERT_TRUE(value.IsArray()) << member.name;
     ASSERT_EQ(value.Size(), navframe_length(&record, &member, data)) << member.name;
-    for (std::uint32_t e = 0; e < value.Size(); ++e) {
-      ExpectElement(value[e], member, at + e * member.size, known(e));
-    }
+    for (std::uint32_t e = 0; e < value.Size(); ++e) ExpectElement(value[e], member, data, e);
   }
   EXPECT_EQ(object.MemberCount(), written) << record.name;
 }
@@ -124,6 +137,21 @@ TEST(Json, ReadsBackToTheSameValuesInEveryKindOfTheSample) {
   EXPECT_GT(records, 100U);
 }
 
+TEST(Json, ReadsBackToTheSameValuesInEveryKindOfAnyContent) {
+  for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
+    const NavframeKind& kind = *navframe_kind_at(i);
+    SCOPED_TRACE(kind.name);
+    for (const int fill : {0x00, 0x01, 0x81, 0xFF}) {
+      std::vector<std::uint8_t> payload(kind.size, static_cast<std::uint8_t>(fill));
+      for (std::uint32_t m = 0; m < kind.record->memberCount; ++m) {
+        const std::int32_t counter = kind.record->members[m]->countedBy;
+        if (counter >= 0) payload[kind.record->members[counter]->offset] |= 1;
+      }
+      ExpectRecord(Parsed(Json(kind.name, payload.data())), *kind.record, payload.data());
+    }
+  }
+}
+
 TEST(Json, WritesTheShortestDigitsOfTheMembersType) {
   struct Row {
     double value;
@@ -135,16 +163,8 @@ TEST(Json, WritesTheShortestDigitsOfTheMembersType) {
       {0.64, "0.64", "0.64"},
       {0.1 + 0.2, "0.30000000000000004", "0.3"},
       {-0.0, "-0", "-0"},
-      {63, "63", "63"},
-      {-1.5, "-1.5", "-1.5"},
-      {48.24, "48.24", "48.24"},
-      {0.001, "0.001", "0.001"},
       {999999999999999.9, "999999999999999.9", "1e+15"},
-      {16777216, "16777216", "16777216"},
-      {1e22, "1e+22", "1e+22"},
       {5e-324, "5e-324", "0"},
-      {8.547758383333333, "8.547758383333333", "8.547758"},
-      {123456.789, "123456.789", "123456.79"},
       {infinity, "null", "null"},
       {std::nan(""), "null", "null"},
   };
@@ -161,16 +181,61 @@ TEST(Json, WritesTheShortestDigitsOfTheMembersType) {
   }
 }
 
+template <class Float>
+Float AnyNumber(std::mt19937_64& random) {
+  const std::uint64_t bits = random();
+  const auto whole = static_cast<Float>(static_cast<std::int64_t>(bits) >> bits % 64);
+  const auto places = static_cast<int>(random() % 64);
+  switch (random() % 3) {
+    case 0: {
+      Float value;
+      std::memcpy(&value, &bits, sizeof value);
+      return value;
+    }
+    case 1:  // of few bits: decimals that lie half-way
+      return std::ldexp(whole, -places);
+    default:
+      return whole / std::pow(Float{10}, static_cast<Float>(places / 4));
+  }
+}
+
+template <class Float>
+void ExpectDigits(const Value& json, Float value) {
+  ASSERT_EQ(json.IsNull(), !std::isfinite(value)) << value;
+  if (json.IsNull()) return;
+  char shortest[400];
+  char* end = std::to_chars(shortest, std::end(shortest), value).ptr;
+  // The standard conversion takes the form with an exponent where that is shorter.
+  if (std::find(shortest, end, 'e') != end && !std::strchr(json.GetString(), 'e')) {
+    end = std::to_chars(shortest, std::end(shortest), value, std::chars_format::fixed).ptr;
+  }
+  EXPECT_EQ(json.GetString(), std::string(shortest, end));
+}
+
+TEST(Json, WritesTheDigitsOfTheStandardConversion) {
+  std::mt19937_64 random(1);
+  for (int i = 0; i < 20000; ++i) {
+    CartesianLogRecord record{};
+    std::ranges::generate(record.position, [&] { return AnyNumber<double>(random); });
+    std::ranges::generate(record.positionDeviation, [&] { return AnyNumber<float>(random); });
+    const rapidjson::Document document = Parsed(Json("BESTXYZ", &record));
+    for (rapidjson::SizeType axis = 0; axis < 3; ++axis) {
+      ExpectDigits(document["position"][axis], record.position[axis]);
+      ExpectDigits(document["positionDeviation"][axis], record.positionDeviation[axis]);
+    }
+  }
+}
+
 TEST(Json, EscapesTexts) {
   struct Row {
     const char* text;
     const char* json;
   };
   constexpr Row Rows[] = {
-      {"a\"b\\c/", R"("a\"b\\c/")"},
+      {"a\"b\\c/~ ", R"("a\"b\\c/~ ")"},
       {"\t\x1b\x7f", R"("\u0009\u001b\u007f")"},
       {"\xc3\xa9\xe2\x82\xac", "\"\xc3\xa9\xe2\x82\xac\""},
-      {"\xf0\x9f\x9b\xb0", "\"\xf0\x9f\x9b\xb0\""},
+      {"\xf0\x9f\x9b\xb0\xf4\x8f\xbf\xbf", "\"\xf0\x9f\x9b\xb0\xf4\x8f\xbf\xbf\""},
       // Bytes of no character: alone, cut off, longer than needed, half of a pair, above the last.
       {"\x80z", R"("\u0080z")"},
       {"\xe2\x82", R"("\u00e2\u0082")"},
@@ -194,12 +259,11 @@ TEST(Json, WritesNothingBehindItsCapacity) {
   const NavframeKind* const kind = navframe_kind_named("GGA");
   const std::string whole = Json("GGA", &record);
   for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
-    std::vector<char> out(capacity + 1, '#');
+    std::string out(capacity + 64, '#');
     ASSERT_EQ(navframe_json(kind, &record, out.data(), capacity), whole.size());
-    EXPECT_EQ(out[capacity], '#');
-    if (capacity != 0) {
-      EXPECT_EQ(std::string(out.data()), whole.substr(0, capacity - 1));
-    }
+    std::string wanted = whole.substr(0, std::max<std::size_t>(capacity, 1) - 1);
+    if (capacity != 0) wanted += '\0';
+    EXPECT_EQ(out, wanted.append(64, '#')) << capacity;
   }
   char out[] = "x";
   EXPECT_EQ(navframe_json(nullptr, &record, out, sizeof out), 0U);
