@@ -6,6 +6,7 @@
 
 #include "fuzz.h"
 #include "generator/mixed_stream.h"
+#include "navframe/catalogue.h"
 
 namespace {
 
@@ -123,6 +124,10 @@ int main(int argc, char** argv) {
     for (const std::uint8_t fill : Bytes{0x00, 0x41, 0xFF}) {
       seeds.Write("render_fuzz", {static_cast<std::uint8_t>(id), 1, fill});
     }
+  }
+  // Every kind, with an entry in each of its lists, and room for 200 bytes.
+  for (std::uint32_t kind = 0; kind < navframe_kind_count(); ++kind) {
+    seeds.Write("json_fuzz", {static_cast<std::uint8_t>(kind), 1, 200, 0});
   }
   for (const std::uint8_t fill : Bytes{0x00, 0x01, 0x17, 0xFF}) {
     Bytes steps(27 * 14, fill);
