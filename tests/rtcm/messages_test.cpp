@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "support/binary_frames.h"
 #include "support/members.h"
 
@@ -53,36 +51,40 @@ Bytes Position() {
 TEST(RtcmStation, PositionKeepsTheRawCoordinatesAndWhatIsMissingIsZero) {
   const auto decoder = At(4711);
   for (std::size_t length = 2; length <= 19; ++length) {
-    SCOPED_TRACE(length);
-    const auto records = Push(*decoder, RtcmFrame(First(Position(), length)));
-    ASSERT_EQ(Ids(records), std::vector<std::uint32_t>{53});
-    const auto& seen = records[0].As<StationPositionRecord>();
-    EXPECT_MEMBERS((seen.tow, seen.stationId, seen.itrfYear),
-                   (4711, length >= 3 ? 1234 : 0, length >= 4 ? 31 : 0));
-    EXPECT_MEMBERS((seen.gps, seen.glonass, seen.galileo, seen.referenceStation),
-                   (length >= 4, 0, length >= 5, length >= 5));
-    EXPECT_EQ(seen.x, length >= 9 ? (1LL << 38) - 11141045999 : 0);
-    EXPECT_EQ(seen.y, length >= 14 ? (1LL << 38) - 48507297108 : 0);
-    EXPECT_EQ(seen.z, length >= 19 ? 39755214643 : 0);
+    std::string members = "tow=4711";
+    const auto from = [&](std::size_t least, const char* pairs) {
+      if (length >= least) members += pairs;
+    };
+    from(3, " stationId=1234");
+    from(4, " itrfYear=31 gps=1");
+    from(5, " galileo=1 referenceStation=1");
+    from(9, " x=263736860945");
+    from(14, " y=226370609836");
+    from(19, " z=39755214643");
+    EXPECT_EQ(MembersOf(Push(*decoder, RtcmFrame(First(Position(), length))), 53, LeftOut::Zero),
+              Lines(members))
+        << length;
   }
 }
 
 TEST(RtcmStation, SystemParametersAnnounceUpTo31Messages) {
   auto message = Message(1013).Put(4095, 12).Put(60369, 16).Put(86399, 17).Put(31, 5).Put(18, 8);
   for (std::uint64_t i = 0; i < 31; ++i) message.Put(1001 + i, 12).Put(i % 2, 1).Put(65535 - i, 16);
-  const auto seen = Only(*At(4711), message, 54).As<SystemParametersRecord>();
-  EXPECT_MEMBERS((seen.tow, seen.stationId, seen.modifiedJulianDay, seen.secondsOfDay, seen.count,
-                  seen.leapSeconds),
-                 (4711, 4095, 60369, 86399, 31, 18));
-  const Record cut = Decoded(RtcmFrame(First(message.Written(), 100))).at(0);
-  for (unsigned i = 0; i < 31; ++i) {
-    const MessageAnnouncement& entry = seen.announcements[i];
-    EXPECT_MEMBERS((entry.messageId, entry.synchronous, entry.interval),
-                   (1001 + i, i % 2, 65535 - i));
-    // 100 bytes end within the interval of the 26th.
-    EXPECT_EQ(cut.As<SystemParametersRecord>().announcements[i].interval, i < 25 ? 65535 - i : 0);
+  // 100 bytes end within the message number of the 26th.
+  for (const std::size_t length : {std::size_t{100}, message.Written().size()}) {
+    std::string members =
+        "tow=4711 stationId=4095 modifiedJulianDay=60369 secondsOfDay=86399 count=31 "
+        "leapSeconds=18";
+    for (std::size_t i = 0; i < (length == 100 ? 25 : 31); ++i) {
+      const std::string entry = " announcements[" + std::to_string(i) + "].";
+      members += entry + "messageId=" + std::to_string(1001 + i);
+      if (i % 2 != 0) members += entry + "synchronous=1";
+      members += entry + "interval=" + std::to_string(65535 - i);
+    }
+    const auto records = Push(*At(4711), RtcmFrame(First(message.Written(), length)));
+    EXPECT_EQ(MembersOf(records, 54, LeftOut::Zero), Lines(members));
+    EXPECT_EQ(records.at(0).size, 200U);
   }
-  EXPECT_EQ(cut.size, 200U);
 }
 
 TEST(RtcmDispatch, FilterAndDecodedIds) {
@@ -141,27 +143,21 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
 }
 
 TEST(RtcmProprietary, SmallRecordsOf910And999) {
+  const std::tuple<BitWriter, std::uint32_t, std::uint32_t, std::string> rows[] = {
+      {Counting(Message(910).Put(17, 8), 250, 28), 83, 36,
+       "tow=99 " + Down("first", 250, 15) + Down("second", 235, 12)},
+      {Counting(Message(910).Put(33, 8), 15, 9, 4), 85, 12, "tow=99 " + Down("values", 15, 7)},
+      {Counting(Message(910).Put(34, 8).Put(302'418'000, 30).Put(2325, 16).Put(7, 8).Put(9, 4), 200,
+                10),
+       86, 20, "tow=302418000 week=2325 state=7 mode=9 " + Down("values", 200, 9)},
+      {Counting(Message(999).Put(21, 8).Put(1000, 30).Put(2326, 16), 90, 48).Put(0, 6), 106, 120,
+       "tow=1000 week=2326 " + Down("body", 90, 48)}};
   const auto decoder = At(99);
-  const Record first = Only(*decoder, Counting(Message(910).Put(17, 8), 250, 28), 83);
-  const auto& sub17 = first.As<Sub17Record>();
-  EXPECT_MEMBERS((first.size, sub17.tow, sub17.first[0], sub17.first[14], sub17.zero,
-                  sub17.second[0], sub17.second[11], sub17.reserved),
-                 (36, 99, 250, 236, 0, 235, 224, 0));
-  const Record second = Only(*decoder, Counting(Message(910).Put(33, 8), 15, 9, 4), 85);
-  const auto& sub33 = second.As<Sub33Record>();
-  EXPECT_MEMBERS((second.size, sub33.tow, sub33.values[0], sub33.values[6], sub33.spare),
-                 (12, 99, 15, 9, 0));
-  auto timed = Message(910).Put(34, 8).Put(302'418'000, 30).Put(2325, 16).Put(7, 8).Put(9, 4);
-  const Record third = Only(*decoder, Counting(timed, 200, 10), 86);
-  const auto& sub34 = third.As<Sub34Record>();
-  EXPECT_MEMBERS((third.size, sub34.tow, sub34.week, sub34.state, sub34.mode, sub34.values[0],
-                  sub34.values[8], sub34.spare),
-                 (20, 302'418'000, 2325, 7, 9, 200, 192, 0));
-  timed = Counting(Message(999).Put(21, 8).Put(1000, 30).Put(2326, 16), 90, 48).Put(0, 6);
-  const Record fourth = Only(*decoder, timed, 106);
-  const auto& sub21 = fourth.As<Sub21Record>();
-  EXPECT_MEMBERS((fourth.size, sub21.tow, sub21.week, sub21.body[0], sub21.body[47]),
-                 (120, 1000, 2326, 90, 43));
+  for (const auto& [message, kind, size, members] : rows) {
+    const auto records = Push(*decoder, RtcmFrame(message));
+    EXPECT_EQ(MembersOf(records, kind, LeftOut::Zero), Lines(members));
+    EXPECT_EQ(records.at(0).size, size);
+  }
 }
 
 // Messages that end behind the sub-type.
@@ -174,19 +170,21 @@ TEST(RtcmProprietary, WhatIsNotReadIsUnknownOrZero) {
   for (const auto& [subType, id, text] : texts) {
     EXPECT_EQ(Rendered(Only(*decoder, Message(4074).Put(subType, 12), id), true), text) << subType;
   }
-  const auto sub249 = Only(*decoder, Message(4074).Put(249, 12), 78).As<Sub249Record>();
-  EXPECT_MEMBERS((sub249.tow, sub249.week), (NoTow, 65535));
-  const auto status = Only(*decoder, Message(4074).Put(243, 12), 77).As<TimeStatusRecord>();
-  EXPECT_MEMBERS((status.tow, status.week, status.status[0], status.status[1]),
-                 (0, 65535, 255, 255));
-  const auto sub34 = Only(*decoder, Message(910).Put(34, 8), 86).As<Sub34Record>();
-  EXPECT_MEMBERS((sub34.tow, sub34.week, sub34.state, sub34.mode, sub34.values[8]),
-                 (NoTow, 65535, 255, 0, 0));
-  const Record signals = Only(*decoder, Message(4074).Put(254, 12), 81);
-  for (const SatelliteInView& satellite : signals.As<SignalObservationsRecord>().satellites) {
-    EXPECT_MEMBERS((satellite.number, satellite.azimuth, satellite.signals[2].cn0),
-                   (255, 65535, 255));
+  const auto members = [&](std::uint32_t number, std::uint32_t subType, std::uint32_t kind) {
+    const BitWriter message = Message(number).Put(subType, number == 910 ? 8 : 12);
+    return MembersOf(Push(*decoder, RtcmFrame(message)), kind);
+  };
+  EXPECT_EQ(members(4074, 249, 78), "");
+  EXPECT_EQ(members(4074, 243, 77), "tow=0\n");
+  EXPECT_EQ(members(910, 34, 86),
+            Lines("week=65535 mode=0 values[0]=0 values[1]=0 values[2]=0 values[3]=0 values[4]=0 "
+                  "values[5]=0 values[6]=0 values[7]=0 values[8]=0"));
+  std::string signals = "count=0";
+  for (int i = 0; i < 96; ++i) {
+    const std::string satellite = " satellites[" + std::to_string(i) + "].";
+    signals += satellite + "used=0" + satellite + "signalCount=0";
   }
+  EXPECT_EQ(members(4074, 254, 81), Lines(signals));
 }
 
 TEST(RtcmProprietary, TimesSetTheClock) {
@@ -225,7 +223,7 @@ TEST(RtcmProprietary, TimesSetTheClock) {
     time.timeText = "set";
     time.utcTime.hour = 3;
     EXPECT_EQ(clock(cleared), "2302 21000 ");
-    EXPECT_MEMBERS((time.utcTime.hour, time.utcTime.millisecond), (255, 255));
+    EXPECT_EQ(Values(time.utcTime.hour, time.utcTime.millisecond), Values(255, 255));
   }
 }
 
@@ -236,31 +234,27 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
     message.Put(2024, 16).Put(7, 8).Put(31, 8).Put(hour, 8).Put(5, 8).Put(9, 8).Put(64'987, 16);
     return message;
   };
-  const Record whole = Only(*decoder, utc(15, 12).Signed(-(3LL << 31), 64), 75);
-  const auto& ins = whole.As<InsPvaRecord>();
-  EXPECT_STREQ(ins.timeText, "120509.98");
-  EXPECT_STREQ(ins.dateText, "310724");
-  EXPECT_MEMBERS((ins.latitude, ins.utc.month, ins.utc.millisecond, ins.utc.flag, ins.gpsTime.tow,
-                  ins.gpsTime.week),
-                 (-1.5, 7, 64'987, 1, 302'418'000, 2325));
-  const Record none = Only(*decoder, utc(15, 255).Put(1ULL << 63, 64), 75);
-  EXPECT_STREQ(none.As<InsPvaRecord>().timeText, "");
-  EXPECT_TRUE(std::isnan(none.As<InsPvaRecord>().latitude));
-  EXPECT_STREQ(Only(*decoder, utc(13, 3), 73).As<NavAttRecord>().timeText, "030509.98");
-  EXPECT_STREQ(Only(*decoder, utc(14, 3), 74).As<ImuRecord>().timeText, "030509.98");
+  const auto members = [&](const BitWriter& message, std::uint32_t kind) {
+    return MembersOf(Push(*decoder, RtcmFrame(message)), kind);
+  };
+  const auto dated = [](const std::string& hour) {
+    return "utc.year=2024 utc.month=7 utc.day=31 utc.time=" + hour + ":5:9.64987 " +
+           (hour == "255" ? "utc.flag=0 " : "") + "gpsTime=2325:302418000";
+  };
+  EXPECT_EQ(members(utc(15, 12).Signed(-(3LL << 31), 64), 75),
+            Lines("timeText=120509.98 dateText=310724 " + dated("12") + " latitude=-1.5"));
+  EXPECT_EQ(members(utc(15, 255).Put(1ULL << 63, 64), 75),
+            Lines("dateText=310724 " + dated("255")));
+  EXPECT_EQ(members(utc(13, 3), 73), Lines("timeText=030509.98 " + dated("3")));
+  EXPECT_EQ(members(utc(14, 3), 74), Lines("timeText=030509.98 " + dated("3")));
   // Too short for any time: everything stays unknown, and the clock where it was.
-  const Record empty = Only(*decoder, Message(4074).Put(15, 12), 75);
-  EXPECT_STREQ(empty.As<InsPvaRecord>().dateText, "");
-  EXPECT_EQ(empty.As<InsPvaRecord>().utc.year, 65535);
+  EXPECT_EQ(members(Message(4074).Put(15, 12), 75), "");
   EXPECT_EQ(decoder->time.getTOW(), 302'418'000U);
 
-  const Record levels = Only(*decoder, Message(4074).Put(12, 12).Put(0x01FE0380, 32), 72);
-  const auto& snr = levels.As<RtcmSnrStatRecord>();
-  EXPECT_MEMBERS((snr.count, snr.state, snr.levels[0], snr.levels[1], snr.levels[2]),
-                 (1, 1, -2, 3, -128));
-  const Record last = Only(*decoder, Timed(243, 0x3FFFFFFF, 2330).Put(77, 8).Put(11, 4), 77);
-  const auto& status = last.As<TimeStatusRecord>();
-  EXPECT_MEMBERS((status.tow, status.week, status.status[0], status.status[1]), (0, 2330, 77, 11));
+  EXPECT_EQ(members(Message(4074).Put(12, 12).Put(0x01FE0380, 32), 72),
+            Lines("count=1 state=1 levels[0]=-2 levels[1]=3 levels[2]=-128"));
+  EXPECT_EQ(members(Timed(243, 0x3FFFFFFF, 2330).Put(77, 8).Put(11, 4), 77),
+            Lines("tow=0 week=2330 status[0]=77 status[1]=11"));
 }
 
 }  // namespace

@@ -112,11 +112,11 @@ void ExpectObservation(const MsmObservation& seen, std::uint32_t number, const S
   const double phase = real(cell[1], fine ? 0x1p-31 : 0x1p-29);
   const double f = rtcm::FrequenciesOf(rtcm::MsmSystem{seen.system})[seen.signal];
   const auto lock = static_cast<std::uint32_t>(cell[2]);
-  EXPECT_MEMBERS(
-      (seen.pseudorangeValid, seen.phaseStatus, seen.rateValid, seen.cn0, seen.halfCycleAmbiguity,
-       seen.lockTime, seen.reserved),
-      (codeValid, f != 0 && phaseValid && cell[3] == 0, rates, fine ? cell[4] / 16 : cell[4],
-       cell[3], fine ? rtcm::LockTime10(lock) : rtcm::LockTime4(lock), 0));
+  EXPECT_EQ(
+      Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid, seen.cn0,
+             seen.halfCycleAmbiguity, seen.lockTime, seen.reserved),
+      Values(codeValid, f != 0 && phaseValid && cell[3] == 0, rates, fine ? cell[4] / 16 : cell[4],
+             cell[3], fine ? rtcm::LockTime10(lock) : rtcm::LockTime4(lock), 0));
   ASSERT_NEAR(seen.pseudorange, codeValid ? (ms + code) * 299792.458 : 0, 1e-6);
   ASSERT_NEAR(seen.carrierPhase, phaseValid ? (ms + phase) / 1000 * f : 0, 1e-5);
   ASSERT_NEAR(seen.phaseRangeRate, rates ? real(satellite[3], 1) + real(cell[5], 1e-4) : 0, 1e-9);
@@ -138,8 +138,8 @@ TEST(Msm, FieldsComeBackAsPhysicalValues) {
         if (!message.mask[place]) continue;
         const std::size_t satellite = place / signals.size();
         const MsmObservation& seen = record.observations[cell];
-        EXPECT_MEMBERS((seen.system, seen.satellite, seen.signal),
-                       (record.system, satellites[satellite], signals[place % signals.size()]));
+        EXPECT_EQ(Values(seen.system, seen.satellite, seen.signal),
+                  Values(record.system, satellites[satellite], signals[place % signals.size()]));
         ExpectObservation(seen, number, message.satellites[satellite], message.cells[cell++]);
       }
       MsmObservation unused{};
@@ -210,7 +210,7 @@ TEST(Msm, ContentsThatDoNotFitLeaveNoTrace) {
   }
   // No satellite at all is an epoch like any other.
   const auto records = Decoded(Message{1117, 1, 0, 0, {}, {}, {}}.Frame());
-  EXPECT_MEMBERS((Only(records).count, Only(records).system), (0, 5));
+  EXPECT_EQ(Values(Only(records).count, Only(records).system), Values(0, 5));
 }
 
 TEST(Msm, InvalidCodes) {
@@ -237,10 +237,10 @@ TEST(Msm, InvalidCodes) {
     const Message message{.number = c.number, .satellites = {c.satellite}, .cells = {c.cell}};
     const auto records = Decoded(message.Frame());
     const MsmObservation& seen = Only(records).observations[0];
-    EXPECT_MEMBERS((seen.pseudorangeValid, seen.phaseStatus, seen.rateValid),
-                   (c.pseudorangeValid, c.phaseStatus, c.rateValid));
-    EXPECT_MEMBERS((seen.pseudorange != 0, seen.carrierPhase != 0),
-                   (c.pseudorangeValid, c.phaseStatus));
+    EXPECT_EQ(Values(seen.pseudorangeValid, seen.phaseStatus, seen.rateValid),
+              Values(c.pseudorangeValid, c.phaseStatus, c.rateValid));
+    EXPECT_EQ(Values(seen.pseudorange != 0, seen.carrierPhase != 0),
+              Values(c.pseudorangeValid, c.phaseStatus));
   }
 }
 
@@ -259,8 +259,8 @@ TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
     const auto records =
         Push(*decoder, Message{.number = number, .epoch = wire, .more = wire % 2}.Frame());
     const MsmRecord& record = Only(records);
-    EXPECT_MEMBERS((record.epochTime, record.epochComplete, record.week),
-                   (epoch, 1 - wire % 2, 2325));
+    EXPECT_EQ(Values(record.epochTime, record.epochComplete, record.week),
+              Values(epoch, 1 - wire % 2, 2325));
     EXPECT_EQ(record.timeText, decoder->time.timeText);
     EXPECT_EQ(decoder->time.getTOW(), epoch);
     EXPECT_EQ(decoder->time.timeText.size(), 10U);
@@ -274,9 +274,9 @@ TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
     ASSERT_EQ(rtcm::LockTime10(i), wanted) << i;
     wanted += i < 64 ? 1 : 1U << (i / 32 - 1);
   }
-  EXPECT_MEMBERS((rtcm::LockTime10(704), rtcm::LockTime10(1023)), (67108864, 67108864));
-  EXPECT_MEMBERS((rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
-                 (0, 32, 64, 524288));
+  EXPECT_EQ(Values(rtcm::LockTime10(704), rtcm::LockTime10(1023)), Values(67108864, 67108864));
+  EXPECT_EQ(Values(rtcm::LockTime4(0), rtcm::LockTime4(1), rtcm::LockTime4(2), rtcm::LockTime4(15)),
+            Values(0, 32, 64, 524288));
 }
 
 TEST(Msm, PhaseStatusComparesLockTimeWithTheIntervalInForce) {
@@ -320,7 +320,7 @@ TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
     decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
   }
   EXPECT_LT(ResidentMemory(), before + 1'000'000);
-  EXPECT_MEMBERS((decoder->sink.Waiting(), decoder->time.getTOW()), (0, 1000));
+  EXPECT_EQ(Values(decoder->sink.Waiting(), decoder->time.getTOW()), Values(0, 1000));
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
   EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }
