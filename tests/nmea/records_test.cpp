@@ -10,42 +10,10 @@
 #include <sstream>
 
 #include "nmea/field.h"
-#include "support/member_lines.h"
+#include "support/members.h"
 #include "support/streams.h"
 
 namespace navframe::test {
-
-NAVFRAME_MEMBERS(GgaRecord, tag, timeText, utc, gpsTime, fixQuality, satellites, longitude,
-                 latitude, hdop, altitude, geoidSeparation, correctionAge, stationId)
-NAVFRAME_MEMBERS(RmcRecord, tag, timeText, dateText, status, mode, longitude, latitude, speedKnots,
-                 course, utc, gpsTime, spare)
-NAVFRAME_MEMBERS(GsaRecord, tag, systemId, timeText, selectionMode, fixType, gpsTime, pdop, hdop,
-                 vdop, usedCount, usedSatellites)
-NAVFRAME_MEMBERS(GllRecord, tag, utc, timeText, gpsTime, longitude, latitude, status, mode)
-NAVFRAME_MEMBERS(GstRecord, tag, timeText, utc, gpsTime, rangeRms, ellipseSemiMajor,
-                 ellipseSemiMinor, ellipseOrientation, latitudeDeviation, longitudeDeviation,
-                 altitudeDeviation)
-NAVFRAME_MEMBERS(GbsRecord, tag, timeText, utc, gpsTime, latitudeError, longitudeError,
-                 altitudeError, failedSatellite, bias, biasDeviation, systemId, signalId)
-NAVFRAME_MEMBERS(VtgRecord, tag, timeText, gpsTime, courseTrue, courseMagnetic, speedKnots,
-                 speedKmh, mode)
-NAVFRAME_MEMBERS(ZdaRecord, tag, timeText, utc, gpsTime, zoneHours, zoneMinutes)
-NAVFRAME_MEMBERS(NavPosRecord, gpsTime, timeText, solutionStatus, positionType, datum,
-                 stationNumber, text, status, count, x, y, z, sigmaX, sigmaY, sigmaZ)
-NAVFRAME_MEMBERS(NavVelRecord, gpsTime, timeText, solutionStatus, positionType, datum,
-                 stationNumber, text, status, count, velocity, speedAccuracy)
-NAVFRAME_MEMBERS(NavTimeGroup, status, flag, seconds)
-NAVFRAME_MEMBERS(NavTimeRecord, gpsTime, groups)
-NAVFRAME_MEMBERS(NavAccRecord, gpsTime, timeText, utc, status, values)
-NAVFRAME_MEMBERS(PNavMsgRecord, gpsTime, timeText, head, values)
-NAVFRAME_MEMBERS(CwOutRecord, gpsTime, timeText, values)
-NAVFRAME_MEMBERS(GyoAccRecord, tag, timeText, utc, gpsTime, gyro, acceleration, spare)
-NAVFRAME_MEMBERS(SnrStatRecord, tag, timeText, gpsTime, count, state, levels)
-NAVFRAME_MEMBERS(ImuRecord, tag, timeText, utc, gpsTime, text, values)
-NAVFRAME_MEMBERS(NavAttRecord, tag, timeText, utc, gpsTime, values, spare)
-NAVFRAME_MEMBERS(InsPvaRecord, tag, timeText, dateText, utc, gpsTime, latitude, longitude, height,
-                 velocity, attitude, spare)
-
 namespace {
 
 // The members of the one record of a sentence, behind one that sets the clock or as the first.
@@ -78,88 +46,81 @@ struct Row {
   Reader* read;
   const char* body;
   const char* members;
+  int shown = 0;  // fields that the text shows; 0: seen elsewhere
 };
-// Behind the clock's sentence, with the number of fields that the text shows (0: seen elsewhere).
+// Behind the clock's sentence.
 // Places in the south and west keep their sign when the hemisphere is left out.
-const std::pair<int, Row> Rows[] = {
-    {0,
-     {Read<GgaRecord>, "GPGGA,123519.50,4830.0,S,01130.0,W,4,12,0.9,545.4,M,46.9,M,1.25,1023",
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 fixQuality=4 satellites=12 "
-      "longitude=-11.5 latitude=-48.5 hdop=0.9 altitude=545.4 geoidSeparation=46.9 "
-      "correctionAge=1.25 stationId=1023"}},
-    {0,
-     {Read<RmcRecord>, "GPRMC,000001.25,A,4830.0,S,01130.0,W,022.4,084.4,010824,003.1,W,D,V",
-      "timeText=000001.25 dateText=010824 status=1 mode=2 longitude=-11.5 latitude=-48.5 "
-      "speedKnots=22.4 course=84.4 utc.year=2024 utc.month=8 utc.day=1 utc.time=0:0:1.250 "
-      "gpsTime=2325:345619250"}},
-    {0,
-     {Read<GllRecord>, "GPGLL,4830.0,S,01130.0,W,123519.500,A,E",
-      "utc.time=12:35:19.500 timeText=120000.000 gpsTime=2325:302418000 longitude=-11.5 "
-      "latitude=-48.5 status=1 mode=6"}},
-    {0,
-     {Read<GstRecord>, "GPGST,123519.50,1.5,0.5,0.25,273.5,0.125,0.75,2.5",
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 rangeRms=1.5 "
-      "ellipseSemiMajor=0.5 ellipseSemiMinor=0.25 ellipseOrientation=273.5 "
-      "latitudeDeviation=0.125 longitudeDeviation=0.75 altitudeDeviation=2.5"}},
-    {0,
-     {Read<GbsRecord>, "GPGBS,123519.50,0.1,0.2,0.5,70000,x,-21.4,3.8,1,8",  // field 6 is not read
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 latitudeError=0.1 "
-      "longitudeError=0.2 altitudeError=0.5 failedSatellite=70000 bias=-21.4 biasDeviation=3.8 "
-      "systemId=1 signalId=8"}},
-    {0,
-     {Read<VtgRecord>, "GPVTG,089.5,T,91.25,M,15.2,N,28.2,K,A",
-      "timeText=120000.000 gpsTime=2325:302418000 courseTrue=89.5 courseMagnetic=91.25 "
-      "speedKnots=15.2 speedKmh=28.2 mode=1"}},
-    {0,
-     {Read<ZdaRecord>, "GPZDA,172809.45,12,07,1996,-05,30",
-      "timeText=172809.45 utc.year=1996 utc.month=7 utc.day=12 utc.time=17:28:9.450 "
-      "gpsTime=861:494907450 zoneHours=251 zoneMinutes=30"}},
-    {6,
-     {Read<NavPosRecord>, "NAVPOS,-2,16,61,2147483647,SOL,7,12,4278751.002,-6.5,47.25,0.5,1.5,2.5",
-      "gpsTime=2325:302418000 timeText=120000.000 solutionStatus=-2 positionType=16 datum=61 "
-      "stationNumber=2147483647 text=SOL status=7 count=12 x=4278751.002 y=-6.5 z=47.25 "
-      "sigmaX=0.5 sigmaY=1.5 sigmaZ=2.5"}},
-    {6,
-     {Read<NavVelRecord>, "NAVVEL,-2,16,61,3,SOL,26,12,5.5,-6.5,7.25,0.05",
-      "gpsTime=2325:302418000 timeText=120000.000 solutionStatus=-2 positionType=16 datum=61 "
-      "stationNumber=3 text=SOL status=26 count=12 velocity[0]=5.5 velocity[1]=-6.5 "
-      "velocity[2]=7.25 speedAccuracy=0.05"}},
-    {4,
-     {Read<NavTimeRecord>, "NAVTIME,0,1,1.5,-2,3,2.5,4,5,3.5,6,7,-4.5",
-      "gpsTime=2325:302418000 groups[0].status=0 groups[0].flag=1 groups[0].seconds=1.5 "
-      "groups[1].status=-2 groups[1].flag=3 groups[1].seconds=2.5 groups[2].status=4 "
-      "groups[2].flag=5 groups[2].seconds=3.5 groups[3].status=6 groups[3].flag=7 "
-      "groups[3].seconds=-4.5"}},
-    {4,
-     {Read<NavAccRecord>, "NAVACC,123519.50,V,12,3456,789012",
-      "gpsTime=2325:304537500 timeText=123519.50 utc.time=12:35:19.500 status=0 values[0]=12 "
-      "values[1]=3456 values[2]=789012"}},
-    {0,
-     {Read<CwOutRecord>, "CWOUT,12345,-60,1234,-9999,0,100000,2147483647,-2147483648,7",
-      "gpsTime=2325:302418000 timeText=120000.000 values[0]=12345 values[1]=-60 values[2]=1234 "
-      "values[3]=-9999 values[4]=0 values[5]=100000 values[6]=2147483647 values[7]=-2147483648 "
-      "values[8]=7"}},
-    {6,
-     {Read<GyoAccRecord>, "GYOACC,123519.50,1.5,2.5,3.5,4.5,5.5,6.5",
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 gyro[0]=1.5 gyro[1]=2.5 "
-      "gyro[2]=3.5 acceleration[0]=4.5 acceleration[1]=5.5 acceleration[2]=6.5"}},
-    {5,
-     {Read<SnrStatRecord>, "SNRSTAT,70000,1,-3,2,-128",
-      "timeText=120000.000 gpsTime=2325:302418000 count=70000 state=1 levels[0]=-3 levels[1]=2 "
-      "levels[2]=-128"}},
-    {8,
-     {Read<ImuRecord>, "IMURAW,123519.50,GYRO,ACCELER,1.5,2.5,3.5,4.5,5.5,6.5",
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 text[0]=GYRO "
-      "text[1]=ACCELER values[0]=1.5 values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 "
-      "values[5]=6.5"}},
-    {8,
-     {Read<ImuRecord>, "IMUVEH,123519.50,GYRO,ACC,1.5,2.5,3.5,4.5,5.5,6.5",
-      "timeText=123519.50 gpsTime=2325:302418000 text[0]=GYRO text[1]=ACC values[0]=1.5 "
-      "values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 values[5]=6.5"}},
-    {6,
-     {Read<NavAttRecord>, "NAVATT,123519.50,1.5,2.5,3.5,4.5,5.5,6.5",
-      "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 values[0]=1.5 "
-      "values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 values[5]=6.5"}},
+const Row Rows[] = {
+    {Read<GgaRecord>, "GPGGA,123519.50,4830.0,S,01130.0,W,4,12,0.9,545.4,M,46.9,M,1.25,1023",
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 fixQuality=4 satellites=12 "
+     "longitude=-11.5 latitude=-48.5 hdop=0.9 altitude=545.4 geoidSeparation=46.9 "
+     "correctionAge=1.25 stationId=1023"},
+    {Read<RmcRecord>, "GPRMC,000001.25,A,4830.0,S,01130.0,W,022.4,084.4,010824,003.1,W,D,V",
+     "timeText=000001.25 dateText=010824 status=1 mode=2 longitude=-11.5 latitude=-48.5 "
+     "speedKnots=22.4 course=84.4 utc.year=2024 utc.month=8 utc.day=1 utc.time=0:0:1.250 "
+     "gpsTime=2325:345619250"},
+    {Read<GllRecord>, "GPGLL,4830.0,S,01130.0,W,123519.500,A,E",
+     "utc.time=12:35:19.500 timeText=120000.000 gpsTime=2325:302418000 longitude=-11.5 "
+     "latitude=-48.5 status=1 mode=6"},
+    {Read<GstRecord>, "GPGST,123519.50,1.5,0.5,0.25,273.5,0.125,0.75,2.5",
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 rangeRms=1.5 "
+     "ellipseSemiMajor=0.5 ellipseSemiMinor=0.25 ellipseOrientation=273.5 "
+     "latitudeDeviation=0.125 longitudeDeviation=0.75 altitudeDeviation=2.5"},
+    {Read<GbsRecord>, "GPGBS,123519.50,0.1,0.2,0.5,70000,x,-21.4,3.8,1,8",  // field 6 is not read
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 latitudeError=0.1 "
+     "longitudeError=0.2 altitudeError=0.5 failedSatellite=70000 bias=-21.4 biasDeviation=3.8 "
+     "systemId=1 signalId=8"},
+    {Read<VtgRecord>, "GPVTG,089.5,T,91.25,M,15.2,N,28.2,K,A",
+     "timeText=120000.000 gpsTime=2325:302418000 courseTrue=89.5 courseMagnetic=91.25 "
+     "speedKnots=15.2 speedKmh=28.2 mode=1"},
+    {Read<ZdaRecord>, "GPZDA,172809.45,12,07,1996,-05,30",
+     "timeText=172809.45 utc.year=1996 utc.month=7 utc.day=12 utc.time=17:28:9.450 "
+     "gpsTime=861:494907450 zoneHours=251 zoneMinutes=30"},
+    {Read<NavPosRecord>, "NAVPOS,-2,16,61,2147483647,SOL,7,12,4278751.002,-6.5,47.25,0.5,1.5,2.5",
+     "gpsTime=2325:302418000 timeText=120000.000 solutionStatus=-2 positionType=16 datum=61 "
+     "stationNumber=2147483647 text=SOL status=7 count=12 x=4278751.002 y=-6.5 z=47.25 "
+     "sigmaX=0.5 sigmaY=1.5 sigmaZ=2.5",
+     6},
+    {Read<NavVelRecord>, "NAVVEL,-2,16,61,3,SOL,26,12,5.5,-6.5,7.25,0.05",
+     "gpsTime=2325:302418000 timeText=120000.000 solutionStatus=-2 positionType=16 datum=61 "
+     "stationNumber=3 text=SOL status=26 count=12 velocity[0]=5.5 velocity[1]=-6.5 "
+     "velocity[2]=7.25 speedAccuracy=0.05",
+     6},
+    {Read<NavTimeRecord>, "NAVTIME,0,1,1.5,-2,3,2.5,4,5,3.5,6,7,-4.5",
+     "gpsTime=2325:302418000 groups[0].status=0 groups[0].flag=1 groups[0].seconds=1.5 "
+     "groups[1].status=-2 groups[1].flag=3 groups[1].seconds=2.5 groups[2].status=4 "
+     "groups[2].flag=5 groups[2].seconds=3.5 groups[3].status=6 groups[3].flag=7 "
+     "groups[3].seconds=-4.5",
+     4},
+    {Read<NavAccRecord>, "NAVACC,123519.50,V,12,3456,789012",
+     "gpsTime=2325:304537500 timeText=123519.50 utc.time=12:35:19.500 status=0 values[0]=12 "
+     "values[1]=3456 values[2]=789012",
+     4},
+    {Read<CwOutRecord>, "CWOUT,12345,-60,1234,-9999,0,100000,2147483647,-2147483648,7",
+     "gpsTime=2325:302418000 timeText=120000.000 values[0]=12345 values[1]=-60 values[2]=1234 "
+     "values[3]=-9999 values[4]=0 values[5]=100000 values[6]=2147483647 values[7]=-2147483648 "
+     "values[8]=7"},
+    {Read<GyoAccRecord>, "GYOACC,123519.50,1.5,2.5,3.5,4.5,5.5,6.5",
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 gyro[0]=1.5 gyro[1]=2.5 "
+     "gyro[2]=3.5 acceleration[0]=4.5 acceleration[1]=5.5 acceleration[2]=6.5",
+     6},
+    {Read<SnrStatRecord>, "SNRSTAT,70000,1,-3,2,-128",
+     "timeText=120000.000 gpsTime=2325:302418000 count=70000 state=1 levels[0]=-3 levels[1]=2 "
+     "levels[2]=-128",
+     5},
+    {Read<ImuRecord>, "IMURAW,123519.50,GYRO,ACCELER,1.5,2.5,3.5,4.5,5.5,6.5",
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 text[0]=GYRO "
+     "text[1]=ACCELER values[0]=1.5 values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 "
+     "values[5]=6.5",
+     8},
+    {Read<ImuRecord>, "IMUVEH,123519.50,GYRO,ACC,1.5,2.5,3.5,4.5,5.5,6.5",
+     "timeText=123519.50 gpsTime=2325:302418000 text[0]=GYRO text[1]=ACC values[0]=1.5 "
+     "values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 values[5]=6.5",
+     8},
+    {Read<NavAttRecord>, "NAVATT,123519.50,1.5,2.5,3.5,4.5,5.5,6.5",
+     "timeText=123519.50 utc.time=12:35:19.500 gpsTime=2325:304537500 values[0]=1.5 "
+     "values[1]=2.5 values[2]=3.5 values[3]=4.5 values[4]=5.5 values[5]=6.5",
+     6},
 };
 
 std::vector<std::string> Split(const std::string& text, char mark) {
@@ -178,7 +139,7 @@ std::set<std::string> SetOf(const std::string& members) {
 }
 
 TEST(NmeaRecords, EveryFieldHasItsMembers) {
-  for (const auto& [shown, row] : Rows) {
+  for (const Row& row : Rows) {
     const std::string members = row.read(row.body, Clock);
     EXPECT_EQ(members, Lines(row.members)) << row.body;
 
@@ -195,7 +156,7 @@ TEST(NmeaRecords, EveryFieldHasItsMembers) {
       const auto left = SetOf(row.read(body, Clock));
       EXPECT_TRUE(std::ranges::includes(whole, left)) << body << '\n' << row.read(body, Clock);
       std::erase_if(kept, [&](const std::string& line) { return !left.contains(line); });
-      if (shown == 0) continue;
+      if (row.shown == 0) continue;
       const auto pieces = Split(TextOf(body), ',');
       ASSERT_GE(pieces.size(), text.size()) << body;
       for (std::size_t k = 0; k < text.size(); ++k) {
@@ -204,7 +165,7 @@ TEST(NmeaRecords, EveryFieldHasItsMembers) {
         ++emptied;
       }
     }
-    EXPECT_EQ(emptied, shown) << row.body;
+    EXPECT_EQ(emptied, row.shown) << row.body;
     const std::string none(fields.size() - 1, ',');
     EXPECT_EQ(kept, SetOf(row.read(fields[0] + none, Clock))) << row.body;
   }
@@ -324,6 +285,7 @@ TEST(NmeaRecords, Modes) {
     EXPECT_EQ(Read<GllRecord>("GPGLL,,,,,,," + mode), Lines(others)) << mode;
     EXPECT_EQ(Read<VtgRecord>("GPVTG,,,,,,,,," + mode), Lines(others)) << mode;
   }
+  EXPECT_EQ(Decoded(Sentence("GPRMC,,V")).at(0).As<RmcRecord>().spare, 65535);
 }
 
 // Up to four digits are read by one load, with what follows the field.

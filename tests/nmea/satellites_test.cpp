@@ -5,14 +5,10 @@
 #include <sstream>
 
 #include "navframe/records.h"
-#include "support/member_lines.h"
+#include "support/members.h"
 #include "support/streams.h"
 
 namespace navframe::test {
-
-NAVFRAME_MEMBERS(SatelliteSignal, signalId, cn0, reserved)
-NAVFRAME_MEMBERS(SatelliteInView, number, systemId, azimuth, elevation, used, signalCount, signals)
-
 namespace {
 
 const std::string End = Sentence("GPTXT,");

@@ -9,7 +9,7 @@
 #include <sstream>
 #include <utility>
 
-#include "support/member_lines.h"
+#include "support/members.h"
 
 namespace navframe::test {
 namespace {
