@@ -2,7 +2,6 @@
 
 #include "navframe/records.h"
 #include "support/binary_frames.h"
-#include "support/record_members.h"
 
 namespace navframe::test {
 namespace {
@@ -56,9 +55,9 @@ TEST(UbxTimeKeeping, WhatIsValidMovesTheClock) {
   for (const Step& step : steps) {
     SCOPED_TRACE(step.what);
     const auto record = Navigation(*decoder, step.payload);
-    ExpectMembers(record, IS(record.tow, 1000), IS(record.week, step.week),
-                  IS(record.timeText, step.text));
-    ExpectMembers(time, IS(time.gpsTime.tow, step.tow), IS(time.gpsTime.week, step.week));
+    EXPECT_EQ(Values(record.tow, record.week), Values(1000, step.week));
+    EXPECT_STREQ(record.timeText, step.text);
+    EXPECT_EQ(Values(time.gpsTime.tow, time.gpsTime.week), Values(step.tow, step.week));
     EXPECT_EQ(time.timeText, step.text);
   }
   EXPECT_EQ(time.utcTime.year, 2024);
@@ -72,7 +71,7 @@ TEST(UbxTimeKeeping, TextsStayWithinTheirMembers) {
   EXPECT_EQ(text(At(Time, 28, 255, 255, 255).U32(16, INT32_MAX)), "255255255.214");
   EXPECT_EQ(text(At(Time, 28, 100, 99, 199).U32(16, 9'999'999)), "10099199.00");
   const auto before = Navigation(*decoder, At(Time).U32(16, -3'999'999));
-  ExpectMembers(before, IS(before.nanoseconds, -3'999'999), IS(before.millisecond, 0xFFFFFFFD));
+  EXPECT_EQ(Values(before.nanoseconds, before.millisecond), Values(-3'999'999, 0xFFFFFFFD));
   decoder->time.timeText = "123456.78901234567890";
   EXPECT_EQ(text(At(Date)), "123456.78901234");
 }
