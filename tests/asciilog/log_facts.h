@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "asciilog/log_members.h"
+#include "catalogue/layouts.h"
 
 namespace navframe::test {
 
@@ -106,8 +106,8 @@ inline constexpr FieldFacts FieldsOfLogs[] = {
     {'X', 4, "0810dc04=135322628|ffffffff=4294967295", "100000000|-1"},
     {'F', 4, "-0.1|3.4e38|+1e-3|inf", "1e39|0x1"},
     {'D', 8, "-121633909.56743812|1e300|+1e-3|inf", "1e999|0x1"},
-    // Four characters as one number, the first one lowest.
-    {'T', 4, "\"9\"=57|\"A1\"=12609|AAAAB=1094795585|\"1;,\"=2898737|\"A=65|\"=0|=0", ""},
+    // Four characters.
+    {'T', 4, "\"9\"=9|\"A1\"=A1|AAAAB=AAAA|\"1;,\"=1;,|\"A=A|\"=|=", ""},
     // A satellite's number and its frequency channel.
     {'y', 4, "13-2=13 -2|8+6=8 6|65535=65535 0|1-32768=1 -32768", "65536|-2|3-|1+32768|2+-1"},
     {'s', 4, "PENDING=18|PPP=0|=0", ""},                   // solution status
@@ -120,51 +120,91 @@ inline constexpr FieldFacts FieldsOfLogs[] = {
     {'q', 4, "xLOWPOWERx=12|NOSIGNALMATCH=25|low=0", ""},  // satellite status
 };
 
+template <class Record>
+inline constexpr const NavframeRecord* Of = &catalogue::RecordOf<Record>;
+
 // The kinds of records: numbers of their logs, bytes, header (L long, S short, - none), and fields.
 // Behind those stand `most` groups at most, as many as the last of the fields says.
 struct LogFacts {
   std::string_view ids;
   std::uint32_t size;
   char header;
-  Numbers (*members)(const std::uint8_t* record);
-  std::string_view fields, group = "";
+  const NavframeRecord* record = Of<HeaderLogRecord>;
+  // A letter for each field; the members that the fields become, "a*3" for three elements, "@" for
+  // what a solution has of its satellites; of a group first the array that it is an element of.
+  std::string_view fields = "", members = "", group = "", groupMembers = "";
   std::uint32_t most = 0;
 };
 inline constexpr LogFacts KindsOfLogs[] = {
-    {"42 47 96 6006 57026", 100, 'L', MembersIn<PositionLogRecord>, "spDDDFmFFFTFFBBBBxxxx"},
-    {"99 100", 72, 'L', MembersIn<VelocityLogRecord>, "spFFDDDF"},
-    {"174 2059", 320, 'L', MembersIn<DopLogRecord>, "FFFFFFI", "I", 66},
-    {"101", 72, 'L', MembersIn<TimeLogRecord>, "vDDDIBBBBIv"},
-    {"241", 140, 'L', MembersIn<CartesianLogRecord>, "spDDDFFFspDDDFFFTFFFBBBBBxxx"},
-    {"971 1335", 72, 'L', MembersIn<HeadingLogRecord>, "spFFFFFFTBBBBxxxx"},
-    {"507", 116, 'L', MembersIn<InertialLogRecord>, "IDDDDDDDDDDn"},
-    {"43 6005", 19040, 'L', MembersIn<RangeLogRecord>, "I", "HHDFDFFFFX", 432},
-    {"7", 252, 'L', MembersIn<GpsEphemerisLogRecord>, "IDIIIIIDDDDDDDDDDDDDDDDIDDDDDbDD"},
-    {"723", 172, 'L', MembersIn<GlonassEphemerisLogRecord>, "HHBBHIIHBBIIDDDDDDDDDDDDIIIII"},
-    {"1122", 248, 'L', MembersIn<GalileoEphemerisLogRecord>,
-     "IbbBBBBBBBBIIDDDDDDDDDDDDDDDIDDDIDDDDD"},
-    {"48", 2680, 'L', MembersIn<VisibilityLogRecord>, "bbI", "HhIDDDD", 66},
-    {"1043", 17324, 'L', MembersIn<SystemVisibilityLogRecord>, "gbbI", "yIDDDD", 432},
-    {"1194", 6940, 'S', MembersIn<SatelliteListLogRecord>, "I", "gyqX", 431},
-    {"2118", 144, 'S', MembersIn<NavigationSolutionLogRecord>, "spDDDFmFFFTFFBBBBxxxx"},
-    {"11276", 252, 'S', MembersIn<AgriculturalLogRecord>, "TBBBBBBB"},
-    {"60015", 256, 'S', MembersIn<BdsEphemerisLogRecord>, "I"},
-    {"60018 60019", 100, 'S', MembersIn<IonosphereLogRecord>, "DDDDDDDD"},
-    {"60020", 100, 'S', MembersIn<GalileoIonosphereLogRecord>, "DDD"},
-    {"60021 60022 60023", 72, 'S', MembersIn<UtcLogRecord>, "IIDDIIii"},
-    {"10", 17308, 'S', MembersIn<HeaderLogRecord>, ""},
-    {"11277", 2944, 'L', MembersIn<HeaderLogRecord>, ""},
-    {"215", 928, 'L', MembersIn<HeaderLogRecord>, ""},
-    {"52", 40, 'L', MembersIn<HeaderLogRecord>, ""},
-    {"1461", 68, 'L', MembersIn<HeaderLogRecord>, ""},
-    {"2300 2301 2302 2303", 28, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2304", 32, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2305", 24, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2306", 16, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2307", 36, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2308", 48, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2309", 60, '-', MembersIn<HeaderLogRecord>, ""},
-    {"2310", 88, '-', MembersIn<HeaderLogRecord>, ""},
+    {"42 47 96 6006 57026", 100, 'L', Of<PositionLogRecord>, "spDDDFmFFFTFFBBBBxxxx",
+     "solutionStatus positionType latitude longitude height undulation datum latitudeDeviation "
+     "longitudeDeviation heightDeviation stationId differentialAge solutionAge @"},
+    {"99 100", 72, 'L', Of<VelocityLogRecord>, "spFFDDDF",
+     "solutionStatus velocityType latency differentialAge horizontalSpeed track verticalSpeed "
+     "reserved"},
+    {"174 2059", 320, 'L', Of<DopLogRecord>, "FFFFFFI",
+     "gdop pdop hdop htdop tdop elevationCutoff count", "I", "satellites", 66},
+    {"101", 72, 'L', Of<TimeLogRecord>, "vDDDIBBBBIv",
+     "clockStatus offset offsetDeviation utcOffset utcYear utcMonth utcDay utcHour utcMinute "
+     "utcMilliseconds utcStatus"},
+    {"241", 140, 'L', Of<CartesianLogRecord>, "spDDDFFFspDDDFFFTFFFBBBBBxxx",
+     "positionStatus positionType position*3 positionDeviation*3 velocityStatus velocityType "
+     "velocity*3 velocityDeviation*3 stationId velocityLatency differentialAge solutionAge @"},
+    {"971 1335", 72, 'L', Of<HeadingLogRecord>, "spFFFFFFTBBBBxxxx",
+     "solutionStatus positionType length heading pitch reserved headingDeviation pitchDeviation "
+     "stationId @"},
+    {"507", 116, 'L', Of<InertialLogRecord>, "IDDDDDDDDDDn",
+     "week seconds latitude longitude height northVelocity eastVelocity upVelocity roll pitch "
+     "azimuth status"},
+    {"43 6005", 19040, 'L', Of<RangeLogRecord>, "I", "count", "HHDFDFFFFX",
+     "observations satellite glonassFrequency pseudorange pseudorangeDeviation carrierPhase "
+     "carrierPhaseDeviation doppler carrierToNoise lockTime trackingStatus",
+     432},
+    {"7", 252, 'L', Of<GpsEphemerisLogRecord>, "IDIIIIIDDDDDDDDDDDDDDDDIDDDDDbDD",
+     "satellite timeOfWeek health iode1 iode2 week zWeek toe semiMajorAxis deltaN m0 eccentricity "
+     "omega cuc cus crc crs cic cis i0 iDot omega0 omegaDot iodc toc tgd af0 af1 af2 antiSpoofing "
+     "n ura"},
+    {"723", 172, 'L', Of<GlonassEphemerisLogRecord>, "HHBBHIIHBBIIDDDDDDDDDDDDIIIII",
+     "slot frequency satelliteType reserved0 week milliseconds timeOffset dayNumber reserved1 "
+     "reserved2 issue health position*3 velocity*3 acceleration*3 tau deltaTau gamma frameTime p "
+     "accuracy age flags"},
+    {"1122", 248, 'L', Of<GalileoEphemerisLogRecord>, "IbbBBBBBBBBIIDDDDDDDDDDDDDDDIDDDIDDDDD",
+     "satellite fnavReceived inavReceived e1bHealth e5aHealth e5bHealth e1bDataValidity "
+     "e5aDataValidity e5bDataValidity sisa reserved iodNav toe rootA deltaN m0 eccentricity omega "
+     "cuc cus crc crs cic cis i0 iDot omega0 omegaDot fnavToc fnavAf*3 inavToc inavAf*3 e1E5aBgd "
+     "e1E5bBgd"},
+    {"48", 2680, 'L', Of<VisibilityLogRecord>, "bbI", "valid completeAlmanac count", "HhIDDDD",
+     "satellites satellite glonassFrequency health elevation azimuth trueDoppler apparentDoppler",
+     66},
+    {"1043", 17324, 'L', Of<SystemVisibilityLogRecord>, "gbbI",
+     "system valid completeAlmanac count", "yIDDDD",
+     "satellites satellite glonassFrequency health elevation azimuth trueDoppler apparentDoppler",
+     432},
+    {"1194", 6940, 'S', Of<SatelliteListLogRecord>, "I", "count", "gyqX",
+     "satellites system satellite glonassFrequency status signals", 431},
+    {"2118", 144, 'S', Of<NavigationSolutionLogRecord>, "spDDDFmFFFTFFBBBBxxxx",
+     "positionStatus positionType latitude longitude height undulation datum latitudeDeviation "
+     "longitudeDeviation heightDeviation stationId differentialAge solutionAge @"},
+    {"11276", 252, 'S', Of<AgriculturalLogRecord>, "TBBBBBBB",
+     "format commandLength utcYear utcMonth utcDay utcHour utcMinute utcSecond"},
+    {"60015", 256, 'S', Of<BdsEphemerisLogRecord>, "I", "satellite"},
+    {"60018 60019", 100, 'S', Of<IonosphereLogRecord>, "DDDDDDDD", "alpha*4 beta*4"},
+    {"60020", 100, 'S', Of<GalileoIonosphereLogRecord>, "DDD", "effectiveIonisation*3"},
+    {"60021 60022 60023", 72, 'S', Of<UtcLogRecord>, "IIDDIIii",
+     "week tot a0 a1 leapWeek leapDay leapBefore leapAfter"},
+    {"10", 17308, 'S'},
+    {"11277", 2944, 'L'},
+    {"215", 928, 'L'},
+    {"52", 40, 'L'},
+    {"1461", 68, 'L'},
+    {"2300 2301 2302 2303", 28, '-'},
+    {"2304", 32, '-'},
+    {"2305", 24, '-'},
+    {"2306", 16, '-'},
+    {"2307", 36, '-'},
+    {"2308", 48, '-'},
+    {"2309", 60, '-'},
+    {"2310", 88, '-'},
 };
 
 }  // namespace navframe::test
