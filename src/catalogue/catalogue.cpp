@@ -84,7 +84,7 @@ int navframe_number(const NavframeMember* member, const void* data, uint32_t ind
 int navframe_integer(const NavframeMember* member, const void* data, uint32_t index, int64_t* out) {
   if (!IsNumber(*member) || IsFloat(*member) || index >= Elements(*member)) return NavframeNoNumber;
   const std::uint8_t* const at = ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
-  return ReadNumber(*member, at, [out](auto value) { *out = static_cast<int64_t>(value); })
+  return ReadNumber(*member, at, [out](auto value) { *out = static_cast<int64_t>(+value); })
              ? NavframeKnown
              : NavframeNotKnown;
 }

@@ -20,13 +20,13 @@ inline constexpr std::size_t LongestNumber = 32;
 // The numbers below 1000: three digits, and how many zeros stand in front. Four characters are
 // copied from behind the zeros, of which there are none at the end of the table.
 inline constexpr auto DigitsBelow1000 = [] {
-  std::array<char, 4 * 1000> digits{};
-  for (unsigned i = 0; i < 1000; ++i) {
+  std::array<char, 4000> digits{};
+  for (std::size_t i = 0; i < 1000; ++i) {
     char* const entry = &digits[4 * i];
     entry[0] = static_cast<char>('0' + i / 100);
     entry[1] = static_cast<char>('0' + i / 10 % 10);
     entry[2] = static_cast<char>('0' + i % 10);
-    entry[3] = i < 10 ? 2 : i < 100 ? 1 : 0;
+    entry[3] = static_cast<char>(i < 10 ? 2 : i < 100 ? 1 : 0);
   }
   return digits;
 }();
@@ -68,7 +68,7 @@ inline char* PutDigits(char* at, std::uint64_t value) {
 template <std::integral Integer>
 char* PutNumber(char* at, Integer value) {
   using Magnitude = std::conditional_t<sizeof value == 8, std::uint64_t, std::uint32_t>;
-  const auto bits = static_cast<Magnitude>(value);
+  const auto bits = static_cast<Magnitude>(+value);
   if (value >= 0) return PutDigits(at, bits);
   *at = '-';
   return PutDigits(at + 1, Magnitude{0} - bits);

@@ -98,7 +98,7 @@ inline std::uint32_t LengthInUse(const NavframeRecord& record, const NavframeMem
   const NavframeMember& counter = *record.members[member.countedBy];
   std::uint64_t count = 0;
   ReadNumber(counter, ElementAt(counter, data, 0),
-             [&count](auto value) { count = static_cast<std::uint64_t>(value); });
+             [&count](auto value) { count = static_cast<std::uint64_t>(+value); });
   return static_cast<std::uint32_t>(std::min<std::uint64_t>(count, room));
 }
 

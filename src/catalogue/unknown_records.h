@@ -39,7 +39,7 @@ constexpr void PutUnknown(const NavframeRecord& record, std::uint8_t* bytes) {
   for (const NavframeMember* const member : MembersOf(record)) {
     const std::uint32_t length = member->length == 0 ? 1 : member->length;
     for (std::uint32_t i = 0; i < length; ++i) {
-      std::uint8_t* const at = bytes + member->offset + i * member->size;
+      std::uint8_t* const at = bytes + member->offset + std::size_t{i} * member->size;
       if (member->type == NavframeNested) {
         PutUnknown(*member->record, at);
       } else if (member->type < NavframeText) {

@@ -1,6 +1,7 @@
 // Messages as lists of fields in wire order.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -31,7 +32,7 @@ consteval FieldRow RowOf(std::size_t member, std::uint8_t bits, Wire wire = Wire
                          double scale = 1, double offset = 0) {
   using Whole = std::remove_reference_t<Member>;
   using Element = std::remove_all_extents_t<Whole>;
-  constexpr auto Count = static_cast<std::uint8_t>(sizeof(Whole) / sizeof(Element));
+  constexpr auto Count = static_cast<std::uint8_t>(std::max<std::size_t>(std::extent_v<Whole>, 1));
   return {static_cast<std::uint16_t>(member),
           sizeof(Element),
           std::is_same_v<Element, double>,

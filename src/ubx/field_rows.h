@@ -41,7 +41,7 @@ consteval FieldRow RowOf(std::size_t member, std::uint16_t offset, Wire wire, do
           static_cast<std::uint16_t>(member),
           sizeof(Element),
           std::is_same_v<Element, double>,
-          static_cast<std::uint8_t>(sizeof(Member) / sizeof(Element)),
+          static_cast<std::uint8_t>(std::max<std::size_t>(std::extent_v<Member>, 1)),
           divisor};
 }
 

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::size_t EntriesOffset = 16;
 constexpr std::size_t EntryLength = 32;
-constexpr std::size_t Room = std::size(UbxRawMeasurementsRecord{}.measurements);
 
 // Deviations by the low four bits of their wire byte.
 using Deviations = std::array<float, 16>;
