@@ -31,21 +31,14 @@ void PopAll(std::uint32_t wantedId, std::int64_t flag, char* text) {
 
 void Configure(fuzz::Input& steering) {
   const std::uint8_t choice = steering.Byte();
-  switch (choice % 8) {
-    case 1:
-      return GNSSSetMsgTypes(steering.Byte());
-    case 2:
-      return GNSSSetBoardType(choice < 128 ? 7 : choice);
-    case 3:
-      return GNSSSetOutMsgID(steering.Byte());
-    case 4:
-      GNSSSetMsgTypes(0xFFFFFFFF);
-      return GNSSSetBoardType(0);
-    case 5:
-      return GNSSSetOutMsgID(0);
-    default:
-      return GNSSInit();
-  }
+  const int what = choice % 8;
+  if (what == 1) return GNSSSetMsgTypes(steering.Byte());
+  if (what == 2) return GNSSSetBoardType(choice < 128 ? 7 : choice);
+  if (what == 3) return GNSSSetOutMsgID(steering.Byte());
+  if (what == 5) return GNSSSetOutMsgID(0);
+  if (what != 4) return GNSSInit();
+  GNSSSetMsgTypes(0xFFFFFFFF);
+  GNSSSetBoardType(0);
 }
 
 }  // namespace

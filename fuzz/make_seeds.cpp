@@ -83,17 +83,14 @@ constexpr std::string_view Logs[] = {
 void WriteLogs(Seeds& seeds) {
   constexpr std::string_view Headers[] = {",COM2,65,41.5,FINESTEERING,2101,345678.250,32,25,1500;",
                                           ",41.5,GPS,FINESTEERING,2101,345678250,0,0,18,38;"};
-  int row = 0;
+  char row = 0;
   for (const std::string_view log : Logs) {
     const std::size_t end = log.find(';');
     for (const std::string_view header : Headers) {
       std::string line(fuzz::SteeringLength, '\0');
-      line += '#';
-      line += log.substr(0, end);
-      line += header;
-      line += log.substr(end + 1);
-      line += "*00000000\r\n";
-      line[2] = static_cast<char>(row++);  // the decoder, where the name does not select it
+      line.append("#").append(log.substr(0, end)).append(header);
+      line.append(log.substr(end + 1)).append("*00000000\r\n");
+      line[2] = row++;  // the decoder, where the name does not select it
       for (const char variant : {'\0', '\3', '\4'}) {
         line[0] = variant;
         seeds.Write("asciilog_fuzz", Bytes(line.begin(), line.end()));

@@ -7,7 +7,14 @@
 
 namespace {
 
+int replayed = 0;
+
 void Replay(const std::filesystem::path& path) {
+  if (std::filesystem::is_directory(path)) {
+    for (const auto& entry : std::filesystem::directory_iterator(path)) Replay(entry.path());
+    return;
+  }
+  ++replayed;
   std::ifstream file(path, std::ios::binary);
   const navframe::fuzz::Bytes bytes(std::istreambuf_iterator<char>(file), {});
   // Exactly as large as the input, so that a read behind it is seen.
@@ -21,18 +28,7 @@ void Replay(const std::filesystem::path& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  int replayed = 0;
-  for (int i = 1; i < argc; ++i) {
-    if (!std::filesystem::is_directory(argv[i])) {
-      Replay(argv[i]);
-      ++replayed;
-      continue;
-    }
-    for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
-      Replay(entry.path());
-      ++replayed;
-    }
-  }
+  for (int i = 1; i < argc; ++i) Replay(argv[i]);
   std::printf("%d inputs\n", replayed);
   return replayed == 0 ? 1 : 0;
 }

@@ -9,30 +9,23 @@ namespace {
 
 constexpr std::size_t RingSize = navframe::InputRing::Capacity + navframe::InputRing::Slack;
 
-struct Pool {
-  void* ring = nullptr;
-  bool taken = false;
-};
-Pool pool;
+void* ring = nullptr;
+bool taken = false;
 
 }  // namespace
 
 void* operator new[](std::size_t size) {
-  if (size == RingSize && !pool.taken && pool.ring != nullptr) {
-    pool.taken = true;
-    return pool.ring;
-  }
+  const bool isRing = size == RingSize && !taken;
+  taken = taken || isRing;
+  if (isRing && ring != nullptr) return ring;
   void* const block = std::malloc(size);
   if (block == nullptr) throw std::bad_alloc();
-  if (size == RingSize && pool.ring == nullptr) pool = {block, true};
+  if (isRing) ring = block;
   return block;
 }
 
 void operator delete[](void* block) noexcept {
-  if (block != nullptr && block == pool.ring) {
-    pool.taken = false;
-  } else {
-    std::free(block);
-  }
+  if (block == nullptr || block != ring) return std::free(block);
+  taken = false;
 }
 void operator delete[](void* block, std::size_t /*size*/) noexcept { operator delete[](block); }

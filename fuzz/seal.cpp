@@ -1,4 +1,6 @@
 #include <array>
+#include <functional>
+#include <numeric>
 
 #include "asciilog/crc32.h"
 #include "frame55aa/byte_sum.h"
@@ -11,20 +13,35 @@ namespace {
 
 using Frame = std::span<std::uint8_t>;
 
+void PutLittle(std::span<std::uint8_t> at, std::size_t value) {
+  for (std::uint8_t& byte : at) {
+    byte = static_cast<std::uint8_t>(value & 0xFF);
+    value >>= 8;
+  }
+}
+
 // Each takes what is left of the stream, whose first byte selects the protocol, and returns the
 // length of the frame that it made; 1 without room for one.
 
-std::size_t SealSentence(Frame rest) {
+// The text of `format`, for the check of what stands between the first byte and the star, behind
+// the star.
+template <class Check>
+std::size_t SealText(Frame rest, const char* format, std::size_t digits, Check check) {
   const auto star = std::find(rest.begin(), rest.end(), '*');
   const auto length = static_cast<std::size_t>(star - rest.begin());
-  if (length + 3 > rest.size()) return 1;
-  unsigned checksum = 0;
-  for (const std::uint8_t byte : rest.subspan(1, length - 1)) checksum ^= byte;
-  constexpr char Digits[] = "0123456789ABCDEF";
-  rest[length + 1] = static_cast<std::uint8_t>(Digits[checksum >> 4]);
-  rest[length + 2] = static_cast<std::uint8_t>(Digits[checksum & 0xF]);
-  return length + 3;
+  if (length + 1 + digits > rest.size()) return 1;
+  char trailer[16];
+  std::snprintf(trailer, sizeof(trailer), format, check(rest.subspan(1, length - 1)));
+  std::memcpy(rest.data() + length + 1, trailer, digits);
+  return length + 1 + digits;
 }
+
+std::size_t SealSentence(Frame rest) {
+  return SealText(rest, "%02X", 2, [](Frame text) {
+    return std::accumulate(text.begin(), text.end(), 0U, std::bit_xor<unsigned>());
+  });
+}
+std::size_t SealLine(Frame rest) { return SealText(rest, "%08x\r\n", 10, asciilog::Crc32); }
 
 std::size_t SealRtcm(Frame rest) {
   if (rest.size() < 6) return 1;
@@ -44,8 +61,7 @@ std::size_t SealUbx(Frame rest) {
   const std::size_t announced = rest[4] | std::size_t{rest[5]} << 8;
   const std::size_t length = std::min<std::size_t>({announced, rest.size() - 8, 4048});
   rest[1] = 0x62;
-  rest[4] = static_cast<std::uint8_t>(length & 0xFF);
-  rest[5] = static_cast<std::uint8_t>(length >> 8);
+  PutLittle(rest.subspan(4, 2), length);
   const ubx::FletcherSum sum = ubx::Fletcher::Of(rest.data() + 2, length + 4);
   rest[length + 6] = sum.a;
   rest[length + 7] = sum.b;
@@ -60,9 +76,7 @@ std::size_t Seal55Aa(Frame rest) {
   const std::size_t length = known ? announced : Lengths[announced % Lengths.size()];
   if (length + 7 > rest.size()) return 1;
   rest[1] = 0xAA;
-  rest[2] = static_cast<std::uint8_t>(length & 0xFF);
-  rest[3] = static_cast<std::uint8_t>(length >> 8);
-  rest[4] = rest[5] = 0;
+  PutLittle(rest.subspan(2, 4), length);
   rest[length + 6] = frame55aa::ByteSum(rest.data() + 2, length + 4);
   return length + 7;
 }
@@ -77,16 +91,6 @@ constexpr Protocol Protocols[] = {{'$', ProtocolNmea, SealSentence},
                                   {0xB5, ProtocolUbx, SealUbx},
                                   {0x55, Protocol55Aa, Seal55Aa}};
 
-std::size_t SealLine(Frame rest) {
-  const auto star = std::find(rest.begin(), rest.end(), '*');
-  const auto length = static_cast<std::size_t>(star - rest.begin());
-  if (length + 11 > rest.size()) return 1;
-  char trailer[11];
-  std::snprintf(trailer, sizeof(trailer), "%08x\r\n", asciilog::Crc32(rest.subspan(1, length - 1)));
-  std::memcpy(rest.data() + length + 1, trailer, 10);
-  return length + 11;
-}
-
 // Of the form with a header of its own length; the other has its length elsewhere, and both are
 // valid when they agree.
 std::size_t SealBinaryLog(Frame rest) {
@@ -97,12 +101,8 @@ std::size_t SealBinaryLog(Frame rest) {
   const std::size_t announced = rest[at] | std::size_t{rest[at + 1]} << 8;
   const std::size_t length = std::min(announced, rest.size() - 32);
   rest[3] = static_cast<std::uint8_t>(header);
-  rest[at] = static_cast<std::uint8_t>(length & 0xFF);
-  rest[at + 1] = static_cast<std::uint8_t>(length >> 8);
-  const std::uint32_t crc = asciilog::Crc32(rest.first(header + length));
-  for (unsigned i = 0; i < 4; ++i) {
-    rest[header + length + i] = static_cast<std::uint8_t>(crc >> (8 * i) & 0xFF);
-  }
+  PutLittle(rest.subspan(at, 2), length);
+  PutLittle(rest.subspan(header + length, 4), asciilog::Crc32(rest.first(header + length)));
   return header + length + 4;
 }
 

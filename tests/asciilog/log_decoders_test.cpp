@@ -379,8 +379,7 @@ TEST(LogRecords, AreQueuedInTheirSizeWhateverTheFilterSays) {
   }
   DecodeLine(*decoder, 1026, LineOf(2118));
   EXPECT_EQ(decoder->sink.Waiting(), 0U) << "a log that is recognised but not decoded";
-  std::array<std::uint32_t, 64> ids;
-  EXPECT_EQ(decoder->sink.DrainDecodedIds(ids.data()), 0U);
+  EXPECT_TRUE(DecodedIds(*decoder).empty());
 }
 
 // The fixed blocks and the line buffer come back in every way a record can, and are freed in none:

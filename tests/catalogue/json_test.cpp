@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "generator/mixed_stream.h"
 #include "navframe/catalogue.h"
 #include "navframe/records.h"
 
@@ -73,31 +72,19 @@ void ExpectElement(const Value& value, const NavframeMember& member, const std::
   }
   ASSERT_EQ(value.IsNull(), !known) << member.name;
   if (!known) return;
-  switch (member.type) {
-    case NavframeU8:
-      return ExpectNumber<std::uint8_t>(value, at);
-    case NavframeU16:
-      return ExpectNumber<std::uint16_t>(value, at);
-    case NavframeU32:
-      return ExpectNumber<std::uint32_t>(value, at);
-    case NavframeI8:
-      return ExpectNumber<std::int8_t>(value, at);
-    case NavframeI16:
-      return ExpectNumber<std::int16_t>(value, at);
-    case NavframeI32:
-      return ExpectNumber<std::int32_t>(value, at);
-    case NavframeI64:
-      return ExpectNumber<std::int64_t>(value, at);
-    case NavframeF32:
-      return ExpectNumber<float>(value, at);
-    case NavframeF64:
-      return ExpectNumber<double>(value, at);
-    default: {
-      std::string text(member.size, '\0');
-      text.resize(navframe_text(&member, record, index, text.data(), text.size() + 1));
-      EXPECT_EQ(value.GetString(), AsLatin1(text)) << member.name;
-    }
-  }
+  const std::uint32_t type = member.type;
+  if (type == NavframeU8) return ExpectNumber<std::uint8_t>(value, at);
+  if (type == NavframeU16) return ExpectNumber<std::uint16_t>(value, at);
+  if (type == NavframeU32) return ExpectNumber<std::uint32_t>(value, at);
+  if (type == NavframeI8) return ExpectNumber<std::int8_t>(value, at);
+  if (type == NavframeI16) return ExpectNumber<std::int16_t>(value, at);
+  if (type == NavframeI32) return ExpectNumber<std::int32_t>(value, at);
+  if (type == NavframeI64) return ExpectNumber<std::int64_t>(value, at);
+  if (type == NavframeF32) return ExpectNumber<float>(value, at);
+  if (type == NavframeF64) return ExpectNumber<double>(value, at);
+  std::string text(member.size, '\0');
+  text.resize(navframe_text(&member, record, index, text.data(), text.size() + 1));
+  EXPECT_EQ(std::string(value.GetString(), value.GetStringLength()), AsLatin1(text));
 }
 
 void ExpectRecord(const Value& object, const NavframeRecord& record, const std::uint8_t* data) {
@@ -123,26 +110,17 @@ void ExpectRecord(const Value& object, const NavframeRecord& record, const std::
   EXPECT_EQ(object.MemberCount(), written) << record.name;
 }
 
-TEST(Json, ReadsBackToTheSameValuesInEveryKindOfTheSample) {
-  const std::vector<std::uint8_t> bytes = sample::MixedStream();
-  GNSSPutData(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
-  std::size_t records = 0;
-  for (GnssMessage message; GNSSGetMsg(&message, 0) == 0; GNSSFreeMem(&message), ++records) {
-    const NavframeKind* const kind = navframe_kind(message.id, message.source);
-    ASSERT_NE(kind, nullptr) << message.id;
-    SCOPED_TRACE(kind->name);
-    ExpectRecord(Parsed(Json(kind->name, message.data)), *kind->record,
-                 static_cast<const std::uint8_t*>(message.data));
-  }
-  EXPECT_GT(records, 100U);
-}
-
-TEST(Json, ReadsBackToTheSameValuesInEveryKindOfAnyContent) {
+TEST(Json, ReadsBackToTheSameValuesInEveryKind) {
+  constexpr unsigned Fills[] = {0x00, 0x01, 0x81, 0xFF};
+  std::mt19937 random(4);
   for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
     const NavframeKind& kind = *navframe_kind_at(i);
     SCOPED_TRACE(kind.name);
-    for (const int fill : {0x00, 0x01, 0x81, 0xFF}) {
-      std::vector<std::uint8_t> payload(kind.size, static_cast<std::uint8_t>(fill));
+    for (int round = 0; round < 40; ++round) {
+      std::vector<std::uint8_t> payload(kind.size);
+      for (std::uint8_t& byte : payload) {  // the random ones begin no character of UTF-8
+        byte = static_cast<std::uint8_t>(round < 4 ? Fills[round] : random() & 0xBF);
+      }
       for (std::uint32_t m = 0; m < kind.record->memberCount; ++m) {
         const std::int32_t counter = kind.record->members[m]->countedBy;
         if (counter >= 0) payload[kind.record->members[counter]->offset] |= 1;
@@ -216,8 +194,10 @@ TEST(Json, WritesTheDigitsOfTheStandardConversion) {
   std::mt19937_64 random(1);
   for (int i = 0; i < 20000; ++i) {
     CartesianLogRecord record{};
-    std::ranges::generate(record.position, [&] { return AnyNumber<double>(random); });
-    std::ranges::generate(record.positionDeviation, [&] { return AnyNumber<float>(random); });
+    for (unsigned axis = 0; axis < 3; ++axis) {
+      record.position[axis] = AnyNumber<double>(random);
+      record.positionDeviation[axis] = AnyNumber<float>(random);
+    }
     const rapidjson::Document document = Parsed(Json("BESTXYZ", &record));
     for (rapidjson::SizeType axis = 0; axis < 3; ++axis) {
       ExpectDigits(document["position"][axis], record.position[axis]);

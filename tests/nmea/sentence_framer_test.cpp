@@ -176,37 +176,6 @@ TEST(SentenceFramer, LikeThePlainFramer) {
   }
 }
 
-// Receivers without decimals of seconds send what is framed and cannot be converted.
-TEST(SentenceFramer, CapturesLikeThePlainFramer) {
-  for (const char* const name :
-       {"nmea-multi-gnss.nmea", "nmea-times-whole-seconds.nmea", "damaged-nmea-checksums.nmea",
-        "damaged-nmea-between-foreign-binary.bin", "mixed-nmea-ubx-rawx.bin",
-        "mixed-ubx-nmea-rtcm3.bin"}) {
-    NAVFRAME_CAPTURE_OR_SKIP(bytes, name);
-    const auto decoder = std::make_unique<Decoder>();
-    decoder->SetMsgTypes(ProtocolNmea | ProtocolNmeaTagBlock);
-    PlainFramer plain;
-    std::size_t sentences = 0;
-    std::size_t unconvertible = 0;
-    for (std::size_t at = 0; at < bytes.size(); at += 777) {
-      std::span rest = std::span(bytes).subspan(at, std::min<std::size_t>(777, bytes.size() - at));
-      sentences = plain.Put({reinterpret_cast<const char*>(rest.data()), rest.size()})[0];
-      for (bool done = false; !done; rest = {}) {
-        try {
-          decoder->PutData(rest.data(), static_cast<std::uint32_t>(rest.size()));
-          done = true;
-        } catch (const std::logic_error&) {
-          ++unconvertible;
-          static_cast<void>(SkipOneByte(decoder->stream));
-        }
-      }
-    }
-    PopAll(*decoder);
-    EXPECT_EQ(decoder->stream.statistics.acceptedFrames + unconvertible, sentences) << name;
-    EXPECT_GT(sentences, 0U) << name;
-  }
-}
-
 // Each of these took minutes if a byte were looked at once for every byte in front of it.
 TEST(SentenceFramer, CostIsNotQuadratic) {
   const auto start = std::chrono::steady_clock::now();

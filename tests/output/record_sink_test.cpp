@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 #include <set>
 
@@ -64,19 +63,6 @@ TEST(OutputQueue, MismatchIsDiscardedExceptWithoutPayload) {
   EXPECT_EQ(NumberOf(out), 2U);
   sink->Release(out);
   EXPECT_EQ(sink->Waiting(), 0U);
-}
-
-TEST(DecodedIds, AreDrainedOnce) {
-  RecordSink sink;
-  const std::set<std::uint32_t> wanted = {0, 1, 63, 64, 90, 105, 255};
-  for (int repeat = 0; repeat < 2; ++repeat) {
-    for (const std::uint32_t id : wanted) sink.NoteDecoded(id);
-  }
-  std::array<std::uint32_t, 64> ids;
-  const std::uint32_t count = sink.DrainDecodedIds(ids.data());
-  EXPECT_EQ(count, wanted.size());
-  EXPECT_EQ(std::set<std::uint32_t>(ids.begin(), ids.begin() + count), wanted);
-  EXPECT_EQ(sink.DrainDecodedIds(ids.data()), 0U);
 }
 
 }  // namespace

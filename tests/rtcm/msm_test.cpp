@@ -245,14 +245,16 @@ TEST(Msm, InvalidCodes) {
 }
 
 TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
-  struct Case {
-    std::uint32_t number, wire, epoch;
-  };
-  for (const auto& [number, wire, epoch] :
-       {Case{1077, 604'799'999, 604'799'999}, Case{1127, 604'790'000, 4'000},
-        Case{1127, 604'785'999, 604'799'999}, Case{1127, 604'786'000, 0},
-        Case{1087, 0, 594'018'000}, Case{1087, 10'781'999, 604'799'999}, Case{1087, 10'782'000, 0},
-        Case{1087, 3U << 27 | 45'000'000, 293'418'000}}) {
+  constexpr std::array<std::uint32_t, 3> Rows[] = {// number, epoch sent, epoch
+                                                   {1077, 604'799'999, 604'799'999},
+                                                   {1127, 604'790'000, 4'000},
+                                                   {1127, 604'785'999, 604'799'999},
+                                                   {1127, 604'786'000, 0},
+                                                   {1087, 0, 594'018'000},
+                                                   {1087, 10'781'999, 604'799'999},
+                                                   {1087, 10'782'000, 0},
+                                                   {1087, 3U << 27 | 45'000'000, 293'418'000}};
+  for (const auto& [number, wire, epoch] : Rows) {
     SCOPED_TRACE(wire);
     const auto decoder = std::make_unique<Decoder>();
     decoder->time.gpsTime.week = 2325;
@@ -315,12 +317,12 @@ TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
   decoder->sink.SetFilter(MsgIdMsmQzss);
   const Bytes frame = Message{}.Frame();
   std::size_t before = 0;
-  for (int i = 0; i < 101'000; ++i) {
+  for (int i = 0; i < 21'000; ++i) {  // 80 MB, were they kept
     if (i == 1000) before = ResidentMemory();
-    decoder->PutData(frame.data(), static_cast<std::uint32_t>(frame.size()));
+    EXPECT_TRUE(Push(*decoder, frame).empty());
   }
   EXPECT_LT(ResidentMemory(), before + 1'000'000);
-  EXPECT_EQ(Values(decoder->sink.Waiting(), decoder->time.getTOW()), Values(0, 1000));
+  EXPECT_EQ(decoder->time.getTOW(), 1000U);
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
   EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }

@@ -2,8 +2,6 @@
 // decoders.
 #pragma once
 
-#include <set>
-
 #include "generator/rtcm_stream.h"
 #include "generator/ubx_stream.h"
 #include "support/streams.h"
@@ -66,12 +64,6 @@ inline Bytes First(const Bytes& bytes, std::size_t count) {
 template <class... T>
 std::vector<double> Values(T... values) {
   return {static_cast<double>(values)...};
-}
-
-// The kinds decoded since the last call.
-inline std::set<std::uint32_t> DecodedIds(Decoder& decoder) {
-  std::array<std::uint32_t, 64> ids;
-  return {ids.begin(), ids.begin() + decoder.sink.DrainDecodedIds(ids.data())};
 }
 
 }  // namespace navframe::test

@@ -31,6 +31,11 @@ std::vector<Record> PopAll(RecordSink& sink) {
 
 std::vector<Record> PopAll(Decoder& decoder) { return PopAll(decoder.sink); }
 
+std::set<std::uint32_t> DecodedIds(Decoder& decoder) {
+  std::array<std::uint32_t, 64> ids;
+  return {ids.begin(), ids.begin() + decoder.sink.DrainDecodedIds(ids.data())};
+}
+
 std::vector<Record> Push(Decoder& decoder, const Bytes& bytes, std::size_t chunk) {
   std::vector<Record> records;
   for (std::size_t at = 0; at < bytes.size();) {

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,9 @@ struct Record {
 // Pops all records that wait.
 std::vector<Record> PopAll(RecordSink& sink);
 std::vector<Record> PopAll(Decoder& decoder);
+
+// The kinds decoded since the last call.
+std::set<std::uint32_t> DecodedIds(Decoder& decoder);
 
 // Pushes the bytes in chunks of `chunk` and pops after each; the records in order.
 std::vector<Record> Push(Decoder& decoder, const Bytes& bytes, std::size_t chunk = SIZE_MAX);

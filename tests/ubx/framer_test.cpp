@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <map>
-
-#include "catalogue/kinds.h"
 #include "navframe/records.h"
 #include "support/binary_frames.h"
 
@@ -50,53 +47,6 @@ TEST(UbxFramer, WrongChecksumYieldsOneDiagnosticRecordForEachRejectedSyncPositio
             Values(3, 2 * inner.size() + blocked.size(),
                    broken.size() - inner.size() + brokenInA.size()));
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdUbxNavigation});
-}
-
-using Counts = std::map<std::uint32_t, std::size_t>;
-
-// The records of a stream by kind, counted from the bytes alone.
-Counts CountedApart(const Bytes& bytes) {
-  const std::map<int, std::uint32_t> kinds = {
-      {0x0162, 101}, {0x0107, 102}, {0x0135, 103}, {0x0215, 104}, {0x0105, 105}};
-  Counts counts;
-  std::size_t i = 0;
-  while (i + 8 <= bytes.size()) {
-    const int length = bytes[i + 4] | bytes[i + 5] << 8;
-    const std::size_t end = i++ + 6 + static_cast<std::size_t>(length);
-    if (bytes[i - 1] != 0xB5 || bytes[i] != 0x62 || length > 4048) continue;
-    if (end + 2 > bytes.size()) break;
-    std::uint8_t a = 0;
-    std::uint8_t b = 0;
-    for (std::size_t at = i + 1; at < end; ++at) b += a += bytes[at];
-    if (a != bytes[end] || b != bytes[end + 1]) {
-      ++counts[MsgIdDiagnostic];
-      continue;
-    }
-    const auto kind = kinds.find(bytes[i + 1] << 8 | bytes[i + 2]);
-    if (kind != kinds.end()) ++counts[kind->second];
-    i = end + 2;
-  }
-  return counts;
-}
-
-TEST(UbxCaptures, CountsByKindAreThoseOfAnIndependentLoop) {
-  Counts all;
-  for (const char* const name :
-       {"ubx-nav-pvt-sat.ubx", "ubx-rawx-sfrbx.ubx", "ubx-nav-att.ubx", "ubx-nav-all-with-pl.ubx",
-        "mixed-nmea-ubx-rawx.bin", "mixed-ubx-nmea-rtcm3.bin", "damaged-ubx-checksums.ubx"}) {
-    NAVFRAME_CAPTURE_OR_SKIP(bytes, name);
-    for (const std::size_t chunk : {61U, 4096U}) {
-      const auto decoder = std::make_unique<Decoder>();
-      decoder->SetMsgTypes(ProtocolUbx);
-      Counts counts;
-      for (const Record& record : Push(*decoder, bytes, chunk)) {
-        if (record.id < catalogue::FirstStreamOnlyId) ++counts[record.id];  // those of the exports
-      }
-      EXPECT_EQ(counts, CountedApart(bytes)) << name;
-      all.merge(counts);
-    }
-  }
-  EXPECT_EQ(all.size(), 6U) << "the captures hold all five messages and wrong checksums";
 }
 
 }  // namespace
