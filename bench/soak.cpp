@@ -84,8 +84,8 @@ class Reference {
     try {
       decoder_->PutData(frame, length);
     } catch (const std::logic_error&) {
-      decoder_->stream.ring.Clear();
-      decoder_->stream.state = ParserState::Scanning;
+      decoder_->input.ring.Clear();
+      decoder_->input.state = ParserState::Scanning;
     }
   }
 

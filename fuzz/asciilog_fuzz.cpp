@@ -7,7 +7,7 @@ using namespace navframe;
 
 namespace {
 
-void PopAll(RecordSink& sink) {
+void PopAll(QueueSink& sink) {
   while (auto oldest = sink.PopOldest()) {
     fuzz::ReadAll(oldest->message.data, oldest->payloadSize);
     sink.Release(oldest->message);
@@ -20,7 +20,7 @@ void DecodeAs(std::size_t row, std::span<const std::uint8_t> bytes) {
   const std::string line(bytes.begin(), end);
   const auto rows = asciilog::LogRows();
   const auto decoder = std::make_unique<Decoder>();
-  decoder->asciiLog.DecodeLine(line, rows[row % rows.size()].identifier);
+  decoder->decoders.asciiLog.DecodeLine(line, rows[row % rows.size()].identifier);
   PopAll(decoder->sink);
 }
 
@@ -49,7 +49,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     return 0;
   }
   const auto decoder = std::make_unique<Decoder>();
-  Stream& framing = decoder->stream;
+  RingInput& framing = decoder->input;
   for (fuzz::Input chunks(stream); !chunks.Empty();) {
     const std::size_t step = steering.Byte();
     const auto chunk = chunks.Next(step == 0 ? stream.size() : step * 16);
@@ -58,7 +58,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
       before = framing.ring.Available();
       if (before == 0) break;
       framing.state = state;  // the framer goes on at every byte, whatever the scan would say
-      static_cast<void>(asciilog::FrameLog(framing, decoder->asciiLog, variant));
+      static_cast<void>(asciilog::FrameLog(framing, decoder->decoders.asciiLog, variant));
       fuzz::Require(framing.ring.Available() <= before, "framers only consume");
       PopAll(decoder->sink);
     }

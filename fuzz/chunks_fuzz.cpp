@@ -35,14 +35,14 @@ Outcome Run(const fuzz::Bytes& stream, NextLength&& nextLength) {
   // A sync byte found among fewer than 6 bytes has its framer entered by the next call only.
   push({});
   push({});
-  fuzz::Require(decoder->stream.ring.Available() == 0, "nothing is pending behind the flush");
-  fuzz::RequireAccounts(decoder->stream, stream.size() + flush.size());
+  fuzz::Require(decoder->input.ring.Available() == 0, "nothing is pending behind the flush");
+  fuzz::RequireAccounts(decoder->input, stream.size() + flush.size());
 
   outcome.decoded.resize(256);
   outcome.decoded.resize(decoder->sink.DrainDecodedIds(outcome.decoded.data()));
-  const TimeManager& time = decoder->time;
+  const TimeManager& time = decoder->decoders.time;
   outcome.clock = {time.timeText, time.gpsTime.tow, time.gpsTime.week, time.leapSeconds};
-  const FramingStatistics& counts = decoder->stream.statistics;
+  const FramingStatistics& counts = decoder->input.statistics;
   outcome.accepted = {counts.acceptedFrames, counts.acceptedBytes};
   return outcome;
 }

@@ -22,7 +22,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   decoder->SetMsgTypes(mask);
   decoder->sink.SetFilter(filter);
   fuzz::Push(*decoder, stream);
-  fuzz::RequireAccounts(decoder->stream, stream.size());
+  fuzz::RequireAccounts(decoder->input, stream.size());
 
   const std::unique_ptr<char[]> text(new char[1 << 17]);
   while (auto oldest = decoder->sink.PopOldest()) {

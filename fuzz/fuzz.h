@@ -88,8 +88,8 @@ inline void Push(Decoder& decoder, std::span<const std::uint8_t> chunk) {
     } catch (const std::invalid_argument&) {
     } catch (const std::out_of_range&) {
     }
-    Require(decoder.stream.state == ParserState::NmeaSentence, "only sentences throw");
-    static_cast<void>(SkipOneByte(decoder.stream));
+    Require(decoder.input.state == ParserState::NmeaSentence, "only sentences throw");
+    static_cast<void>(SkipOneByte(decoder.input));
     data = nullptr;
     length = 0;
   }
@@ -105,7 +105,7 @@ inline void ReadAll(const void* payload, std::uint32_t size) {
 
 // Frames and skipped bytes account for what was consumed, but for the line ends that were taken
 // along with sentences.
-inline void RequireAccounts(const Stream& stream, std::size_t pushed) {
+inline void RequireAccounts(const RingInput& stream, std::size_t pushed) {
   const FramingStatistics& counts = stream.statistics;
   const std::size_t accounted = std::size_t{counts.acceptedBytes} + counts.bytes55Aa +
                                 counts.skippedBytes + stream.ring.Available();

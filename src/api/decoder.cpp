@@ -1,62 +1,30 @@
 #include "api/decoder.h"
 
+#include <algorithm>
 #include <array>
 
+#include "api/number_faults.h"
 #include "asciilog/log_framer.h"
-#include "frame55aa/frame_framer.h"
 #include "framing/input_step.h"
-#include "rtcm/rtcm_framer.h"
-#include "ubx/ubx_framer.h"
+#include "nmea/sentence_framer.h"
 
 namespace navframe {
 namespace {
 
 using asciilog::LogVariant;
 
-using Framer = FramerResult (*)(Decoder& decoder);
-
-struct FramerRow {
-  ParserState state;
-  Framer framer;
-};
-
-template <LogVariant Variant>
-FramerResult FrameLog(Decoder& decoder) {
-  return asciilog::FrameLog(decoder.stream, decoder.asciiLog, Variant);
+// By the state that owns the head; null for one without a protocol of the table.
+constexpr std::array<const ProtocolRow*, ParserStates> RowsByState() {
+  std::array<const ProtocolRow*, ParserStates> rows{};
+  for (const ProtocolRow& row : Protocols) rows[static_cast<std::size_t>(row.state)] = &row;
+  return rows;
 }
+constexpr auto Rows = RowsByState();
 
-constexpr FramerRow FramerRows[] = {
-    {ParserState::NmeaSentence,
-     [](Decoder& decoder) { return nmea::FrameSentence(decoder.stream, decoder.nmea); }},
-    {ParserState::NmeaTagBlock,
-     [](Decoder& decoder) {
-       return nmea::FrameTagBlock(decoder.stream, decoder.tagBlockStarSearch);
-     }},
-    {ParserState::AsciiLogLine, FrameLog<LogVariant::TextLine>},
-    {ParserState::AsciiLogBinary, FrameLog<LogVariant::Binary>},
-    {ParserState::AsciiLogBinaryFixed, FrameLog<LogVariant::BinaryFixed>},
-    {ParserState::AsciiLogDollarLine, FrameLog<LogVariant::DollarLine>},
-    {ParserState::Ubx,
-     [](Decoder& decoder) {
-       return ubx::FrameUbx(decoder.stream, decoder.ubxChecksum, decoder.ubx);
-     }},
-    {ParserState::Binary55Aa,
-     [](Decoder& decoder) { return frame55aa::FrameBinary(decoder.stream, decoder.binary55Aa); }},
-    {ParserState::Rtcm3,
-     [](Decoder& decoder) {
-       return rtcm::FrameRtcm3(decoder.stream, decoder.rtcmCrc, decoder.rtcm);
-     }},
-};
-
-// A state without a framer of its own: its sync byte starts nothing.
-FramerResult SkipUnframed(Decoder& decoder) { return SkipOneByte(decoder.stream); }
-
-constexpr auto Framers = [] {
-  std::array<Framer, ParserStates> framers{};
-  framers.fill(SkipUnframed);
-  for (const FramerRow& row : FramerRows) framers[static_cast<std::size_t>(row.state)] = row.framer;
-  return framers;
-}();
+// Takes the two bytes of a line end behind a sentence when the second is LF, whatever the first.
+void ConsumeLineEnd(InputRing& ring) {
+  if (ring.Available() >= 2 && ring[1] == '\n') ring.Advance(2);
+}
 
 }  // namespace
 
@@ -73,9 +41,58 @@ void Decoder::SetBoardType(std::uint32_t type) {
   syncBytes_ = SyncBytes(scanConfiguration_);
 }
 
+FramerResult Decoder::HandleHead(const ProtocolRow& row) {
+  const std::uint32_t available = std::min(input.ring.Available(), row.longestFrame);
+  const Head head{input.ring.View(available), available, input.ring.Position()};
+  const Framing framing = row.frame(decoders.framing, decoders.dialect, head);
+  switch (framing.verdict) {
+    case Verdict::NeedMore:
+      return FramerResult::NeedMore;
+    case Verdict::Rejected:
+      // A UBX frame with a wrong checksum is the one fault that hosts are told of.
+      if (row.protocol == NavframeUbx && framing.reason == NavframeBadChecksum) {
+        decoders.ubx.ReportCheckError();
+      }
+      return SkipOneByte(input);
+    case Verdict::Frame:
+      break;
+  }
+  const DecodeResult result = row.decode(decoders, head.bytes, framing.length);
+  // The sentence stays at the head then, and meets the next call.
+  if (result.fault != NumberFault::None) Throw(result.fault);
+  if (row.protocol == Navframe55Aa) {
+    Accept55Aa(input, framing.length);
+  } else {
+    AcceptFrame(input, framing.length);
+  }
+  if (row.protocol == NavframeNmea) ConsumeLineEnd(input.ring);
+  return FramerResult::Done;
+}
+
+FramerResult Decoder::HandleTagBlock() {
+  const Framing framing = nmea::AwaitTaggedSentence(input.ring, tagBlockStarSearch);
+  return framing.verdict == Verdict::NeedMore ? FramerResult::NeedMore : SkipOneByte(input);
+}
+
 std::uint32_t Decoder::PutData(const std::uint8_t* data, std::uint32_t length) {
-  RunInputStep(stream, syncBytes_, data, length, [this](ParserState state) {
-    return Framers[static_cast<std::size_t>(state)](*this);
+  RunInputStep(input, syncBytes_, data, length, [this](ParserState state) {
+    if (const ProtocolRow* const row = Rows[static_cast<std::size_t>(state)]) {
+      return HandleHead(*row);
+    }
+    switch (state) {
+      case ParserState::NmeaTagBlock:
+        return HandleTagBlock();
+      case ParserState::AsciiLogLine:
+        return asciilog::FrameLog(input, decoders.asciiLog, LogVariant::TextLine);
+      case ParserState::AsciiLogBinary:
+        return asciilog::FrameLog(input, decoders.asciiLog, LogVariant::Binary);
+      case ParserState::AsciiLogBinaryFixed:
+        return asciilog::FrameLog(input, decoders.asciiLog, LogVariant::BinaryFixed);
+      case ParserState::AsciiLogDollarLine:
+        return asciilog::FrameLog(input, decoders.asciiLog, LogVariant::DollarLine);
+      default:
+        return SkipOneByte(input);  // no framer: its sync byte starts nothing
+    }
   });
   return sink.Waiting();
 }

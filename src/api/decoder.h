@@ -4,24 +4,16 @@
 #include <cstdint>
 
 #include "asciilog/ascii_log_decoder.h"
-#include "frame55aa/frame_decoder.h"
 #include "framing/forward_search.h"
-#include "framing/overlapping_checksum.h"
-#include "framing/stream.h"
+#include "framing/ring_input.h"
 #include "framing/sync_scan.h"
-#include "navframe/time_manager.h"
-#include "nmea/nmea_decoder.h"
-#include "nmea/sentence_framer.h"
-#include "output/record_sink.h"
-#include "rtcm/crc24q.h"
-#include "rtcm/rtcm_decoder.h"
-#include "ubx/fletcher.h"
-#include "ubx/ubx_decoder.h"
+#include "output/queue_sink.h"
+#include "stream/frame_decoders.h"
 
 namespace navframe {
 
-// One stream's decoder. The library has one of them because its interface is process-wide; tests
-// make their own.
+// The decoder of the exports. The library has one of them because their interface is process-wide;
+// tests make their own.
 class Decoder {
  public:
   Decoder();
@@ -35,19 +27,15 @@ class Decoder {
   // Decodes what `data` completes; returns the number of records waiting. See GNSSPutData.
   std::uint32_t PutData(const std::uint8_t* data, std::uint32_t length);
 
-  TimeManager time;  // shared by the decoders of all protocols
-  RecordSink sink;
-  Stream stream;
-  nmea::NmeaDecoder nmea{sink, time};
+  QueueSink sink;
+  FrameDecoders decoders{sink};
+  RingInput input;
   ForwardSearch tagBlockStarSearch{'*'};
-  asciilog::AsciiLogDecoder asciiLog{sink};
-  OverlappingChecksum<ubx::Fletcher> ubxChecksum;
-  ubx::UbxDecoder ubx{sink, time};
-  frame55aa::FrameDecoder binary55Aa{sink};
-  OverlappingChecksum<rtcm::Crc24q> rtcmCrc;
-  rtcm::RtcmDecoder rtcm{sink, time};
 
  private:
+  FramerResult HandleHead(const ProtocolRow& row);
+  FramerResult HandleTagBlock();
+
   ScanConfiguration scanConfiguration_;
   SyncBytes syncBytes_{scanConfiguration_};
 };

@@ -26,17 +26,18 @@ void* AsciiLogDecoder::FixedBlockOf(std::uint32_t identifier) {
   }
 }
 
-void AsciiLogDecoder::DecodeLine(std::string_view line, std::uint32_t identifier) {
+bool AsciiLogDecoder::DecodeLine(std::string_view line, std::uint32_t identifier) {
   const LogRow* const row = RowOf(identifier);
-  if (row == nullptr) return;
+  if (row == nullptr) return false;
   void* const record = sink_.Allocate(row->recordSize);
   std::memset(record, 0, row->recordSize);
   const bool decoded = DecodeLog(*row, line, record) == DecodeResult::Success;
   void* const fixed = FixedBlockOf(identifier);
   // A record that is not queued is not freed either, only set aside.
   if (!decoded || fixed != nullptr) sink_.Abandon(record, row->recordSize);
-  if (!decoded) return;
+  if (!decoded) return false;
   sink_.PushMessage(identifier, fixed != nullptr ? fixed : record, row->recordSize, SourceAsciiLog);
+  return true;
 }
 
 void AsciiLogDecoder::PushLineBuffer(std::uint32_t identifier) {

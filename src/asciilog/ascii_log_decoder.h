@@ -23,8 +23,8 @@ class AsciiLogDecoder {
   AsciiLogDecoder& operator=(const AsciiLogDecoder&) = delete;
 
   // Decodes a "#" line, without its CR LF. An identifier without a decoder, and a line that fails
-  // in it, leave nothing.
-  void DecodeLine(std::string_view line, std::uint32_t identifier);
+  // in it, leave nothing. False for these.
+  bool DecodeLine(std::string_view line, std::uint32_t identifier);
 
   // Queues the line buffer itself as the record of a binary frame; the next log overwrites it.
   void PushLineBuffer(std::uint32_t identifier);

@@ -32,22 +32,22 @@ bool IsLogLine(std::string_view text) {
   return line && line->CrcMatches() && IsLetter(text[1]) && IsLetter(text[2]);
 }
 
-FramerResult FrameLine(Stream& stream, AsciiLogDecoder& decoder, LogVariant variant) {
-  InputRing& ring = stream.ring;
+FramerResult FrameLine(RingInput& input, AsciiLogDecoder& decoder, LogVariant variant) {
+  InputRing& ring = input.ring;
   const std::uint32_t available = ring.Available();
   // Neither search goes round the end of the 32-bit indices.
   const bool indicesWrap = ring.ReadIndex() + available < ring.ReadIndex();
   const std::uint32_t star = indicesWrap ? 0 : decoder.starSearch.Find(ring);
   const std::uint32_t lineFeed = indicesWrap ? 0 : decoder.lineFeedSearch.Find(ring);
   if (star < LeastStarOffset || star >= available || lineFeed >= available) {
-    static_cast<void>(SkipOneByte(stream));
+    static_cast<void>(SkipOneByte(input));
     return FramerResult::NeedMore;
   }
   if (variant == LogVariant::TextLine && lineFeed != star + LineFeedBehindStar) {
-    return SkipOneByte(stream);
+    return SkipOneByte(input);
   }
   if (star + FewestBehindStar > available) return FramerResult::NeedMore;
-  if (star > LargestStarOffset) return SkipOneByte(stream);
+  if (star > LargestStarOffset) return SkipOneByte(input);
 
   // The line ends where its text does: at a NUL inside it, at the last byte that is there, or
   // behind the eight characters that follow the "*". Behind a "$" line, whose checksum has two
@@ -56,10 +56,10 @@ FramerResult FrameLine(Stream& stream, AsciiLogDecoder& decoder, LogVariant vari
   const auto* const bytes = reinterpret_cast<const char*>(ring.View(length));
   const std::string_view line(bytes, ::strnlen(bytes, length));
   if (variant == LogVariant::TextLine) {
-    if (!IsLogLine(line)) return SkipOneByte(stream);
-    decoder.DecodeLine(line, IdentifierOf(line));
+    if (!IsLogLine(line)) return SkipOneByte(input);
+    static_cast<void>(decoder.DecodeLine(line, IdentifierOf(line)));
   }
-  AcceptFrame(stream, static_cast<std::uint32_t>(line.size()));
+  AcceptFrame(input, static_cast<std::uint32_t>(line.size()));
   return FramerResult::Done;
 }
 
@@ -89,29 +89,29 @@ BinaryShape ShapeOf(const std::uint8_t* header, LogVariant variant) {
 
 // Nothing asks whether the whole frame is there: what is missing reads as zeros, and fails the CRC
 // unless it is zeros indeed.
-FramerResult FrameBinary(Stream& stream, AsciiLogDecoder& decoder, LogVariant variant) {
-  InputRing& ring = stream.ring;
+FramerResult FrameBinary(RingInput& input, AsciiLogDecoder& decoder, LogVariant variant) {
+  InputRing& ring = input.ring;
   const BinaryShape shape = ShapeOf(ring.View(FewestBytes), variant);
   const std::uint32_t covered = shape.headerLength + shape.messageLength;
   const std::uint32_t length = covered + CrcLength;
-  if (length > LineBufferSize) return SkipOneByte(stream);
+  if (length > LineBufferSize) return SkipOneByte(input);
 
   const std::uint32_t copied = std::min({shape.copied, ring.Available(), LineBufferSize});
   const auto frame = decoder.FillLineBuffer({ring.View(copied), copied});
   const auto sent = ReadLe<std::uint32_t>(frame.data(), covered);
-  if (Crc32(frame.first(covered)) != sent) return SkipOneByte(stream);
+  if (Crc32(frame.first(covered)) != sent) return SkipOneByte(input);
 
   decoder.PushLineBuffer(ReadLe<std::uint16_t>(frame.data(), IdentifierOffset));
-  AcceptFrame(stream, std::min(length, ring.Available()));
+  AcceptFrame(input, std::min(length, ring.Available()));
   return FramerResult::Done;
 }
 
 }  // namespace
 
-FramerResult FrameLog(Stream& stream, AsciiLogDecoder& decoder, LogVariant variant) {
-  if (stream.ring.Available() < FewestBytes) return FramerResult::NeedMore;
+FramerResult FrameLog(RingInput& input, AsciiLogDecoder& decoder, LogVariant variant) {
+  if (input.ring.Available() < FewestBytes) return FramerResult::NeedMore;
   const bool isLine = variant == LogVariant::TextLine || variant == LogVariant::DollarLine;
-  return isLine ? FrameLine(stream, decoder, variant) : FrameBinary(stream, decoder, variant);
+  return isLine ? FrameLine(input, decoder, variant) : FrameBinary(input, decoder, variant);
 }
 
 }  // namespace navframe::asciilog

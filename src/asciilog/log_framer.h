@@ -2,7 +2,7 @@
 #pragma once
 
 #include "asciilog/ascii_log_decoder.h"
-#include "framing/stream.h"
+#include "framing/ring_input.h"
 
 namespace navframe::asciilog {
 
@@ -16,6 +16,6 @@ enum class LogVariant : int {
 
 // The framer of all variants. Of a line that is not complete it skips the first byte, sets the
 // state to Scanning and still answers NeedMore: lines that arrive in pieces are lost.
-FramerResult FrameLog(Stream& stream, AsciiLogDecoder& decoder, LogVariant variant);
+FramerResult FrameLog(RingInput& input, AsciiLogDecoder& decoder, LogVariant variant);
 
 }  // namespace navframe::asciilog

@@ -5,21 +5,12 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <stdexcept>
-#include <string>
 #include <type_traits>
 
 #include "base/characters.h"
 
 namespace navframe {
 namespace {
-
-[[noreturn]] void ThrowInvalid(const char* conversion) {
-  throw std::invalid_argument(std::string("invalid ") + conversion + " argument");
-}
-[[noreturn]] void ThrowRange(const char* conversion) {
-  throw std::out_of_range(std::string(conversion) + " argument out of range");
-}
 
 // What stands before the digits of a number.
 struct SignedDigits {
@@ -41,32 +32,18 @@ bool HasHexPrefix(const char* first, const char* last) {
   return last - first > 2 && first[0] == '0' && Lower(first[1]) == 'x';
 }
 
-enum class Conversion { Done, Invalid, OutOfRange };
-
-Conversion ConvertInt(std::string_view text, int base, int& value) {
+Number<int> ToIntInBase(std::string_view text, int base) {
   auto [first, last, negative] = SkipToDigits(text);
   if (base == 16 && HasHexPrefix(first, last) && IsHexDigit(first[2])) first += 2;
   std::uint64_t magnitude = 0;
   const auto [end, error] = std::from_chars(first, last, magnitude, base);
-  if (error == std::errc::invalid_argument) return Conversion::Invalid;
+  if (error == std::errc::invalid_argument) return {0, NumberFault::NoInt};
   const std::uint64_t limit = std::uint64_t{std::numeric_limits<int>::max()} + (negative ? 1 : 0);
-  if (error == std::errc::result_out_of_range || magnitude > limit) return Conversion::OutOfRange;
-  const auto wide = static_cast<std::int64_t>(magnitude);
-  value = static_cast<int>(negative ? -wide : wide);
-  return Conversion::Done;
-}
-
-int ToIntInBase(std::string_view text, int base) {
-  int value = 0;
-  switch (ConvertInt(text, base, value)) {
-    case Conversion::Done:
-      return value;
-    case Conversion::Invalid:
-      ThrowInvalid("stoi");
-    case Conversion::OutOfRange:
-      break;
+  if (error == std::errc::result_out_of_range || magnitude > limit) {
+    return {0, NumberFault::IntRange};
   }
-  ThrowRange("stoi");
+  const auto wide = static_cast<std::int64_t>(magnitude);
+  return {static_cast<int>(negative ? -wide : wide)};
 }
 
 constexpr std::array<double, 23> PowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -145,7 +122,7 @@ bool Underflows(T value, const char* first, const char* last, std::chars_format 
 }
 
 template <class T, class Wider>
-T ToFloatingPoint(std::string_view text, const char* conversion) {
+Number<T> ToFloatingPoint(std::string_view text, NumberFault none, NumberFault range) {
   auto [first, last, negative] = SkipToDigits(text);
   auto format = std::chars_format::general;
   if (HasHexPrefix(first, last) &&
@@ -154,31 +131,34 @@ T ToFloatingPoint(std::string_view text, const char* conversion) {
     format = std::chars_format::hex;
   }
   T magnitude = 0;
-  if (first == last || *first == '-') ThrowInvalid(conversion);
+  if (first == last || *first == '-') return {0, none};
   const auto [end, error] = std::from_chars(first, last, magnitude, format);
-  if (error == std::errc::invalid_argument) ThrowInvalid(conversion);
-  if (error == std::errc::result_out_of_range) ThrowRange(conversion);
-  if (Underflows<T, Wider>(magnitude, first, last, format)) ThrowRange(conversion);
-  return negative ? -magnitude : magnitude;
+  if (error == std::errc::invalid_argument) return {0, none};
+  if (error == std::errc::result_out_of_range ||
+      Underflows<T, Wider>(magnitude, first, last, format)) {
+    return {0, range};
+  }
+  return {negative ? -magnitude : magnitude};
 }
 
 }  // namespace
 
-int ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
+Number<int> ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
 
-int ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
+Number<int> ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
 
-double ToDouble(std::string_view text) {
+Number<double> ToDouble(std::string_view text) {
   PlainNumber number;
   if (ReadPlainNumber(text, number)) {
     // Digits and power of ten are exact, so the one division rounds as the general conversion.
     const double magnitude = static_cast<double>(number.digits) / PowersOfTen[number.decimals];
-    return number.negative ? -magnitude : magnitude;
+    return {number.negative ? -magnitude : magnitude};
   }
-  return ToFloatingPoint<double, long double>(text, "stod");
+  return ToFloatingPoint<double, long double>(text, NumberFault::NoDouble,
+                                              NumberFault::DoubleRange);
 }
 
-float ToFloat(std::string_view text) {
+Number<float> ToFloat(std::string_view text) {
   constexpr std::uint64_t ExactDigits = 1U << 24;
   constexpr std::size_t ExactPowers = 10;
   PlainNumber number;
@@ -186,22 +166,14 @@ float ToFloat(std::string_view text) {
       number.decimals <= ExactPowers) {
     const float magnitude =
         static_cast<float>(number.digits) / static_cast<float>(PowersOfTen[number.decimals]);
-    return number.negative ? -magnitude : magnitude;
+    return {number.negative ? -magnitude : magnitude};
   }
-  return ToFloatingPoint<float, double>(text, "stof");
+  return ToFloatingPoint<float, double>(text, NumberFault::NoFloat, NumberFault::FloatRange);
 }
-
-std::string_view Piece(std::string_view text, std::size_t position, std::size_t count) {
-  if (position > text.size()) ThrowInvalidPosition();
-  return text.substr(position, count);
-}
-
-void ThrowInvalidPosition() { throw std::out_of_range("invalid string position"); }
 
 std::int32_t ToIntOrMinimum(std::string_view text) {
-  int value = 0;
-  return ConvertInt(text, 10, value) == Conversion::Done ? value
-                                                         : std::numeric_limits<std::int32_t>::min();
+  const auto [value, fault] = ToInt(text);
+  return fault == NumberFault::None ? value : std::numeric_limits<std::int32_t>::min();
 }
 
 std::int32_t Truncated(double value) {

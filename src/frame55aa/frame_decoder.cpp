@@ -47,13 +47,16 @@ void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& r
 
 }  // namespace
 
-void FrameDecoder::Decode(const std::uint8_t* payload, std::uint32_t length) {
-  if (std::ranges::find(DecodedLengths, length) == DecodedLengths.end()) return;
+DecodeResult FrameDecoder::Decode(const std::uint8_t* payload, std::uint32_t length) {
+  if (std::ranges::find(DecodedLengths, length) == DecodedLengths.end()) {
+    return {NavframeNoKind};
+  }
   // These records pass every output filter.
   sink_.NoteDecoded(MsgIdBinary55Aa);
   auto* const record = static_cast<Binary55AaRecord*>(sink_.Allocate(sizeof(Binary55AaRecord)));
   Fill(payload, length, *record);
   sink_.PushMessage(MsgIdBinary55Aa, record, sizeof(Binary55AaRecord));
+  return {};
 }
 
 }  // namespace navframe::frame55aa

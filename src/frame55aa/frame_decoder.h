@@ -13,7 +13,7 @@ class FrameDecoder {
   explicit FrameDecoder(RecordSink& sink) : sink_(sink) {}
 
   // Makes a record of a payload of one of the four decoded lengths; does nothing with others.
-  void Decode(const std::uint8_t* payload, std::uint32_t length);
+  DecodeResult Decode(const std::uint8_t* payload, std::uint32_t length);
 
  private:
   RecordSink& sink_;

@@ -1,13 +1,17 @@
-// Cuts 0x55 0xAA frames out of the stream.
+// Recognises 0x55 0xAA frames.
 #pragma once
 
-#include "frame55aa/frame_decoder.h"
-#include "framing/stream.h"
+#include "framing/framing.h"
 
 namespace navframe::frame55aa {
 
+// 0x55 0xAA, payload length (u32), payload, checksum byte over length and payload.
+inline constexpr std::uint32_t HeaderLength = 6;
+inline constexpr std::uint32_t ChecksumLength = 1;
+inline constexpr std::uint32_t LongestFrame = HeaderLength + 480 + ChecksumLength;
+
 // The framer of 0x55. A frame is taken when 0xAA follows, its payload is 8, 164, 204, 224, 264,
-// 420, 460 or 480 bytes long and the checksum is right. It counts in statistics of its own.
-FramerResult FrameBinary(Stream& stream, FrameDecoder& decoder);
+// 420, 460 or 480 bytes long and the checksum is right.
+Framing FrameBinary(const Head& head);
 
 }  // namespace navframe::frame55aa

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstdint>
+#include <memory>
 #include <span>
 
 namespace navframe {
@@ -41,7 +41,12 @@ class OverlappingChecksum {
   // Room for the prefixes of the longest frame, that of no bytes among them.
   static constexpr std::uint32_t Size = std::bit_ceil(Checksum::LongestProtected + 1);
 
-  Value& PrefixUpTo(std::uint64_t position) { return prefixes_[position % Size]; }
+  Value& PrefixUpTo(std::uint64_t position) {
+    // Streams of good frames never come here, and are spared the memory.
+    if (prefixes_ == nullptr) [[unlikely]]
+      prefixes_.reset(new Value[Size]);
+    return prefixes_[position % Size];
+  }
 
   Value OfOverlapping(std::uint64_t begin, std::uint64_t end, const std::uint8_t* bytes) {
     if (begin >= prefixesUntil_) {  // what lies in front of this frame concerns no later one
@@ -61,9 +66,9 @@ class OverlappingChecksum {
     readUntil_ = std::max(readUntil_, end);
   }
 
-  std::array<Value, Size> prefixes_;  // by position in the stream
-  std::uint64_t readUntil_ = 0;       // the end of all bytes that were read
-  std::uint64_t prefixesUntil_ = 0;   // the last position whose prefix is kept
+  std::unique_ptr<Value[]> prefixes_;  // Size of them, by position in the stream
+  std::uint64_t readUntil_ = 0;        // the end of all bytes that were read
+  std::uint64_t prefixesUntil_ = 0;    // the last position whose prefix is kept
 };
 
 }  // namespace navframe

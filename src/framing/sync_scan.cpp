@@ -67,14 +67,14 @@ std::size_t SyncBytes::Find(const std::uint8_t* data, std::size_t length) const 
   return at;
 }
 
-bool ScanForFrame(Stream& stream, const SyncBytes& syncBytes) {
-  InputRing& ring = stream.ring;
+bool ScanForFrame(RingInput& input, const SyncBytes& syncBytes) {
+  InputRing& ring = input.ring;
   const std::uint32_t available = ring.Available();
   if (available == 0) return false;
   ParserState found = syncBytes.StateOf(ring[0]);
   if (found == ParserState::Scanning) {
     const std::uint32_t skipped = OffsetOfSyncByte(ring, syncBytes);
-    stream.statistics.skippedBytes += skipped;
+    input.statistics.skippedBytes += skipped;
     if (skipped == available) {
       ring.Clear();
       return false;
@@ -82,7 +82,7 @@ bool ScanForFrame(Stream& stream, const SyncBytes& syncBytes) {
     found = syncBytes.StateOf(ring[skipped]);
     ring.Advance(skipped);
   }
-  stream.state = found;
+  input.state = found;
   return available >= FewestBytesToEnter;
 }
 

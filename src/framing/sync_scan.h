@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "framing/stream.h"
+#include "framing/ring_input.h"
 
 namespace navframe {
 
@@ -37,6 +37,6 @@ class SyncBytes {
 // Skips to the next sync byte and stores the state that it selects. True when the framer of that
 // state is to be called now; false when the input step ends: nothing found and the ring emptied,
 // or fewer than 6 bytes were there, and the framer has its turn with the next input.
-bool ScanForFrame(Stream& stream, const SyncBytes& syncBytes);
+bool ScanForFrame(RingInput& input, const SyncBytes& syncBytes);
 
 }  // namespace navframe

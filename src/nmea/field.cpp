@@ -1,49 +1,116 @@
 #include "nmea/field.h"
 
+#include "base/characters.h"
+
 namespace navframe::nmea {
 namespace {
 
-// Two characters of a time text, which must reach behind `position`.
-int TimePart(std::string_view field, std::size_t position) {
-  if (position >= field.size()) ThrowInvalidPosition();
-  return ToInt(field.substr(position, 2));
-}
+constexpr std::size_t FractionPosition = 7;
 
-double Angle(std::string_view field, std::size_t degreeDigits, bool positive) {
-  const int degrees = ToInt(field.substr(0, degreeDigits));
-  const double minutes = ToDouble(Piece(field, degreeDigits));
-  const double value = minutes / 60.0 + degrees;
-  return positive ? value : -value;
+// Milliseconds of the digits behind the point, cut; nothing when there is another character.
+bool FractionMs(std::string_view digits, std::uint16_t& ms) {
+  unsigned value = 0;
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    if (!IsDigit(digits[i])) return false;
+    if (i < 3) value = value * 10 + static_cast<unsigned>(digits[i] - '0');
+  }
+  for (std::size_t i = digits.size(); i < 3; ++i) value *= 10;
+  ms = static_cast<std::uint16_t>(value);
+  return true;
 }
 
 }  // namespace
 
-void ReadTimeOfDay(std::string_view field, UTCTIME& utc) {
-  constexpr std::size_t FractionPosition = 7;
+// A part of a text, which must reach behind `position`.
+bool FieldReader::TimePart(std::size_t index, std::size_t position, std::size_t length,
+                           int& value) {
+  const std::string_view field = fields_[index];
+  if (position >= field.size()) {
+    Note(index, NumberFault::TooShort);
+    return false;
+  }
+  return Take(index, ToInt(field.substr(position, length)), value);
+}
+
+void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
   constexpr std::size_t LengthWithHundredths = 9;
+  const std::string_view field = fields_[index];
   if (field.empty()) return;
-  utc.hour = static_cast<std::uint8_t>(TimePart(field, 0));
-  utc.minute = static_cast<std::uint8_t>(TimePart(field, 2));
-  utc.second = static_cast<std::uint8_t>(TimePart(field, 4));
-  const int fraction = ToInt(Piece(field, FractionPosition));
+  if (dialect_.wholeTimes) return WholeTimeOfDay(index, utc);
+  // Nine characters hold hundredths of a second; in every other length what follows the point is
+  // taken as milliseconds as it stands, so ".5" is 5 ms. A text without a seventh character is a
+  // fault. Hosts rely on all of that.
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+  if (!TimePart(index, 0, 2, hour) || !TimePart(index, 2, 2, minute) ||
+      !TimePart(index, 4, 2, second)) {
+    return;
+  }
+  if (field.size() < FractionPosition) return Note(index, NumberFault::TooShort);
+  int fraction = 0;
+  if (!Take(index, ToInt(field.substr(FractionPosition)), fraction)) return;
+  utc.hour = static_cast<std::uint8_t>(hour);
+  utc.minute = static_cast<std::uint8_t>(minute);
+  utc.second = static_cast<std::uint8_t>(second);
   const unsigned unit = field.size() == LengthWithHundredths ? 10 : 1;
   utc.millisecond = static_cast<std::uint16_t>(static_cast<unsigned>(fraction) * unit);
   utc.flag = 1;
 }
 
-void ReadDate(std::string_view field, UTCTIME& utc) {
+// hhmmss with any number of decimals, or none.
+void FieldReader::WholeTimeOfDay(std::size_t index, UTCTIME& utc) {
+  const std::string_view field = fields_[index];
+  const auto two = [&field](std::size_t at) {
+    return IsDigit(field[at]) && IsDigit(field[at + 1])
+               ? (field[at] - '0') * 10 + (field[at + 1] - '0')
+               : 99;
+  };
+  const bool hasShape = field.size() >= 6 && (field.size() == 6 || field[6] == '.');
+  std::uint16_t ms = 0;
+  if (!hasShape || two(0) > 23 || two(2) > 59 || two(4) > 60 ||
+      !FractionMs(field.substr(std::min(field.size(), FractionPosition)), ms)) {
+    return Note(index, NumberFault::NoInt);
+  }
+  utc.hour = static_cast<std::uint8_t>(two(0));
+  utc.minute = static_cast<std::uint8_t>(two(2));
+  utc.second = static_cast<std::uint8_t>(two(4));
+  utc.millisecond = ms;
+  utc.flag = 1;
+}
+
+void FieldReader::Date(std::size_t index, UTCTIME& utc) {
+  const std::string_view field = fields_[index];
   if (field.empty()) return;
-  utc.day = static_cast<std::uint8_t>(ToInt(Piece(field, 0, 2)));
-  utc.month = static_cast<std::uint8_t>(ToInt(Piece(field, 2, 2)));
-  utc.year = static_cast<std::uint16_t>(ToInt(Piece(field, 4, 2)) + 2000);
+  int parts[3];
+  for (std::size_t i = 0; i < 3; ++i) {
+    if (2 * i > field.size()) return Note(index, NumberFault::TooShort);
+    if (!Take(index, ToInt(field.substr(2 * i, 2)), parts[i])) return;
+  }
+  utc.day = static_cast<std::uint8_t>(parts[0]);
+  utc.month = static_cast<std::uint8_t>(parts[1]);
+  utc.year = static_cast<std::uint16_t>(parts[2] + 2000);
 }
 
-void ReadLatitude(std::string_view field, std::string_view hemisphere, double& degrees) {
-  if (!field.empty()) degrees = Angle(field, 2, hemisphere == "N");
-}
-
-void ReadLongitude(std::string_view field, std::string_view hemisphere, double& degrees) {
-  if (!field.empty()) degrees = Angle(field, 3, hemisphere == "E");
+void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, std::string_view letters,
+                        double& degrees) {
+  const std::string_view field = fields_[index];
+  const std::string_view hemisphere = fields_[index + 1];
+  if (field.empty()) return;
+  const bool positive = hemisphere == letters.substr(0, 1);
+  if (dialect_.needsHemisphere && !positive && hemisphere != letters.substr(1)) {
+    if (!hemisphere.empty()) Note(index + 1, NumberFault::NoInt);
+    return;
+  }
+  int whole = 0;
+  if (!Take(index, ToInt(field.substr(0, degreeDigits)), whole)) return;
+  if (field.size() < degreeDigits) return Note(index, NumberFault::TooShort);
+  double minutes = 0;
+  if (!Take(index, ToDouble(field.substr(degreeDigits)), minutes)) return;
+  const double value = minutes / 60.0 + whole;
+  // Negative unless the letter says otherwise, also when it is missing: hosts of the exports rely
+  // on that.
+  degrees = positive ? value : -value;
 }
 
 }  // namespace navframe::nmea

@@ -1,20 +1,23 @@
-// Conversions of the fields that standard sentences share.
+// Conversions of the fields that sentences share.
 #pragma once
 
 #include <bit>
+#include <concepts>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
 
+#include "base/dialect.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "navframe/time_types.h"
+#include "nmea/sentence.h"
 
 namespace navframe::nmea {
 
 // ToInt for a field of a sentence, behind which its checksum always leaves three bytes more: up to
 // four digits, what most fields are, are read by one load.
-inline int FieldToInt(std::string_view field) {
+inline Number<int> FieldToInt(std::string_view field) {
   if (field.size() - 1 >= 4) return ToInt(field);
   std::uint32_t text;
   std::memcpy(&text, field.data(), sizeof text);
@@ -24,46 +27,88 @@ inline int FieldToInt(std::string_view field) {
   const std::uint32_t digits = (text << unused) ^ (0x30303030U << unused);
   if ((((digits + 0x76767676U) | digits) & 0x80808080U) != 0) return ToInt(field);
   const std::uint32_t pairs = (digits * 10 + (digits >> 8)) & 0x00FF00FFU;
-  return static_cast<int>((pairs & 0xFF) * 100 + (pairs >> 16));
+  return {static_cast<int>((pairs & 0xFF) * 100 + (pairs >> 16))};
 }
 
-// An empty field leaves the member as it is.
-template <class Integer>
-void ReadInt(std::string_view field, Integer& member) {
-  if (!field.empty()) member = static_cast<Integer>(FieldToInt(field));
-}
+// The fields of a sentence while its parser reads them. An empty field leaves its member as it is,
+// and so does one that does not convert; the first of these is remembered.
+class FieldReader {
+ public:
+  FieldReader(const Fields& fields, const Dialect& dialect) : fields_(fields), dialect_(dialect) {}
 
-inline void ReadFloat(std::string_view field, float& member) {
-  if (!field.empty()) member = ToFloat(field);
-}
+  std::string_view operator[](std::size_t index) const { return fields_[index]; }
+  std::size_t Count() const { return fields_.Count(); }
+  const Dialect& HasDialect() const { return dialect_; }
 
-inline void ReadDouble(std::string_view field, double& member) {
-  if (!field.empty()) member = ToDouble(field);
-}
+  NumberFault Fault() const { return fault_; }
+  std::uint32_t BadField() const { return badField_; }
 
-// Converted as a double, then rounded again: not always what ReadFloat gives.
-inline void ReadDoubleAsFloat(std::string_view field, float& member) {
-  if (!field.empty()) member = static_cast<float>(ToDouble(field));
-}
+  // The value, or nothing with the fault remembered.
+  template <class T>
+  bool Take(std::size_t index, const Number<T>& number, T& value) {
+    if (number.fault != NumberFault::None) [[unlikely]] {
+      Note(index, number.fault);
+      return false;
+    }
+    value = number.value;
+    return true;
+  }
+  void Note(std::size_t index, NumberFault fault) {
+    if (fault_ != NumberFault::None) return;
+    fault_ = fault;
+    badField_ = static_cast<std::uint32_t>(index);
+  }
 
-// hhmmss.ff: hour to millisecond, and the flag. Nine characters hold hundredths of a second; in
-// every other length what follows the point is taken as milliseconds as it stands, so ".5" is 5 ms.
-// Hosts rely on that. A text without a seventh character throws.
-void ReadTimeOfDay(std::string_view field, UTCTIME& utc);
+  template <std::integral Integer>
+  void Int(std::size_t index, Integer& member) {
+    int value;
+    const std::string_view field = fields_[index];
+    if (!field.empty() && Take(index, FieldToInt(field), value)) {
+      member = static_cast<Integer>(value);
+    }
+  }
+  void Float(std::size_t index, float& member) {
+    const std::string_view field = fields_[index];
+    if (!field.empty()) Take(index, ToFloat(field), member);
+  }
+  void Double(std::size_t index, double& member) {
+    const std::string_view field = fields_[index];
+    if (!field.empty()) Take(index, ToDouble(field), member);
+  }
+  // Converted as a double, then rounded again: not always what Float gives.
+  void DoubleAsFloat(std::size_t index, float& member) {
+    double value;
+    const std::string_view field = fields_[index];
+    if (!field.empty() && Take(index, ToDouble(field), value)) member = static_cast<float>(value);
+  }
 
-// The time of day with the text itself.
-template <std::size_t Width>
-void ReadTimeOfDay(std::string_view field, UTCTIME& utc, char (&text)[Width]) {
-  ReadTimeOfDay(field, utc);
-  CopyText(text, field);
-}
+  // hhmmss.ff: hour to millisecond, and the flag.
+  void TimeOfDay(std::size_t index, UTCTIME& utc);
 
-// ddmmyy: day, month, and year counted from 2000.
-void ReadDate(std::string_view field, UTCTIME& utc);
+  // The time of day with the text itself.
+  template <std::size_t Width>
+  void TimeOfDay(std::size_t index, UTCTIME& utc, char (&text)[Width]) {
+    TimeOfDay(index, utc);
+    CopyText(text, fields_[index]);
+  }
 
-// ddmm.mmmm and dddmm.mmmm. The value is negative unless the hemisphere is exactly "N" or "E",
-// also when it is missing: hosts rely on that.
-void ReadLatitude(std::string_view field, std::string_view hemisphere, double& degrees);
-void ReadLongitude(std::string_view field, std::string_view hemisphere, double& degrees);
+  // ddmmyy: day, month, and year counted from 2000.
+  void Date(std::size_t index, UTCTIME& utc);
+
+  // ddmm.mmmm and dddmm.mmmm, with the letter of the hemisphere in the field behind.
+  void Latitude(std::size_t index, double& degrees) { Angle(index, 2, "NS", degrees); }
+  void Longitude(std::size_t index, double& degrees) { Angle(index, 3, "EW", degrees); }
+
+ private:
+  void Angle(std::size_t index, std::size_t degreeDigits, std::string_view letters,
+             double& degrees);
+  void WholeTimeOfDay(std::size_t index, UTCTIME& utc);
+  bool TimePart(std::size_t index, std::size_t position, std::size_t length, int& value);
+
+  const Fields& fields_;
+  const Dialect& dialect_;
+  NumberFault fault_ = NumberFault::None;
+  std::uint32_t badField_ = 0;
+};
 
 }  // namespace navframe::nmea

@@ -30,6 +30,8 @@ struct NmeaContext {
   SatellitesInView satellites;
   std::uint32_t kind = 0;  // of the current and of the previous sentence, recognised or not
   std::uint32_t previousKind = 0;
+  std::int64_t gsvAnnounced = 0;  // sentences of the cycle, by the first of each group
+  std::int64_t gsvCame = 0;
   KeptField previousEpochTime;  // time field of the last GGA or RMC that had one
 };
 

@@ -1,9 +1,11 @@
 #include "nmea/nmea_decoder.h"
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "navframe/records.h"
 #include "nmea/satellite_sentences.h"
 #include "nmea/sentence_table.h"
+#include "time/true_clock.h"
 
 namespace navframe::nmea {
 namespace {
@@ -26,9 +28,14 @@ void Stamp(const SentenceRow& row, const TimeManager& time, RecordBuffer& record
   }
 }
 
+DecodeResult ResultOf(const FieldReader& reader) {
+  if (reader.Fault() == NumberFault::None) return {};
+  return {NavframeBadField, reader.BadField(), reader.Fault()};
+}
+
 }  // namespace
 
-void NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
+DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   const SentenceRow* const row = Classify(fields.Text());
   NmeaContext& context = contexts_[static_cast<std::size_t>(tag)];
   context.previousKind = context.kind;
@@ -41,27 +48,54 @@ void NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   sink_.NoteDecoded(context.kind);
   if (context.satellites.CycleComplete()) EmitSatellitesInView(context);
 
-  if (row == nullptr) return;
+  if (row == nullptr) return {NavframeNoKind};
   const bool passes = row->Passes(sink_);
-  if (row->filterTest == FilterTest::BeforeBuilding && !passes) return;
-  if (row->takes != nullptr && !row->takes(fields)) return;
-  if (row->kind == MsgIdGsv) return AccumulateGsv(context, fields, time_);
-  if (row->parse == nullptr) return;
+  if (row->filterTest == FilterTest::BeforeBuilding && !passes) return {};
+  if (row->takes != nullptr && !row->takes(fields)) return {NavframeBadContent};
+  FieldReader reader(fields, dialect_);
+  if (row->kind == MsgIdGsv) {
+    if (ToIntOrMinimum(fields[2]) == 1) context.gsvAnnounced += ToIntOrMinimum(fields[1]);
+    context.gsvCame += 1;
+    AccumulateGsv(context, reader, time_);
+    return ResultOf(reader);
+  }
+  if (row->parse == nullptr) return {NavframeNoKind};
 
   RecordBuffer record;
   row->makeUnknown(record.bytes);
   if (row->hasTag) record.At<TagFlag>(0) = tag;
-  row->parse(context, fields, record.bytes);
+  row->parse(context, reader, record.bytes);
+  if (reader.Fault() != NumberFault::None && !dialect_.keepsSentences) return ResultOf(reader);
   if (row->clock != ClockRule::None) {
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),
                                        TextOf(record.TextAt(row->text), row->text.width)};
-    KeepTime(row->clock, sentenceTime, context, counters_, time_);
+    if (dialect_.trueClock) {
+      true_clock::SetUtc(sentenceTime.utc, 0, sentenceTime.text, time_);
+    } else {
+      KeepTime(row->clock, sentenceTime, context, counters_, time_);
+    }
   }
   Stamp(*row, time_, record);
-  if (!passes && row->filterTest != FilterTest::Never) return;
+  if (!passes && row->filterTest != FilterTest::Never) return {};
   void* const payload = sink_.Allocate(row->size);
   row->copy(payload, record.bytes);
   sink_.PushMessage(context.kind, payload, row->size);
+  return ResultOf(reader);
+}
+
+bool NmeaDecoder::CycleIsWhole() const {
+  const NmeaContext& context = contexts_[static_cast<std::size_t>(TagFlag::Plain)];
+  return context.kind == MsgIdGsv && context.gsvCame != 0 &&
+         context.gsvCame == context.gsvAnnounced;
+}
+
+void NmeaDecoder::EndCycle() {
+  NmeaContext& context = contexts_[static_cast<std::size_t>(TagFlag::Plain)];
+  if (context.kind != MsgIdGsv) return;
+  context.previousKind = context.kind;
+  context.kind = 0;
+  context.satellites.SetCycleComplete();
+  EmitSatellitesInView(context);
 }
 
 void NmeaDecoder::EmitSatellitesInView(NmeaContext& context) {
@@ -71,6 +105,8 @@ void NmeaDecoder::EmitSatellitesInView(NmeaContext& context) {
     sink_.PushMessage(context.previousKind, record, sizeof(GsvRecord));
   }
   context.satellites.Reset();
+  context.gsvAnnounced = 0;
+  context.gsvCame = 0;
 }
 
 }  // namespace navframe::nmea

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "base/dialect.h"
 #include "navframe/time_manager.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
@@ -15,17 +16,25 @@ namespace navframe::nmea {
 class NmeaDecoder {
  public:
   // `sink` and `time` must outlive the decoder.
-  NmeaDecoder(RecordSink& sink, TimeManager& time) : sink_(sink), time_(time) {}
+  NmeaDecoder(RecordSink& sink, TimeManager& time, const Dialect& dialect = LegacyDialect)
+      : sink_(sink), time_(time), dialect_(dialect) {}
 
-  // Splits the work on one sentence: its kind, the end of a GSV cycle, its record. Throws what a
-  // field conversion throws; the sentence then has left no trace but its kind.
-  void Decode(const Fields& fields, TagFlag tag);
+  // Splits the work on one sentence: its kind, the end of a GSV cycle, its record. Where a field
+  // that does not convert ends the work, the sentence has left no trace but its kind.
+  DecodeResult Decode(const Fields& fields, TagFlag tag);
+
+  // Whether satellites in view were collected from all sentences that were announced.
+  bool CycleIsWhole() const;
+
+  // The input ended: hands out the satellites in view whose cycle nothing closes any more.
+  void EndCycle();
 
  private:
   void EmitSatellitesInView(NmeaContext& context);
 
   RecordSink& sink_;
   TimeManager& time_;
+  const Dialect& dialect_;
   std::array<NmeaContext, 2> contexts_;  // by tag flag
   EpochCounters counters_;
 };

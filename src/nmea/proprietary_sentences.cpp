@@ -11,30 +11,40 @@ namespace {
 
 // How one member is read from its field; an empty field leaves it as it is.
 template <std::integral Integer>
-void Read(std::string_view field, Integer& member) {
-  ReadInt(field, member);
+void Read(FieldReader& fields, std::size_t index, Integer& member) {
+  fields.Int(index, member);
 }
-void Read(std::string_view field, double& member) { ReadDouble(field, member); }
-void Read(std::string_view field, float& member) { ReadDoubleAsFloat(field, member); }
-void Read(std::string_view field, RecordText& member) {
+void Read(FieldReader& fields, std::size_t index, double& member) { fields.Double(index, member); }
+void Read(FieldReader& fields, std::size_t index, float& member) {
+  fields.DoubleAsFloat(index, member);
+}
+void Read(FieldReader& fields, std::size_t index, RecordText& member) {
   // As many characters as the string holds inside itself.
   constexpr std::size_t MostCharacters = 15;
+  const std::string_view field = fields[index];
   member.assign(field.substr(0, std::min(field.find('\0'), MostCharacters)));
 }
 template <std::size_t Width>
-void Read(std::string_view field, char (&member)[Width]) {
-  if (!field.empty()) CopyText(member, field);
+void Read(FieldReader& fields, std::size_t index, char (&member)[Width]) {
+  if (!fields[index].empty()) CopyText(member, fields[index]);
 }
 
 // Feeds the fields from `first` on to the members, in the order given.
 template <class... Members>
-void ReadInOrder(const Fields& fields, std::size_t first, Members&... members) {
-  (Read(fields[first++], members), ...);
+void ReadInOrder(FieldReader& fields, std::size_t first, Members&... members) {
+  (Read(fields, first++, members), ...);
 }
 
 template <class Member, std::size_t Count>
-void ReadEach(const Fields& fields, std::size_t first, Member (&members)[Count]) {
-  for (Member& member : members) Read(fields[first++], member);
+void ReadEach(FieldReader& fields, std::size_t first, Member (&members)[Count]) {
+  for (Member& member : members) Read(fields, first++, member);
+}
+
+// One that does not allow for an empty field.
+void ReadByte(FieldReader& fields, std::size_t index, const Number<int>& number,
+              std::uint8_t& member) {
+  int value;
+  if (fields.Take(index, number, value)) member = static_cast<std::uint8_t>(value);
 }
 
 // An INSPVA whose time field has its point where a time with decimals has it.
@@ -47,45 +57,45 @@ bool IsInsPva(const Fields& fields) {
 // unknown values. PNAVMSG does not allow for an empty field.
 //
 // $PNAVMSG,1,2,0A,1B,2C,3D,4E,5F,60,71,82,93,A4,B5,C6,D7,E8*hh
-void ParsePNavMsg(NmeaContext& /*context*/, const Fields& fields, PNavMsgRecord& record) {
+void ParsePNavMsg(NmeaContext& /*context*/, FieldReader& fields, PNavMsgRecord& record) {
   constexpr std::size_t FieldCount = 18;
   if (fields.Count() != FieldCount) return;
-  record.head[0] = static_cast<std::uint8_t>(ToInt(fields[1]));
-  record.head[1] = static_cast<std::uint8_t>(ToInt(fields[2]));
+  ReadByte(fields, 1, ToInt(fields[1]), record.head[0]);
+  ReadByte(fields, 2, ToInt(fields[2]), record.head[1]);
   for (std::size_t i = 0; i < std::size(record.values); ++i) {
-    record.values[i] = static_cast<std::uint8_t>(ToIntBase16(fields[3 + i]));
+    ReadByte(fields, 3 + i, ToIntBase16(fields[3 + i]), record.values[i]);
   }
 }
 
 // $CWOUT,1,-60,2,-61,3,-62,4,-63,5*hh
-void ParseCwOut(NmeaContext& /*context*/, const Fields& fields, CwOutRecord& record) {
+void ParseCwOut(NmeaContext& /*context*/, FieldReader& fields, CwOutRecord& record) {
   constexpr std::size_t FieldCount = 10;
   if (fields.Count() == FieldCount) ReadEach(fields, 1, record.values);
 }
 
 // $NAVACC,123519.00,A,12,34,56*hh
-void ParseNavAcc(NmeaContext& /*context*/, const Fields& fields, NavAccRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+void ParseNavAcc(NmeaContext& /*context*/, FieldReader& fields, NavAccRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
   if (fields[2] == "A") record.status = 1;
   ReadEach(fields, 3, record.values);
 }
 
 // $NAVPOS,0,16,61,3,SOL,1,12,4027881.532,306998.672,4919499.421,0.010,0.012,0.015*hh
-void ParseNavPos(NmeaContext& /*context*/, const Fields& fields, NavPosRecord& record) {
+void ParseNavPos(NmeaContext& /*context*/, FieldReader& fields, NavPosRecord& record) {
   ReadInOrder(fields, 1, record.solutionStatus, record.positionType, record.datum,
               record.stationNumber, record.text, record.status, record.count, record.x, record.y,
               record.z, record.sigmaX, record.sigmaY, record.sigmaZ);
 }
 
 // $NAVVEL,0,16,61,3,SOL,26,12,0.012,-0.034,0.001,0.050*hh
-void ParseNavVel(NmeaContext& /*context*/, const Fields& fields, NavVelRecord& record) {
+void ParseNavVel(NmeaContext& /*context*/, FieldReader& fields, NavVelRecord& record) {
   ReadInOrder(fields, 1, record.solutionStatus, record.positionType, record.datum,
               record.stationNumber, record.text, record.status, record.count, record.velocity[0],
               record.velocity[1], record.velocity[2], record.speedAccuracy);
 }
 
 // $NAVTIME,0,1,0.000000001,0,1,0.000000002,0,1,0.000000003,0,1,0.000000004*hh
-void ParseNavTime(NmeaContext& /*context*/, const Fields& fields, NavTimeRecord& record) {
+void ParseNavTime(NmeaContext& /*context*/, FieldReader& fields, NavTimeRecord& record) {
   constexpr std::size_t GroupFields = 3;
   std::size_t first = 1;
   for (NavTimeGroup& group : record.groups) {
@@ -95,43 +105,43 @@ void ParseNavTime(NmeaContext& /*context*/, const Fields& fields, NavTimeRecord&
 }
 
 // $SNRSTAT,1,0,-3,2,5*hh
-void ParseSnrStat(NmeaContext& /*context*/, const Fields& fields, SnrStatRecord& record) {
+void ParseSnrStat(NmeaContext& /*context*/, FieldReader& fields, SnrStatRecord& record) {
   ReadInOrder(fields, 1, record.count, record.state, record.levels[0], record.levels[1],
               record.levels[2]);
 }
 
 // $GYOACC,123519.00,0.012,-0.034,0.001,0.050,0.060,9.810*hh
-void ParseGyoAcc(NmeaContext& /*context*/, const Fields& fields, GyoAccRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+void ParseGyoAcc(NmeaContext& /*context*/, FieldReader& fields, GyoAccRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
   ReadEach(fields, 2, record.gyro);
   ReadEach(fields, 5, record.acceleration);
 }
 
 // $IMURAW,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810*hh
-void ParseImuRaw(NmeaContext& /*context*/, const Fields& fields, ImuRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+void ParseImuRaw(NmeaContext& /*context*/, FieldReader& fields, ImuRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
   ReadEach(fields, 2, record.text);
   ReadEach(fields, 4, record.values);
 }
 
 // $IMUVEH,123519.00,GYRO,ACC,0.012,-0.034,0.001,0.050,0.060,9.810*hh; the time is text alone.
-void ParseImuVeh(NmeaContext& /*context*/, const Fields& fields, ImuRecord& record) {
+void ParseImuVeh(NmeaContext& /*context*/, FieldReader& fields, ImuRecord& record) {
   CopyText(record.timeText, fields[1]);
   ReadEach(fields, 2, record.text);
   ReadEach(fields, 4, record.values);
 }
 
 // $NAVATT,123519.00,1.250,-0.500,84.200,0.050,0.050,0.120*hh
-void ParseNavAtt(NmeaContext& /*context*/, const Fields& fields, NavAttRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+void ParseNavAtt(NmeaContext& /*context*/, FieldReader& fields, NavAttRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
   ReadEach(fields, 2, record.values);
 }
 
 // $INSPVA,140326,123519.00,47.37640000,8.54760000,431.20,1.2,11.8,0.0,1.25,-0.50,84.20*hh
-void ParseInsPva(NmeaContext& /*context*/, const Fields& fields, InsPvaRecord& record) {
-  ReadDate(fields[1], record.utc);
+void ParseInsPva(NmeaContext& /*context*/, FieldReader& fields, InsPvaRecord& record) {
+  fields.Date(1, record.utc);
   CopyText(record.dateText, fields[1]);
-  ReadTimeOfDay(fields[2], record.utc, record.timeText);
+  fields.TimeOfDay(2, record.utc, record.timeText);
   ReadInOrder(fields, 3, record.latitude, record.longitude, record.height, record.velocity[0],
               record.velocity[1], record.velocity[2], record.attitude[0], record.attitude[1],
               record.attitude[2]);

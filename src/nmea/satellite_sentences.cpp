@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 
 #include "base/characters.h"
 #include "base/unknown.h"
@@ -29,9 +30,11 @@ constexpr int Glonass = 2;
 constexpr std::size_t GsaFields = 18;
 constexpr std::size_t GsaFieldsWithSystem = 19;
 
-int GsaSystem(const Fields& fields) {
+int GsaSystem(FieldReader& fields) {
   if (fields.Count() == GsaFieldsWithSystem) {
-    return fields[18].empty() ? -1 : ToInt(fields[18]);
+    int systemId = -1;
+    fields.Int(18, systemId);
+    return systemId;
   }
   const std::string_view talker = fields[0].substr(1, 2);
   for (const TalkerRow& row : GsaTalkers) {
@@ -49,11 +52,15 @@ constexpr int SystemOfNumber(int number) {
 }
 
 // A whole number or a decimal one, of which the integer part counts.
-std::uint8_t CarrierToNoise(std::string_view field) {
+void ReadCarrierToNoise(FieldReader& fields, std::size_t index, std::uint8_t& cn0) {
+  const std::string_view field = fields[index];
+  if (field.empty()) return;
   if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
-    return static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
+    cn0 = static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
+    return;
   }
-  return static_cast<std::uint8_t>(Truncated(ToDouble(field)));
+  double value;
+  if (fields.Take(index, ToDouble(field), value)) cn0 = static_cast<std::uint8_t>(Truncated(value));
 }
 
 std::optional<int> GsvSystem(std::string_view address) {
@@ -63,20 +70,23 @@ std::optional<int> GsvSystem(std::string_view address) {
   return std::nullopt;
 }
 
-GsvBlock ReadBlock(const Fields& fields, std::size_t index) {
+GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   GsvBlock block{};
-  const std::string_view number = fields[index];
-  const std::string_view elevation = fields[index + 1];
-  const std::string_view azimuth = fields[index + 2];
-  const std::string_view cn0 = fields[index + 3];
-  block.numbered = !number.empty();
-  block.hasElevation = !elevation.empty();
-  block.hasAzimuth = !azimuth.empty();
-  ReadInt(number, block.number);
-  ReadInt(elevation, block.elevation);
-  ReadInt(azimuth, block.azimuth);
-  block.cn0 = cn0.empty() ? Unknown<std::uint8_t>() : CarrierToNoise(cn0);
+  block.numbered = !fields[index].empty();
+  block.isWhole = !block.numbered || fields.Take(index, FieldToInt(fields[index]), block.number);
+  block.hasElevation = !fields[index + 1].empty();
+  block.hasAzimuth = !fields[index + 2].empty();
+  block.elevation = block.azimuth = Unknown<std::uint16_t>();
+  fields.Int(index + 1, block.elevation);
+  fields.Int(index + 2, block.azimuth);
+  block.cn0 = Unknown<std::uint8_t>();
+  ReadCarrierToNoise(fields, index + 3, block.cn0);
   return block;
+}
+
+// Whether nothing of a sentence is to be kept, because a field of it does not convert.
+bool IsGivenUp(const FieldReader& fields) {
+  return fields.Fault() != NumberFault::None && !fields.HasDialect().keepsSentences;
 }
 
 }  // namespace
@@ -88,32 +98,38 @@ bool IsGsa(const Fields& fields) {
 bool IsGsv(const Fields& fields) { return fields.Count() >= 5 && fields.Count() % 4 <= 1; }
 
 // $GNGSA,A,3,80,71,73,79,69,,,,,,,,1.83,1.09,1.47,2*hh
-void ParseGsa(NmeaContext& context, const Fields& fields, GsaRecord& record) {
+void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
   constexpr std::size_t FirstUsed = 3;
   int systemId = GsaSystem(fields);
   if (fields[1] == "A") record.selectionMode = 1;
-  ReadInt(fields[2], record.fixType);
+  fields.Int(2, record.fixType);
   std::array<int, std::size(GsaRecord{}.usedSatellites)> numbers;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    if (fields[FirstUsed + i].empty()) continue;
-    const int number = FieldToInt(fields[FirstUsed + i]);
-    if (systemId == MixedSystems && record.usedCount == 0) systemId = SystemOfNumber(number);
+    int number;
+    const std::size_t index = FirstUsed + i;
+    if (fields[index].empty() || !fields.Take(index, FieldToInt(fields[index]), number)) continue;
     numbers[record.usedCount] = number;
     record.usedSatellites[record.usedCount++] = static_cast<std::uint8_t>(number);
   }
-  record.systemId = static_cast<std::uint32_t>(systemId);
-  ReadDoubleAsFloat(fields[15], record.pdop);
-  ReadDoubleAsFloat(fields[16], record.hdop);
-  ReadDoubleAsFloat(fields[17], record.vdop);
-
-  if (context.satellites.Full()) context.satellites.Reset();
-  for (std::size_t i = 0; i < record.usedCount; ++i) {
-    context.satellites.MarkUsed(systemId, numbers[i]);
+  const std::span<const int> used(numbers.data(), record.usedCount);
+  if (systemId == MixedSystems && !fields.HasDialect().gsaSystemByView) {
+    if (!used.empty()) systemId = SystemOfNumber(used.front());
+  } else if (systemId == MixedSystems && fields.Count() == GsaFields) {
+    systemId = context.satellites.SystemOf(used);
   }
+  record.systemId = static_cast<std::uint32_t>(systemId);
+  fields.DoubleAsFloat(15, record.pdop);
+  fields.DoubleAsFloat(16, record.hdop);
+  fields.DoubleAsFloat(17, record.vdop);
+
+  if (IsGivenUp(fields)) return;
+  if (context.satellites.Full()) context.satellites.Reset();
+  if (systemId < 0 && fields.HasDialect().gsaSystemByView) return;
+  for (const int number : used) context.satellites.MarkUsed(systemId, number);
 }
 
 // $GPGSV,3,1,11,03,03,111,00,04,15,270,00,06,01,010,00,13,06,292,00,1*hh
-void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager& time) {
+void AccumulateGsv(NmeaContext& context, FieldReader& fields, const TimeManager& time) {
   constexpr std::size_t FirstBlock = 4;
   constexpr std::size_t BlockFields = 4;
   const std::size_t count = fields.Count();
@@ -122,13 +138,17 @@ void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager
   const auto systemId = GsvSystem(fields[0]);
   const bool hasSignalId = count % BlockFields == 1;
   const int signalId = hasSignalId && systemId ? ToIntOrMinimum(fields[count - 1]) : 0;
+  // The exports leave out the last block of a sentence without a signal id; hosts rely on it.
+  const bool whole = fields.HasDialect().wholeGsv && !hasSignalId;
+  const std::size_t end = count - BlockFields + (whole ? 1 : 0);
   std::array<GsvBlock, LongestStarOffset / BlockFields> blocks;
   std::size_t blockCount = 0;
-  // Without a signal id this leaves out the last block of the sentence; hosts rely on it.
-  for (std::size_t i = FirstBlock; systemId && i < count - BlockFields; i += BlockFields) {
+  for (std::size_t i = FirstBlock; systemId && i < end; i += BlockFields) {
     if (fields[i].empty() && *systemId != Glonass) continue;
-    blocks[blockCount++] = ReadBlock(fields, i);
+    blocks[blockCount] = ReadBlock(fields, i);
+    if (blocks[blockCount].isWhole) ++blockCount;
   }
+  if (IsGivenUp(fields)) return;
 
   if (context.satellites.Full()) context.satellites.Reset();
   context.satellites.StampHeader(time);

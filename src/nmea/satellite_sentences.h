@@ -3,6 +3,7 @@
 
 #include "navframe/records.h"
 #include "navframe/time_manager.h"
+#include "nmea/field.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
 
@@ -14,9 +15,9 @@ bool IsGsa(const Fields& fields);
 bool IsGsv(const Fields& fields);
 
 // Fills the record and marks the used satellites in the context's satellites in view.
-void ParseGsa(NmeaContext& context, const Fields& fields, GsaRecord& record);
+void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record);
 
 // Adds the sentence's signals to the context's satellites in view.
-void AccumulateGsv(NmeaContext& context, const Fields& fields, const TimeManager& time);
+void AccumulateGsv(NmeaContext& context, FieldReader& fields, const TimeManager& time);
 
 }  // namespace navframe::nmea

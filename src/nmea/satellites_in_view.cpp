@@ -75,6 +75,24 @@ void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvB
   }
 }
 
+int SatellitesInView::SystemOf(std::span<const int> numbers) const {
+  constexpr std::size_t Systems = 256;
+  std::array<std::size_t, Systems> seen{};
+  for (const int number : numbers) {
+    for (std::size_t i = 0; i < numberedCount_; ++i) {
+      const SatelliteInView& satellite = numbered_[i];
+      if (satellite.number == number) ++seen[satellite.systemId];
+    }
+  }
+  int system = -1;
+  for (std::size_t i = 0; i < Systems; ++i) {
+    if (numbers.empty() || seen[i] != numbers.size()) continue;
+    if (system >= 0) return -1;
+    system = static_cast<int>(i);
+  }
+  return system;
+}
+
 void SatellitesInView::MarkUsed(int systemId, int number) {
   SatelliteInView* const entry = Entry(systemId, number);
   if (entry == nullptr) return;

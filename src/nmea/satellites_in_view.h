@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "navframe/records.h"
@@ -15,6 +16,7 @@ inline constexpr std::size_t MostSatellites = 96;
 // One signal as a GSV block gives it.
 struct GsvBlock {
   bool numbered;
+  bool isWhole;  // its number, if there is one, converts
   bool hasElevation;
   bool hasAzimuth;
   std::uint8_t cn0;
@@ -40,6 +42,9 @@ class SatellitesInView {
 
   // Marks a satellite that a GSA sentence lists, adding it when it is new.
   void MarkUsed(int systemId, int number);
+
+  // The one system in which all these numbers were seen; -1 when they tell none or several.
+  int SystemOf(std::span<const int> numbers) const;
 
   void SetCycleComplete() { cycleComplete_ = true; }
   bool CycleComplete() const { return cycleComplete_; }

@@ -15,12 +15,6 @@ constexpr int HexValue(char c) {
   return -1;
 }
 
-bool IsChecksum(char high, char low, std::uint8_t checksum) {
-  const int highValue = HexValue(high);
-  const int lowValue = HexValue(low);
-  return highValue >= 0 && lowValue >= 0 && highValue * 16 + lowValue == checksum;
-}
-
 // The bytes that end the search, or spoil the sentence.
 constexpr std::array<std::uint8_t, 3> Ends = {'*', '$', 0};
 
@@ -67,6 +61,12 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
   }
   sweep.commaCount = commaCount;
   sweep.checksum = checksum;
+}
+
+bool IsChecksum(char high, char low, std::uint8_t checksum) {
+  const int highValue = HexValue(high);
+  const int lowValue = HexValue(low);
+  return highValue >= 0 && lowValue >= 0 && highValue * 16 + lowValue == checksum;
 }
 
 bool ChecksumMatches(const std::uint8_t* text, const SentenceSweep& sweep) {

@@ -55,6 +55,9 @@ class Fields {
   const SentenceSweep& sweep_;
 };
 
+// Whether two upper-case hexadecimal digits are this number.
+bool IsChecksum(char high, char low, std::uint8_t checksum);
+
 // The sentence check: no NUL within, and the two upper-case hexadecimal digits behind the "*" are
 // the XOR of everything between "$" and "*". `text` is what was swept and found to hold a "*".
 bool ChecksumMatches(const std::uint8_t* text, const SentenceSweep& sweep);

@@ -13,6 +13,7 @@
 
 #include "catalogue/unknown_records.h"
 #include "navframe/records.h"
+#include "nmea/field.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
 #include "nmea/time_keeping.h"
@@ -47,7 +48,7 @@ struct SentenceRow {
   bool hasTag = false;                                 // the first byte is the tag flag
   void (*makeUnknown)(void* record) = nullptr;         // as it is before its parser runs
   void (*copy)(void* to, const void* from) = nullptr;  // of a whole record, `from` staying valid
-  void (*parse)(NmeaContext& context, const Fields& fields, void* record) = nullptr;
+  void (*parse)(NmeaContext& context, FieldReader& fields, void* record) = nullptr;
   std::uint16_t gpsTimeOffset = 0;
   std::uint16_t utcOffset = 0;  // of a record with a ClockRule
   TextMember text = {};         // the time text
@@ -80,14 +81,14 @@ void CopyRecord(void* to, const void* from) {
 }
 
 // Adds to a row what follows from the type of its record.
-template <class Record, void (*Parse)(NmeaContext&, const Fields&, Record&)>
+template <class Record, void (*Parse)(NmeaContext&, FieldReader&, Record&)>
 constexpr SentenceRow With(SentenceRow row) {
   static_assert(sizeof(Record) <= LargestRecord);
   row.size = sizeof(Record);
   row.hasTag = requires { Record::tag; };
   row.makeUnknown = [](void* record) { catalogue::MakeUnknown(*static_cast<Record*>(record)); };
   row.copy = CopyRecord<Record>;
-  row.parse = [](NmeaContext& context, const Fields& fields, void* record) {
+  row.parse = [](NmeaContext& context, FieldReader& fields, void* record) {
     Parse(context, fields, *static_cast<Record*>(record));
   };
   row.gpsTimeOffset = offsetof(Record, gpsTime);

@@ -25,85 +25,85 @@ void ReadMode(std::span<const ModeLetter> modes, std::string_view field, std::ui
 }
 
 // $GPGGA,123519.00,4807.038,N,01131.000,E,1,08,0.9,545.4,M,46.9,M,,*hh
-void ParseGga(NmeaContext& /*context*/, const Fields& fields, GgaRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
-  ReadLatitude(fields[2], fields[3], record.latitude);
-  ReadLongitude(fields[4], fields[5], record.longitude);
-  ReadInt(fields[6], record.fixQuality);
-  ReadInt(fields[7], record.satellites);
-  ReadFloat(fields[8], record.hdop);
-  ReadFloat(fields[9], record.altitude);
-  ReadFloat(fields[11], record.geoidSeparation);
-  ReadFloat(fields[13], record.correctionAge);
-  ReadInt(fields[14], record.stationId);
+void ParseGga(NmeaContext& /*context*/, FieldReader& fields, GgaRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
+  fields.Latitude(2, record.latitude);
+  fields.Longitude(4, record.longitude);
+  fields.Int(6, record.fixQuality);
+  fields.Int(7, record.satellites);
+  fields.Float(8, record.hdop);
+  fields.Float(9, record.altitude);
+  fields.Float(11, record.geoidSeparation);
+  fields.Float(13, record.correctionAge);
+  fields.Int(14, record.stationId);
 }
 
 // $GPRMC,123519.00,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,A*hh
-void ParseRmc(NmeaContext& /*context*/, const Fields& fields, RmcRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
+void ParseRmc(NmeaContext& /*context*/, FieldReader& fields, RmcRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
   if (!fields[2].empty()) record.status = fields[2] == "A" ? 1 : 0;
-  ReadLatitude(fields[3], fields[4], record.latitude);
-  ReadLongitude(fields[5], fields[6], record.longitude);
-  ReadFloat(fields[7], record.speedKnots);
-  ReadFloat(fields[8], record.course);
-  ReadDate(fields[9], record.utc);
+  fields.Latitude(3, record.latitude);
+  fields.Longitude(5, record.longitude);
+  fields.Float(7, record.speedKnots);
+  fields.Float(8, record.course);
+  fields.Date(9, record.utc);
   CopyText(record.dateText, fields[9]);
   ReadMode(RmcModes, fields[12], record.mode);
 }
 
 // $GPGLL,4916.45,N,12311.12,W,225444.00,A,A*hh
-void ParseGll(NmeaContext& /*context*/, const Fields& fields, GllRecord& record) {
-  ReadLatitude(fields[1], fields[2], record.latitude);
-  ReadLongitude(fields[3], fields[4], record.longitude);
-  ReadTimeOfDay(fields[5], record.utc);
+void ParseGll(NmeaContext& /*context*/, FieldReader& fields, GllRecord& record) {
+  fields.Latitude(1, record.latitude);
+  fields.Longitude(3, record.longitude);
+  fields.TimeOfDay(5, record.utc);
   if (fields[6] == "A") record.status = 1;
   if (fields[6] == "V") record.status = 0;
   ReadMode(Modes, fields[7], record.mode);
 }
 
 // $GPGST,172814.00,0.006,0.023,0.020,273.6,0.023,0.020,0.031*hh
-void ParseGst(NmeaContext& /*context*/, const Fields& fields, GstRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
-  ReadFloat(fields[2], record.rangeRms);
-  ReadFloat(fields[3], record.ellipseSemiMajor);
-  ReadFloat(fields[4], record.ellipseSemiMinor);
-  ReadFloat(fields[5], record.ellipseOrientation);
-  ReadFloat(fields[6], record.latitudeDeviation);
-  ReadFloat(fields[7], record.longitudeDeviation);
-  ReadFloat(fields[8], record.altitudeDeviation);
+void ParseGst(NmeaContext& /*context*/, FieldReader& fields, GstRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
+  fields.Float(2, record.rangeRms);
+  fields.Float(3, record.ellipseSemiMajor);
+  fields.Float(4, record.ellipseSemiMinor);
+  fields.Float(5, record.ellipseOrientation);
+  fields.Float(6, record.latitudeDeviation);
+  fields.Float(7, record.longitudeDeviation);
+  fields.Float(8, record.altitudeDeviation);
 }
 
 // $GPGBS,163317.00,0.2,0.2,0.5,03,,-21.4,3.8,1,0*hh; field 6, the probability of a missed
 // detection, is not stored.
-void ParseGbs(NmeaContext& /*context*/, const Fields& fields, GbsRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
-  ReadDoubleAsFloat(fields[2], record.latitudeError);
-  ReadDoubleAsFloat(fields[3], record.longitudeError);
-  ReadDoubleAsFloat(fields[4], record.altitudeError);
-  ReadInt(fields[5], record.failedSatellite);
-  ReadDoubleAsFloat(fields[7], record.bias);
-  ReadDoubleAsFloat(fields[8], record.biasDeviation);
-  ReadInt(fields[9], record.systemId);
-  ReadInt(fields[10], record.signalId);
+void ParseGbs(NmeaContext& /*context*/, FieldReader& fields, GbsRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
+  fields.DoubleAsFloat(2, record.latitudeError);
+  fields.DoubleAsFloat(3, record.longitudeError);
+  fields.DoubleAsFloat(4, record.altitudeError);
+  fields.Int(5, record.failedSatellite);
+  fields.DoubleAsFloat(7, record.bias);
+  fields.DoubleAsFloat(8, record.biasDeviation);
+  fields.Int(9, record.systemId);
+  fields.Int(10, record.signalId);
 }
 
 // $GPVTG,089.0,T,,M,15.2,N,28.2,K,A*hh
-void ParseVtg(NmeaContext& /*context*/, const Fields& fields, VtgRecord& record) {
-  ReadDoubleAsFloat(fields[1], record.courseTrue);
-  ReadDoubleAsFloat(fields[3], record.courseMagnetic);
-  ReadDoubleAsFloat(fields[5], record.speedKnots);
-  ReadDoubleAsFloat(fields[7], record.speedKmh);
+void ParseVtg(NmeaContext& /*context*/, FieldReader& fields, VtgRecord& record) {
+  fields.DoubleAsFloat(1, record.courseTrue);
+  fields.DoubleAsFloat(3, record.courseMagnetic);
+  fields.DoubleAsFloat(5, record.speedKnots);
+  fields.DoubleAsFloat(7, record.speedKmh);
   ReadMode(Modes, fields[9], record.mode);
 }
 
 // $GPZDA,172809.45,12,07,1996,00,00*hh
-void ParseZda(NmeaContext& /*context*/, const Fields& fields, ZdaRecord& record) {
-  ReadTimeOfDay(fields[1], record.utc, record.timeText);
-  ReadInt(fields[2], record.utc.day);
-  ReadInt(fields[3], record.utc.month);
-  ReadInt(fields[4], record.utc.year);
-  ReadInt(fields[5], record.zoneHours);
-  ReadInt(fields[6], record.zoneMinutes);
+void ParseZda(NmeaContext& /*context*/, FieldReader& fields, ZdaRecord& record) {
+  fields.TimeOfDay(1, record.utc, record.timeText);
+  fields.Int(2, record.utc.day);
+  fields.Int(3, record.utc.month);
+  fields.Int(4, record.utc.year);
+  fields.Int(5, record.zoneHours);
+  fields.Int(6, record.zoneMinutes);
 }
 
 using enum FilterTest;

@@ -34,6 +34,7 @@ struct SentenceTime {
 // Notes the time field of a GGA or RMC; true when it opens a new epoch.
 bool OpensEpoch(NmeaContext& context, std::string_view timeField);
 
+// The rules of the exports; streams move their clock by true_clock instead.
 void KeepTime(ClockRule rule, const SentenceTime& sentence, NmeaContext& context,
               EpochCounters& counters, TimeManager& time);
 

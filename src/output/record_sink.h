@@ -3,18 +3,27 @@
 
 #include <cstdint>
 #include <cstring>
-#include <optional>
 
+#include "base/number_text.h"
+#include "navframe/stream.h"
 #include "output/decoded_id_set.h"
-#include "output/output_queue.h"
-#include "output/payload_blocks.h"
 
 namespace navframe {
 
-// The output queue with what decides about it: the output filter, the decoded-id set and the
-// payload memory. Which of filter and set a decoder asks first is part of each protocol's contract.
+// What became of a frame: the reason why it gave no record, none where it did or where its kind
+// is collected over several frames.
+struct [[nodiscard]] DecodeResult {
+  NavframeReason reason = NavframeNoReason;
+  std::uint32_t badField = 0;             // with NavframeBadField: its number, 1 behind the address
+  NumberFault fault = NumberFault::None;  // and why it does not convert
+};
+
+// What decides about a record, and where it goes. Which of filter and set of ids a decoder asks
+// first is part of each protocol's contract.
 class RecordSink {
  public:
+  virtual ~RecordSink() = default;
+
   // The output filter: 0 lets every record pass.
   void SetFilter(std::uint32_t id) { filter_ = id; }
   bool Passes(std::uint32_t id) const { return filter_ == 0 || filter_ == id; }
@@ -24,20 +33,21 @@ class RecordSink {
   void NoteDecoded(std::uint32_t id) { decoded_.Insert(id); }
   std::uint32_t DrainDecodedIds(std::uint32_t* ids) { return decoded_.Drain(ids); }
 
-  // A payload block with undefined content; every byte must be written before it is pushed.
-  void* Allocate(std::uint32_t size) { return blocks_.Allocate(size); }
+  // Room for a payload, with undefined content; every byte must be written before it is pushed.
+  virtual void* Allocate(std::uint32_t size) = 0;
+
+  // Hands over a payload of Allocate, or a fixed one.
+  virtual void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
+                           std::uint32_t source = SourceStream) = 0;
+
+  // Gives up a payload that will not be pushed.
+  virtual void Abandon(void* payload, std::uint32_t size) = 0;
 
   // Names a payload that may be pushed though it is no memory of Allocate: whoever frees or drops
-  // a record with it frees nothing. See PayloadBlocks.
-  void DeclareFixed(const void* payload) { blocks_.DeclareFixed(payload); }
+  // a record with it frees nothing.
+  virtual void DeclareFixed(const void* payload) = 0;
 
-  // Hands a payload of Allocate, or a fixed one, over to the queue.
-  void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
-                   std::uint32_t source = SourceStream) {
-    PushMessage(QueuedMessage{{id, source, payload}, size});
-  }
-
-  // The same for a finished record elsewhere, which is copied.
+  // PushMessage of a finished record elsewhere, which is copied.
   template <class Record>
   void PushCopy(std::uint32_t id, const Record& record) {
     void* const payload = Allocate(sizeof(Record));
@@ -45,26 +55,13 @@ class RecordSink {
     PushMessage(id, payload, sizeof(Record));
   }
 
-  // Gives up a payload that will not be pushed, without freeing it.
-  void Abandon(void* payload, std::uint32_t size) { blocks_.Abandon(payload, size); }
-
-  std::uint32_t Waiting() const { return queue_.Size(); }
-
-  // The oldest record with the size of its payload, which is the caller's to free.
-  std::optional<QueuedMessage> PopOldest() { return queue_.Pop(); }
-
-  // Pops the oldest record into `out`. See GNSSGetMsg.
-  std::uint32_t Pop(GnssMessage& out, std::uint32_t wantedId);
-
-  // Frees a popped payload, unless it is a fixed one, and clears the pointer.
-  void Release(GnssMessage& message);
+ protected:
+  RecordSink() = default;
+  RecordSink(const RecordSink&) = delete;
+  RecordSink& operator=(const RecordSink&) = delete;
 
  private:
-  void PushMessage(const QueuedMessage& message);
-
-  OutputQueue queue_;
   DecodedIdSet decoded_;
-  PayloadBlocks blocks_;
   std::uint32_t filter_ = 0;
 };
 

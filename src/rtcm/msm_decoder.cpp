@@ -8,6 +8,7 @@
 #include "navframe/navframe.h"
 #include "rtcm/msm_cells.h"
 #include "rtcm/msm_layout.h"
+#include "time/true_clock.h"
 
 namespace navframe::rtcm {
 namespace {
@@ -57,8 +58,12 @@ void ClearUnused(MsmRecord& record, std::uint32_t used) {
   }
 }
 
-void StampTime(MsmRecord& record, TimeManager& time) {
-  if (!IsUnknown(record.epochTime)) {
+void StampTime(MsmRecord& record, const Services& services) {
+  TimeManager& time = services.time;
+  if (services.dialect.trueClock) {
+    true_clock::SetTow(record.epochTime, time);
+    CopyText(record.timeText, time.timeText);
+  } else if (!IsUnknown(record.epochTime)) {
     time.updateTOW(record.epochTime);
     CopyText(record.timeText, time.timeText);
   }
@@ -67,15 +72,15 @@ void StampTime(MsmRecord& record, TimeManager& time) {
 
 }  // namespace
 
-void MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& services) {
+DecodeResult MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& services) {
   const MsmRow* const row = RowOf(number);
-  if (row == nullptr) return;
+  if (row == nullptr) return {NavframeNoKind};
   const auto header = ReadMsmHeader(frame, row->system);
-  if (!header) return;
+  if (!header) return {NavframeBadContent};
   const MsmKind& kind = Kinds[number % 10];
   const std::uint32_t dataBits =
       header->satelliteCount * kind.satelliteBits + header->cellCount * kind.cellBits;
-  if (!frame.Has(header->dataBit, dataBits)) return;
+  if (!frame.Has(header->dataBit, dataBits)) return {NavframeBadContent};
 
   auto* const record = static_cast<MsmRecord*>(services.sink.Allocate(sizeof(MsmRecord)));
   std::memset(record, 0, offsetof(MsmRecord, observations));
@@ -89,13 +94,14 @@ void MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& serv
   interval_.Add(header->epochTime);
 
   services.sink.NoteDecoded(row->msgId);
-  StampTime(*record, services.time);
+  StampTime(*record, services);
   // A blocked record has moved the clock all the same; it is given up without being freed.
   if (services.sink.Passes(row->msgId)) {
     services.sink.PushMessage(row->msgId, record, sizeof(MsmRecord));
   } else {
     services.sink.Abandon(record, sizeof(MsmRecord));
   }
+  return {};
 }
 
 }  // namespace navframe::rtcm

@@ -37,7 +37,7 @@ class MsmDecoder {
  public:
   // Decodes message `number`, sets the clock to its epoch and pushes its record. A number that is
   // not decoded, or a frame that does not hold what it announces, leaves no trace.
-  void Decode(std::uint32_t number, const Frame& frame, Services& services);
+  DecodeResult Decode(std::uint32_t number, const Frame& frame, Services& services);
 
  private:
   EpochInterval interval_;

@@ -27,13 +27,14 @@ constexpr EphemerisRow EphemerisRows[] = {
 
 // The reverse of every other filter test, on purpose: an ephemeris is decoded only while the
 // filter asks for something else, and what was decoded is dropped. None ever becomes a record.
-void DecodeEphemeris(const EphemerisRow& row, const Frame& frame, const RecordSink& sink) {
+DecodeResult DecodeEphemeris(const EphemerisRow& row, const Frame& frame, const RecordSink& sink) {
   if (!sink.Passes(row.filterValue)) row.decode(frame);
+  return {NavframeNoKind};
 }
 
 }  // namespace
 
-void RtcmDecoder::Decode(const Frame& frame) {
+DecodeResult RtcmDecoder::Decode(const Frame& frame) {
   // With a payload of less than two bytes the number reaches into the checksum, and is taken from
   // there all the same.
   const auto number =
@@ -41,11 +42,11 @@ void RtcmDecoder::Decode(const Frame& frame) {
   if (number >= FirstMsmNumber && number <= LastMsmNumber) {
     return msm_.Decode(number, frame, services_);
   }
-  if (DecodeStation(number, frame, services_)) return;
+  if (DecodeStation(number, frame, services_)) return {};
   for (const EphemerisRow& row : EphemerisRows) {
     if (row.number == number) return DecodeEphemeris(row, frame, services_.sink);
   }
-  DecodeProprietary(number, frame, services_);
+  return DecodeProprietary(number, frame, services_);
 }
 
 }  // namespace navframe::rtcm

@@ -10,10 +10,11 @@ namespace navframe::rtcm {
 class RtcmDecoder {
  public:
   // `sink` and `time` must outlive the decoder.
-  RtcmDecoder(RecordSink& sink, TimeManager& time) : services_{sink, time} {}
+  RtcmDecoder(RecordSink& sink, TimeManager& time, const Dialect& dialect = LegacyDialect)
+      : services_{sink, time, dialect} {}
 
   // Dispatches by message number. A number without a decoder yields nothing.
-  void Decode(const Frame& frame);
+  DecodeResult Decode(const Frame& frame);
 
  private:
   Services services_;

@@ -12,22 +12,17 @@ constexpr std::uint32_t PayloadLengthMask = 0x03FF;
 
 }  // namespace
 
-FramerResult FrameRtcm3(Stream& stream, OverlappingChecksum<Crc24q>& crc, RtcmDecoder& decoder) {
-  InputRing& ring = stream.ring;
-  const std::uint32_t available = ring.Available();
-  if (available < HeaderLength) return FramerResult::NeedMore;
-  const std::uint32_t header = std::uint32_t{ring[1]} << 8 | ring[2];
-  if ((header & ReservedMask) != 0) return SkipOneByte(stream);
+Framing FrameRtcm3(const Head& head, OverlappingChecksum<Crc24q>& crc) {
+  if (head.available < HeaderLength) return Framing::NeedMore();
+  const std::uint32_t header = std::uint32_t{head.bytes[1]} << 8 | head.bytes[2];
+  if ((header & ReservedMask) != 0) return Framing::Rejected(NavframeBadHeader);
   const std::uint32_t protectedLength = HeaderLength + (header & PayloadLengthMask);
   const std::uint32_t length = protectedLength + ChecksumLength;
-  if (available < length) return FramerResult::NeedMore;
+  if (head.available < length) return Framing::NeedMore(length);
 
-  const std::uint8_t* const bytes = ring.View(length);
-  const std::uint64_t stored = UnsignedBits(bytes, protectedLength * 8, ChecksumLength * 8);
-  if (crc.Of(ring.Position(), {bytes, protectedLength}) != stored) return SkipOneByte(stream);
-  decoder.Decode({bytes, length});
-  AcceptFrame(stream, length);
-  return FramerResult::Done;
+  const std::uint64_t stored = UnsignedBits(head.bytes, protectedLength * 8, ChecksumLength * 8);
+  const bool valid = crc.Of(head.position, {head.bytes, protectedLength}) == stored;
+  return valid ? Framing::Frame(length) : Framing::Rejected(NavframeBadChecksum, length);
 }
 
 }  // namespace navframe::rtcm

@@ -1,15 +1,16 @@
-// Cuts RTCM 3 frames out of the stream.
+// Recognises RTCM 3 frames.
 #pragma once
 
+#include "framing/framing.h"
 #include "framing/overlapping_checksum.h"
-#include "framing/stream.h"
 #include "rtcm/crc24q.h"
-#include "rtcm/rtcm_decoder.h"
 
 namespace navframe::rtcm {
 
+inline constexpr std::uint32_t LongestFrame = 3 + 1023 + 3;
+
 // The framer of 0xD3: 6 reserved zero bits, a 10-bit payload length, the payload, CRC-24Q over all
 // of that. An empty payload is valid.
-FramerResult FrameRtcm3(Stream& stream, OverlappingChecksum<Crc24q>& crc, RtcmDecoder& decoder);
+Framing FrameRtcm3(const Head& head, OverlappingChecksum<Crc24q>& crc);
 
 }  // namespace navframe::rtcm

@@ -5,6 +5,7 @@
 #include "catalogue/unknown_records.h"
 #include "navframe/navframe.h"
 #include "rtcm/proprietary.h"
+#include "time/true_clock.h"
 
 namespace navframe::rtcm {
 namespace {
@@ -29,6 +30,7 @@ struct SubTypeRow {
   const void* unknown = nullptr;
   void (*decode)(const Frame& frame, void* record) = nullptr;
   GPSTIME (*timeOf)(const void* record) = nullptr;
+  bool noTowIsZero = false;  // the record has time of week 0 for none
 };
 
 // Adds to a row what follows from the type of its record.
@@ -42,6 +44,7 @@ constexpr SubTypeRow With(SubTypeRow row) {
   if constexpr (requires { Record::gpsTime; }) {
     row.timeOf = [](const void* record) { return static_cast<const Record*>(record)->gpsTime; };
   } else if constexpr (requires { Record::week; }) {
+    row.noTowIsZero = std::is_same_v<Record, TimeStatusRecord>;
     row.timeOf = [](const void* record) {
       const auto& times = *static_cast<const Record*>(record);
       return GPSTIME{times.tow, static_cast<std::uint16_t>(times.week), 0};
@@ -89,7 +92,15 @@ void SetClockFrom(GPSTIME gpsTime, TimeManager& time) {
   }
 }
 
-void HandleTime(const SubTypeRow& row, void* record, TimeManager& time) {
+// A message without a time of week leaves the clock alone. That of 4074 sub-type 243 is 0 then.
+void SetTrueClockFrom(const SubTypeRow& row, GPSTIME gpsTime, TimeManager& time) {
+  if (IsUnknown(gpsTime.tow) || (row.noTowIsZero && gpsTime.tow == 0)) return;
+  if (IsUnknown(gpsTime.week)) return true_clock::SetTow(gpsTime.tow, time);
+  true_clock::SetGpsTime(gpsTime, time);
+}
+
+void HandleTime(const SubTypeRow& row, void* record, const Services& services) {
+  TimeManager& time = services.time;
   switch (row.time) {
     case None:
       return;
@@ -99,13 +110,14 @@ void HandleTime(const SubTypeRow& row, void* record, TimeManager& time) {
       return;
     }
     case SetClock:
-      return SetClockFrom(row.timeOf(record), time);
-    case SetOrClearClock: {
-      const GPSTIME gpsTime = row.timeOf(record);
-      if (IsUnknown(gpsTime.tow)) return time.clearTime(false);
-      return SetClockFrom(gpsTime, time);
-    }
+    case SetOrClearClock:
+      break;
   }
+  const GPSTIME gpsTime = row.timeOf(record);
+  if (services.dialect.clockNeedsTow) return SetTrueClockFrom(row, gpsTime, time);
+  const bool clears = row.time == SetOrClearClock && IsUnknown(gpsTime.tow);
+  if (clears) return time.clearTime(false);
+  SetClockFrom(gpsTime, time);
 }
 
 void DecodeSubType(const SubTypeRow& row, const Frame& frame, Services& services) {
@@ -116,24 +128,24 @@ void DecodeSubType(const SubTypeRow& row, const Frame& frame, Services& services
   void* const record = services.sink.Allocate(row.size);
   std::memcpy(record, row.unknown, row.size);
   row.decode(frame, record);
-  HandleTime(row, record, services.time);
+  HandleTime(row, record, services);
   services.sink.PushMessage(row.msgId, record, row.size);
 }
 
 }  // namespace
 
-void DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services) {
+DecodeResult DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services) {
   for (const Family& family : Families) {
     if (family.number != number || !frame.Has(FirstFieldBit, family.subTypeBits)) continue;
     const std::uint64_t subType = UnsignedBits(frame.bytes, FirstFieldBit, family.subTypeBits);
     for (const SubTypeRow& row : SubTypeRows) {
       if (row.number != number || row.subType != subType) continue;
-      if (row.frameLength == 0 || row.frameLength == frame.length) {
-        DecodeSubType(row, frame, services);
-      }
-      return;
+      if (row.frameLength != 0 && row.frameLength != frame.length) return {NavframeBadContent};
+      DecodeSubType(row, frame, services);
+      return {};
     }
   }
+  return {NavframeNoKind};
 }
 
 }  // namespace navframe::rtcm

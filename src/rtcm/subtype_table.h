@@ -8,6 +8,6 @@ namespace navframe::rtcm {
 
 // Decodes a message of one of the families and pushes its record. Does nothing for any other
 // message number, for an unknown sub-type, or for a length that the sub-type does not allow.
-void DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services);
+DecodeResult DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services);
 
 }  // namespace navframe::rtcm

@@ -17,7 +17,7 @@ struct FletcherSum {
 // Both sums modulo 256. Has what OverlappingChecksum wants.
 struct Fletcher {
   using Value = FletcherSum;
-  static constexpr std::uint32_t LongestProtected = HeaderLength - ClassOffset + LongestPayload;
+  static constexpr std::uint32_t LongestProtected = HeaderLength - ClassOffset + LongestRawPayload;
 
   static FletcherSum Of(const std::uint8_t* bytes, std::size_t length);
   static FletcherSum With(FletcherSum sum, std::uint8_t byte) {

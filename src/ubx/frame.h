@@ -14,6 +14,8 @@ inline constexpr std::uint32_t LengthOffset = 4;
 inline constexpr std::uint32_t HeaderLength = 6;
 inline constexpr std::uint32_t ChecksumLength = 2;
 inline constexpr std::uint32_t LongestPayload = 4048;
+inline constexpr std::uint32_t LongestRawPayload = 16 + 255 * 32;  // of all raw measurements
+inline constexpr std::uint32_t LongestFrame = HeaderLength + LongestPayload + ChecksumLength;
 
 // A payload whose frame was checked. Fields are read with ReadLe, by offset from its first byte.
 struct Payload {

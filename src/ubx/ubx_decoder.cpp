@@ -12,13 +12,16 @@ constexpr std::uint32_t CheckErrorCode = 1;
 
 }  // namespace
 
-void UbxDecoder::Decode(const std::uint8_t* frame, std::uint32_t length) {
+DecodeResult UbxDecoder::Decode(const std::uint8_t* frame, std::uint32_t length) {
   const MessageRow* const row = FindMessage(frame[ClassOffset], frame[IdOffset]);
-  if (row == nullptr || !row->frameLength.Takes(length) || !sink_.Passes(row->msgId)) return;
+  if (row == nullptr) return {NavframeNoKind};
+  if (!row->frameLength.Takes(length)) return {NavframeBadContent};
+  if (!sink_.Passes(row->msgId)) return {};
   sink_.NoteDecoded(row->msgId);
   void* const record = sink_.Allocate(row->recordSize);
   row->decode({frame + HeaderLength, length - HeaderLength - ChecksumLength}, time_, record);
   sink_.PushMessage(row->msgId, record, row->recordSize);
+  return {};
 }
 
 void UbxDecoder::ReportCheckError() {

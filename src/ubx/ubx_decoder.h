@@ -15,7 +15,7 @@ class UbxDecoder {
 
   // Decodes a whole frame of `length` bytes, or does nothing when it is of no known message, of a
   // length that its message does not have, or blocked by the output filter.
-  void Decode(const std::uint8_t* frame, std::uint32_t length);
+  DecodeResult Decode(const std::uint8_t* frame, std::uint32_t length);
 
   // Pushes the diagnostic record of a frame with a wrong checksum.
   void ReportCheckError();

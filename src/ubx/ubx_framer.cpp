@@ -4,29 +4,36 @@
 #include "ubx/frame.h"
 
 namespace navframe::ubx {
+namespace {
 
-FramerResult FrameUbx(Stream& stream, OverlappingChecksum<Fletcher>& checksum,
-                      UbxDecoder& decoder) {
-  InputRing& ring = stream.ring;
-  const std::uint32_t available = ring.Available();
-  if (available < HeaderLength) return FramerResult::NeedMore;
-  if (ring[1] != SecondSyncByte) return SkipOneByte(stream);
-  const std::uint32_t payloadLength = ReadLe<std::uint16_t>(ring.View(HeaderLength), LengthOffset);
-  if (payloadLength > LongestPayload) return SkipOneByte(stream);
+constexpr std::uint8_t RawMeasurementsClass = 0x02;
+constexpr std::uint8_t RawMeasurementsId = 0x15;
+
+std::uint32_t LongestPayloadOf(const std::uint8_t* frame, bool longRawMeasurements) {
+  const bool raw =
+      frame[ClassOffset] == RawMeasurementsClass && frame[IdOffset] == RawMeasurementsId;
+  return raw && longRawMeasurements ? LongestRawPayload : LongestPayload;
+}
+
+}  // namespace
+
+Framing FrameUbx(const Head& head, bool longRawMeasurements,
+                 OverlappingChecksum<Fletcher>& checksum) {
+  const std::uint8_t* const frame = head.bytes;
+  if (head.available < HeaderLength) return Framing::NeedMore();
+  if (frame[1] != SecondSyncByte) return Framing::Rejected(NavframeBadHeader);
+  const std::uint32_t payloadLength = ReadLe<std::uint16_t>(frame, LengthOffset);
   const std::uint32_t checksumOffset = HeaderLength + payloadLength;
   const std::uint32_t length = checksumOffset + ChecksumLength;
-  if (available < length) return FramerResult::NeedMore;
-
-  const std::uint8_t* const frame = ring.View(length);
-  const FletcherSum stored{frame[checksumOffset], frame[checksumOffset + 1]};
-  if (checksum.Of(ring.Position() + ClassOffset,
-                  {frame + ClassOffset, checksumOffset - ClassOffset}) != stored) {
-    decoder.ReportCheckError();
-    return SkipOneByte(stream);
+  if (payloadLength > LongestPayloadOf(frame, longRawMeasurements)) {
+    return Framing::Rejected(NavframeBadLength, length);
   }
-  decoder.Decode(frame, length);
-  AcceptFrame(stream, length);
-  return FramerResult::Done;
+  if (head.available < length) return Framing::NeedMore(length);
+
+  const FletcherSum stored{frame[checksumOffset], frame[checksumOffset + 1]};
+  const FletcherSum sum =
+      checksum.Of(head.position + ClassOffset, {frame + ClassOffset, checksumOffset - ClassOffset});
+  return sum == stored ? Framing::Frame(length) : Framing::Rejected(NavframeBadChecksum, length);
 }
 
 }  // namespace navframe::ubx

@@ -1,15 +1,15 @@
-// Cuts UBX frames out of the stream.
+// Recognises UBX frames.
 #pragma once
 
+#include "framing/framing.h"
 #include "framing/overlapping_checksum.h"
-#include "framing/stream.h"
 #include "ubx/fletcher.h"
-#include "ubx/ubx_decoder.h"
 
 namespace navframe::ubx {
 
 // The framer of 0xB5. A frame is taken when 0x62 follows, its payload is at most 4048 bytes long
-// and the checksum is right. A wrong checksum yields a diagnostic record and costs one byte.
-FramerResult FrameUbx(Stream& stream, OverlappingChecksum<Fletcher>& checksum, UbxDecoder& decoder);
+// (of raw measurements, with `longRawMeasurements`, 8176) and the checksum is right.
+Framing FrameUbx(const Head& head, bool longRawMeasurements,
+                 OverlappingChecksum<Fletcher>& checksum);
 
 }  // namespace navframe::ubx

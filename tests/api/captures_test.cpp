@@ -58,7 +58,7 @@ TEST(Captures, FramesAndRecords) {
             done = true;
           } catch (const std::logic_error&) {
             ++unconvertible;
-            static_cast<void>(SkipOneByte(decoder->stream));
+            static_cast<void>(SkipOneByte(decoder->input));
           }
         }
         for (const Record& record : PopAll(*decoder)) {
@@ -66,7 +66,7 @@ TEST(Captures, FramesAndRecords) {
           if (counts && record.id < catalogue::FirstStreamOnlyId) ++records[record.id];
         }
       }
-      EXPECT_EQ(decoder->stream.statistics.acceptedFrames + unconvertible, frames) << name;
+      EXPECT_EQ(decoder->input.statistics.acceptedFrames + unconvertible, frames) << name;
       EXPECT_EQ(records, wanted) << name << " by " << chunk;
     }
   }

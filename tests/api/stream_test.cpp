@@ -44,9 +44,9 @@ TEST(Stream, FramesAcrossTheEndOfTheRingAreWhole) {
   for (const Bytes& frame : Frames()) {
     for (const std::size_t before : {std::size_t{1}, std::size_t{5}, frame.size() - 1}) {
       const auto decoder = std::make_unique<Decoder>();
-      PlaceHead(decoder->stream, InputRing::Capacity - 1 - static_cast<std::uint32_t>(before));
+      PlaceHead(decoder->input, InputRing::Capacity - 1 - static_cast<std::uint32_t>(before));
       ASSERT_TRUE(SameRecords(Push(*decoder, frame), Decoded(frame))) << before;
-      ASSERT_EQ(decoder->stream.statistics.skippedBytes, 1U);
+      ASSERT_EQ(decoder->input.statistics.skippedBytes, 1U);
     }
   }
 }
@@ -61,7 +61,7 @@ TEST(Stream, EverySingleBitFlipIsRejected) {
       for (const Record& record : Push(*decoder, flipped + Quiet)) {
         ASSERT_EQ(record.id, MsgIdDiagnostic) << bit;
       }
-      ASSERT_EQ(decoder->stream.statistics.skippedBytes, frame.size() + Quiet.size()) << bit;
+      ASSERT_EQ(decoder->input.statistics.skippedBytes, frame.size() + Quiet.size()) << bit;
     }
   }
 }

@@ -347,7 +347,7 @@ TEST(LogHeader, HasExactlyTheFieldsOfItsForm) {
 }
 
 void DecodeLine(Decoder& decoder, std::uint32_t id, const std::string& line) {
-  decoder.asciiLog.DecodeLine(std::string_view(line).substr(0, line.size() - 2), id);
+  decoder.decoders.asciiLog.DecodeLine(std::string_view(line).substr(0, line.size() - 2), id);
 }
 
 std::string LineOf(std::uint32_t id) {

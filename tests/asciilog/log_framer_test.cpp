@@ -19,7 +19,7 @@ Counts Outcome(std::size_t records, std::size_t accepted, std::size_t skipped, s
   return {records, accepted, skipped, left, static_cast<std::size_t>(state)};
 }
 Counts OutcomeOf(Decoder& decoder) {
-  const Stream& s = decoder.stream;
+  const RingInput& s = decoder.input;
   return Outcome(ReleaseAll(decoder), s.statistics.acceptedBytes, s.statistics.skippedBytes,
                  s.ring.Available(), s.state);
 }
@@ -103,8 +103,8 @@ TEST(LogFramer, LineAcrossTheEndOfTheRingIsTakenAndOfTheIndicesIsNot) {
   const Bytes half(InputRing::Capacity / 2, 'x');
   for (const int halves : {0, 510}) {  // from the end of the ring to that of the 32-bit indices
     const auto decoder = std::make_unique<Decoder>();
-    InputRing& ring = decoder->stream.ring;
-    PlaceHead(decoder->stream, InputRing::Capacity - 30);
+    InputRing& ring = decoder->input.ring;
+    PlaceHead(decoder->input, InputRing::Capacity - 30);
     for (int i = 0; i < halves; ++i) {
       ring.Append(half.data(), InputRing::Capacity / 2);
       ring.Advance(InputRing::Capacity / 2);

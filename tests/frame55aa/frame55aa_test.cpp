@@ -10,7 +10,7 @@ namespace {
 constexpr std::uint32_t Lengths[] = {8, 164, 204, 224, 264, 420, 460, 480};
 
 std::vector<double> CountsOf(const Decoder& decoder) {
-  const FramingStatistics& s = decoder.stream.statistics;
+  const FramingStatistics& s = decoder.input.statistics;
   return Values(s.acceptedFrames, s.acceptedBytes, s.skippedBytes, s.frames55Aa, s.bytes55Aa);
 }
 
@@ -19,7 +19,7 @@ TEST(Frame55Aa, LengthFieldDecides) {
   decoder->SetMsgTypes(Protocol55Aa);
   const auto accepts = [&](std::uint32_t length) {
     Push(*decoder, Payload(6).U8(0, 0x55).U8(1, 0xAA).U32(2, length));
-    const bool waits = decoder->stream.ring.Available() == 6;
+    const bool waits = decoder->input.ring.Available() == 6;
     // Ends the frame that waits with a wrong checksum, or flushes length bytes like a sync byte.
     Push(*decoder, Bytes(500, 1));
     return waits;

@@ -13,7 +13,7 @@ void Append(InputRing& ring, const Bytes& bytes) {
 
 // At every size up to that of the longest view; 64 bytes more may be loaded behind it.
 TEST(InputRing, BytesStayInOrderAcrossTheEndOfTheBuffer) {
-  Stream stream;
+  RingInput stream;
   InputRing& ring = stream.ring;
   for (const std::uint32_t size : {300U, 32768U}) {
     const Bytes bytes = NoiseBytes(size, size);

@@ -23,7 +23,7 @@ ParserState Rule(std::uint8_t byte, std::uint32_t mask, std::uint32_t board) {
 
 // One scan over a chunk, without a framer: is one to be called now, of which state, behind how many
 // skipped bytes and with how many in front of it.
-std::vector<double> Scanned(Stream& stream, const Bytes& chunk, const SyncBytes& syncBytes) {
+std::vector<double> Scanned(RingInput& stream, const Bytes& chunk, const SyncBytes& syncBytes) {
   stream.state = ParserState::Scanning;
   stream.statistics = {};
   stream.ring.Append(chunk.data(), static_cast<std::uint32_t>(chunk.size()));
@@ -32,7 +32,7 @@ std::vector<double> Scanned(Stream& stream, const Bytes& chunk, const SyncBytes&
 }
 
 TEST(SyncScan, EveryMaskAndBoardType) {
-  Stream stream;
+  RingInput stream;
   std::mt19937 random(7);
   const Bytes starts = {0xB5, 0xD3, '$', 'U', '\\', '#', 0xAA, 0x62, 0, 0xFF};
   for (std::uint32_t bits = 0; bits < 256; ++bits) {
@@ -61,7 +61,7 @@ TEST(SyncScan, EveryMaskAndBoardType) {
 
 TEST(SyncScan, CandidateBehindTheEndOfTheBuffer) {
   const SyncBytes syncBytes({0xFFFFFFFF, 0});
-  Stream stream;
+  RingInput stream;
   for (const std::uint32_t inFront : {2U, 5U, 64U, 100U}) {
     for (const std::uint32_t garbage : {0U, 4U, 99U, 163U}) {
       PlaceHead(stream, InputRing::Capacity - inFront);
@@ -78,7 +78,7 @@ TEST(SyncScan, MaskHoldsFromTheNextScanOn) {
   EXPECT_TRUE(Push(*decoder, "xx" + sentence.substr(0, 3)).empty());
   decoder->SetMsgTypes(0);
   EXPECT_EQ(Push(*decoder, sentence.substr(3) + sentence).size(), 1U);
-  EXPECT_EQ(decoder->stream.statistics.skippedBytes, 2 + sentence.size());
+  EXPECT_EQ(decoder->input.statistics.skippedBytes, 2 + sentence.size());
   decoder->SetMsgTypes(ProtocolNmea);
   EXPECT_EQ(Push(*decoder, sentence).size(), 1U);
 }

@@ -93,7 +93,8 @@ TEST(Dispatch, SentencesBehindATagBlock) {
     const std::string text = Sentence(kind.body) + std::string(200, ' ');
     nmea::SentenceSweep sweep;
     nmea::Sweep(reinterpret_cast<const std::uint8_t*>(text.data()), 100, sweep);
-    decoder->nmea.Decode(nmea::Fields(text.data(), sweep), nmea::TagFlag::BehindTagBlock);
+    static_cast<void>(decoder->decoders.nmea.Decode(nmea::Fields(text.data(), sweep),
+                                                    nmea::TagFlag::BehindTagBlock));
     const auto records = PopAll(*decoder);
     ASSERT_EQ(Ids(records), IdList{kind.id < 10 ? kind.id + 20 : kind.id});
     if (kind.id >= 30 && kind.id <= 36) continue;
@@ -140,13 +141,13 @@ TEST(Dispatch, BadFieldLeavesAsExceptionAndTheSentenceStays) {
       } catch (const std::logic_error& error) {
         EXPECT_STREQ(error.what(), what) << body;
       }
-      EXPECT_EQ(decoder->stream.state, ParserState::NmeaSentence);
-      EXPECT_EQ(decoder->stream.ring[1], poison[1]);
-      EXPECT_EQ(decoder->stream.statistics.acceptedFrames, 1U);
+      EXPECT_EQ(decoder->input.state, ParserState::NmeaSentence);
+      EXPECT_EQ(decoder->input.ring[1], poison[1]);
+      EXPECT_EQ(decoder->input.statistics.acceptedFrames, 1U);
     }
     EXPECT_EQ(PopAll(*decoder).size(), 1U) << "what was decoded before stays queued";
     // Stepping over its head, the rest of the stream goes on.
-    static_cast<void>(SkipOneByte(decoder->stream));
+    static_cast<void>(SkipOneByte(decoder->input));
     const auto ids = Ids(Push(*decoder, Sentence("GPVTG,")));
     EXPECT_EQ(std::count(ids.begin(), ids.end(), 8U), 3) << body;
   }

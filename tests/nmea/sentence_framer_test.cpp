@@ -22,9 +22,9 @@ std::string Sealed(const std::string& text) {
 // that wait.
 using Framed = std::array<std::size_t, 5>;
 Framed StateOf(const Decoder& decoder) {
-  const FramingStatistics& counted = decoder.stream.statistics;
+  const FramingStatistics& counted = decoder.input.statistics;
   return {counted.acceptedFrames, counted.acceptedBytes, counted.skippedBytes,
-          static_cast<std::size_t>(decoder.stream.state), decoder.stream.ring.Available()};
+          static_cast<std::size_t>(decoder.input.state), decoder.input.ring.Available()};
 }
 Framed FramedIn(std::string_view text) {
   const auto decoder = std::make_unique<Decoder>();
@@ -127,7 +127,7 @@ TEST(SentenceFramer, HeadIsNotTrustedAfterAnExactFill) {
   for (const std::string& head : {forged, std::string("*xxxxx")}) {
     const auto decoder = std::make_unique<Decoder>();
     Push(*decoder, "$GPVTG,");
-    Push(*decoder, Bytes(decoder->stream.ring.Free(), 'x'));
+    Push(*decoder, Bytes(decoder->input.ring.Free(), 'x'));
     EXPECT_EQ(StateOf(*decoder), (Framed{0, 0, 0, 1, 0}));
     Push(*decoder, head);
     EXPECT_EQ(StateOf(*decoder), (Framed{0, 0, head.size(), 0, 0})) << head;
@@ -152,7 +152,7 @@ TEST(SentenceFramer, LikeThePlainFramer) {
     decoder->SetMsgTypes(ProtocolNmea | ProtocolNmeaTagBlock);
     PlainFramer plain(i % 25 == 0 ? "x" : "");
     if (i % 25 == 0) {
-      PlaceHead(decoder->stream, InputRing::Capacity - static_cast<std::uint32_t>(2 + below(600)));
+      PlaceHead(decoder->input, InputRing::Capacity - static_cast<std::uint32_t>(2 + below(600)));
     }
     std::string text;
     for (std::size_t pieces = 1 + below(60); pieces > 0; --pieces) {
@@ -186,7 +186,7 @@ TEST(SentenceFramer, CostIsNotQuadratic) {
   const auto decoder = std::make_unique<Decoder>();
   Push(*decoder, "\\s:1234\\");
   Push(*decoder, std::string(size / 8, 'x'), 1);
-  EXPECT_EQ(decoder->stream.ring.Available(), size / 8 + 8);
+  EXPECT_EQ(decoder->input.ring.Available(), size / 8 + 8);
 
   // One tag block after the other that waits for the same far star: all are too far, the last
   // few excepted.

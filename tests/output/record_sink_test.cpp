@@ -1,14 +1,14 @@
-#include "output/record_sink.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <set>
 
+#include "output/queue_sink.h"
+
 namespace navframe::test {
 namespace {
 
-void PushNumber(RecordSink& sink, std::uint32_t id, std::uint32_t number) {
+void PushNumber(QueueSink& sink, std::uint32_t id, std::uint32_t number) {
   sink.PushCopy(id, number);
 }
 
@@ -17,7 +17,7 @@ std::uint32_t NumberOf(const GnssMessage& message) {
 }
 
 TEST(OutputQueue, KeepsTheNewestRecordsInOrder) {
-  const auto sink = std::make_unique<RecordSink>();
+  const auto sink = std::make_unique<QueueSink>();
   GnssMessage out = {77, 78, sink.get()};
   EXPECT_EQ(sink->Pop(out, 0), NAVFRAME_NOTHING);
   EXPECT_EQ(out.id, 77U) << "an empty queue leaves it untouched";
@@ -48,7 +48,7 @@ TEST(OutputQueue, KeepsTheNewestRecordsInOrder) {
 }
 
 TEST(OutputQueue, MismatchIsDiscardedExceptWithoutPayload) {
-  const auto sink = std::make_unique<RecordSink>();
+  const auto sink = std::make_unique<QueueSink>();
   PushNumber(*sink, 7, 1);
   sink->PushMessage(8, nullptr, 0);
   PushNumber(*sink, 5, 2);

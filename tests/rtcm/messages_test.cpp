@@ -23,7 +23,7 @@ BitWriter Counting(BitWriter message, int first, int count, int width = 8) {
 // A decoder whose clock shows `tow`.
 std::unique_ptr<Decoder> At(std::uint32_t tow) {
   auto decoder = std::make_unique<Decoder>();
-  decoder->time.updateTOW(tow);
+  decoder->decoders.time.updateTOW(tow);
   return decoder;
 }
 
@@ -135,9 +135,9 @@ TEST(RtcmDispatch, FilterAndDecodedIds) {
     const auto ids = Ids(Push(*decoder, RtcmFrame(c.payload)));
     EXPECT_EQ(Kinds(ids.begin(), ids.end()), c.records);
     EXPECT_EQ(DecodedIds(*decoder), c.decoded);
-    EXPECT_EQ(decoder->stream.statistics.acceptedFrames, 1U);
+    EXPECT_EQ(decoder->input.statistics.acceptedFrames, 1U);
     if (c.records.empty()) {
-      EXPECT_EQ(decoder->time.getTOW(), NoTow);  // what is blocked moves no clock
+      EXPECT_EQ(decoder->decoders.time.getTOW(), NoTow);  // what is blocked moves no clock
     }
   }
 }
@@ -183,7 +183,7 @@ TEST(RtcmProprietary, WhatIsNotReadIsUnknownOrZero) {
 
 TEST(RtcmProprietary, TimesSetTheClock) {
   const auto decoder = std::make_unique<Decoder>();
-  TimeManager& time = decoder->time;
+  TimeManager& time = decoder->decoders.time;
   const auto clock = [&](const Bytes& payload) {
     Push(*decoder, RtcmFrame(payload));
     return std::to_string(time.getWeek()) + " " + std::to_string(time.getTOW()) + " " +
@@ -243,7 +243,7 @@ TEST(RtcmProprietary, SensorRecordsOf4074) {
   EXPECT_EQ(members(utc(14, 3), 74), Lines("timeText=030509.98 " + dated("3")));
   // Too short for any time: everything stays unknown, and the clock where it was.
   EXPECT_EQ(members(Message(4074).Put(15, 12), 75), "");
-  EXPECT_EQ(decoder->time.getTOW(), 302'418'000U);
+  EXPECT_EQ(decoder->decoders.time.getTOW(), 302'418'000U);
 
   EXPECT_EQ(members(Message(4074).Put(12, 12).Put(0x01FE0380, 32), 72),
             Lines("count=1 state=1 levels[0]=-2 levels[1]=3 levels[2]=-128"));

@@ -205,7 +205,7 @@ TEST(Msm, ContentsThatDoNotFitLeaveNoTrace) {
       ASSERT_TRUE(Push(*decoder, RtcmFrame(First(payload, length))).empty())
           << number << " " << length;
       ASSERT_TRUE(DecodedIds(*decoder).empty());
-      ASSERT_EQ(decoder->time.getTOW(), 0xFFFFFFFF);
+      ASSERT_EQ(decoder->decoders.time.getTOW(), 0xFFFFFFFF);
     }
   }
   // No satellite at all is an epoch like any other.
@@ -257,15 +257,15 @@ TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
   for (const auto& [number, wire, epoch] : Rows) {
     SCOPED_TRACE(wire);
     const auto decoder = std::make_unique<Decoder>();
-    decoder->time.gpsTime.week = 2325;
+    decoder->decoders.time.gpsTime.week = 2325;
     const auto records =
         Push(*decoder, Message{.number = number, .epoch = wire, .more = wire % 2}.Frame());
     const MsmRecord& record = Only(records);
     EXPECT_EQ(Values(record.epochTime, record.epochComplete, record.week),
               Values(epoch, 1 - wire % 2, 2325));
-    EXPECT_EQ(record.timeText, decoder->time.timeText);
-    EXPECT_EQ(decoder->time.getTOW(), epoch);
-    EXPECT_EQ(decoder->time.timeText.size(), 10U);
+    EXPECT_EQ(record.timeText, decoder->decoders.time.timeText);
+    EXPECT_EQ(decoder->decoders.time.getTOW(), epoch);
+    EXPECT_EQ(decoder->decoders.time.timeText.size(), 10U);
   }
 }
 
@@ -322,7 +322,7 @@ TEST(Msm, BlockedRecordsMoveTheClockAndUseNoMemory) {
     EXPECT_TRUE(Push(*decoder, frame).empty());
   }
   EXPECT_LT(ResidentMemory(), before + 1'000'000);
-  EXPECT_EQ(decoder->time.getTOW(), 1000U);
+  EXPECT_EQ(decoder->decoders.time.getTOW(), 1000U);
   EXPECT_EQ(DecodedIds(*decoder), std::set<std::uint32_t>{MsgIdMsmGps});
   EXPECT_EQ(Push(*decoder, Message{.number = 1117}.Frame()).size(), 1U);
 }

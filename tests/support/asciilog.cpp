@@ -53,7 +53,7 @@ Bytes BinaryLog(ParserState state, std::uint16_t id, const Bytes& message,
 }
 
 void PushAs(Decoder& decoder, ParserState state, const Bytes& bytes) {
-  decoder.stream.state = state;
+  decoder.input.state = state;
   decoder.PutData(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
 }
 

@@ -19,7 +19,7 @@ Bytes operator+(Bytes a, const Bytes& b) {
   return a;
 }
 
-std::vector<Record> PopAll(RecordSink& sink) {
+std::vector<Record> PopAll(QueueSink& sink) {
   std::vector<Record> records;
   while (const auto oldest = sink.PopOldest()) {
     const GnssMessage& message = oldest->message;
@@ -64,7 +64,7 @@ std::vector<Record> Decoded(std::string_view text, std::size_t chunk) {
   return Decoded(ToBytes(text), chunk);
 }
 
-void PlaceHead(Stream& stream, std::uint32_t position) {
+void PlaceHead(RingInput& stream, std::uint32_t position) {
   stream.ring.Clear();
   const Bytes filler(position + 1, 'x');
   stream.ring.Append(filler.data(), position + 1);

@@ -45,7 +45,7 @@ struct Record {
 };
 
 // Pops all records that wait.
-std::vector<Record> PopAll(RecordSink& sink);
+std::vector<Record> PopAll(QueueSink& sink);
 std::vector<Record> PopAll(Decoder& decoder);
 
 // The kinds decoded since the last call.
@@ -61,7 +61,7 @@ std::vector<Record> Decoded(std::string_view text, std::size_t chunk = SIZE_MAX)
 
 // Empties the ring and moves its head to a place in the buffer, before the last byte of it, with
 // one byte of garbage there that keeps the indices from starting over.
-void PlaceHead(Stream& stream, std::uint32_t position);
+void PlaceHead(RingInput& stream, std::uint32_t position);
 
 // The ids of records, and "id:text" of each with its rendered form.
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records);

@@ -9,7 +9,7 @@ namespace {
 TEST(UbxFramer, EveryPayloadLengthIsTakenOrRejectedAtOnce) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->SetMsgTypes(ProtocolUbx);
-  const Stream& stream = decoder->stream;
+  const RingInput& stream = decoder->input;
   for (std::uint32_t length = 0; length <= 0xFFFF; ++length) {
     Push(*decoder, Payload(6).U8(0, 0xB5).U8(1, 0x62).U8(2, 9).U8(3, 9).U16(4, length));
     ASSERT_EQ(stream.ring.Available() == 6, length <= 4048) << length;
@@ -28,7 +28,7 @@ TEST(UbxFramer, EveryPayloadLengthIsTakenOrRejectedAtOnce) {
 TEST(UbxFramer, WrongChecksumYieldsOneDiagnosticRecordForEachRejectedSyncPosition) {
   const auto decoder = std::make_unique<Decoder>();
   decoder->SetMsgTypes(ProtocolUbx);
-  decoder->time.gpsTime.tow = 123'456;
+  decoder->decoders.time.gpsTime.tow = 123'456;
   decoder->sink.SetFilter(MsgIdUbxNavigation);  // which diagnostic records pass
   const sample::Epoch epoch = sample::Drive().Next();
   const Bytes inner = sample::UbxNavigation(epoch), blocked = sample::UbxAttitude(epoch);
@@ -42,7 +42,7 @@ TEST(UbxFramer, WrongChecksumYieldsOneDiagnosticRecordForEachRejectedSyncPositio
   const DiagnosticRecord expected = {123'456, 1, "UBX check error"};
   ASSERT_EQ(records[0].size, sizeof(expected));
   EXPECT_EQ(std::memcmp(&records[0].As<DiagnosticRecord>(), &expected, sizeof(expected)), 0);
-  const FramingStatistics& statistics = decoder->stream.statistics;
+  const FramingStatistics& statistics = decoder->input.statistics;
   EXPECT_EQ(Values(statistics.acceptedFrames, statistics.acceptedBytes, statistics.skippedBytes),
             Values(3, 2 * inner.size() + blocked.size(),
                    broken.size() - inner.size() + brokenInA.size()));

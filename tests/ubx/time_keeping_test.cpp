@@ -34,7 +34,7 @@ struct Step {
 
 TEST(UbxTimeKeeping, WhatIsValidMovesTheClock) {
   const auto decoder = std::make_unique<Decoder>();
-  const TimeManager& time = decoder->time;
+  const TimeManager& time = decoder->decoders.time;
   const Step steps[] = {
       {"nothing", At(Nothing), 0xFFFFFFFF, 65535, ""},
       {"a date alone; a Sunday belongs to the week before", At(Date), 0xFFFFFFFF, 2324, ""},
@@ -72,7 +72,7 @@ TEST(UbxTimeKeeping, TextsStayWithinTheirMembers) {
   EXPECT_EQ(text(At(Time, 28, 100, 99, 199).U32(16, 9'999'999)), "10099199.00");
   const auto before = Navigation(*decoder, At(Time).U32(16, -3'999'999));
   EXPECT_EQ(Values(before.nanoseconds, before.millisecond), Values(-3'999'999, 0xFFFFFFFD));
-  decoder->time.timeText = "123456.78901234567890";
+  decoder->decoders.time.timeText = "123456.78901234567890";
   EXPECT_EQ(text(At(Date)), "123456.78901234");
 }
 

@@ -1,17 +1,18 @@
-#include "output/record_sink.h"
+#include "output/queue_sink.h"
 
 namespace navframe {
 
-void RecordSink::PushMessage(const QueuedMessage& message) {
+void QueueSink::PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
+                            std::uint32_t source) {
   if (queue_.Full()) {
     // The newest records survive. The payload of the oldest is not freed, only set aside.
     const QueuedMessage oldest = *queue_.Pop();
     if (oldest.message.data != nullptr) blocks_.Abandon(oldest.message.data, oldest.payloadSize);
   }
-  queue_.Push(message);
+  queue_.Push(QueuedMessage{{id, source, payload}, size});
 }
 
-std::uint32_t RecordSink::Pop(GnssMessage& out, std::uint32_t wantedId) {
+std::uint32_t QueueSink::Pop(GnssMessage& out, std::uint32_t wantedId) {
   const auto oldest = queue_.Pop();
   if (!oldest) return NAVFRAME_NOTHING;
   out = oldest->message;
@@ -23,7 +24,7 @@ std::uint32_t RecordSink::Pop(GnssMessage& out, std::uint32_t wantedId) {
   return NAVFRAME_NOTHING;
 }
 
-void RecordSink::Release(GnssMessage& message) {
+void QueueSink::Release(GnssMessage& message) {
   if (message.data == nullptr) return;
   blocks_.Free(message.data);
   message.data = nullptr;

@@ -1,0 +1,112 @@
+// The framers and decoders of all protocols, over one clock and one sink: what the exports and
+// streams share.
+#pragma once
+
+#include <cstdint>
+
+#include "asciilog/ascii_log_decoder.h"
+#include "asciilog/line_framer.h"
+#include "base/dialect.h"
+#include "frame55aa/frame_decoder.h"
+#include "frame55aa/frame_framer.h"
+#include "framing/framing.h"
+#include "framing/overlapping_checksum.h"
+#include "framing/parser_state.h"
+#include "navframe/time_manager.h"
+#include "nmea/nmea_decoder.h"
+#include "nmea/sentence_framer.h"
+#include "nmea/tag_block_framer.h"
+#include "output/record_sink.h"
+#include "rtcm/crc24q.h"
+#include "rtcm/rtcm_decoder.h"
+#include "rtcm/rtcm_framer.h"
+#include "ubx/fletcher.h"
+#include "ubx/frame.h"
+#include "ubx/ubx_decoder.h"
+
+namespace navframe {
+
+// What framers keep between heads.
+struct FramingState {
+  nmea::SentenceSweep sweep;  // of the sentence at the head
+  OverlappingChecksum<ubx::Fletcher> ubxChecksum;
+  OverlappingChecksum<rtcm::Crc24q> rtcmCrc;
+  std::uint64_t logSearched = 0;
+};
+
+struct FrameDecoders {
+  // `sink` must outlive the decoders.
+  explicit FrameDecoders(RecordSink& sink, const Dialect& differences = LegacyDialect)
+      : dialect(differences),
+        nmea{sink, time, dialect},
+        ubx{sink, time},
+        binary55Aa{sink},
+        rtcm{sink, time},
+        asciiLog{sink} {}
+  FrameDecoders(const FrameDecoders&) = delete;
+  FrameDecoders& operator=(const FrameDecoders&) = delete;
+
+  const Dialect dialect;
+  TimeManager time;  // shared by the decoders of all protocols
+  FramingState framing;
+  nmea::NmeaDecoder nmea;
+  ubx::UbxDecoder ubx;
+  frame55aa::FrameDecoder binary55Aa;
+  rtcm::RtcmDecoder rtcm;
+  asciilog::AsciiLogDecoder asciiLog;
+};
+
+// How well a check tells frames from chance.
+enum class Rank : std::uint8_t { EightBits, Fletcher, Crc };
+
+// A protocol whose frames are recognised by their bytes alone.
+struct ProtocolRow {
+  NavframeProtocol protocol;
+  ParserState state;  // that its sync byte selects
+  std::uint8_t syncByte;
+  Rank rank;
+  std::uint32_t longestFrame;  // bytes, of the exports; more of them decide nothing
+  Framing (*frame)(FramingState& state, const Dialect& dialect, const Head& head);
+  // Of a frame that `frame` has just recognised.
+  DecodeResult (*decode)(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+};
+
+namespace protocols {
+
+Framing FrameNmea(FramingState& state, const Dialect& dialect, const Head& head);
+Framing FrameRtcm(FramingState& state, const Dialect& dialect, const Head& head);
+Framing FrameUbx(FramingState& state, const Dialect& dialect, const Head& head);
+Framing Frame55Aa(FramingState& state, const Dialect& dialect, const Head& head);
+Framing FrameTagBlock(FramingState& state, const Dialect& dialect, const Head& head);
+Framing FrameLog(FramingState& state, const Dialect& dialect, const Head& head);
+DecodeResult DecodeNmea(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+DecodeResult DecodeRtcm(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+DecodeResult Decode55Aa(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+DecodeResult DecodeTagBlock(FrameDecoders& decoders, const std::uint8_t* frame,
+                            std::uint32_t length);
+DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
+
+}  // namespace protocols
+
+// Protocol, state, sync byte, rank, longest frame, framer, decoder.
+inline constexpr ProtocolRow Protocols[] = {
+    {NavframeNmea, ParserState::NmeaSentence, '$', Rank::EightBits, nmea::LongestSentence,
+     protocols::FrameNmea, protocols::DecodeNmea},
+    {NavframeRtcm3, ParserState::Rtcm3, 0xD3, Rank::Crc, rtcm::LongestFrame, protocols::FrameRtcm,
+     protocols::DecodeRtcm},
+    {NavframeUbx, ParserState::Ubx, 0xB5, Rank::Fletcher, ubx::LongestFrame, protocols::FrameUbx,
+     protocols::DecodeUbx},
+    {Navframe55Aa, ParserState::Binary55Aa, 'U', Rank::EightBits, frame55aa::LongestFrame,
+     protocols::Frame55Aa, protocols::Decode55Aa},
+};
+
+// What streams recognise besides; the exports have framers of their own for these.
+inline constexpr ProtocolRow StreamProtocols[] = {
+    {NavframeNmeaTagBlock, ParserState::NmeaTagBlock, '\\', Rank::EightBits, nmea::LongestTagBlock,
+     protocols::FrameTagBlock, protocols::DecodeTagBlock},
+    {NavframeAsciiLog, ParserState::AsciiLogLine, '#', Rank::Crc, asciilog::LongestLine,
+     protocols::FrameLog, protocols::DecodeLog},
+};
+
+}  // namespace navframe

@@ -1,0 +1,47 @@
+// The sink of a stream: room for the records of one frame.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "output/record_sink.h"
+
+namespace navframe {
+
+struct SlotRecord {
+  std::uint32_t id;
+  std::uint32_t source;
+  const void* payload;
+};
+
+// A frame gives two records at most: the satellites in view that it ends, and its own. Their memory
+// is kept for those of the next frame.
+class SlotSink final : public RecordSink {
+ public:
+  SlotSink() { GiveRoom(0), GiveRoom(1); }
+
+  void* Allocate(std::uint32_t size) override;
+  void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
+                   std::uint32_t source = SourceStream) override;
+  void Abandon(void*, std::uint32_t) override {}
+  void DeclareFixed(const void*) override {}
+
+  void Clear() { count_ = 0; }
+  std::uint32_t Count() const { return count_; }
+  const SlotRecord& operator[](std::uint32_t index) const { return records_[index]; }
+
+ private:
+  static constexpr std::uint32_t Slots = 2;
+  // Most records fit; the room grows to the largest that comes.
+  static constexpr std::uint32_t UsualSize = 4096;
+
+  void GiveRoom(std::uint32_t slot, std::uint32_t size = UsualSize);
+
+  std::array<std::unique_ptr<std::uint64_t[]>, Slots> memory_;
+  std::array<std::uint32_t, Slots> capacity_{};
+  std::array<SlotRecord, Slots> records_;
+  std::uint32_t count_ = 0;
+};
+
+}  // namespace navframe
