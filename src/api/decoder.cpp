@@ -1,7 +1,6 @@
 #include "api/decoder.h"
 
 #include <algorithm>
-#include <array>
 
 #include "api/number_faults.h"
 #include "asciilog/log_framer.h"
@@ -13,13 +12,9 @@ namespace {
 
 using asciilog::LogVariant;
 
-// By the state that owns the head; null for one without a protocol of the table.
-constexpr std::array<const ProtocolRow*, ParserStates> RowsByState() {
-  std::array<const ProtocolRow*, ParserStates> rows{};
-  for (const ProtocolRow& row : Protocols) rows[static_cast<std::size_t>(row.state)] = &row;
-  return rows;
+consteval const ProtocolRow& RowOf(ParserState state) {
+  return *std::ranges::find(Protocols, state, &ProtocolRow::state);
 }
-constexpr auto Rows = RowsByState();
 
 // Takes the two bytes of a line end behind a sentence when the second is LF, whatever the first.
 void ConsumeLineEnd(InputRing& ring) {
@@ -41,7 +36,9 @@ void Decoder::SetBoardType(std::uint32_t type) {
   syncBytes_ = SyncBytes(scanConfiguration_);
 }
 
-FramerResult Decoder::HandleHead(const ProtocolRow& row) {
+template <ParserState State>
+FramerResult Decoder::HandleHead() {
+  constexpr const ProtocolRow& row = RowOf(State);
   const std::uint32_t available = std::min(input.ring.Available(), row.longestFrame);
   const Head head{input.ring.View(available), available, input.ring.Position()};
   const Framing framing = row.frame(decoders.framing, decoders.dialect, head);
@@ -60,12 +57,12 @@ FramerResult Decoder::HandleHead(const ProtocolRow& row) {
   const DecodeResult result = row.decode(decoders, head.bytes, framing.length);
   // The sentence stays at the head then, and meets the next call.
   if (result.fault != NumberFault::None) Throw(result.fault);
-  if (row.protocol == Navframe55Aa) {
+  if constexpr (row.protocol == Navframe55Aa) {
     Accept55Aa(input, framing.length);
   } else {
     AcceptFrame(input, framing.length);
   }
-  if (row.protocol == NavframeNmea) ConsumeLineEnd(input.ring);
+  if constexpr (row.protocol == NavframeNmea) ConsumeLineEnd(input.ring);
   return FramerResult::Done;
 }
 
@@ -76,10 +73,15 @@ FramerResult Decoder::HandleTagBlock() {
 
 std::uint32_t Decoder::PutData(const std::uint8_t* data, std::uint32_t length) {
   RunInputStep(input, syncBytes_, data, length, [this](ParserState state) {
-    if (const ProtocolRow* const row = Rows[static_cast<std::size_t>(state)]) {
-      return HandleHead(*row);
-    }
     switch (state) {
+      case ParserState::NmeaSentence:
+        return HandleHead<ParserState::NmeaSentence>();
+      case ParserState::Rtcm3:
+        return HandleHead<ParserState::Rtcm3>();
+      case ParserState::Ubx:
+        return HandleHead<ParserState::Ubx>();
+      case ParserState::Binary55Aa:
+        return HandleHead<ParserState::Binary55Aa>();
       case ParserState::NmeaTagBlock:
         return HandleTagBlock();
       case ParserState::AsciiLogLine:

@@ -33,7 +33,8 @@ class Decoder {
   ForwardSearch tagBlockStarSearch{'*'};
 
  private:
-  FramerResult HandleHead(const ProtocolRow& row);
+  template <ParserState State>
+  FramerResult HandleHead();
   FramerResult HandleTagBlock();
 
   ScanConfiguration scanConfiguration_;

@@ -29,9 +29,9 @@ double ScaledInteger(const std::uint8_t* payload, std::size_t offset, double uni
 }
 
 void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& record) {
-  std::memset(&record, 0, sizeof(record));
   record.payloadLength = length;
   std::memcpy(record.payload, payload, length);
+  std::memset(record.payload + length, 0, sizeof(record.payload) - length);
   const auto stamp = ReadLe<std::uint32_t>(payload, StampOffset);
   record.stampWhole = stamp / StampsPerWhole;
   record.stampHundredths = stamp % StampsPerWhole;
@@ -43,6 +43,8 @@ void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& r
   for (std::size_t i = 0; i < 2; ++i) {
     record.tenths[i] = ScaledInteger(payload, TenthsOffset + 4 * i, TenthUnit);
   }
+  record.reserved = 0;
+  std::memset(record.reservedAtEnd, 0, sizeof(record.reservedAtEnd));
 }
 
 }  // namespace

@@ -19,18 +19,13 @@ bool FractionMs(std::string_view digits, std::uint16_t& ms) {
   return true;
 }
 
-}  // namespace
-
-// A part of a text, which must reach behind `position`.
-bool FieldReader::TimePart(std::size_t index, std::size_t position, std::size_t length,
-                           int& value) {
-  const std::string_view field = fields_[index];
-  if (position >= field.size()) {
-    Note(index, NumberFault::TooShort);
-    return false;
-  }
-  return Take(index, ToInt(field.substr(position, length)), value);
+// Two characters of a time text, which must reach behind `position`.
+Number<int> TimePart(std::string_view field, std::size_t position) {
+  if (position >= field.size()) return {0, NumberFault::TooShort};
+  return ToInt(field.substr(position, 2));
 }
+
+}  // namespace
 
 void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
   constexpr std::size_t LengthWithHundredths = 9;
@@ -43,8 +38,8 @@ void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
   int hour = 0;
   int minute = 0;
   int second = 0;
-  if (!TimePart(index, 0, 2, hour) || !TimePart(index, 2, 2, minute) ||
-      !TimePart(index, 4, 2, second)) {
+  if (!Take(index, TimePart(field, 0), hour) || !Take(index, TimePart(field, 2), minute) ||
+      !Take(index, TimePart(field, 4), second)) {
     return;
   }
   if (field.size() < FractionPosition) return Note(index, NumberFault::TooShort);
@@ -92,13 +87,14 @@ void FieldReader::Date(std::size_t index, UTCTIME& utc) {
   utc.year = static_cast<std::uint16_t>(parts[2] + 2000);
 }
 
-void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, std::string_view letters,
+void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres letters,
                         double& degrees) {
   const std::string_view field = fields_[index];
-  const std::string_view hemisphere = fields_[index + 1];
   if (field.empty()) return;
-  const bool positive = hemisphere == letters.substr(0, 1);
-  if (dialect_.needsHemisphere && !positive && hemisphere != letters.substr(1)) {
+  const std::string_view hemisphere = fields_[index + 1];
+  const char letter = hemisphere.size() == 1 ? hemisphere[0] : '\0';
+  const bool positive = letter == letters.positive;
+  if (dialect_.needsHemisphere && !positive && letter != letters.negative) {
     if (!hemisphere.empty()) Note(index + 1, NumberFault::NoInt);
     return;
   }

@@ -59,13 +59,14 @@ class FieldReader {
     badField_ = static_cast<std::uint32_t>(index);
   }
 
+  // Whether the field holds anything.
   template <std::integral Integer>
-  void Int(std::size_t index, Integer& member) {
+  bool Int(std::size_t index, Integer& member) {
     int value;
     const std::string_view field = fields_[index];
-    if (!field.empty() && Take(index, FieldToInt(field), value)) {
-      member = static_cast<Integer>(value);
-    }
+    if (field.empty()) return false;
+    if (Take(index, FieldToInt(field), value)) member = static_cast<Integer>(value);
+    return true;
   }
   void Float(std::size_t index, float& member) {
     const std::string_view field = fields_[index];
@@ -96,14 +97,17 @@ class FieldReader {
   void Date(std::size_t index, UTCTIME& utc);
 
   // ddmm.mmmm and dddmm.mmmm, with the letter of the hemisphere in the field behind.
-  void Latitude(std::size_t index, double& degrees) { Angle(index, 2, "NS", degrees); }
-  void Longitude(std::size_t index, double& degrees) { Angle(index, 3, "EW", degrees); }
+  void Latitude(std::size_t index, double& degrees) { Angle(index, 2, {'N', 'S'}, degrees); }
+  void Longitude(std::size_t index, double& degrees) { Angle(index, 3, {'E', 'W'}, degrees); }
 
  private:
-  void Angle(std::size_t index, std::size_t degreeDigits, std::string_view letters,
-             double& degrees);
+  struct Hemispheres {
+    char positive;
+    char negative;
+  };
+
+  void Angle(std::size_t index, std::size_t degreeDigits, Hemispheres letters, double& degrees);
   void WholeTimeOfDay(std::size_t index, UTCTIME& utc);
-  bool TimePart(std::size_t index, std::size_t position, std::size_t length, int& value);
 
   const Fields& fields_;
   const Dialect& dialect_;

@@ -54,7 +54,7 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row->takes != nullptr && !row->takes(fields)) return {NavframeBadContent};
   FieldReader reader(fields, dialect_);
   if (row->kind == MsgIdGsv) {
-    if (ToIntOrMinimum(fields[2]) == 1) context.gsvAnnounced += ToIntOrMinimum(fields[1]);
+    if (fields[2] == "1") context.gsvAnnounced += ToIntOrMinimum(fields[1]);
     context.gsvCame += 1;
     AccumulateGsv(context, reader, time_);
     return ResultOf(reader);

@@ -72,13 +72,12 @@ std::optional<int> GsvSystem(std::string_view address) {
 
 GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   GsvBlock block{};
-  block.numbered = !fields[index].empty();
-  block.isWhole = !block.numbered || fields.Take(index, FieldToInt(fields[index]), block.number);
-  block.hasElevation = !fields[index + 1].empty();
-  block.hasAzimuth = !fields[index + 2].empty();
+  const std::string_view number = fields[index];
+  block.numbered = !number.empty();
+  block.isWhole = !block.numbered || fields.Take(index, FieldToInt(number), block.number);
   block.elevation = block.azimuth = Unknown<std::uint16_t>();
-  fields.Int(index + 1, block.elevation);
-  fields.Int(index + 2, block.azimuth);
+  block.hasElevation = fields.Int(index + 1, block.elevation);
+  block.hasAzimuth = fields.Int(index + 2, block.azimuth);
   block.cn0 = Unknown<std::uint8_t>();
   ReadCarrierToNoise(fields, index + 3, block.cn0);
   return block;
@@ -105,9 +104,10 @@ void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
   fields.Int(2, record.fixType);
   std::array<int, std::size(GsaRecord{}.usedSatellites)> numbers;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    int number;
+    int number = 0;
     const std::size_t index = FirstUsed + i;
-    if (fields[index].empty() || !fields.Take(index, FieldToInt(fields[index]), number)) continue;
+    const std::string_view field = fields[index];
+    if (field.empty() || !fields.Take(index, FieldToInt(field), number)) continue;
     numbers[record.usedCount] = number;
     record.usedSatellites[record.usedCount++] = static_cast<std::uint8_t>(number);
   }

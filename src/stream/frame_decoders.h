@@ -23,6 +23,7 @@
 #include "ubx/fletcher.h"
 #include "ubx/frame.h"
 #include "ubx/ubx_decoder.h"
+#include "ubx/ubx_framer.h"
 
 namespace navframe {
 
@@ -73,18 +74,47 @@ struct ProtocolRow {
 
 namespace protocols {
 
-Framing FrameNmea(FramingState& state, const Dialect& dialect, const Head& head);
-Framing FrameRtcm(FramingState& state, const Dialect& dialect, const Head& head);
-Framing FrameUbx(FramingState& state, const Dialect& dialect, const Head& head);
-Framing Frame55Aa(FramingState& state, const Dialect& dialect, const Head& head);
-Framing FrameTagBlock(FramingState& state, const Dialect& dialect, const Head& head);
-Framing FrameLog(FramingState& state, const Dialect& dialect, const Head& head);
-DecodeResult DecodeNmea(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
-DecodeResult DecodeRtcm(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
-DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
-DecodeResult Decode55Aa(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
-DecodeResult DecodeTagBlock(FrameDecoders& decoders, const std::uint8_t* frame,
-                            std::uint32_t length);
+inline Framing FrameNmea(FramingState& state, const Dialect&, const Head& head) {
+  return nmea::FrameSentence(head, state.sweep);
+}
+inline Framing FrameRtcm(FramingState& state, const Dialect&, const Head& head) {
+  return rtcm::FrameRtcm3(head, state.rtcmCrc);
+}
+inline Framing FrameUbx(FramingState& state, const Dialect& dialect, const Head& head) {
+  return ubx::FrameUbx(head, dialect.longRawMeasurements, state.ubxChecksum);
+}
+inline Framing Frame55Aa(FramingState&, const Dialect&, const Head& head) {
+  return frame55aa::FrameBinary(head);
+}
+inline Framing FrameTagBlock(FramingState&, const Dialect&, const Head& head) {
+  return nmea::FrameTagBlock(head);
+}
+inline Framing FrameLog(FramingState& state, const Dialect&, const Head& head) {
+  return asciilog::FrameLine(head, state.logSearched);
+}
+
+inline DecodeResult DecodeNmea(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t) {
+  const nmea::Fields fields(reinterpret_cast<const char*>(frame), decoders.framing.sweep);
+  return decoders.nmea.Decode(fields, nmea::TagFlag::Plain);
+}
+inline DecodeResult DecodeRtcm(FrameDecoders& decoders, const std::uint8_t* frame,
+                               std::uint32_t length) {
+  return decoders.rtcm.Decode({frame, length});
+}
+inline DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame,
+                              std::uint32_t length) {
+  return decoders.ubx.Decode(frame, length);
+}
+inline DecodeResult Decode55Aa(FrameDecoders& decoders, const std::uint8_t* frame,
+                               std::uint32_t length) {
+  constexpr std::uint32_t Around = frame55aa::HeaderLength + frame55aa::ChecksumLength;
+  return decoders.binary55Aa.Decode(frame + frame55aa::HeaderLength, length - Around);
+}
+// Its text goes with the sentence behind it.
+inline DecodeResult DecodeTagBlock(FrameDecoders&, const std::uint8_t*, std::uint32_t) {
+  return {};
+}
+
 DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
 
 }  // namespace protocols
