@@ -6,7 +6,6 @@
 namespace navframe::frame55aa {
 namespace {
 
-constexpr std::uint8_t SecondSyncByte = 0xAA;
 constexpr std::uint32_t LengthOffset = 2;
 
 // Judges the two low bytes one by one, as the protocol does: 264 and 420 share theirs with 8 and

@@ -6,6 +6,7 @@
 namespace navframe::frame55aa {
 
 // 0x55 0xAA, payload length (u32), payload, checksum byte over length and payload.
+inline constexpr std::uint8_t SecondSyncByte = 0xAA;
 inline constexpr std::uint32_t HeaderLength = 6;
 inline constexpr std::uint32_t ChecksumLength = 1;
 inline constexpr std::uint32_t LongestFrame = HeaderLength + 480 + ChecksumLength;

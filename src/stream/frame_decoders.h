@@ -6,6 +6,7 @@
 
 #include "asciilog/ascii_log_decoder.h"
 #include "asciilog/line_framer.h"
+#include "base/characters.h"
 #include "base/dialect.h"
 #include "frame55aa/frame_decoder.h"
 #include "frame55aa/frame_framer.h"
@@ -63,16 +64,28 @@ enum class Rank : std::uint8_t { EightBits, Fletcher, Crc };
 // A protocol whose frames are recognised by their bytes alone.
 struct ProtocolRow {
   NavframeProtocol protocol;
+  NavframeProtocolStatistics NavframeStatistics::*counts;
   ParserState state;  // that its sync byte selects
   std::uint8_t syncByte;
   Rank rank;
-  std::uint32_t longestFrame;  // bytes, of the exports; more of them decide nothing
+  bool (*mayFollow)(std::uint8_t second);  // whether frames have it behind the sync byte
+  std::uint32_t longestFrame;              // bytes, of the exports; more of them decide nothing
   Framing (*frame)(FramingState& state, const Dialect& dialect, const Head& head);
   // Of a frame that `frame` has just recognised.
   DecodeResult (*decode)(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
 };
 
 namespace protocols {
+
+// Second bytes of frames.
+constexpr bool IsLetterByte(std::uint8_t second) { return IsLetter(static_cast<char>(second)); }
+constexpr bool IsCapital(std::uint8_t second) { return second >= 'A' && second <= 'Z'; }
+constexpr bool IsPrintable(std::uint8_t second) { return second >= ' ' && second <= '~'; }
+constexpr bool IsRtcmLength(std::uint8_t second) { return second < 4; }
+template <std::uint8_t Byte>
+constexpr bool Is(std::uint8_t second) {
+  return second == Byte;
+}
 
 inline Framing FrameNmea(FramingState& state, const Dialect&, const Head& head) {
   return nmea::FrameSentence(head, state.sweep);
@@ -119,24 +132,27 @@ DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::
 
 }  // namespace protocols
 
-// Protocol, state, sync byte, rank, longest frame, framer, decoder.
+// Protocol, counts, state, sync byte, rank, second byte, longest frame, framer, decoder.
 inline constexpr ProtocolRow Protocols[] = {
-    {NavframeNmea, ParserState::NmeaSentence, '$', Rank::EightBits, nmea::LongestSentence,
-     protocols::FrameNmea, protocols::DecodeNmea},
-    {NavframeRtcm3, ParserState::Rtcm3, 0xD3, Rank::Crc, rtcm::LongestFrame, protocols::FrameRtcm,
-     protocols::DecodeRtcm},
-    {NavframeUbx, ParserState::Ubx, 0xB5, Rank::Fletcher, ubx::LongestFrame, protocols::FrameUbx,
+    {NavframeNmea, &NavframeStatistics::nmea, ParserState::NmeaSentence, '$', Rank::EightBits,
+     protocols::IsLetterByte, nmea::LongestSentence, protocols::FrameNmea, protocols::DecodeNmea},
+    {NavframeRtcm3, &NavframeStatistics::rtcm3, ParserState::Rtcm3, 0xD3, Rank::Crc,
+     protocols::IsRtcmLength, rtcm::LongestFrame, protocols::FrameRtcm, protocols::DecodeRtcm},
+    {NavframeUbx, &NavframeStatistics::ubx, ParserState::Ubx, 0xB5, Rank::Fletcher,
+     protocols::Is<ubx::SecondSyncByte>, ubx::LongestFrame, protocols::FrameUbx,
      protocols::DecodeUbx},
-    {Navframe55Aa, ParserState::Binary55Aa, 'U', Rank::EightBits, frame55aa::LongestFrame,
-     protocols::Frame55Aa, protocols::Decode55Aa},
+    {Navframe55Aa, &NavframeStatistics::binary55Aa, ParserState::Binary55Aa, 'U', Rank::EightBits,
+     protocols::Is<frame55aa::SecondSyncByte>, frame55aa::LongestFrame, protocols::Frame55Aa,
+     protocols::Decode55Aa},
 };
 
 // What streams recognise besides; the exports have framers of their own for these.
 inline constexpr ProtocolRow StreamProtocols[] = {
-    {NavframeNmeaTagBlock, ParserState::NmeaTagBlock, '\\', Rank::EightBits, nmea::LongestTagBlock,
-     protocols::FrameTagBlock, protocols::DecodeTagBlock},
-    {NavframeAsciiLog, ParserState::AsciiLogLine, '#', Rank::Crc, asciilog::LongestLine,
-     protocols::FrameLog, protocols::DecodeLog},
+    {NavframeNmeaTagBlock, &NavframeStatistics::tagBlock, ParserState::NmeaTagBlock, '\\',
+     Rank::EightBits, protocols::IsPrintable, nmea::LongestTagBlock, protocols::FrameTagBlock,
+     protocols::DecodeTagBlock},
+    {NavframeAsciiLog, &NavframeStatistics::asciiLog, ParserState::AsciiLogLine, '#', Rank::Crc,
+     protocols::IsCapital, asciilog::LongestLine, protocols::FrameLog, protocols::DecodeLog},
 };
 
 }  // namespace navframe

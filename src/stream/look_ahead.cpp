@@ -1,22 +1,59 @@
 #include "stream/look_ahead.h"
 
 #include <algorithm>
+#include <bit>
+
+#include "base/byte_block.h"
 
 namespace navframe {
-namespace {
-
-ByteFinder<SearchedProtocols::Most> FinderOf(std::span<const ProtocolRow* const> rows) {
-  std::array<std::uint8_t, SearchedProtocols::Most> bytes{};
-  std::size_t count = 0;
-  for (const ProtocolRow* const row : rows) bytes[count++] = row->syncByte;
-  return ByteFinder<SearchedProtocols::Most>({bytes.data(), count});
+SearchedProtocols::SearchedProtocols(std::span<const ProtocolRow* const> rows)
+    : count_(rows.size()) {
+  for (std::size_t i = 0; i < count_; ++i) {
+    const ProtocolRow& row = *rows[i];
+    bytes_[i] = row.syncByte;
+    rows_[row.syncByte] = &row;
+    const auto bit = static_cast<std::uint8_t>(1U << i);
+    ofFirst_[row.syncByte] = bit;
+    for (std::size_t second = 0; second < ofSecond_.size(); ++second) {
+      if (row.mayFollow(static_cast<std::uint8_t>(second))) ofSecond_[second] |= bit;
+    }
+  }
+  std::fill(bytes_.begin() + count_, bytes_.end(), bytes_[0]);
 }
 
-}  // namespace
+template <class Accept>
+std::size_t SearchedProtocols::FindSyncByte(const std::uint8_t* data, std::size_t length,
+                                            Accept&& accept) const {
+  const auto find = [&](const auto& wanted) {
+    for (std::size_t at = 0; at < length; at += ByteBlock::Size) {
+      std::uint64_t hits = ByteBlock(data + at).EqualToAny(wanted);
+      if (length - at < ByteBlock::Size) hits &= (std::uint64_t{1} << (length - at)) - 1;
+      for (; hits != 0; hits &= hits - 1) {
+        const std::size_t offset = at + static_cast<std::size_t>(std::countr_zero(hits));
+        if (accept(offset)) return offset;
+      }
+    }
+    return length;
+  };
+  if (count_ == 0) return length;
+  if (count_ > MostStronger) return find(bytes_);
+  std::array<std::uint8_t, MostStronger> few;
+  std::copy_n(bytes_.begin(), MostStronger, few.begin());
+  return find(few);
+}
 
-SearchedProtocols::SearchedProtocols(std::span<const ProtocolRow* const> rows)
-    : finder_(FinderOf(rows)) {
-  for (const ProtocolRow* const row : rows) rows_[row->syncByte] = row;
+std::size_t SearchedProtocols::Find(const std::uint8_t* data, std::size_t length) const {
+  return FindSyncByte(data, length, [](std::size_t) { return true; });
+}
+
+std::uint32_t SearchedProtocols::FindStart(const Head& head, std::uint32_t at,
+                                           std::uint32_t end) const {
+  const std::uint8_t* const data = head.bytes + at;
+  const std::size_t available = head.available - at;
+  const auto mayStart = [&](std::size_t offset) {
+    return offset + 1 == available || (ofFirst_[data[offset]] & ofSecond_[data[offset + 1]]) != 0;
+  };
+  return at + static_cast<std::uint32_t>(FindSyncByte(data, end - at, mayStart));
 }
 
 void LookAhead::Enter(const Head& head) {
@@ -37,24 +74,22 @@ LookAhead::Answer LookAhead::Look(const Head& head, std::uint32_t length,
     Enter(head);
   }
   farthest_ = std::max(farthest_, base_ + head.available);
-  while (looked_ < length) {
-    const std::size_t found = protocols.Find(head.bytes + looked_, length - looked_);
-    looked_ += static_cast<std::uint32_t>(found);
-    if (looked_ >= length) break;
+  for (;;) {
+    looked_ = protocols.FindStart(head, looked_, length);
+    if (looked_ == length) return Answer::None;
     const Verdict verdict = FrameAt(head, looked_, protocols).verdict;
     if (verdict == Verdict::Frame) return Answer::Frame;
     if (verdict == Verdict::NeedMore) return Answer::Open;
     ++looked_;
   }
-  return Answer::None;
 }
 
 std::uint32_t LookAhead::FindFrame(const Head& head, const SearchedProtocols& protocols) {
   head_ = ~std::uint64_t{0};
   Enter(head);
   for (std::uint32_t at = 1; at < head.available; ++at) {
-    at += static_cast<std::uint32_t>(protocols.Find(head.bytes + at, head.available - at));
-    if (at >= head.available) break;
+    at = protocols.FindStart(head, at, head.available);
+    if (at == head.available) break;
     if (FrameAt(head, at, protocols).verdict == Verdict::Frame) return at;
   }
   return 0;

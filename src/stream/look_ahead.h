@@ -5,26 +5,38 @@
 #include <cstdint>
 #include <span>
 
-#include "base/byte_finder.h"
 #include "stream/frame_decoders.h"
 
 namespace navframe {
 
-// The protocols that a search is for.
+// The protocols that a search is for. Head::Slack bytes behind what is searched may be loaded.
 class SearchedProtocols {
  public:
-  static constexpr std::size_t Most = 6;
-
   explicit SearchedProtocols(std::span<const ProtocolRow* const> rows);
 
+  // Null when the byte starts nothing.
   const ProtocolRow* RowOf(std::uint8_t syncByte) const { return rows_[syncByte]; }
-  std::size_t Find(const std::uint8_t* data, std::size_t length) const {
-    return finder_.Find(data, length);
-  }
+
+  // The offset of the first sync byte; `length` without one.
+  std::size_t Find(const std::uint8_t* data, std::size_t length) const;
+
+  // The first place of a head from `at` to `end` at which a frame may begin by its first two bytes,
+  // as far as they are there; `end` without one.
+  std::uint32_t FindStart(const Head& head, std::uint32_t at, std::uint32_t end) const;
 
  private:
+  static constexpr std::size_t Most = std::size(Protocols) + std::size(StreamProtocols);
+  static constexpr std::size_t MostStronger = 3;  // than the weakest
+
+  // The first of `length` bytes that is a sync byte and that `accept` takes at its offset.
+  template <class Accept>
+  std::size_t FindSyncByte(const std::uint8_t* data, std::size_t length, Accept&& accept) const;
+
+  std::size_t count_;
+  std::array<std::uint8_t, Most> bytes_{};  // filled up with the first when they are fewer
   std::array<const ProtocolRow*, 256> rows_{};
-  ByteFinder<Most> finder_;
+  std::array<std::uint8_t, 256> ofFirst_{};   // a bit for the row of a sync byte
+  std::array<std::uint8_t, 256> ofSecond_{};  // bits for the rows whose second byte it may be
 };
 
 class LookAhead {

@@ -69,8 +69,9 @@ std::uint32_t MessageOf(const ProtocolRow& row, const std::uint8_t* frame, std::
 }
 
 std::string_view AddressOf(const std::uint8_t* frame, std::uint32_t length) {
-  const std::string_view text(reinterpret_cast<const char*>(frame), length);
-  return text.substr(1, std::min(text.find_first_of(",*"), text.size()) - 1);
+  std::uint32_t end = 1;
+  while (end < length && frame[end] != ',' && frame[end] != '*') ++end;
+  return {reinterpret_cast<const char*>(frame) + 1, end - 1};
 }
 
 }  // namespace
@@ -150,10 +151,10 @@ bool Stream::Advance() {
   const std::size_t available = buffer_.Size();
   if (available == 0) return FinishFlush();
   const std::uint8_t* const bytes = buffer_.Bytes();
-  const std::size_t skipped = scanned_ + protocols_.Find(bytes + scanned_, available - scanned_);
-  if (skipped == 0) {
+  if (scanned_ == 0 && protocols_.RowOf(bytes[0]) != nullptr) {
     return HandleHead({bytes, static_cast<std::uint32_t>(available), position_});
   }
+  const std::size_t skipped = scanned_ + protocols_.Find(bytes + scanned_, available - scanned_);
   scanned_ = skipped;
   tagged_ = false;
   const bool asked = (options_.items & NavframeItemSkipped) != 0;
@@ -222,7 +223,7 @@ bool Stream::TakeFrame(const Head& head, const ProtocolRow& row, std::uint32_t l
   }
   span_.result = row.decode(*decoders_, head.bytes, length);
   KeepTagBlock(head, row, length);
-  NavframeProtocolStatistics& counts = CountsOf(row);
+  NavframeProtocolStatistics& counts = statistics_.*row.counts;
   counts.frames += 1;
   counts.frameBytes += spanned;
   counts.undecoded += span_.result.reason == NavframeNoKind ? 1 : 0;
@@ -239,7 +240,7 @@ bool Stream::Reject(const ProtocolRow& row, NavframeReason reason, std::uint32_t
   }
   span_.result = {reason};
   span_.claimedLength = claimed;
-  CountsOf(row).rejected += 1;
+  (statistics_.*row.counts).rejected += 1;
   Cover(NavframeItemRejected, &row, 1);
   return true;
 }
@@ -312,23 +313,6 @@ void Stream::Describe(NavframeItem& item) const {
   item.kind = nullptr;
   item.record = nullptr;
   item.tagBlock = tagged_ ? tagBlock_.data() : nullptr;
-}
-
-NavframeProtocolStatistics& Stream::CountsOf(const ProtocolRow& row) {
-  switch (row.protocol) {
-    case NavframeRtcm3:
-      return statistics_.rtcm3;
-    case NavframeUbx:
-      return statistics_.ubx;
-    case Navframe55Aa:
-      return statistics_.binary55Aa;
-    case NavframeAsciiLog:
-      return statistics_.asciiLog;
-    case NavframeNmeaTagBlock:
-      return statistics_.tagBlock;
-    default:
-      return statistics_.nmea;
-  }
 }
 
 void Stream::Read(NavframeStatistics& statistics) const {

@@ -55,7 +55,6 @@ class Stream {
   bool IsAskedFor(const Span& span) const;
   bool HandOutRecord(NavframeItem& item);
   void Describe(NavframeItem& item) const;
-  NavframeProtocolStatistics& CountsOf(const ProtocolRow& row);
 
   NavframeOptions options_;
   std::vector<const NavframeKind*> wanted_;  // sorted; empty for all
