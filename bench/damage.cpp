@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "generator/nmea_stream.h"
 #include "generator/rtcm_stream.h"
@@ -54,6 +57,14 @@ class TracedStream {
   void Lose(Noise& noise) {
     const std::size_t begin = Within(LongestChunk, noise);
     Erase(begin, begin + Below(bytes_.size() - begin, noise));
+  }
+
+  // Bytes from nowhere.
+  void AppendForeign(std::string_view bytes) {
+    for (const char byte : bytes) Put(static_cast<std::uint8_t>(byte), NoOrigin);
+  }
+  void AppendNoise(std::size_t count, Noise& noise) {
+    for (; count != 0; --count) Put(static_cast<std::uint8_t>(noise.Below(256)), NoOrigin);
   }
 
   const Bytes& Written() const { return bytes_; }
@@ -127,7 +138,116 @@ Bytes Undamaged(Drive& drive, int epochs) {
   return bytes;
 }
 
+// A head of any protocol that announces anything.
+std::string FalseHead(Noise& noise) {
+  const auto byte = [&noise](std::uint32_t limit) { return static_cast<char>(noise.Below(limit)); };
+  switch (noise.Below(8)) {
+    case 0:
+      return {'\xD3', byte(4), byte(256)};
+    case 1:
+      return {'\xB5', '\x62', byte(256), byte(256), byte(256), byte(16)};
+    case 2:  // raw measurements, which may be twice as long
+      return {'\xB5', '\x62', '\x02', '\x15', byte(256), byte(32)};
+    case 3:
+      return {'U', '\xAA', "\x08\xA4\xCC\xE0"[noise.Below(4)], byte(2), '\0', '\0'};
+    case 4:
+      return "$GPGGA,120000.00,4722";
+    case 5:
+      return "\\s:rover,c:12345";
+    case 6:
+      return "#BESTPOSA,COM1,0,";
+    default:
+      return "$G";
+  }
+}
+
+bool IsWeakHead(char first) { return first == '$' || first == 'U' || first == '\\'; }
+
+// The frame at the end of the stream and what is in front of it.
+class FaultMaker {
+ public:
+  FaultMaker(const Bytes& source, Fault fault, Noise& noise)
+      : source_(source), fault_(fault), noise_(noise) {}
+
+  void Append(std::size_t begin, const FrameOfStream& frame) {
+    const std::size_t end = frame.offset + frame.length;
+    const bool weak = IsWeak(source_.data() + frame.offset);
+    if (fault_ == Fault::LostBytes) return AppendWithLosses(begin, end, weak);
+    if (noise_.Below(fault_ == Fault::Cuts ? 50 : 20) != 0)
+      return stream_.Append(source_, begin, end);
+    if (fault_ == Fault::Cuts) {
+      const auto kept = 1 + noise_.Below(static_cast<std::uint32_t>(frame.length) - 1);
+      stream_.Append(source_, begin, frame.offset + kept);
+      return Count(weak);
+    }
+    stream_.Append(source_, begin, frame.offset);
+    if (fault_ == Fault::Noise) {
+      stream_.AppendNoise(200, noise_);
+      Count(false);
+    } else {
+      const std::string head = FalseHead(noise_);
+      stream_.AppendForeign(head);
+      Count(IsWeakHead(head[0]));
+    }
+    stream_.Append(source_, frame.offset, end);
+  }
+
+  DamagedTraffic Finish(const std::vector<FrameOfStream>& frames) {
+    made_.bytes = stream_.Written();
+    made_.intact = stream_.Find(frames);
+    return std::move(made_);
+  }
+
+ private:
+  void AppendWithLosses(std::size_t begin, std::size_t end, bool weak) {
+    for (std::size_t at = begin; at < end; ++at) {
+      if (noise_.Below(10'000) == 0) {
+        Count(weak);
+      } else {
+        stream_.Append(source_, at, at + 1);
+      }
+    }
+  }
+  void Count(bool weak) {
+    made_.hits += 1;
+    made_.weakHits += weak ? 1 : 0;
+  }
+
+  const Bytes& source_;
+  Fault fault_;
+  Noise& noise_;
+  TracedStream stream_;
+  DamagedTraffic made_;
+};
+
 }  // namespace
+
+bool IsWeak(const std::uint8_t* frame) { return frame[0] == '$' || frame[0] == 'U'; }
+
+const char* NameOf(Fault fault) {
+  switch (fault) {
+    case Fault::FalseHeads:
+      return "false heads";
+    case Fault::LostBytes:
+      return "lost bytes";
+    case Fault::Noise:
+      return "noise";
+    case Fault::Cuts:
+      return "cuts";
+  }
+  return "";
+}
+
+DamagedTraffic MakeDamagedTraffic(const Bytes& source, const std::vector<FrameOfStream>& frames,
+                                  Fault fault, sample::Noise& noise) {
+  FaultMaker maker(source, fault, noise);
+  std::size_t written = 0;
+  for (const FrameOfStream& frame : frames) {
+    maker.Append(written, frame);
+    written = frame.offset + frame.length;
+  }
+  return maker.Finish(frames);
+}
 
 DamagedTraffic MakeDamagedTraffic(Drive& drive, int epochs, Noise& noise) {
   const Bytes source = Undamaged(drive, epochs);

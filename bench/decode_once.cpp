@@ -1,6 +1,8 @@
 // Decodes each stream of traffic once to warm up and once to be counted, for a tool that counts
-// instructions of the function `CountedDecode`: decode_once STREAM prints the number of records.
+// instructions of the function `CountedDecode`: decode_once STREAM [streams [CHUNK]] prints the
+// number of records.
 #include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 #include "streams.h"
@@ -11,18 +13,36 @@ namespace navframe::bench {
 [[gnu::noinline]] std::uint64_t CountedDecode(const Bytes& bytes) {
   return DecodeAll(bytes, DefaultChunk);
 }
+[[gnu::noinline]] std::uint64_t CountedDecode(NavframeStream* stream, const Bytes& bytes,
+                                              std::size_t chunk) {
+  return DecodeAll(stream, bytes, chunk);
+}
+
+std::uint64_t WarmUpAndDecode(const Bytes& bytes) {
+  DecodeAll(bytes, DefaultChunk);
+  return CountedDecode(bytes);
+}
+std::uint64_t WarmUpAndDecode(const Bytes& bytes, std::size_t chunk) {
+  const StreamHandle stream = OpenStream();
+  DecodeAll(stream.get(), bytes, chunk);
+  return CountedDecode(stream.get(), bytes, chunk);
+}
 
 }  // namespace navframe::bench
 
 int main(int argc, char** argv) {
   using namespace navframe::bench;
   constexpr int Scale = 20;
+  const std::string_view wanted = argc > 1 ? argv[1] : "";
+  const bool streams = argc > 2 && std::string_view(argv[2]) == "streams";
+  const std::size_t chunk = argc > 3 ? std::strtoull(argv[3], nullptr, 10) : DefaultChunk;
   for (const NamedStream& stream : MakeTraffic(Scale)) {
-    if (argc != 2 || stream.name != std::string_view(argv[1])) continue;
-    DecodeAll(stream.bytes, DefaultChunk);
-    std::printf("%llu\n", static_cast<unsigned long long>(CountedDecode(stream.bytes)));
+    if (stream.name != wanted || chunk == 0) continue;
+    const std::uint64_t records =
+        streams ? WarmUpAndDecode(stream.bytes, chunk) : WarmUpAndDecode(stream.bytes);
+    std::printf("%llu\n", static_cast<unsigned long long>(records));
     return 0;
   }
-  std::fprintf(stderr, "usage: decode_once STREAM\n");
+  std::fprintf(stderr, "usage: decode_once STREAM [streams [CHUNK]]\n");
   return 2;
 }

@@ -3,11 +3,14 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "navframe/navframe.h"
+#include "navframe/stream.h"
 
 namespace navframe::bench {
 
@@ -33,6 +36,56 @@ inline std::uint64_t DecodeAll(std::span<const std::uint8_t> bytes, std::size_t 
     records += Drain();
   }
   return records;
+}
+
+struct CloseStream {
+  void operator()(NavframeStream* stream) const { navframe_close(stream); }
+};
+using StreamHandle = std::unique_ptr<NavframeStream, CloseStream>;
+
+inline NavframeOptions UsualOptions() {
+  NavframeOptions options{};
+  options.size = sizeof(options);
+  navframe_default_options(&options);
+  return options;
+}
+
+inline StreamHandle OpenStream(const NavframeOptions& options = UsualOptions()) {
+  NavframeStream* stream = nullptr;
+  if (navframe_open(&options, &stream) != NavframeOk) std::abort();
+  return StreamHandle(stream);
+}
+
+// Hands every item that is there to `use`.
+template <class Use>
+void TakeItems(NavframeStream* stream, Use&& use) {
+  NavframeItem item;
+  item.size = sizeof(item);
+  while (navframe_next(stream, &item) == NavframeItemReady) use(item);
+}
+
+// Puts a chunk, in as many pieces as the stream takes it in, and hands every item to `use`.
+template <class Use>
+void PutChunk(NavframeStream* stream, std::span<const std::uint8_t> chunk, Use&& use) {
+  while (!chunk.empty()) {
+    chunk = chunk.subspan(navframe_put(stream, chunk.data(), chunk.size()));
+    TakeItems(stream, use);
+  }
+}
+template <class Use>
+void PutAll(NavframeStream* stream, std::span<const std::uint8_t> bytes, std::size_t chunk,
+            Use&& use) {
+  for (std::size_t at = 0; at < bytes.size(); at += chunk) {
+    PutChunk(stream, bytes.subspan(at, std::min(chunk, bytes.size() - at)), use);
+  }
+}
+
+// The same as DecodeAll through a stream; the number of items.
+inline std::uint64_t DecodeAll(NavframeStream* stream, std::span<const std::uint8_t> bytes,
+                               std::size_t chunk) {
+  std::uint64_t items = 0;
+  PutAll(stream, bytes, chunk, [&items](const NavframeItem&) { ++items; });
+  return items;
 }
 
 }  // namespace navframe::bench

@@ -30,7 +30,8 @@ std::size_t SentenceLength(Rest rest) {
 std::size_t UbxLength(Rest rest) {
   if (rest.size() < 8 || rest[1] != 0x62) return 0;
   const std::size_t end = 6 + rest[4] + 256U * rest[5];
-  if (end > 6 + 4048 || end + 2 > rest.size()) return 0;
+  const bool raw = rest[2] == 0x02 && rest[3] == 0x15;
+  if (end > 6U + (raw ? 8176 : 4048) || end + 2 > rest.size()) return 0;
   std::uint8_t a = 0;
   std::uint8_t b = 0;
   for (std::size_t i = 2; i < end; ++i) {
@@ -81,12 +82,26 @@ std::size_t FrameLength(Rest rest) {
   }
 }
 
+// Bits of the check.
+int StrengthOf(std::uint8_t syncByte) { return syncByte == 0xD3 ? 24 : syncByte == 0xB5 ? 16 : 8; }
+
+bool HoldsStronger(Rest rest, std::size_t length) {
+  for (std::size_t at = 1; at < length; ++at) {
+    if (StrengthOf(rest[at]) > StrengthOf(rest[0]) && FrameLength(rest.subspan(at)) != 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
-std::vector<FrameOfStream> ValidFrames(std::span<const std::uint8_t> bytes) {
+std::vector<FrameOfStream> ValidFrames(std::span<const std::uint8_t> bytes, Ranks ranks) {
   std::vector<FrameOfStream> frames;
   for (std::size_t at = 0; at < bytes.size();) {
-    const std::size_t length = FrameLength(bytes.subspan(at));
+    const Rest rest = bytes.subspan(at);
+    std::size_t length = FrameLength(rest);
+    if (ranks == Ranks::StrongerWins && HoldsStronger(rest, length)) length = 0;
     if (length != 0) frames.push_back({at, length});
     at += std::max<std::size_t>(length, 1);
   }

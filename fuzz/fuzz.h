@@ -67,6 +67,10 @@ inline Bytes Flush() {
   return flush;
 }
 
+// The protocols whose frames the exports recognise by default, tag blocks aside.
+inline constexpr std::uint32_t ExportsProtocols =
+    ProtocolNmea | ProtocolRtcm3 | ProtocolUbx | Protocol55Aa;
+
 // Gives every byte that could start a frame of the protocols in `mask` a frame: lengths that the
 // protocol knows and that fit, and the right checksum. Bytes that it contains start none.
 void Seal(std::span<std::uint8_t> stream, std::uint32_t mask);
@@ -75,7 +79,7 @@ void Seal(std::span<std::uint8_t> stream, std::uint32_t mask);
 void SealLogs(std::span<std::uint8_t> stream, bool binary);
 
 // Pushes a chunk to a decoder of its own. A sentence with a field that cannot be converted loses
-// its "$", as a host's feeder does it.
+// its "$".
 inline void Push(Decoder& decoder, std::span<const std::uint8_t> chunk) {
   // A copy of exactly this size, so that a read behind it is seen.
   const Bytes copy(chunk.begin(), chunk.end());

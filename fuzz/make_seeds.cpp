@@ -6,6 +6,7 @@
 
 #include "fuzz.h"
 #include "generator/mixed_stream.h"
+#include "generator/rtcm_stream.h"
 #include "navframe/catalogue.h"
 
 namespace {
@@ -26,20 +27,29 @@ class Seeds {
     if (!file.flush()) ok_ = false;
   }
 
-  // For the targets that take a stream behind their steering bytes.
+  // For the targets that take a stream behind their steering bytes. They seal what comes behind 0
+  // and 2, and take the damaged one as it is.
   void Stream(const Bytes& stream) {
-    for (const std::uint8_t steering : Bytes{0, 2}) {
-      Bytes bytes(fuzz::SteeringLength, steering);
-      sample::Append(bytes, stream);
-      for (const char* target : {"exports_fuzz", "frames_fuzz", "chunks_fuzz"}) {
-        Write(target, bytes);
-      }
-    }
+    constexpr std::size_t Step = 509;
+    Bytes damaged = stream;
+    for (std::size_t at = Step / 2; at < damaged.size(); at += Step) damaged[at] ^= 0x10;
+    Steered(0, stream);
+    Steered(1, damaged);
+    Steered(2, stream);
   }
 
   bool Ok() const { return ok_; }
 
  private:
+  void Steered(std::uint8_t steering, const Bytes& stream) {
+    Bytes bytes(fuzz::SteeringLength, steering);
+    sample::Append(bytes, stream);
+    for (const char* target :
+         {"exports_fuzz", "frames_fuzz", "chunks_fuzz", "legacy_fuzz", "spans_fuzz"}) {
+      Write(target, bytes);
+    }
+  }
+
   std::filesystem::path folder_;
   int count_ = 0;
   bool ok_ = true;
@@ -57,6 +67,16 @@ void WriteStreams(Seeds& seeds) {
   constexpr std::string_view Malformed =
       "$GPGGA,123519.00,48x7.038,N,01131.000,E,1,08,0.9,5.4,M*00";
   seeds.Stream(Bytes(Malformed.begin(), Malformed.end()));
+  // A tag block with its sentence, and frames with strong checks inside ones with weak checks.
+  Bytes nested(fuzz::SteeringLength);
+  constexpr std::string_view Tagged =
+      "\\s:r1,c:1*00\\$GPGGA,123519.00,,,,,0,,,,M,,M,,*00\r\n$GPTXT,";
+  sample::Append(nested, Bytes(Tagged.begin(), Tagged.end()));
+  sample::Append(nested, sample::RtcmStation());
+  sample::Append(nested, Bytes{'*', '0', '0', 0xB5, 0x62, 0x0A, 0x04, 0x40, 0x00});
+  sample::Append(nested, sample::RtcmStation());
+  sample::Append(nested, Bytes(64));
+  seeds.Write("spans_fuzz", nested);
 }
 
 constexpr std::string_view Logs[] = {
@@ -95,6 +115,8 @@ void WriteLogs(Seeds& seeds) {
         line[0] = variant;
         seeds.Write("asciilog_fuzz", Bytes(line.begin(), line.end()));
       }
+      line.replace(0, fuzz::SteeringLength, fuzz::SteeringLength, '\0');
+      seeds.Write("spans_fuzz", Bytes(line.begin(), line.end()));
     }
   }
   for (const std::uint8_t variant : Bytes{1, 2}) {

@@ -5,6 +5,7 @@
 #include "asciilog/crc32.h"
 #include "frame55aa/byte_sum.h"
 #include "fuzz.h"
+#include "navframe/stream.h"
 #include "rtcm/crc24q.h"
 #include "ubx/fletcher.h"
 
@@ -36,12 +37,23 @@ std::size_t SealText(Frame rest, const char* format, std::size_t digits, Check c
   return length + 1 + digits;
 }
 
-std::size_t SealSentence(Frame rest) {
-  return SealText(rest, "%02X", 2, [](Frame text) {
-    return std::accumulate(text.begin(), text.end(), 0U, std::bit_xor<unsigned>());
-  });
+unsigned Xor(Frame text) {
+  return std::accumulate(text.begin(), text.end(), 0U, std::bit_xor<unsigned>());
 }
+
+std::size_t SealSentence(Frame rest) { return SealText(rest, "%02X", 2, Xor); }
 std::size_t SealLine(Frame rest) { return SealText(rest, "%08x\r\n", 10, asciilog::Crc32); }
+
+std::size_t SealTagBlock(Frame rest) {
+  constexpr std::size_t Shortest = 6;
+  constexpr std::size_t Longest = 256;
+  const auto end = std::find(rest.begin() + 1, rest.end(), '\\');
+  const auto length = static_cast<std::size_t>(end - rest.begin()) + 1;
+  if (length < Shortest || length > Longest || length > rest.size()) return 1;
+  rest[length - 4] = '*';
+  SealText(rest.first(length), "%02X", 2, Xor);
+  return length;
+}
 
 std::size_t SealRtcm(Frame rest) {
   if (rest.size() < 6) return 1;
@@ -86,10 +98,10 @@ struct Protocol {
   std::uint32_t mask;
   std::size_t (*seal)(Frame rest);
 };
-constexpr Protocol Protocols[] = {{'$', ProtocolNmea, SealSentence},
-                                  {0xD3, ProtocolRtcm3, SealRtcm},
-                                  {0xB5, ProtocolUbx, SealUbx},
-                                  {0x55, Protocol55Aa, Seal55Aa}};
+constexpr Protocol Protocols[] = {
+    {'$', NavframeNmea, SealSentence}, {'\\', NavframeNmeaTagBlock, SealTagBlock},
+    {0xD3, NavframeRtcm3, SealRtcm},   {0xB5, NavframeUbx, SealUbx},
+    {0x55, Navframe55Aa, Seal55Aa},    {'#', NavframeAsciiLog, SealLine}};
 
 // Of the form with a header of its own length; the other has its length elsewhere, and both are
 // valid when they agree.

@@ -1,4 +1,5 @@
-/* navframe: decodes the output streams of GNSS receivers. C99 and C++.
+/* The exports: decode the output stream of one GNSS receiver, as hosts that exist rely on it. New
+ * hosts open streams (stream.h). C99 and C++.
  *
  * 1. One stream per process: all functions work on one decoder that lives from load to unload.
  *    No function takes a lock; the host calls from one thread or serialises its calls.
@@ -173,8 +174,8 @@ NAVFRAME_API void GNSSSetOutMsgID(uint32_t id);
  * decoder once over what is there. A chunk larger than the free part of the ring is dropped whole.
  * A chunk exactly as large as the free part makes the ring read as empty: its content is lost. C++
  * hosts: a field of an NMEA sentence that cannot be converted leaves as std::invalid_argument or
- * std::out_of_range, and the same sentence meets the next call; feeder.hpp is a host that goes on.
- * C hosts must be ready for the program to end there, or filter such sentences beforehand. */
+ * std::out_of_range, and the same sentence meets the next call. C hosts must be ready for the
+ * program to end there, or filter such sentences beforehand; nothing leaves a stream (stream.h). */
 NAVFRAME_API uint32_t GNSSPutData(const uint8_t* data, uint32_t length);
 
 /* Pops the oldest record into `out` and returns 0, or returns NAVFRAME_NOTHING when none waits.

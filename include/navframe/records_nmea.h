@@ -99,6 +99,34 @@ typedef struct GsvRecord {
                                      counted by satelliteCount */
 } GsvRecord;
 
+/* Kinds that streams alone make. */
+enum { MsgIdWideGsv = 0x10000 };
+
+/* One satellite of a WideGsvRecord. 106 bytes. */
+typedef struct WideSatelliteInView {
+  uint16_t number;             /* satellite number; as sent */
+  uint16_t azimuth;            /* [deg] from true north */
+  int16_t elevation;           /* [deg] above the horizon, negative below it; unknown INT16_MIN */
+  uint8_t systemId;            /* system of the satellite; values NmeaSystem */
+  uint8_t used;                /* a GSA sentence listed the satellite; flag; see
+                                  docs/compatibility.md, Used satellites */
+  uint8_t signalCount;         /* signals, 0 to 16; unknown never */
+  uint8_t reserved;            /* reserved */
+  SatelliteSignal signals[16]; /* signals in the order of their sentences; counted by signalCount */
+} WideSatelliteInView;
+
+/* GSV, satellites in view of one whole cycle of sentences, in place of a GsvRecord that has no room
+ * for them: more than 96 of them, more than three signals of one, a number above 254, or an
+ * elevation below the horizon. Streams in the Standard dialect alone make it. MsgId 65536. */
+typedef struct WideGsvRecord {
+  GPSTIME gpsTime;         /* the decoder's GPS time when the cycle's sentences arrived */
+  char timeText[19];       /* the decoder's time of day when the cycle's sentences arrived */
+  uint8_t reserved;        /* reserved */
+  uint16_t satelliteCount; /* satellites, 0 to 256; unknown never */
+  WideSatelliteInView satellites[256]; /* satellites in order of appearance; counted by
+                                          satelliteCount */
+} WideGsvRecord;
+
 /* GLL, geographic position. MsgId 5 and 25. */
 typedef struct GllRecord {
   uint8_t tag;       /* the sentence stood behind a tag block, which is never the case; flag */
@@ -176,6 +204,7 @@ static_assert(sizeof(RmcRecord) == 80 && offsetof(RmcRecord, longitude) == 32);
 static_assert(sizeof(GsaRecord) == 64 && offsetof(GsaRecord, pdop) == 36);
 static_assert(sizeof(SatelliteSignal) == 6 && sizeof(SatelliteInView) == 26);
 static_assert(sizeof(GsvRecord) == 2528 && offsetof(GsvRecord, satellites) == 30);
+static_assert(sizeof(WideSatelliteInView) == 106 && sizeof(WideGsvRecord) == 27168);
 static_assert(sizeof(GllRecord) == 64 && offsetof(GllRecord, longitude) == 40);
 static_assert(sizeof(GstRecord) == 68 && offsetof(GstRecord, rangeRms) == 40);
 static_assert(sizeof(GbsRecord) == 68 && offsetof(GbsRecord, latitudeError) == 40);

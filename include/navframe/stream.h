@@ -17,8 +17,9 @@
  * 4. Spans cover the bytes that were put, each byte once, in their order: a frame, a rejected byte
  *    (what looked like a frame and was none; what stands behind it is looked at again), or a run of
  *    skipped bytes. Records come behind the frame that they were decoded from.
- * 5. Structs that the host fills begin with their size: set it to sizeof of the struct. Members
- * that a later version adds at the end are then left alone for this host.
+ * 5. Structs that cross this interface begin with their size: set it to sizeof of the struct, as in
+ * `NavframeItem item = {sizeof item};`. Members that a later version adds at the end are then left
+ * alone for this host.
  * 6. Functions that can fail return a NavframeStatus, negative ones being errors.
  */
 #ifndef NAVFRAME_STREAM_H
@@ -44,7 +45,7 @@ typedef enum NavframeStatus {
   NavframeNeedsBytes = 0,   /* navframe_next has none before more bytes come */
   NavframeBadArgument = -1, /* NULL, a size that is too small, a number outside its range */
   NavframeOutOfMemory = -2,
-  NavframeUnknownKind = -3
+  NavframeUnknownKind = -3 /* NavframeOptions::kinds has one that is no handle of the catalogue */
 } NavframeStatus;
 
 /* Which of the two readings of oddities a stream has: docs/compatibility.md lists the differences.
@@ -73,12 +74,12 @@ typedef enum NavframeItemType {
   NavframeItemFrame = 0x02,     /* span: a whole frame whose check holds */
   NavframeItemRejected = 0x04,  /* span: the first byte of what looked like a frame */
   NavframeItemSkipped = 0x08,   /* span: bytes that start nothing, 64 KiB at most */
-  NavframeItemUndecoded = 0x10, /* as a bit: frames that gave no record, when frames are not asked
-                                   for as a whole; such an item's type is NavframeItemFrame */
+  NavframeItemUndecoded = 0x10, /* as a bit: frames that gave no record of their own, when frames
+                                   are not asked for as a whole; their type is NavframeItemFrame */
   NavframeAllItems = 0x0F
 } NavframeItemType;
 
-/* Why a frame gave no record, or a byte was rejected. */
+/* Why a frame gave no record of its own, or a byte was rejected. */
 typedef enum NavframeReason {
   NavframeNoReason = 0,
   NavframeBadHeader = 1, /* the bytes behind the first one start no frame */
@@ -110,14 +111,16 @@ typedef struct NavframeTime {
   int32_t leapSeconds; /* [s] GPS time less UTC, in use */
 } NavframeTime;
 
-/* What a stream is opened with; navframe_default_options fills it. */
+/* What a stream is opened with; navframe_default_options fills it. 0 in protocols, items and
+ * bufferSize stands for the usual value, too. */
 typedef struct NavframeOptions {
   size_t size;         /* sizeof(NavframeOptions) */
   uint32_t dialect;    /* a NavframeDialect; NavframeStandard */
   uint32_t protocols;  /* NavframeProtocol bits; all */
   uint32_t items;      /* NavframeItemType bits; NavframeItemRecord */
   uint32_t bufferSize; /* [B] 64 KiB; 64 KiB to 16 MiB */
-  uint32_t startWeek;  /* GPS week of the first byte, to a half of 1024 weeks; 0 unknown */
+  uint32_t startWeek;  /* GPS week of the first byte, to a half of 1024 weeks; up to 65534; 0
+                          unknown. What the stream itself tells goes before; Standard alone */
   uint32_t kindCount;  /* entries of kinds; 0 hands out records of all kinds */
   const NavframeKind* const* kinds; /* kinds that are handed out; copied. Leaving one out changes
                                        nothing about the others or the time */
@@ -126,35 +129,40 @@ typedef struct NavframeOptions {
 
 /* One item. */
 typedef struct NavframeItem {
-  size_t size;       /* sizeof(NavframeItem) */
-  uint32_t type;     /* one of NavframeItemRecord to NavframeItemSkipped */
-  uint32_t protocol; /* a NavframeProtocol; of the rejected head; 0 of skipped bytes */
-  uint64_t offset;   /* [B] of the span, or of the frame that the record was decoded from, from
-                        the first byte that was put */
-  uint32_t length;   /* [B] of that span or frame */
-  uint32_t
-      claimedLength;    /* [B] of a rejected frame: the length that it claims, as far as it says */
-  const uint8_t* bytes; /* the span's bytes, `length` of them */
-  uint32_t reason;      /* a NavframeReason */
-  uint32_t message;  /* of a frame: RTCM 3 message number, UBX class * 256 + id, payload length of
-                        55AA, number of a log; 0 for NMEA */
-  uint32_t subType;  /* of RTCM 3 messages 910, 999 and 4074; else 0 */
-  char address[16];  /* of NMEA and logs: the address field without "$", cut to fit; else "" */
-  uint32_t badField; /* with NavframeBadField: the number of the field, 1 the first behind the
-                        address; else 0 */
-  uint32_t recordCount;     /* of a frame: records that it gave */
-  NavframeTime time;        /* of the stream, once this item was decoded */
+  size_t size;            /* sizeof(NavframeItem) */
+  uint32_t type;          /* one of NavframeItemRecord to NavframeItemSkipped */
+  uint32_t protocol;      /* a NavframeProtocol; of the rejected head; 0 of skipped bytes */
+  uint64_t offset;        /* [B] of the span, or of the frame that the record was decoded from, from
+                             the first byte that was put */
+  uint32_t length;        /* [B] of that span or frame; 0 of a record that a flush or a quiet line
+                             brought out */
+  uint32_t claimedLength; /* [B] of a rejected byte: the length of the frame that it seemed to
+                             begin; 0 when that does not say */
+  const uint8_t* bytes;   /* of that span or frame, `length` of them, with the line end of a
+                             sentence */
+  uint32_t reason;      /* a NavframeReason; of a record only NavframeBadField, when a member of it
+                           is unknown for that */
+  uint32_t message;     /* of a frame and its records: RTCM 3 message number, UBX class * 256 + id,
+                           payload length of 55AA, number of a log; 0 for NMEA */
+  uint32_t subType;     /* of RTCM 3 messages 910, 999 and 4074; else 0 */
+  char address[16];     /* of NMEA and logs: the address field without "$" or "#", cut to fit; else
+                           "" */
+  uint32_t badField;    /* with NavframeBadField: the number of the field, 1 the first behind the
+                           address; else 0 */
+  uint32_t recordCount; /* records that the frame gave, wanted or not: its own, and the satellites
+                           in view that it ended */
+  NavframeTime time;    /* of the stream, once this item was decoded */
   const NavframeKind* kind; /* of a record; else NULL */
   const void* record;       /* payload of a record, kind->size bytes; else NULL */
-  const char* tagBlock;     /* text of the tag block in front of a sentence, without backslashes,
-                               terminated; NULL without one */
+  const char* tagBlock;     /* text of the tag block in front of a sentence, with its checksum but
+                               without backslashes; NULL without one */
 } NavframeItem;
 
 /* What a protocol did so far. */
 typedef struct NavframeProtocolStatistics {
   uint64_t frames;     /* whole frames */
   uint64_t frameBytes; /* [B] of them */
-  uint64_t undecoded;  /* frames that gave no record */
+  uint64_t undecoded;  /* frames that gave no record of their own */
   uint64_t rejected;   /* heads that were no frame */
   uint64_t records;    /* made, handed out or not */
 } NavframeProtocolStatistics;
@@ -173,34 +181,37 @@ typedef struct NavframeStatistics {
   NavframeProtocolStatistics asciiLog;
 } NavframeStatistics;
 
-/* Fills the options with their usual values, those named in NavframeOptions. `size` must be set. */
+/* Fills the options with their usual values, those named in NavframeOptions. `size` must be set.
+ * Errors: NavframeBadArgument. */
 NAVFRAME_API NavframeStatus navframe_default_options(NavframeOptions* options);
 
 /* Opens a stream; `options` NULL stands for the usual ones. *out is NULL unless the answer is
- * NavframeOk. Errors: NavframeBadArgument, NavframeOutOfMemory. */
+ * NavframeOk. Errors: NavframeBadArgument, NavframeUnknownKind, NavframeOutOfMemory. */
 NAVFRAME_API NavframeStatus navframe_open(const NavframeOptions* options, NavframeStream** out);
 
 /* Closes a stream and frees its memory. Does nothing with NULL. */
 NAVFRAME_API void navframe_close(NavframeStream* stream);
 
 /* Appends bytes and returns how many of them it took: fewer than `length` when the stream's buffer
- * is full, and none between a flush and the end of what it lets out. Decodes nothing. */
+ * is full, and none between a flush and the end of what it lets out: take the items and go on with
+ * the rest. Decodes nothing. 0 when `stream` or `data` is NULL. */
 NAVFRAME_API size_t navframe_put(NavframeStream* stream, const uint8_t* data, size_t length);
 
 /* Decodes until there is an item, writes it and returns NavframeItemReady; NavframeNeedsBytes when
  * there is none before more bytes come (after a flush: before bytes are put again). `item->size`
- * must be set. Errors: NavframeBadArgument; NavframeOutOfMemory, after which the same call may be
- * tried again. */
+ * must be set. Errors: NavframeBadArgument; NavframeOutOfMemory, behind which the same call may be
+ * tried again: no byte is lost. */
 NAVFRAME_API NavframeStatus navframe_next(NavframeStream* stream, NavframeItem* item);
 
 /* The input ends here: what waits is no frame, everything behind it is decoded, and the satellites
  * in view that were being collected come out. What is put afterwards is new input, to which a frame
- * in front of it does not reach; time and statistics go on. Take the items until there are none. */
+ * in front of it does not reach; time and statistics go on. Take the items until there are none.
+ * Errors of this one, of navframe_idle, _reset and _statistics: NavframeBadArgument. */
 NAVFRAME_API NavframeStatus navframe_flush(NavframeStream* stream);
 
 /* The line is quiet: what waits is given up if a whole frame stands behind it, and the satellites
- * in view come out if all sentences that were announced came. A sentence that waits for its line
- * end comes out too. Take the items until there are none. */
+ * in view come out if all sentences that were announced came. A frame that only waits for its line
+ * end, or for what seems to begin inside, comes out too. Take the items until there are none. */
 NAVFRAME_API NavframeStatus navframe_idle(NavframeStream* stream);
 
 /* Forgets everything: as if the stream had been opened anew, with the same options. */
@@ -211,7 +222,7 @@ NAVFRAME_API NavframeStatus navframe_reset(NavframeStream* stream);
 NAVFRAME_API NavframeStatus navframe_statistics(const NavframeStream* stream,
                                                 NavframeStatistics* statistics);
 
-/* NavframeOptions::user of the stream. */
+/* NavframeOptions::user of the stream; NULL when `stream` is. */
 NAVFRAME_API void* navframe_user(const NavframeStream* stream);
 
 /* Copies the record of an item to `out`, which has room for `capacity` bytes, and returns
@@ -219,7 +230,8 @@ NAVFRAME_API void* navframe_user(const NavframeStream* stream);
  * (0 is returned then). */
 NAVFRAME_API size_t navframe_copy_record(const NavframeItem* item, void* out, size_t capacity);
 
-/* A sentence for a status, a reason or a protocol; never NULL. */
+/* A sentence for a status or a reason, the name of a protocol; never NULL. "" for no reason and no
+ * protocol. */
 NAVFRAME_API const char* navframe_status_text(int status);
 NAVFRAME_API const char* navframe_reason_text(uint32_t reason);
 NAVFRAME_API const char* navframe_protocol_name(uint32_t protocol);

@@ -12,8 +12,10 @@ namespace {
 
 using asciilog::LogVariant;
 
-consteval const ProtocolRow& RowOf(ParserState state) {
-  return *std::ranges::find(Protocols, state, &ProtocolRow::state);
+constexpr std::size_t RowOf(ParserState state) {
+  std::size_t row = 0;
+  while (Protocols[row].state != state) ++row;
+  return row;
 }
 
 // Takes the two bytes of a line end behind a sentence when the second is LF, whatever the first.
@@ -38,7 +40,7 @@ void Decoder::SetBoardType(std::uint32_t type) {
 
 template <ParserState State>
 FramerResult Decoder::HandleHead() {
-  constexpr const ProtocolRow& row = RowOf(State);
+  constexpr const ProtocolRow& row = Protocols[RowOf(State)];
   const std::uint32_t available = std::min(input.ring.Available(), row.longestFrame);
   const Head head{input.ring.View(available), available, input.ring.Position()};
   const Framing framing = row.frame(decoders.framing, decoders.dialect, head);

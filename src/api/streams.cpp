@@ -7,14 +7,15 @@
 #include "navframe/stream.h"
 #include "stream/stream.h"
 
-struct NavframeStream final : navframe::Stream {
-  using Stream::Stream;
+struct NavframeStream final : navframe::StreamDecoder {
+  using StreamDecoder::StreamDecoder;
 };
 
 namespace {
 
 constexpr std::uint32_t SmallestBuffer = 1 << 16;
 constexpr std::uint32_t LargestBuffer = 1 << 24;
+constexpr std::uint32_t UnknownWeek = 65535;
 
 // Runs `call`, which may want memory.
 template <class Call>
@@ -54,13 +55,31 @@ NavframeOptions UsualOptions() {
           .user = nullptr};
 }
 
-bool AreSound(const NavframeOptions& options) {
-  if (options.dialect > NavframeLegacy || options.bufferSize < SmallestBuffer ||
-      options.bufferSize > LargestBuffer || (options.kindCount != 0 && options.kinds == nullptr)) {
-    return false;
-  }
-  return std::find(options.kinds, options.kinds + options.kindCount, nullptr) ==
-         options.kinds + options.kindCount;
+// Zeros of a struct that the host cleared stand for what is usual, where they would mean nothing.
+NavframeOptions WithUsual(NavframeOptions options) {
+  const NavframeOptions usual = UsualOptions();
+  if (options.protocols == 0) options.protocols = usual.protocols;
+  if (options.items == 0) options.items = usual.items;
+  if (options.bufferSize == 0) options.bufferSize = usual.bufferSize;
+  return options;
+}
+
+NavframeStatus Judge(const NavframeOptions& options) {
+  constexpr std::uint32_t AllProtocols = NavframeAllProtocols;
+  constexpr std::uint32_t AllItems = NavframeAllItems | NavframeItemUndecoded;
+  const bool sound = options.dialect <= NavframeLegacy &&
+                     (options.protocols & ~AllProtocols) == 0 &&
+                     (options.items & ~AllItems) == 0 && options.bufferSize >= SmallestBuffer &&
+                     options.bufferSize <= LargestBuffer && options.startWeek < UnknownWeek &&
+                     (options.kindCount == 0 || options.kinds != nullptr);
+  if (!sound) return NavframeBadArgument;
+  // What a look-up did not find, or a copy of what it found.
+  const auto isHandle = [](const NavframeKind* kind) {
+    return kind != nullptr && navframe_kind(kind->id, kind->source) == kind;
+  };
+  return std::all_of(options.kinds, options.kinds + options.kindCount, isHandle)
+             ? NavframeOk
+             : NavframeUnknownKind;
 }
 
 }  // namespace
@@ -78,8 +97,8 @@ NavframeStatus navframe_open(const NavframeOptions* options, NavframeStream** ou
   *out = nullptr;
   if (options != nullptr && options->size < SmallestStruct) return NavframeBadArgument;
   const NavframeOptions ours =
-      options == nullptr ? UsualOptions() : FromHost(*options, UsualOptions());
-  if (!AreSound(ours)) return NavframeBadArgument;
+      options == nullptr ? UsualOptions() : WithUsual(FromHost(*options, UsualOptions()));
+  if (const NavframeStatus status = Judge(ours); status != NavframeOk) return status;
   return Guarded([&] {
     *out = new NavframeStream(ours);
     return NavframeOk;
@@ -160,6 +179,8 @@ const char* navframe_status_text(int status) {
       return "an argument is missing or outside its range";
     case NavframeOutOfMemory:
       return "out of memory";
+    case NavframeUnknownKind:
+      return "a kind that is none of the catalogue";
     default:
       return "no status of this library";
   }

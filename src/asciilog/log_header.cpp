@@ -8,6 +8,7 @@
 #include "asciilog/crc32.h"
 #include "asciilog/format_scan.h"
 #include "base/number_text.h"
+#include "time/time_of_day.h"
 
 namespace navframe::asciilog {
 namespace {
@@ -123,6 +124,23 @@ std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
   const bool read =
       form == HeaderForm::Long ? ReadLongHeader(line, header) : ReadShortHeader(line, header);
   return read ? std::optional(header) : std::nullopt;
+}
+
+std::optional<GPSTIME> GpsTimeOf(const LogHeader& header) {
+  constexpr std::uint8_t Coarse = 100;
+  constexpr std::uint8_t SatTime = 200;
+  constexpr std::int64_t FirstBdsWeek = 1356;
+  constexpr std::int64_t BdsBehindMs = 14'000;
+  const AsciiLogHeader& image = header.image;
+  const bool isSet = image.timeStatus >= Coarse && image.timeStatus <= SatTime;
+  if (!isSet || header.timeReference == TimeReference::Unknown || image.milliseconds < 0 ||
+      image.milliseconds >= WeekMs) {
+    return std::nullopt;
+  }
+  std::int64_t ms = image.week * WeekMs + image.milliseconds;
+  if (header.timeReference == TimeReference::Bds) ms += FirstBdsWeek * WeekMs + BdsBehindMs;
+  return GPSTIME{static_cast<std::uint32_t>(ms % WeekMs), static_cast<std::uint16_t>(ms / WeekMs),
+                 0};
 }
 
 }  // namespace navframe::asciilog

@@ -39,4 +39,7 @@ struct LogHeader {
 std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
                                     std::uint32_t identifier);
 
+// The GPS time of a header; nothing while the receiver's clock was not set by satellites.
+std::optional<GPSTIME> GpsTimeOf(const LogHeader& header);
+
 }  // namespace navframe::asciilog

@@ -142,13 +142,45 @@ constexpr std::array<LogName, 132> LogNames = {{
     {"#BDSUTC", 7, 60022},
 }};
 static_assert(std::ranges::all_of(LogNames, [](const LogName& name) {
-  return name.compared <= name.text.size() && name.identifier != 0;
+  return name.compared >= 2 && name.compared <= name.text.size() && name.identifier != 0;
 }));
 
+namespace {
+
+// The first two characters of a name, in a few bits.
+constexpr std::size_t KeyOf(std::string_view text) {
+  return (static_cast<std::size_t>(text[0]) & 7U) << 5 | (static_cast<std::size_t>(text[1]) & 31U);
+}
+
+// The rows by key, and in their order where they share one.
+struct NameIndex {
+  static constexpr std::size_t Keys = 256;
+  std::array<std::uint8_t, Keys + 1> begin{};
+  std::array<std::uint8_t, LogNames.size()> rows{};
+};
+constexpr NameIndex Index = [] {
+  NameIndex index;
+  std::size_t count = 0;
+  for (std::size_t key = 0; key < NameIndex::Keys; ++key) {
+    index.begin[key] = static_cast<std::uint8_t>(count);
+    for (std::size_t row = 0; row < LogNames.size(); ++row) {
+      if (KeyOf(LogNames[row].text) == key) index.rows[count++] = static_cast<std::uint8_t>(row);
+    }
+  }
+  index.begin[NameIndex::Keys] = static_cast<std::uint8_t>(count);
+  return index;
+}();
+
+}  // namespace
+
 std::uint32_t IdentifierOf(std::string_view line) {
-  const auto matches = [line](const LogName& name) { return line.starts_with(name.Prefix()); };
-  const auto* const found = std::ranges::find_if(LogNames, matches);
-  return found == LogNames.end() ? 0 : found->identifier;
+  if (line.size() < 2) return 0;
+  const std::size_t key = KeyOf(line);
+  for (std::size_t i = Index.begin[key]; i < Index.begin[key + 1]; ++i) {
+    const LogName& name = LogNames[Index.rows[i]];
+    if (line.starts_with(name.Prefix())) return name.identifier;
+  }
+  return 0;
 }
 
 }  // namespace navframe::asciilog

@@ -89,4 +89,9 @@ DecodeResult DecodeLog(const LogRow& row, std::string_view text, void* record) {
   return DecodeResult::Success;
 }
 
+std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line) {
+  const auto header = ReadHeader(row.format->header, line, row.identifier);
+  return header ? GpsTimeOf(*header) : std::nullopt;
+}
+
 }  // namespace navframe::asciilog

@@ -36,4 +36,7 @@ enum class [[nodiscard]] DecodeResult : int{Success = 0, Malformed = 2};
 // Decodes a line into a record of row.recordSize bytes that holds zeros.
 DecodeResult DecodeLog(const LogRow& row, std::string_view line, void* record);
 
+// The GPS time of a line that was decoded; nothing when it has none.
+std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line);
+
 }  // namespace navframe::asciilog

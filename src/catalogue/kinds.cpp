@@ -148,6 +148,9 @@ constexpr KindRow Rows[] = {
     Ubx<DiagnosticRecord>(MsgIdDiagnostic, "DIAGNOSTIC", "", TextForm::None,
         "a frame whose checksum is wrong"),
 
+    Nmea<WideGsvRecord>(MsgIdWideGsv, "GSV-WIDE", "GSV", TextForm::None,
+        "satellites in view of a whole cycle that GSV has no room for"),
+
     AsciiLog<GpsEphemerisLogRecord>(LogIdGpsEphemeris, "GPSEPHEM", "GPSEPHEMA", TextForm::None,
         "GPS ephemeris"),
     AsciiLog<HeaderLogRecord>(LogIdCompactObservations, "OBSVM", "OBSVM", TextForm::None,

@@ -163,6 +163,32 @@ inline constexpr RecordRow GsvRecordLayout = LayoutOf<GsvRecord, GsvRecordMember
 static_assert(CoversEveryByte(GsvRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GsvRecord> = GsvRecordLayout;
 
+inline constexpr MemberRow WideSatelliteInViewMembers[] = {
+    {{"number", "", "satellite number", NavframeU16, offsetof(WideSatelliteInView, number), sizeof(WideSatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "from true north", NavframeU16, offsetof(WideSatelliteInView, azimuth), sizeof(WideSatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "above the horizon, negative below it", NavframeI16, offsetof(WideSatelliteInView, elevation), sizeof(WideSatelliteInView::elevation), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of the satellite", NavframeU8, offsetof(WideSatelliteInView, systemId), sizeof(WideSatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(WideSatelliteInView, used), sizeof(WideSatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signalCount", "", "signals, 0 to 16", NavframeU8, offsetof(WideSatelliteInView, signalCount), sizeof(WideSatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteSignalLayout}, false, 0},
+};
+inline constexpr RecordRow WideSatelliteInViewLayout = LayoutOf<WideSatelliteInView, WideSatelliteInViewMembers>("WideSatelliteInView");
+static_assert(CoversEveryByte(WideSatelliteInViewLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideSatelliteInView> = WideSatelliteInViewLayout;
+
+inline constexpr MemberRow WideGsvRecordMembers[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(WideGsvRecord, gpsTime), sizeof(WideGsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(WideGsvRecord, timeText), sizeof(WideGsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideGsvRecord, reserved), sizeof(WideGsvRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satelliteCount", "", "satellites, 0 to 256", NavframeU16, offsetof(WideGsvRecord, satelliteCount), sizeof(WideGsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in order of appearance", NavframeNested, offsetof(WideGsvRecord, satellites), sizeof(WideGsvRecord::satellites[0]), 256, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteInViewLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 27166, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideGsvRecordLayout = LayoutOf<WideGsvRecord, WideGsvRecordMembers>("WideGsvRecord");
+static_assert(CoversEveryByte(WideGsvRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideGsvRecord> = WideGsvRecordLayout;
+
 inline constexpr NavframeValueName GllRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
 inline constexpr NavframeValueName GllRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {6, "estimated"},};
 inline constexpr MemberRow GllRecordMembers[] = {

@@ -28,7 +28,8 @@ double ScaledInteger(const std::uint8_t* payload, std::size_t offset, double uni
   return ReadLe<std::int32_t>(payload, offset) * unit;
 }
 
-void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& record) {
+void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& record,
+          std::uint32_t& written) {
   record.payloadLength = length;
   std::memcpy(record.payload, payload, length);
   std::memset(record.payload + length, 0, sizeof(record.payload) - length);
@@ -44,7 +45,10 @@ void Fill(const std::uint8_t* payload, std::uint32_t length, Binary55AaRecord& r
     record.tenths[i] = ScaledInteger(payload, TenthsOffset + 4 * i, TenthUnit);
   }
   record.reserved = 0;
-  std::memset(record.reservedAtEnd, 0, sizeof(record.reservedAtEnd));
+  if (written > offsetof(Binary55AaRecord, reservedAtEnd)) {
+    std::memset(record.reservedAtEnd, 0, sizeof(record.reservedAtEnd));
+  }
+  written = offsetof(Binary55AaRecord, reservedAtEnd);
 }
 
 }  // namespace
@@ -55,9 +59,9 @@ DecodeResult FrameDecoder::Decode(const std::uint8_t* payload, std::uint32_t len
   }
   // These records pass every output filter.
   sink_.NoteDecoded(MsgIdBinary55Aa);
-  auto* const record = static_cast<Binary55AaRecord*>(sink_.Allocate(sizeof(Binary55AaRecord)));
-  Fill(payload, length, *record);
-  sink_.PushMessage(MsgIdBinary55Aa, record, sizeof(Binary55AaRecord));
+  const RecurringRoom room = sink_.AllocateRecurring(MsgIdBinary55Aa, sizeof(Binary55AaRecord));
+  Fill(payload, length, *static_cast<Binary55AaRecord*>(room.payload), *room.written);
+  sink_.PushMessage(MsgIdBinary55Aa, room.payload, sizeof(Binary55AaRecord));
   return {};
 }
 

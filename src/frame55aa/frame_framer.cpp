@@ -1,5 +1,7 @@
 #include "frame55aa/frame_framer.h"
 
+#include <algorithm>
+
 #include "base/read_le.h"
 #include "frame55aa/byte_sum.h"
 
@@ -22,8 +24,10 @@ Framing FrameBinary(const Head& head) {
   if (head.available < HeaderLength) return Framing::NeedMore();
   if (frame[1] != SecondSyncByte) return Framing::Rejected(NavframeBadHeader);
   const auto payloadLength = ReadLe<std::uint32_t>(frame, LengthOffset);
-  if (!IsPayloadLength(payloadLength)) return Framing::Rejected(NavframeBadLength);
   const std::uint32_t length = HeaderLength + payloadLength + ChecksumLength;
+  if (!IsPayloadLength(payloadLength)) {
+    return Framing::Rejected(NavframeBadLength, std::max(length, payloadLength));
+  }
   if (head.available < length) return Framing::NeedMore(length);
 
   const std::uint32_t summed = length - LengthOffset - ChecksumLength;

@@ -50,8 +50,8 @@ class OverlappingChecksum {
 
   Value OfOverlapping(std::uint64_t begin, std::uint64_t end, const std::uint8_t* bytes) {
     if (begin >= prefixesUntil_) {  // what lies in front of this frame concerns no later one
+      PrefixUpTo(begin) = Value{};  // may want memory
       prefixesUntil_ = begin;
-      PrefixUpTo(begin) = Value{};
     }
     if (end > prefixesUntil_) ReadUpTo(end, bytes + (prefixesUntil_ - begin));
     return Checksum::Between(PrefixUpTo(begin), PrefixUpTo(end), end - begin);

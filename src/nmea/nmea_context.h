@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "nmea/satellites_in_view.h"
+#include "nmea/seen_satellites.h"
+#include "nmea/wide_view.h"
 
 namespace navframe::nmea {
 
@@ -28,6 +30,8 @@ class KeptField {
 // One for plain sentences, one for those behind a tag block.
 struct NmeaContext {
   SatellitesInView satellites;
+  WideView wide;           // where all are kept
+  SeenSatellites seen;     // where they tell the system of a GSA
   std::uint32_t kind = 0;  // of the current and of the previous sentence, recognised or not
   std::uint32_t previousKind = 0;
   std::int64_t gsvAnnounced = 0;  // sentences of the cycle, by the first of each group

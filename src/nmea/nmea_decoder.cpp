@@ -1,5 +1,7 @@
 #include "nmea/nmea_decoder.h"
 
+#include <algorithm>
+
 #include "base/number_text.h"
 #include "base/text.h"
 #include "navframe/records.h"
@@ -69,8 +71,8 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row->clock != ClockRule::None) {
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),
                                        TextOf(record.TextAt(row->text), row->text.width)};
-    if (dialect_.trueClock) {
-      true_clock::SetUtc(sentenceTime.utc, 0, sentenceTime.text, time_);
+    if (time_.isTrue) {
+      true_clock::SetUtc(sentenceTime.utc, 0, sentenceTime.text, NavframeTimeFromNmea, time_);
     } else {
       KeepTime(row->clock, sentenceTime, context, counters_, time_);
     }
@@ -98,8 +100,33 @@ void NmeaDecoder::EndCycle() {
   EmitSatellitesInView(context);
 }
 
+void NmeaDecoder::EmitWideView(NmeaContext& context) {
+  auto* const record = static_cast<WideGsvRecord*>(sink_.Allocate(sizeof(WideGsvRecord)));
+  context.wide.Fill(context.satellites, *record);
+  sink_.PushMessage(MsgIdWideGsv, record, sizeof(WideGsvRecord));
+  context.wide.Reset();
+}
+
+void NmeaDecoder::NoteSeen(NmeaContext& context) {
+  context.seen.Clear();
+  const auto note = [&context](const auto& satellite) {
+    if (satellite.signalCount != 0) context.seen.Add(satellite.systemId, satellite.number);
+  };
+  if (context.wide.InUse()) {
+    std::ranges::for_each(context.wide.Satellites(), note);
+  } else {
+    std::ranges::for_each(context.satellites.Numbered(), note);
+  }
+}
+
 void NmeaDecoder::EmitSatellitesInView(NmeaContext& context) {
-  if (sink_.PassesAny(MsgIdGsv, MsgIdTaggedGsv)) {
+  if (dialect_.gsaSystemByView) NoteSeen(context);
+  if (dialect_.wholeGsv && !context.satellites.HasRoom() && !context.wide.InUse()) {
+    context.wide.TakeOver(context.satellites);
+  }
+  if (context.wide.InUse()) {
+    EmitWideView(context);
+  } else if (sink_.PassesAny(MsgIdGsv, MsgIdTaggedGsv)) {
     auto* const record = static_cast<GsvRecord*>(sink_.Allocate(sizeof(GsvRecord)));
     context.satellites.Fill(*record);
     sink_.PushMessage(context.previousKind, record, sizeof(GsvRecord));

@@ -5,18 +5,18 @@
 #include <cstdint>
 
 #include "base/dialect.h"
-#include "navframe/time_manager.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
 #include "nmea/time_keeping.h"
 #include "output/record_sink.h"
+#include "time/decoder_clock.h"
 
 namespace navframe::nmea {
 
 class NmeaDecoder {
  public:
   // `sink` and `time` must outlive the decoder.
-  NmeaDecoder(RecordSink& sink, TimeManager& time, const Dialect& dialect = LegacyDialect)
+  NmeaDecoder(RecordSink& sink, DecoderClock& time, const Dialect& dialect = LegacyDialect)
       : sink_(sink), time_(time), dialect_(dialect) {}
 
   // Splits the work on one sentence: its kind, the end of a GSV cycle, its record. Where a field
@@ -31,9 +31,11 @@ class NmeaDecoder {
 
  private:
   void EmitSatellitesInView(NmeaContext& context);
+  void EmitWideView(NmeaContext& context);
+  static void NoteSeen(NmeaContext& context);
 
   RecordSink& sink_;
-  TimeManager& time_;
+  DecoderClock& time_;
   const Dialect& dialect_;
   std::array<NmeaContext, 2> contexts_;  // by tag flag
   EpochCounters counters_;

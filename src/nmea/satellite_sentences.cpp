@@ -63,14 +63,39 @@ void ReadCarrierToNoise(FieldReader& fields, std::size_t index, std::uint8_t& cn
   if (fields.Take(index, ToDouble(field), value)) cn0 = static_cast<std::uint8_t>(Truncated(value));
 }
 
-std::optional<int> GsvSystem(std::string_view address) {
+// Talkers whose system the exports do not know everywhere.
+constexpr TalkerRow FurtherTalkers[] = {{"GA", 3}, {"GQ", 5}, {"QZ", 5}, {"PQ", 5}, {"GI", 6}};
+
+int FurtherSystem(const FieldReader& fields) {
+  const std::string_view talker = fields[0].substr(1, 2);
+  for (const TalkerRow& row : FurtherTalkers) {
+    if (talker == row.talker) return row.systemId;
+  }
+  return -1;  // stored as the unknown value
+}
+
+inline std::optional<int> GsvSystem(std::string_view address) {
   for (const AddressRow& row : GsvAddresses) {
     if (address == row.address) return row.systemId;
   }
   return std::nullopt;
 }
 
-GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
+// One hexadecimal digit in the standard, of which the exports know the decimal ones.
+template <bool KeepsAll>
+std::uint8_t SignalId(std::string_view field) {
+  if (KeepsAll && field.size() == 1 && field[0] >= 'A' && field[0] <= 'F') {
+    return static_cast<std::uint8_t>(field[0] - 'A' + 10);
+  }
+  return static_cast<std::uint8_t>(ToIntOrMinimum(field));
+}
+
+bool IsEmptyBlock(const FieldReader& fields, std::size_t index) {
+  return fields[index].empty() && fields[index + 1].empty() && fields[index + 2].empty() &&
+         fields[index + 3].empty();
+}
+
+inline GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   GsvBlock block{};
   const std::string_view number = fields[index];
   block.numbered = !number.empty();
@@ -86,6 +111,53 @@ GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
 // Whether nothing of a sentence is to be kept, because a field of it does not convert.
 bool IsGivenUp(const FieldReader& fields) {
   return fields.Fault() != NumberFault::None && !fields.HasDialect().keepsSentences;
+}
+
+// What satellites of an unknown system are, nobody can say.
+void MarkAll(int systemId, std::span<const int> used, NmeaContext& context, GsaRecord& record) {
+  for (std::size_t i = 0; i < used.size(); ++i) {
+    const bool fits = used[i] >= 0 && used[i] < Unknown<std::uint8_t>();
+    if (!fits) record.usedSatellites[i] = Unknown<std::uint8_t>();
+    if (systemId >= 0) context.wide.MarkUsed(systemId, used[i], context.satellites);
+  }
+}
+
+// Adds the signals of a sentence. The two ways of it are told apart here alone, so that neither
+// pays for the other.
+template <bool KeepsAll>
+void Accumulate(NmeaContext& context, FieldReader& fields, const TimeManager& time) {
+  constexpr std::size_t FirstBlock = 4;
+  constexpr std::size_t BlockFields = 4;
+  const std::size_t count = fields.Count();
+
+  // Everything is converted before anything is stored, so that a bad field leaves no half.
+  auto systemId = GsvSystem(fields[0]);
+  if (KeepsAll && !systemId) systemId = FurtherSystem(fields);
+  const bool hasSignalId = count % BlockFields == 1;
+  const auto signalId =
+      hasSignalId && systemId ? SignalId<KeepsAll>(fields[count - 1]) : std::uint8_t{0};
+  // The exports leave out the last block of a sentence without a signal id; hosts rely on it.
+  const std::size_t end = count - BlockFields + (KeepsAll && !hasSignalId ? 1 : 0);
+  std::array<GsvBlock, LongestStarOffset / BlockFields> blocks;
+  std::size_t blockCount = 0;
+  for (std::size_t i = FirstBlock; systemId && i < end; i += BlockFields) {
+    const bool isSatellite =
+        !fields[i].empty() || *systemId == Glonass || (KeepsAll && !IsEmptyBlock(fields, i));
+    if (!isSatellite) continue;
+    blocks[blockCount] = ReadBlock(fields, i);
+    if (blocks[blockCount].isWhole) ++blockCount;
+  }
+  if (IsGivenUp(fields)) return;
+
+  if (!KeepsAll && context.satellites.Full()) context.satellites.Reset();
+  context.satellites.StampHeader(time);
+  for (std::size_t i = 0; i < blockCount; ++i) {
+    if constexpr (KeepsAll) {
+      context.wide.AddSignal(*systemId, signalId, blocks[i], context.satellites);
+    } else {
+      context.satellites.AddSignal(*systemId, signalId, blocks[i]);
+    }
+  }
 }
 
 }  // namespace
@@ -112,49 +184,28 @@ void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
     record.usedSatellites[record.usedCount++] = static_cast<std::uint8_t>(number);
   }
   const std::span<const int> used(numbers.data(), record.usedCount);
-  if (systemId == MixedSystems && !fields.HasDialect().gsaSystemByView) {
-    if (!used.empty()) systemId = SystemOfNumber(used.front());
-  } else if (systemId == MixedSystems && fields.Count() == GsaFields) {
-    systemId = context.satellites.SystemOf(used);
+  if (fields.HasDialect().gsaSystemByView) {
+    const bool isMixed = systemId == MixedSystems && fields.Count() == GsaFields;
+    if (isMixed) systemId = context.seen.SystemOf(used);
+    if (!isMixed && systemId < 0) systemId = FurtherSystem(fields);
+  } else if (systemId == MixedSystems && !used.empty()) {
+    systemId = SystemOfNumber(used.front());
   }
   record.systemId = static_cast<std::uint32_t>(systemId);
   fields.DoubleAsFloat(15, record.pdop);
   fields.DoubleAsFloat(16, record.hdop);
   fields.DoubleAsFloat(17, record.vdop);
 
+  if (fields.HasDialect().wholeGsv) return MarkAll(systemId, used, context, record);
   if (IsGivenUp(fields)) return;
   if (context.satellites.Full()) context.satellites.Reset();
-  if (systemId < 0 && fields.HasDialect().gsaSystemByView) return;
   for (const int number : used) context.satellites.MarkUsed(systemId, number);
 }
 
 // $GPGSV,3,1,11,03,03,111,00,04,15,270,00,06,01,010,00,13,06,292,00,1*hh
 void AccumulateGsv(NmeaContext& context, FieldReader& fields, const TimeManager& time) {
-  constexpr std::size_t FirstBlock = 4;
-  constexpr std::size_t BlockFields = 4;
-  const std::size_t count = fields.Count();
-
-  // Everything is converted before anything is stored, so that a bad field leaves no half.
-  const auto systemId = GsvSystem(fields[0]);
-  const bool hasSignalId = count % BlockFields == 1;
-  const int signalId = hasSignalId && systemId ? ToIntOrMinimum(fields[count - 1]) : 0;
-  // The exports leave out the last block of a sentence without a signal id; hosts rely on it.
-  const bool whole = fields.HasDialect().wholeGsv && !hasSignalId;
-  const std::size_t end = count - BlockFields + (whole ? 1 : 0);
-  std::array<GsvBlock, LongestStarOffset / BlockFields> blocks;
-  std::size_t blockCount = 0;
-  for (std::size_t i = FirstBlock; systemId && i < end; i += BlockFields) {
-    if (fields[i].empty() && *systemId != Glonass) continue;
-    blocks[blockCount] = ReadBlock(fields, i);
-    if (blocks[blockCount].isWhole) ++blockCount;
-  }
-  if (IsGivenUp(fields)) return;
-
-  if (context.satellites.Full()) context.satellites.Reset();
-  context.satellites.StampHeader(time);
-  for (std::size_t i = 0; i < blockCount; ++i) {
-    context.satellites.AddSignal(*systemId, static_cast<std::uint8_t>(signalId), blocks[i]);
-  }
+  if (fields.HasDialect().wholeGsv) return Accumulate<true>(context, fields, time);
+  Accumulate<false>(context, fields, time);
 }
 
 }  // namespace navframe::nmea

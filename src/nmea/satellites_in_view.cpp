@@ -50,60 +50,43 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
   return &numbered_[place];
 }
 
-void SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId,
+bool SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId,
                                    const GsvBlock& block) {
   if (block.hasElevation) entry.elevation = block.elevation;
   if (block.hasAzimuth) entry.azimuth = block.azimuth;
-  if (entry.signalCount >= MostSignals) return;
+  if (entry.signalCount >= MostSignals) return false;
   SatelliteSignal& signal = entry.signals[entry.signalCount++];
   signal.signalId = signalId;
   signal.cn0 = block.cn0;
+  return true;
 }
 
-void SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
+bool SatellitesInView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
   if (block.numbered && KeyOf(systemId, block.number) != UnnumberedKey) {
     SatelliteInView* const entry = Entry(systemId, block.number);
-    if (entry == nullptr) return;
+    if (entry == nullptr) return false;
     entry->systemId = static_cast<std::uint8_t>(systemId);
     entry->number = static_cast<std::uint8_t>(block.number);
-    AddSignalTo(*entry, signalId, block);
-  } else if (unnumberedCount_ < MostSatellites) {
-    SatelliteInView& entry = unnumbered_[unnumberedCount_++];
-    catalogue::MakeUnknown(entry);
-    entry.systemId = static_cast<std::uint8_t>(systemId);
-    AddSignalTo(entry, signalId, block);
+    return AddSignalTo(*entry, signalId, block);
   }
+  if (unnumberedCount_ >= MostSatellites) return false;
+  SatelliteInView& entry = unnumbered_[unnumberedCount_++];
+  catalogue::MakeUnknown(entry);
+  entry.systemId = static_cast<std::uint8_t>(systemId);
+  return AddSignalTo(entry, signalId, block);
 }
 
-int SatellitesInView::SystemOf(std::span<const int> numbers) const {
-  constexpr std::size_t Systems = 256;
-  std::array<std::size_t, Systems> seen{};
-  for (const int number : numbers) {
-    for (std::size_t i = 0; i < numberedCount_; ++i) {
-      const SatelliteInView& satellite = numbered_[i];
-      if (satellite.number == number) ++seen[satellite.systemId];
-    }
-  }
-  int system = -1;
-  for (std::size_t i = 0; i < Systems; ++i) {
-    if (numbers.empty() || seen[i] != numbers.size()) continue;
-    if (system >= 0) return -1;
-    system = static_cast<int>(i);
-  }
-  return system;
-}
-
-void SatellitesInView::MarkUsed(int systemId, int number) {
+bool SatellitesInView::MarkUsed(int systemId, int number) {
   SatelliteInView* const entry = Entry(systemId, number);
-  if (entry == nullptr) return;
+  if (entry == nullptr) return false;
   entry->systemId = static_cast<std::uint8_t>(systemId);
   entry->used = 1;
+  return true;
 }
 
 void SatellitesInView::Fill(GsvRecord& record) const {
   catalogue::MakeUnknown(record);
-  std::memcpy(record.timeText, timeText_, sizeof timeText_);
-  record.gpsTime = gpsTime_;
+  FillHeader(record);
   record.cycleComplete = cycleComplete_ ? 1 : 0;
   const std::size_t unnumbered =
       std::min<std::size_t>(unnumberedCount_, MostSatellites - numberedCount_);

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string_view>
 
@@ -32,19 +33,18 @@ class SatellitesInView {
   // Forgets everything, the header included.
   void Reset();
   bool Full() const { return numberedCount_ >= MostSatellites; }
+  // Whether a record holds all of both lists.
+  bool HasRoom() const { return std::size_t{numberedCount_} + unnumberedCount_ <= MostSatellites; }
 
   // Takes the header of the cycle's record from the decoder's time.
   void StampHeader(const TimeManager& time);
 
   // Adds a signal. Satellites beyond the room of the record and signals beyond the three of an
-  // entry are dropped.
-  void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
+  // entry are dropped: false.
+  bool AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
 
-  // Marks a satellite that a GSA sentence lists, adding it when it is new.
-  void MarkUsed(int systemId, int number);
-
-  // The one system in which all these numbers were seen; -1 when they tell none or several.
-  int SystemOf(std::span<const int> numbers) const;
+  // Marks a satellite that a GSA sentence lists, adding it when it is new. False without room.
+  bool MarkUsed(int systemId, int number);
 
   void SetCycleComplete() { cycleComplete_ = true; }
   bool CycleComplete() const { return cycleComplete_; }
@@ -52,10 +52,22 @@ class SatellitesInView {
   // Writes the record of the cycle: numbered satellites in order of appearance, then unnumbered.
   void Fill(GsvRecord& record) const;
 
+  // What another record of the cycle is made from.
+  template <class Record>
+  void FillHeader(Record& record) const {
+    static_assert(sizeof(record.timeText) == sizeof(timeText_));
+    std::memcpy(record.timeText, timeText_, sizeof timeText_);
+    record.gpsTime = gpsTime_;
+  }
+  std::span<const SatelliteInView> Numbered() const { return {numbered_.data(), numberedCount_}; }
+  std::span<const SatelliteInView> Unnumbered() const {
+    return {unnumbered_.data(), unnumberedCount_};
+  }
+
  private:
   // The entry of a numbered satellite, a new one when it is not there; null without room.
   SatelliteInView* Entry(int systemId, int number);
-  static void AddSignalTo(SatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
+  static bool AddSignalTo(SatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
 
   static constexpr std::size_t Slots = 256;  // a power of two above twice the satellites
 

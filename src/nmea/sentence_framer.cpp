@@ -11,12 +11,11 @@ namespace {
 // Bytes of "*" and the checksum digits.
 constexpr std::uint32_t TrailerLength = LongestSentence - LongestStarOffset;
 
-// Cut off by the next sentence; still, it is given up only once its "*" has decided so.
-Framing CutOff(const Head& head, std::uint32_t swept) {
+// Whether a sentence that is cut off by the next one is given up: only once its "*" has decided so.
+bool IsCutOff(const Head& head, std::uint32_t swept) {
   const auto* const star = static_cast<const std::uint8_t*>(std::memchr(head.bytes, '*', swept));
-  const bool decided = star == nullptr ? head.available > swept
-                                       : star + TrailerLength <= head.bytes + head.available;
-  return decided ? Framing::Rejected(NavframeCutOff) : Framing::NeedMore();
+  return star == nullptr ? head.available > swept
+                         : star + TrailerLength <= head.bytes + head.available;
 }
 
 constexpr std::uint32_t TagBlockLength = 8;
@@ -38,19 +37,22 @@ Framing FrameSentence(const Head& head, SentenceSweep& sweep) {
   // Behind the last byte that is there lies nothing to judge by.
   const bool hasTalker =
       available > 2 && IsLetter(static_cast<char>(text[1])) && IsLetter(static_cast<char>(text[2]));
-  if (available >= LongestSentence && !hasTalker) return Framing::Rejected(NavframeBadHeader);
+  const Framing noHeader = Framing::Rejected(NavframeBadHeader);
+  if (available >= LongestSentence && !hasTalker) return noHeader;
   const std::uint32_t swept = std::min(available, LongestStarOffset + 1);
   Sweep(text, swept, sweep);
   if (sweep.outcome == SentenceSweep::Outcome::SecondStart) {
-    return available < LongestSentence ? CutOff(head, swept) : Framing::Rejected(NavframeCutOff);
+    if (available < LongestSentence && !IsCutOff(head, swept)) return Framing::NeedMore();
+    return hasTalker ? Framing::Rejected(NavframeCutOff) : noHeader;
   }
   if (sweep.outcome == SentenceSweep::Outcome::Neither) {
-    return available > swept ? Framing::Rejected(NavframeBadLength) : Framing::NeedMore();
+    if (available <= swept) return Framing::NeedMore();
+    return hasTalker ? Framing::Rejected(NavframeBadLength) : noHeader;
   }
   const std::uint32_t length = sweep.starOffset + TrailerLength;
   if (length > available) return Framing::NeedMore(length);
   // The head is no "$" when the ring was emptied by an exact fill while a sentence was awaited.
-  if (text[0] != '$' || !hasTalker) return Framing::Rejected(NavframeBadHeader, length);
+  if (text[0] != '$' || !hasTalker) return noHeader;
   return ChecksumMatches(text, sweep) ? Framing::Frame(length)
                                       : Framing::Rejected(NavframeBadChecksum, length);
 }

@@ -22,12 +22,13 @@ bool MovesClock(bool opensEpoch, std::uint8_t& counter) {
   return counter >= RepetitionsToMove;
 }
 
-void MoveToTimeOfDay(const SentenceTime& sentence, TimeManager& time) {
+void MoveToTimeOfDay(const SentenceTime& sentence, DecoderClock& time) {
   UTCTIME& utc = sentence.utc;
   if (!HasTime(utc) || utc.second == time.utcTime.second ||
       utc.millisecond == time.utcTime.millisecond) {
     return;
   }
+  time.source = NavframeTimeFromNmea;
   if (HasDate(utc)) {
     time.setDateTime(utc, std::string(sentence.text));
     time.UTC2GPSTime(time.utcTime, time.gpsTime);
@@ -36,8 +37,9 @@ void MoveToTimeOfDay(const SentenceTime& sentence, TimeManager& time) {
   }
 }
 
-void MoveToDate(const SentenceTime& sentence, TimeManager& time) {
+void MoveToDate(const SentenceTime& sentence, DecoderClock& time) {
   UTCTIME& utc = sentence.utc;
+  if (HasDate(utc) || HasTime(utc)) time.source = NavframeTimeFromNmea;
   if (HasDate(utc) && HasTime(utc)) {
     time.setDateTime(utc, std::string(sentence.text));
     time.UTC2GPSTime(time.utcTime, time.gpsTime);
@@ -62,7 +64,7 @@ bool OpensEpoch(NmeaContext& context, std::string_view timeField) {
 }
 
 void KeepTime(ClockRule rule, const SentenceTime& sentence, NmeaContext& context,
-              EpochCounters& counters, TimeManager& time) {
+              EpochCounters& counters, DecoderClock& time) {
   switch (rule) {
     case ClockRule::None:
       return;

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "navframe/time_manager.h"
 #include "nmea/nmea_context.h"
+#include "time/decoder_clock.h"
 
 namespace navframe::nmea {
 
@@ -36,6 +36,6 @@ bool OpensEpoch(NmeaContext& context, std::string_view timeField);
 
 // The rules of the exports; streams move their clock by true_clock instead.
 void KeepTime(ClockRule rule, const SentenceTime& sentence, NmeaContext& context,
-              EpochCounters& counters, TimeManager& time);
+              EpochCounters& counters, DecoderClock& time);
 
 }  // namespace navframe::nmea

@@ -13,6 +13,10 @@ namespace navframe {
 class QueueSink final : public RecordSink {
  public:
   void* Allocate(std::uint32_t size) override { return blocks_.Allocate(size); }
+  RecurringRoom AllocateRecurring(std::uint32_t, std::uint32_t size) override {
+    toWrite_ = size;
+    return {blocks_.Allocate(size), &toWrite_};
+  }
   void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
                    std::uint32_t source = SourceStream) override;
   void Abandon(void* payload, std::uint32_t size) override { blocks_.Abandon(payload, size); }
@@ -33,6 +37,7 @@ class QueueSink final : public RecordSink {
  private:
   OutputQueue queue_;
   PayloadBlocks blocks_;
+  std::uint32_t toWrite_ = 0;  // of the last recurring room, which holds nothing known
 };
 
 }  // namespace navframe

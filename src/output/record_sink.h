@@ -18,6 +18,18 @@ struct [[nodiscard]] DecodeResult {
   NumberFault fault = NumberFault::None;  // and why it does not convert
 };
 
+// Kinds whose records end alike as a rule: in unknown entries of a list, or in zeros.
+inline constexpr std::uint32_t RecurringKinds[] = {MsgIdBinary55Aa, MsgIdUbxSatellites,
+                                                   MsgIdUbxRawMeasurements};
+
+// Room for a record of these.
+struct RecurringRoom {
+  void* payload;
+  // Bytes at the front that must be written; those behind them hold what the last record of the
+  // kind left there. The decoder says anew how far it wrote.
+  std::uint32_t* written;
+};
+
 // What decides about a record, and where it goes. Which of filter and set of ids a decoder asks
 // first is part of each protocol's contract.
 class RecordSink {
@@ -36,7 +48,10 @@ class RecordSink {
   // Room for a payload, with undefined content; every byte must be written before it is pushed.
   virtual void* Allocate(std::uint32_t size) = 0;
 
-  // Hands over a payload of Allocate, or a fixed one.
+  // The same for a kind of RecurringKinds.
+  virtual RecurringRoom AllocateRecurring(std::uint32_t id, std::uint32_t size) = 0;
+
+  // Hands over a payload of these, or a fixed one.
   virtual void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
                            std::uint32_t source = SourceStream) = 0;
 

@@ -53,6 +53,20 @@ std::uint32_t OfEightBytes(std::uint64_t bytes) {
   return value;
 }
 
+// The product of two values of 24 bits, without carries, before the modulus. Numbers of which every
+// fourth bit alone may be set are multiplied with carries: sums of 6 bits never reach the fifth.
+std::uint64_t Product(std::uint64_t a, std::uint64_t b) {
+  constexpr std::uint64_t EveryFourth = 0x1111'1111'1111'1111;
+  const auto part = [](std::uint64_t value, int i) { return value & EveryFourth << i; };
+  std::uint64_t product = 0;
+  for (int i = 0; i < 4; ++i) {
+    std::uint64_t sum = 0;
+    for (int j = 0; j < 4; ++j) sum ^= part(a, j) * part(b, (i - j) & 3);
+    product |= part(sum, i);
+  }
+  return product;
+}
+
 }  // namespace
 
 Crc24q::Value Crc24q::Of(const std::uint8_t* bytes, std::size_t length) {
@@ -71,10 +85,7 @@ Crc24q::Value Crc24q::With(Value value, std::uint8_t byte) {
 
 // The bytes in front count as if zeros stood in place of the last ones.
 Crc24q::Value Crc24q::Between(Value from, Value until, std::size_t length) {
-  std::uint64_t product = 0;
-  for (int bit = 0; bit < 24; ++bit) {
-    product ^= (std::uint64_t{ZeroBytes[length]} << bit) & -(std::uint64_t{from} >> bit & 1);
-  }
+  const std::uint64_t product = Product(from, ZeroBytes[length]);
   const std::uint64_t high = product >> 24;
   const std::uint32_t rest =
       Tables[2][high >> 16] ^ Tables[1][high >> 8 & 0xFF] ^ Tables[0][high & 0xFF];

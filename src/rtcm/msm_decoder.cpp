@@ -58,13 +58,22 @@ void ClearUnused(MsmRecord& record, std::uint32_t used) {
   }
 }
 
+// The epoch of a true clock, which becomes its time.
+void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock) {
+  if (system == MsmSystem::Glonass) {
+    const GlonassTime time = ReadGlonassTime(frame);
+    header.epochTime = true_clock::TowOfGlonass(time.day, time.ofDay, clock);
+  }
+  true_clock::SetTow(header.epochTime, NavframeTimeFromRtcm, clock);
+}
+
 void StampTime(MsmRecord& record, const Services& services) {
-  TimeManager& time = services.time;
-  if (services.dialect.trueClock) {
-    true_clock::SetTow(record.epochTime, time);
+  DecoderClock& time = services.time;
+  if (time.isTrue) {
     CopyText(record.timeText, time.timeText);
   } else if (!IsUnknown(record.epochTime)) {
     time.updateTOW(record.epochTime);
+    time.source = NavframeTimeFromRtcm;
     CopyText(record.timeText, time.timeText);
   }
   record.week = time.getWeek();
@@ -75,13 +84,14 @@ void StampTime(MsmRecord& record, const Services& services) {
 DecodeResult MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& services) {
   const MsmRow* const row = RowOf(number);
   if (row == nullptr) return {NavframeNoKind};
-  const auto header = ReadMsmHeader(frame, row->system);
+  auto header = ReadMsmHeader(frame, row->system);
   if (!header) return {NavframeBadContent};
   const MsmKind& kind = Kinds[number % 10];
   const std::uint32_t dataBits =
       header->satelliteCount * kind.satelliteBits + header->cellCount * kind.cellBits;
   if (!frame.Has(header->dataBit, dataBits)) return {NavframeBadContent};
 
+  if (services.time.isTrue) KeepTrueTime(frame, row->system, *header, services.time);
   auto* const record = static_cast<MsmRecord*>(services.sink.Allocate(sizeof(MsmRecord)));
   std::memset(record, 0, offsetof(MsmRecord, observations));
   record->epochTime = header->epochTime;

@@ -18,15 +18,22 @@ constexpr std::uint32_t CellMaskBit = 193;
 
 constexpr std::int32_t WeekMs = 604'800'000;
 constexpr std::int32_t BeiDouToGpsMs = 14'000;
-// GLONASS time is UTC + 3 h. The leap seconds here are fixed and no affair of the time keeper's.
+// GLONASS time is UTC + 3 h. The leap seconds of the exports are fixed and no affair of the
+// clock's.
 constexpr std::int32_t GlonassToGpsSeconds = 18 - 10'800;
+
+GlonassTime GlonassTimeOf(const std::uint8_t* bytes) {
+  return {
+      static_cast<std::uint32_t>(UnsignedBits(bytes, EpochBit, GlonassDayBits)),
+      static_cast<std::uint32_t>(UnsignedBits(bytes, EpochBit + GlonassDayBits, GlonassTimeBits))};
+}
 
 std::uint32_t EpochOf(const std::uint8_t* bytes, MsmSystem system) {
   if (system == MsmSystem::Glonass) {
-    const auto day = static_cast<std::int32_t>(UnsignedBits(bytes, EpochBit, GlonassDayBits));
-    const auto ofDay =
-        static_cast<std::int32_t>(UnsignedBits(bytes, EpochBit + GlonassDayBits, GlonassTimeBits));
-    const std::int32_t epoch = (day * 86'400 + GlonassToGpsSeconds) * 1000 + ofDay;
+    const GlonassTime time = GlonassTimeOf(bytes);
+    const std::int32_t epoch =
+        (static_cast<std::int32_t>(time.day) * 86'400 + GlonassToGpsSeconds) * 1000 +
+        static_cast<std::int32_t>(time.ofDay);
     return static_cast<std::uint32_t>(epoch < 0 ? epoch + WeekMs : epoch);
   }
   auto epoch = static_cast<std::int32_t>(UnsignedBits(bytes, EpochBit, EpochBits));
@@ -42,6 +49,8 @@ constexpr std::uint64_t TopBits(std::uint64_t bits, std::uint32_t count) {
 }
 
 }  // namespace
+
+GlonassTime ReadGlonassTime(const Frame& frame) { return GlonassTimeOf(frame.bytes); }
 
 std::optional<MsmHeader> ReadMsmHeader(const Frame& frame, MsmSystem system) {
   if (frame.EndBit() < CellMaskBit) return std::nullopt;

@@ -26,4 +26,11 @@ struct MsmHeader {
 // satellites and signals.
 std::optional<MsmHeader> ReadMsmHeader(const Frame& frame, MsmSystem system);
 
+// GLONASS time of a header, as sent: day of the week, 7 for unknown, and ms of that day.
+struct GlonassTime {
+  std::uint32_t day;
+  std::uint32_t ofDay;
+};
+GlonassTime ReadGlonassTime(const Frame& frame);
+
 }  // namespace navframe::rtcm

@@ -10,7 +10,7 @@ namespace navframe::rtcm {
 class RtcmDecoder {
  public:
   // `sink` and `time` must outlive the decoder.
-  RtcmDecoder(RecordSink& sink, TimeManager& time, const Dialect& dialect = LegacyDialect)
+  RtcmDecoder(RecordSink& sink, DecoderClock& time, const Dialect& dialect = LegacyDialect)
       : services_{sink, time, dialect} {}
 
   // Dispatches by message number. A number without a decoder yields nothing.

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "base/dialect.h"
-#include "navframe/time_manager.h"
 #include "output/record_sink.h"
+#include "time/decoder_clock.h"
 
 namespace navframe::rtcm {
 
 struct Services {
   RecordSink& sink;
-  TimeManager& time;
+  DecoderClock& time;
   const Dialect& dialect;
 };
 

@@ -3,9 +3,11 @@
 #include <array>
 #include <cstring>
 
+#include "base/unknown.h"
 #include "catalogue/unknown_records.h"
 #include "navframe/records.h"
 #include "rtcm/field_rows.h"
+#include "time/true_clock.h"
 
 namespace navframe::rtcm {
 namespace {
@@ -51,6 +53,14 @@ void DecodeAnnouncements(const Frame& frame, std::uint32_t bit, SystemParameters
   }
 }
 
+void KeepSystemTime(const void* record, DecoderClock& clock) {
+  const auto& parameters = *static_cast<const SystemParametersRecord*>(record);
+  if (IsUnknown(parameters.modifiedJulianDay) || IsUnknown(parameters.secondsOfDay)) return;
+  if (!IsUnknown(parameters.leapSeconds)) clock.setLeap(parameters.leapSeconds);
+  true_clock::SetJulianDay(parameters.modifiedJulianDay, parameters.secondsOfDay,
+                           NavframeTimeFromRtcm, clock);
+}
+
 // What a message becomes.
 struct StationRow {
   std::uint32_t number;
@@ -60,6 +70,7 @@ struct StationRow {
   const void* unknown = nullptr;  // as it is before its fields are read
   // Reads what no row of fields tells, from `bit` on, where they end; null for nothing.
   void (*rest)(const Frame& frame, std::uint32_t bit, void* record) = nullptr;
+  void (*keepTime)(const void* record, DecoderClock& clock) = nullptr;  // moves a true clock
 };
 
 // Adds to a row what follows from the type of its record.
@@ -82,8 +93,10 @@ constexpr StationRow With(StationRow row) {
 // Message number, kind, fields.
 constexpr StationRow StationRows[] = {
     With<StationPositionRecord>({1005, MsgIdStationPosition, StationPosition}),
-    With<SystemParametersRecord, DecodeAnnouncements>(
-        {1013, MsgIdSystemParameters, SystemParameters}),
+    With<SystemParametersRecord, DecodeAnnouncements>({.number = 1013,
+                                                       .msgId = MsgIdSystemParameters,
+                                                       .fields = SystemParameters,
+                                                       .keepTime = KeepSystemTime}),
 };
 
 // Unlike everywhere else the filter is asked before the kind counts as decoded.
@@ -94,6 +107,7 @@ void Decode(const StationRow& row, const Frame& frame, Services& services) {
   std::memcpy(record, row.unknown, row.size);
   const std::uint32_t bit = ReadFields(frame, FirstFieldBit, row.fields, record);
   if (row.rest != nullptr) row.rest(frame, bit, record);
+  if (services.time.isTrue && row.keepTime != nullptr) row.keepTime(record, services.time);
   const std::uint32_t tow = services.time.getTOW();
   std::memcpy(record, &tow, sizeof tow);
   services.sink.PushMessage(row.msgId, record, row.size);

@@ -1,6 +1,7 @@
 #include "rtcm/subtype_table.h"
 
 #include <cstring>
+#include <optional>
 
 #include "catalogue/unknown_records.h"
 #include "navframe/navframe.h"
@@ -84,7 +85,8 @@ struct Family {
 };
 constexpr Family Families[] = {{910, 8}, {999, 8}, {4074, 12}};
 
-void SetClockFrom(GPSTIME gpsTime, TimeManager& time) {
+void SetClockFrom(GPSTIME gpsTime, DecoderClock& time) {
+  time.source = NavframeTimeFromRtcm;
   if (IsUnknown(gpsTime.week)) {
     time.updateTOW(gpsTime.tow);
   } else {
@@ -93,14 +95,14 @@ void SetClockFrom(GPSTIME gpsTime, TimeManager& time) {
 }
 
 // A message without a time of week leaves the clock alone. That of 4074 sub-type 243 is 0 then.
-void SetTrueClockFrom(const SubTypeRow& row, GPSTIME gpsTime, TimeManager& time) {
+void SetTrueClockFrom(const SubTypeRow& row, GPSTIME gpsTime, DecoderClock& time) {
   if (IsUnknown(gpsTime.tow) || (row.noTowIsZero && gpsTime.tow == 0)) return;
-  if (IsUnknown(gpsTime.week)) return true_clock::SetTow(gpsTime.tow, time);
-  true_clock::SetGpsTime(gpsTime, time);
+  if (IsUnknown(gpsTime.week)) return true_clock::SetTow(gpsTime.tow, NavframeTimeFromRtcm, time);
+  true_clock::SetGpsTime(gpsTime, NavframeTimeFromRtcm, time);
 }
 
 void HandleTime(const SubTypeRow& row, void* record, const Services& services) {
-  TimeManager& time = services.time;
+  DecoderClock& time = services.time;
   switch (row.time) {
     case None:
       return;
@@ -132,20 +134,30 @@ void DecodeSubType(const SubTypeRow& row, const Frame& frame, Services& services
   services.sink.PushMessage(row.msgId, record, row.size);
 }
 
+std::optional<std::uint32_t> FindSubType(std::uint32_t number, const Frame& frame) {
+  for (const Family& family : Families) {
+    if (family.number != number || !frame.Has(FirstFieldBit, family.subTypeBits)) continue;
+    return static_cast<std::uint32_t>(UnsignedBits(frame.bytes, FirstFieldBit, family.subTypeBits));
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 DecodeResult DecodeProprietary(std::uint32_t number, const Frame& frame, Services& services) {
-  for (const Family& family : Families) {
-    if (family.number != number || !frame.Has(FirstFieldBit, family.subTypeBits)) continue;
-    const std::uint64_t subType = UnsignedBits(frame.bytes, FirstFieldBit, family.subTypeBits);
-    for (const SubTypeRow& row : SubTypeRows) {
-      if (row.number != number || row.subType != subType) continue;
-      if (row.frameLength != 0 && row.frameLength != frame.length) return {NavframeBadContent};
-      DecodeSubType(row, frame, services);
-      return {};
-    }
+  const auto subType = FindSubType(number, frame);
+  if (!subType) return {NavframeNoKind};
+  for (const SubTypeRow& row : SubTypeRows) {
+    if (row.number != number || row.subType != *subType) continue;
+    if (row.frameLength != 0 && row.frameLength != frame.length) return {NavframeBadContent};
+    DecodeSubType(row, frame, services);
+    return {};
   }
   return {NavframeNoKind};
+}
+
+std::uint32_t SubTypeOf(std::uint32_t number, const Frame& frame) {
+  return FindSubType(number, frame).value_or(0);
 }
 
 }  // namespace navframe::rtcm

@@ -1,6 +1,8 @@
 #include "stream/frame_decoders.h"
 
+#include "asciilog/log_table.h"
 #include "catalogue/kinds.h"
+#include "time/true_clock.h"
 
 namespace navframe::protocols {
 
@@ -9,6 +11,9 @@ DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::
   if (catalogue::FindKind(log, SourceAsciiLog) == nullptr) return {NavframeNoKind};
   const std::string_view line(reinterpret_cast<const char*>(frame), length);
   if (!decoders.asciiLog.DecodeLine(line, log)) return {NavframeBadContent};
+  if (const auto time = asciilog::TimeOf(*asciilog::RowOf(log), line)) {
+    true_clock::SetGpsTime(*time, NavframeTimeFromLog, decoders.time);
+  }
   return {};
 }
 

@@ -13,7 +13,6 @@
 #include "framing/framing.h"
 #include "framing/overlapping_checksum.h"
 #include "framing/parser_state.h"
-#include "navframe/time_manager.h"
 #include "nmea/nmea_decoder.h"
 #include "nmea/sentence_framer.h"
 #include "nmea/tag_block_framer.h"
@@ -21,6 +20,7 @@
 #include "rtcm/crc24q.h"
 #include "rtcm/rtcm_decoder.h"
 #include "rtcm/rtcm_framer.h"
+#include "time/decoder_clock.h"
 #include "ubx/fletcher.h"
 #include "ubx/frame.h"
 #include "ubx/ubx_decoder.h"
@@ -43,13 +43,13 @@ struct FrameDecoders {
         nmea{sink, time, dialect},
         ubx{sink, time},
         binary55Aa{sink},
-        rtcm{sink, time},
+        rtcm{sink, time, dialect},
         asciiLog{sink} {}
   FrameDecoders(const FrameDecoders&) = delete;
   FrameDecoders& operator=(const FrameDecoders&) = delete;
 
   const Dialect dialect;
-  TimeManager time;  // shared by the decoders of all protocols
+  DecoderClock time{dialect.trueClock};
   FramingState framing;
   nmea::NmeaDecoder nmea;
   ubx::UbxDecoder ubx;

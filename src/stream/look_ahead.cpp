@@ -6,6 +6,26 @@
 #include "base/byte_block.h"
 
 namespace navframe {
+namespace {
+
+// The search knows the heads of all frames that are stronger than some other.
+constexpr bool KnowsStrongerHeads(std::span<const ProtocolRow> rows) {
+  for (const ProtocolRow& row : rows) {
+    for (unsigned second = 0; second < 256 && row.rank != Rank::EightBits; ++second) {
+      const auto byte = static_cast<std::uint8_t>(second);
+      const bool known = StrongHeads<true>::IsHead(row.syncByte, byte);
+      const bool knownAlone = StrongHeads<false>::IsHead(row.syncByte, byte);
+      if (known != row.mayFollow(byte) || knownAlone != (known && row.rank == Rank::Crc)) {
+        return false;
+      }
+    }
+  }
+  return true;
+}
+static_assert(KnowsStrongerHeads(Protocols) && KnowsStrongerHeads(StreamProtocols));
+
+}  // namespace
+
 SearchedProtocols::SearchedProtocols(std::span<const ProtocolRow* const> rows)
     : count_(rows.size()) {
   for (std::size_t i = 0; i < count_; ++i) {
@@ -24,22 +44,16 @@ SearchedProtocols::SearchedProtocols(std::span<const ProtocolRow* const> rows)
 template <class Accept>
 std::size_t SearchedProtocols::FindSyncByte(const std::uint8_t* data, std::size_t length,
                                             Accept&& accept) const {
-  const auto find = [&](const auto& wanted) {
-    for (std::size_t at = 0; at < length; at += ByteBlock::Size) {
-      std::uint64_t hits = ByteBlock(data + at).EqualToAny(wanted);
-      if (length - at < ByteBlock::Size) hits &= (std::uint64_t{1} << (length - at)) - 1;
-      for (; hits != 0; hits &= hits - 1) {
-        const std::size_t offset = at + static_cast<std::size_t>(std::countr_zero(hits));
-        if (accept(offset)) return offset;
-      }
-    }
-    return length;
-  };
   if (count_ == 0) return length;
-  if (count_ > MostStronger) return find(bytes_);
-  std::array<std::uint8_t, MostStronger> few;
-  std::copy_n(bytes_.begin(), MostStronger, few.begin());
-  return find(few);
+  for (std::size_t at = 0; at < length; at += ByteBlock::Size) {
+    std::uint64_t hits = ByteBlock(data + at).EqualToAny(bytes_);
+    if (length - at < ByteBlock::Size) hits &= (std::uint64_t{1} << (length - at)) - 1;
+    for (; hits != 0; hits &= hits - 1) {
+      const std::size_t offset = at + static_cast<std::size_t>(std::countr_zero(hits));
+      if (accept(offset)) return offset;
+    }
+  }
+  return length;
 }
 
 std::size_t SearchedProtocols::Find(const std::uint8_t* data, std::size_t length) const {
@@ -56,43 +70,73 @@ std::uint32_t SearchedProtocols::FindStart(const Head& head, std::uint32_t at,
   return at + static_cast<std::uint32_t>(FindSyncByte(data, end - at, mayStart));
 }
 
-void LookAhead::Enter(const Head& head) {
-  base_ = farthest_;
-  farthest_ = base_ + head.available;
+// The search for heads goes on behind the frame for so many bytes, which belong to the next ones.
+void StrongerFrames::FindNext(const Head& head, std::uint32_t length) {
+  constexpr std::uint32_t Ahead = 512;
+  const auto from = static_cast<std::uint32_t>(next_ - head.position);
+  const std::uint32_t until = std::min(head.available, length + Ahead);
+  const std::uint8_t* const bytes = head.bytes + from;
+  const std::size_t found = than_ == Rank::EightBits
+                                ? StrongHeads<true>::Find(bytes, until - from)
+                                : StrongHeads<false>::Find(bytes, until - from);
+  next_ += found;
+  isHead_ = found < until - from;
 }
 
-Framing LookAhead::FrameAt(const Head& head, std::uint32_t at, const SearchedProtocols& protocols) {
-  const ProtocolRow& row = *protocols.RowOf(head.bytes[at]);
+StrongerFrames::Answer StrongerFrames::Search(const Head& head, std::uint32_t length, bool ended) {
+  const std::uint64_t end = head.position + length;
+  if (next_ <= head.position) {
+    next_ = head.position + 1;
+    isHead_ = false;
+  }
+  for (;;) {
+    if (!isHead_ && next_ < end) FindNext(head, length);
+    if (next_ >= end) return Answer::None;
+    const auto at = static_cast<std::uint32_t>(next_ - head.position);
+    const ProtocolRow* const row = protocols_.RowOf(head.bytes[at]);
+    if (row != nullptr && row->rank > than_) {
+      const Head inner{head.bytes + at, head.available - at, next_};
+      const Verdict verdict = row->frame(state_, dialect_, inner).verdict;
+      if (verdict == Verdict::Frame) return Answer::Frame;
+      if (verdict == Verdict::NeedMore && !ended) return Answer::Open;
+    }
+    ++next_;
+    isHead_ = false;
+  }
+}
+
+Framing FramesBehind::FrameAt(const Head& head, std::uint32_t at) {
+  const ProtocolRow& row = *protocols_.RowOf(head.bytes[at]);
   return row.frame(state_, dialect_, {head.bytes + at, head.available - at, base_ + at});
 }
 
-LookAhead::Answer LookAhead::Look(const Head& head, std::uint32_t length,
-                                  const SearchedProtocols& protocols) {
-  if (head.position != head_) {
-    head_ = head.position;
-    looked_ = 1;
-    Enter(head);
-  }
-  farthest_ = std::max(farthest_, base_ + head.available);
-  for (;;) {
-    looked_ = protocols.FindStart(head, looked_, length);
-    if (looked_ == length) return Answer::None;
-    const Verdict verdict = FrameAt(head, looked_, protocols).verdict;
-    if (verdict == Verdict::Frame) return Answer::Frame;
-    if (verdict == Verdict::NeedMore) return Answer::Open;
-    ++looked_;
-  }
-}
+std::uint32_t FramesBehind::Find(const Head& head) {
+  // In steps of about a nanosecond: what a byte may cost, the search for heads, a framer.
+  constexpr std::int64_t OfByte = 12, MostCredit = 1 << 20, MostDebt = 1 << 18;
+  constexpr std::uint32_t BytesSearched = 16, BytesChecked = 2, OfFramer = 16;
 
-std::uint32_t LookAhead::FindFrame(const Head& head, const SearchedProtocols& protocols) {
-  head_ = ~std::uint64_t{0};
-  Enter(head);
-  for (std::uint32_t at = 1; at < head.available; ++at) {
-    at = protocols.FindStart(head, at, head.available);
-    if (at == head.available) break;
-    if (FrameAt(head, at, protocols).verdict == Verdict::Frame) return at;
+  const std::uint64_t end = head.position + head.available;
+  if (end == seen_ && head.position == head_) return 0;  // as before
+  if (end > seen_) {
+    credit_ = std::min(credit_ + OfByte * static_cast<std::int64_t>(end - seen_), MostCredit);
   }
-  return 0;
+  seen_ = end;
+  head_ = head.position;
+  if (credit_ <= 0) return 0;
+  credit_ -= head.available / BytesSearched;
+  std::uint32_t found = 0;
+  for (std::uint32_t at = 1; at < head.available && credit_ > -MostDebt; ++at) {
+    at = protocols_.FindStart(head, at, head.available);
+    if (at == head.available) break;
+    const Framing framing = FrameAt(head, at);
+    credit_ -=
+        OfFramer + (framing.verdict == Verdict::NeedMore ? 0 : framing.length / BytesChecked);
+    if (framing.verdict != Verdict::Frame) continue;
+    found = at;
+    break;
+  }
+  base_ += head.available;
+  return found;
 }
 
 }  // namespace navframe

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "stream/frame_decoders.h"
+#include "stream/strong_heads.h"
 
 namespace navframe {
 
@@ -26,7 +27,6 @@ class SearchedProtocols {
 
  private:
   static constexpr std::size_t Most = std::size(Protocols) + std::size(StreamProtocols);
-  static constexpr std::size_t MostStronger = 3;  // than the weakest
 
   // The first of `length` bytes that is a sync byte and that `accept` takes at its offset.
   template <class Accept>
@@ -39,30 +39,58 @@ class SearchedProtocols {
   std::array<std::uint8_t, 256> ofSecond_{};  // bits for the rows whose second byte it may be
 };
 
-class LookAhead {
+// Looks inside frames for those with a stronger check than one rank has. The bytes are searched
+// once from the first to the last, whichever frames they belong to.
+class StrongerFrames {
  public:
-  explicit LookAhead(const Dialect& dialect) : dialect_(dialect) {}
+  // `protocols` must outlive this.
+  StrongerFrames(Rank than, const Dialect& dialect, const SearchedProtocols& protocols)
+      : than_(than), dialect_(dialect), protocols_(protocols) {}
 
   enum class Answer : std::uint8_t { None, Frame, Open };
 
-  // Whether a whole frame begins among the bytes 1 to `length` - 1 of the head, or in front of it a
-  // head that needs more bytes. A head that was looked at before goes on where that ended.
-  Answer Look(const Head& head, std::uint32_t length, const SearchedProtocols& protocols);
-
-  // Where the first whole frame behind the head begins, whatever waits in front of it; 0 for none.
-  std::uint32_t FindFrame(const Head& head, const SearchedProtocols& protocols);
+  // Whether a whole stronger frame begins among the bytes 1 to `length` - 1 of the head, or in
+  // front of it a head that needs more bytes; with `ended` no such head is waited for.
+  Answer Look(const Head& head, std::uint32_t length, bool ended) {
+    if (next_ >= head.position + length) [[likely]]
+      return Answer::None;
+    return Search(head, length, ended);
+  }
 
  private:
-  // The places that framers are told count on from head to head, as they want it.
-  void Enter(const Head& head);
-  Framing FrameAt(const Head& head, std::uint32_t at, const SearchedProtocols& protocols);
+  void FindNext(const Head& head, std::uint32_t length);
+  Answer Search(const Head& head, std::uint32_t length, bool ended);
+
+  Rank than_;
+  Dialect dialect_;
+  const SearchedProtocols& protocols_;
+  FramingState state_;
+  std::uint64_t next_ = 0;  // no head of a stronger frame begins in front of this position
+  bool isHead_ = false;     // one may begin there; else the search goes on there
+};
+
+// Looks behind heads that wait on a quiet line.
+class FramesBehind {
+ public:
+  FramesBehind(const Dialect& dialect, const SearchedProtocols& protocols)
+      : dialect_(dialect), protocols_(protocols) {}
+
+  // Where the first whole frame behind the head begins, whatever waits in front of it; 0 for none.
+  // False heads could make every search dear: what it costs is paid by the bytes that came, and
+  // without that nothing is found.
+  std::uint32_t Find(const Head& head);
+
+ private:
+  Framing FrameAt(const Head& head, std::uint32_t at);
 
   Dialect dialect_;
+  const SearchedProtocols& protocols_;
   FramingState state_;
-  std::uint64_t head_ = ~std::uint64_t{0};  // position of the head that was looked at
-  std::uint32_t looked_ = 1;                // its bytes in front of this are done
+  // The places that framers are told count on from search to search, as they want it.
   std::uint64_t base_ = 0;
-  std::uint64_t farthest_ = 0;
+  std::uint64_t seen_ = 0;                  // position behind the last byte that was there
+  std::uint64_t head_ = ~std::uint64_t{0};  // position of the last head
+  std::int64_t credit_ = 0;
 };
 
 }  // namespace navframe

@@ -1,16 +1,34 @@
 #include "stream/slot_sink.h"
 
+#include <algorithm>
+
+#include "catalogue/kinds.h"
+
 namespace navframe {
 
-void SlotSink::GiveRoom(std::uint32_t slot, std::uint32_t size) {
-  memory_[slot].reset(new std::uint64_t[(size + 7) / 8]);
-  capacity_[slot] = size;
+namespace {
+
+// Not cleared: pages are touched as large records come.
+std::unique_ptr<std::uint64_t[]> Room(std::uint32_t size) {
+  return std::unique_ptr<std::uint64_t[]>(new std::uint64_t[(size + 7) / 8]);
 }
 
-void* SlotSink::Allocate(std::uint32_t size) {
-  const std::uint32_t slot = count_ < Slots ? count_ : Slots - 1;
-  if (size > capacity_[slot]) GiveRoom(slot, size);
-  return memory_[slot].get();
+}  // namespace
+
+SlotSink::SlotSink() {
+  std::uint32_t largest = 0;
+  for (const auto& [kind, text] : catalogue::KindRows()) largest = std::max(largest, kind.size);
+  for (auto& memory : memory_) memory = Room(largest);
+  for (std::size_t i = 0; i < ownRooms_.size(); ++i) {
+    const std::uint32_t size = catalogue::FindKind(RecurringKinds[i], SourceStream)->kind.size;
+    ownRooms_[i] = {Room(size), size};
+  }
+}
+
+RecurringRoom SlotSink::AllocateRecurring(std::uint32_t id, std::uint32_t /*size*/) {
+  const auto index = std::ranges::find(RecurringKinds, id) - std::begin(RecurringKinds);
+  OwnRoom& room = ownRooms_[static_cast<std::size_t>(index)];
+  return {room.memory.get(), &room.written};
 }
 
 void SlotSink::PushMessage(std::uint32_t id, void* payload, std::uint32_t /*size*/,

@@ -16,12 +16,13 @@ struct SlotRecord {
 };
 
 // A frame gives two records at most: the satellites in view that it ends, and its own. Their memory
-// is kept for those of the next frame.
+// is there from the start, so that no decoder stops half-way for the want of it.
 class SlotSink final : public RecordSink {
  public:
-  SlotSink() { GiveRoom(0), GiveRoom(1); }
+  SlotSink();
 
-  void* Allocate(std::uint32_t size) override;
+  void* Allocate(std::uint32_t) override { return memory_[count_ < Slots ? count_ : 1].get(); }
+  RecurringRoom AllocateRecurring(std::uint32_t id, std::uint32_t size) override;
   void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
                    std::uint32_t source = SourceStream) override;
   void Abandon(void*, std::uint32_t) override {}
@@ -33,13 +34,13 @@ class SlotSink final : public RecordSink {
 
  private:
   static constexpr std::uint32_t Slots = 2;
-  // Most records fit; the room grows to the largest that comes.
-  static constexpr std::uint32_t UsualSize = 4096;
-
-  void GiveRoom(std::uint32_t slot, std::uint32_t size = UsualSize);
 
   std::array<std::unique_ptr<std::uint64_t[]>, Slots> memory_;
-  std::array<std::uint32_t, Slots> capacity_{};
+  struct OwnRoom {
+    std::unique_ptr<std::uint64_t[]> memory;
+    std::uint32_t written = 0;
+  };
+  std::array<OwnRoom, std::size(RecurringKinds)> ownRooms_;
   std::array<SlotRecord, Slots> records_;
   std::uint32_t count_ = 0;
 };

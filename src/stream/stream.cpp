@@ -7,6 +7,8 @@
 #include "base/text.h"
 #include "catalogue/kinds.h"
 #include "rtcm/bits.h"
+#include "rtcm/subtype_table.h"
+#include "time/true_clock.h"
 
 namespace navframe {
 namespace {
@@ -25,12 +27,6 @@ Rows RowsOf(const NavframeOptions& options) {
   for (const ProtocolRow& row : StreamProtocols) {
     if ((options.protocols & row.protocol) != 0) rows.push_back(&row);
   }
-  return rows;
-}
-
-Rows StrongerThan(Rank rank, const NavframeOptions& options) {
-  Rows rows = RowsOf(options);
-  std::erase_if(rows, [rank](const ProtocolRow* row) { return row->rank <= rank; });
   return rows;
 }
 
@@ -68,6 +64,12 @@ std::uint32_t MessageOf(const ProtocolRow& row, const std::uint8_t* frame, std::
   }
 }
 
+// A frame that gave no record of its own, though perhaps the satellites in view that it ended.
+bool IsUndecoded(const DecodeResult& result, const Dialect& dialect) {
+  return result.reason == NavframeNoKind || result.reason == NavframeBadContent ||
+         (result.reason == NavframeBadField && !dialect.keepsSentences);
+}
+
 std::string_view AddressOf(const std::uint8_t* frame, std::uint32_t length) {
   std::uint32_t end = 1;
   while (end < length && frame[end] != ',' && frame[end] != '*') ++end;
@@ -76,23 +78,24 @@ std::string_view AddressOf(const std::uint8_t* frame, std::uint32_t length) {
 
 }  // namespace
 
-Stream::Stream(const NavframeOptions& options)
+StreamDecoder::StreamDecoder(const NavframeOptions& options)
     : options_(options),
       wanted_(options.kinds, options.kinds + options.kindCount),
       buffer_(options.bufferSize),
-      protocols_(RowsOf(options)),
-      stronger_{SearchedProtocols(StrongerThan(Rank::EightBits, options)),
-                SearchedProtocols(StrongerThan(Rank::Fletcher, options))} {
+      protocols_(RowsOf(options)) {
   std::ranges::sort(wanted_);
   Reset();
 }
 
-void Stream::Reset() {
+void StreamDecoder::Reset() {
   buffer_.Clear();
   sink_.Clear();
   decoders_.emplace(sink_, DialectOf(options_));
-  inside_.emplace(DialectOf(options_));
-  behind_.emplace(DialectOf(options_));
+  if (decoders_->time.isTrue) true_clock::Start(options_.startWeek, decoders_->time);
+  for (const Rank rank : {Rank::EightBits, Rank::Fletcher}) {
+    stronger_[static_cast<std::size_t>(rank)].emplace(rank, DialectOf(options_), protocols_);
+  }
+  behind_.emplace(DialectOf(options_), protocols_);
   position_ = 0;
   scanned_ = 0;
   flushing_ = false;
@@ -105,14 +108,14 @@ void Stream::Reset() {
   statistics_ = {};
 }
 
-std::size_t Stream::Put(const std::uint8_t* data, std::size_t length) {
+std::size_t StreamDecoder::Put(const std::uint8_t* data, std::size_t length) {
   // What a flush ends is decoded before anything behind it comes.
   const std::size_t taken = flushing_ ? 0 : buffer_.Append(data, length);
   statistics_.bytes += taken;
   return taken;
 }
 
-bool Stream::Next(NavframeItem& item) {
+bool StreamDecoder::Next(NavframeItem& item) {
   for (;;) {
     if (span_.waits) {
       span_.waits = false;
@@ -127,7 +130,7 @@ bool Stream::Next(NavframeItem& item) {
 }
 
 // Nothing more comes of the bytes that are there: on a quiet line, satellites in view may.
-bool Stream::EndIdle() {
+bool StreamDecoder::EndIdle() {
   if (!idle_) return false;
   idle_ = false;
   if (!decoders_->nmea.CycleIsWhole()) return false;
@@ -135,17 +138,20 @@ bool Stream::EndIdle() {
   return true;
 }
 
-void Stream::EndCycle() {
+void StreamDecoder::EndCycle() {
   decoders_->nmea.EndCycle();
-  span_.row = nullptr;
-  span_.bytes = buffer_.Bytes();
+  span_ = {};
+  span_.type = NavframeItemFrame;
+  span_.row = &Protocols[0];
+  static_assert(Protocols[0].protocol == NavframeNmea);
   span_.position = position_;
-  span_.length = 0;
+  span_.bytes = buffer_.Bytes();
+  statistics_.nmea.records += sink_.Count();
   tagged_ = false;
 }
 
 // Covers the next bytes with a span. False when more bytes are needed to tell.
-bool Stream::Advance() {
+bool StreamDecoder::Advance() {
   sink_.Clear();
   nextRecord_ = 0;
   const std::size_t available = buffer_.Size();
@@ -167,7 +173,7 @@ bool Stream::Advance() {
   return true;
 }
 
-bool Stream::HandleHead(const Head& head) {
+bool StreamDecoder::HandleHead(const Head& head) {
   const ProtocolRow& row = *protocols_.RowOf(head.bytes[0]);
   const Dialect& dialect = decoders_->dialect;
   const Framing framing = row.frame(decoders_->framing, dialect, head);
@@ -181,13 +187,13 @@ bool Stream::HandleHead(const Head& head) {
   }
   // A check of few bits may hold by chance: a frame with a stronger one is believed rather.
   if (dialect.strongerFramesWin && row.rank != Rank::Crc) {
-    switch (inside_->Look(head, framing.length, stronger_[static_cast<std::size_t>(row.rank)])) {
-      case LookAhead::Answer::Frame:
+    StrongerFrames& stronger = *stronger_[static_cast<std::size_t>(row.rank)];
+    switch (stronger.Look(head, framing.length, flushing_ || idle_)) {
+      case StrongerFrames::Answer::Frame:
         return Reject(row, NavframeStrongerFrame, framing.length);
-      case LookAhead::Answer::Open:
-        if (!flushing_ && !idle_) return false;
-        break;
-      case LookAhead::Answer::None:
+      case StrongerFrames::Answer::Open:
+        return false;
+      case StrongerFrames::Answer::None:
         break;
     }
   }
@@ -196,16 +202,16 @@ bool Stream::HandleHead(const Head& head) {
 
 // A head that needs more bytes: it waits, unless the input ended, or the line is quiet and a whole
 // frame stands behind it.
-bool Stream::HandleWaiting(const Head& head, const ProtocolRow& row, std::uint32_t claimed) {
+bool StreamDecoder::HandleWaiting(const Head& head, const ProtocolRow& row, std::uint32_t claimed) {
   if (idle_ && head.position >= givenUpUntil_) {
-    const std::uint32_t frame = behind_->FindFrame(head, protocols_);
+    const std::uint32_t frame = behind_->Find(head);
     if (frame != 0) givenUpUntil_ = head.position + frame;
   }
   const bool givenUp = flushing_ || head.position < givenUpUntil_;
   return givenUp && Reject(row, NavframeCutOff, claimed);
 }
 
-void Stream::KeepTagBlock(const Head& head, const ProtocolRow& row, std::uint32_t length) {
+void StreamDecoder::KeepTagBlock(const Head& head, const ProtocolRow& row, std::uint32_t length) {
   tagged_ = row.protocol == NavframeNmea && head.position == tagBlockEnd_;
   if (row.protocol != NavframeNmeaTagBlock) return;
   // Without its backslashes.
@@ -214,7 +220,7 @@ void Stream::KeepTagBlock(const Head& head, const ProtocolRow& row, std::uint32_
   tagBlockEnd_ = head.position + length;
 }
 
-bool Stream::TakeFrame(const Head& head, const ProtocolRow& row, std::uint32_t length) {
+bool StreamDecoder::TakeFrame(const Head& head, const ProtocolRow& row, std::uint32_t length) {
   std::uint32_t spanned = length;
   if (row.protocol == NavframeNmea || row.protocol == NavframeAsciiLog) {
     const auto lineEnd = LineEndAt(head, length, flushing_ || idle_);
@@ -226,13 +232,13 @@ bool Stream::TakeFrame(const Head& head, const ProtocolRow& row, std::uint32_t l
   NavframeProtocolStatistics& counts = statistics_.*row.counts;
   counts.frames += 1;
   counts.frameBytes += spanned;
-  counts.undecoded += span_.result.reason == NavframeNoKind ? 1 : 0;
+  counts.undecoded += IsUndecoded(span_.result, decoders_->dialect) ? 1 : 0;
   counts.records += sink_.Count();
   Cover(NavframeItemFrame, &row, spanned);
   return true;
 }
 
-bool Stream::Reject(const ProtocolRow& row, NavframeReason reason, std::uint32_t claimed) {
+bool StreamDecoder::Reject(const ProtocolRow& row, NavframeReason reason, std::uint32_t claimed) {
   tagged_ = false;
   if (!decoders_->dialect.silentCheckErrors && row.protocol == NavframeUbx &&
       reason == NavframeBadChecksum) {
@@ -240,19 +246,22 @@ bool Stream::Reject(const ProtocolRow& row, NavframeReason reason, std::uint32_t
   }
   span_.result = {reason};
   span_.claimedLength = claimed;
-  (statistics_.*row.counts).rejected += 1;
+  NavframeProtocolStatistics& counts = statistics_.*row.counts;
+  counts.rejected += 1;
+  counts.records += sink_.Count();
   Cover(NavframeItemRejected, &row, 1);
   return true;
 }
 
-bool Stream::FinishFlush() {
+bool StreamDecoder::FinishFlush() {
   if (!flushing_) return false;
   flushing_ = false;
+  tagBlockEnd_ = ~std::uint64_t{0};
   EndCycle();
   return true;
 }
 
-void Stream::Cover(NavframeItemType type, const ProtocolRow* row, std::uint32_t length) {
+void StreamDecoder::Cover(NavframeItemType type, const ProtocolRow* row, std::uint32_t length) {
   span_.type = type;
   span_.row = row;
   span_.position = position_;
@@ -264,14 +273,13 @@ void Stream::Cover(NavframeItemType type, const ProtocolRow* row, std::uint32_t 
   scanned_ = 0;
 }
 
-bool Stream::IsAskedFor(const Span& span) const {
+bool StreamDecoder::IsAskedFor(const Span& span) const {
   if ((options_.items & span.type) != 0) return true;
-  const bool undecoded = span.type == NavframeItemFrame && sink_.Count() == 0 &&
-                         span.result.reason != NavframeNoReason;
-  return undecoded && (options_.items & NavframeItemUndecoded) != 0;
+  return (options_.items & NavframeItemUndecoded) != 0 && span.type == NavframeItemFrame &&
+         IsUndecoded(span.result, decoders_->dialect);
 }
 
-bool Stream::HandOutRecord(NavframeItem& item) {
+bool StreamDecoder::HandOutRecord(NavframeItem& item) {
   const SlotRecord& record = sink_[nextRecord_++];
   if ((options_.items & NavframeItemRecord) == 0) return false;
   const catalogue::KindRow* const row = catalogue::FindKind(record.id, record.source);
@@ -279,13 +287,18 @@ bool Stream::HandOutRecord(NavframeItem& item) {
   if (!wanted_.empty() && !std::ranges::binary_search(wanted_, &row->kind)) return false;
   Describe(item);
   item.type = NavframeItemRecord;
+  // Why a frame gave no record concerns none that it gave; only a field of its own may be missing.
+  if (item.reason != NavframeBadField || record.id == MsgIdGsv) {
+    item.reason = NavframeNoReason;
+    item.badField = 0;
+  }
   item.kind = &row->kind;
   item.record = record.payload;
   return true;
 }
 
 // The span, as an item.
-void Stream::Describe(NavframeItem& item) const {
+void StreamDecoder::Describe(NavframeItem& item) const {
   item.type = span_.type;
   item.protocol = span_.row == nullptr ? NavframeNoProtocol : span_.row->protocol;
   item.offset = span_.position;
@@ -300,14 +313,17 @@ void Stream::Describe(NavframeItem& item) const {
   item.recordCount = sink_.Count();
   if (span_.type == NavframeItemFrame && span_.length != 0) {
     item.message = MessageOf(*span_.row, span_.bytes, span_.length);
+    if (span_.row->protocol == NavframeRtcm3) {
+      item.subType = rtcm::SubTypeOf(item.message, {span_.bytes, span_.length});
+    }
     if (span_.row->protocol == NavframeNmea || span_.row->protocol == NavframeAsciiLog) {
       CopyText(item.address, AddressOf(span_.bytes, span_.length));
     }
   }
-  const TimeManager& time = decoders_->time;
+  const DecoderClock& time = decoders_->time;
   item.time = {.tow = time.gpsTime.tow,
                .week = time.gpsTime.week,
-               .source = NavframeNoTime,
+               .source = static_cast<std::uint16_t>(time.source),
                .utc = time.utcTime,
                .leapSeconds = time.leapSeconds};
   item.kind = nullptr;
@@ -315,7 +331,7 @@ void Stream::Describe(NavframeItem& item) const {
   item.tagBlock = tagged_ ? tagBlock_.data() : nullptr;
 }
 
-void Stream::Read(NavframeStatistics& statistics) const {
+void StreamDecoder::Read(NavframeStatistics& statistics) const {
   const std::size_t size = statistics.size;
   statistics = statistics_;
   statistics.size = size;

@@ -15,9 +15,9 @@
 
 namespace navframe {
 
-class Stream {
+class StreamDecoder {
  public:
-  explicit Stream(const NavframeOptions& options);
+  explicit StreamDecoder(const NavframeOptions& options);
 
   std::size_t Put(const std::uint8_t* data, std::size_t length);
   // False when there is no item before more bytes come.
@@ -60,13 +60,12 @@ class Stream {
   std::vector<const NavframeKind*> wanted_;  // sorted; empty for all
   LinearBuffer buffer_;
   SearchedProtocols protocols_;
-  std::array<SearchedProtocols, 2> stronger_;  // than a rank, by rank
   SlotSink sink_;
   std::optional<FrameDecoders> decoders_;
-  std::optional<LookAhead> inside_;  // frames that hold by chance
-  std::optional<LookAhead> behind_;  // heads that wait
-  std::uint64_t position_ = 0;       // of the buffer's first byte in the stream
-  std::size_t scanned_ = 0;          // bytes there that start nothing
+  std::array<std::optional<StrongerFrames>, 2> stronger_;  // by rank
+  std::optional<FramesBehind> behind_;
+  std::uint64_t position_ = 0;  // of the buffer's first byte in the stream
+  std::size_t scanned_ = 0;     // bytes there that start nothing
   bool flushing_ = false;
   bool idle_ = false;
   std::uint64_t givenUpUntil_ = 0;  // position in front of which no head is waited for

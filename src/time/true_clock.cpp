@@ -9,8 +9,9 @@ namespace {
 constexpr std::int64_t SecondMs = 1000;
 constexpr std::int64_t NanosecondsPerMs = 1'000'000;
 constexpr std::int64_t FirstYear = 1980;
-constexpr std::int64_t GpsEpochDay = 3657;       // 1980-01-06, in days from 1970-01-01
-constexpr std::int64_t JulianEpochDay = -40587;  // 1858-11-17, likewise
+constexpr std::int64_t GpsEpochDay = 3657;              // 1980-01-06, in days from 1970-01-01
+constexpr std::int64_t JulianEpochDay = -40587;         // 1858-11-17, likewise
+constexpr std::int64_t GlonassAheadMs = 3 * 3'600'000;  // of UTC
 
 // Days from 1970-01-01, by the Gregorian calendar; years are counted from March, so that the day of
 // a leap year comes last.
@@ -49,52 +50,93 @@ std::int64_t MsOfDay(const UTCTIME& utc) {
          (IsUnknown(utc.millisecond) ? 0 : utc.millisecond);
 }
 
-bool KnowsWeek(const TimeManager& time) { return !IsUnknown(time.gpsTime.week); }
-bool KnowsTow(const TimeManager& time) { return !IsUnknown(time.gpsTime.tow); }
+bool KnowsWeek(const TimeManager& clock) { return !IsUnknown(clock.gpsTime.week); }
+bool KnowsTow(const TimeManager& clock) { return !IsUnknown(clock.gpsTime.tow); }
+
+constexpr std::int64_t Modulo(std::int64_t value, std::int64_t period) {
+  const std::int64_t rest = value % period;
+  return rest < 0 ? rest + period : rest;
+}
 
 // The value of a thing that repeats with `period` which comes nearest to `known`.
 constexpr std::int64_t Nearest(std::int64_t value, std::int64_t known, std::int64_t period) {
-  std::int64_t behind = (known - value) % period;
-  if (behind < 0) behind += period;
+  const std::int64_t behind = Modulo(known - value, period);
   return known - behind + (behind > period / 2 ? period : 0);
 }
 
 // ms from the GPS epoch, while week and time of week are known.
-std::int64_t Now(const TimeManager& time) { return time.gpsTime.week * WeekMs + time.gpsTime.tow; }
-
-void PutGps(std::int64_t ms, TimeManager& time) {
-  if (ms < 0 || ms / WeekMs >= Unknown<std::uint16_t>()) return;
-  time.gpsTime.week = static_cast<std::uint16_t>(ms / WeekMs);
-  time.gpsTime.tow = static_cast<std::uint32_t>(ms % WeekMs);
+std::int64_t Now(const TimeManager& clock) {
+  return clock.gpsTime.week * WeekMs + clock.gpsTime.tow;
 }
 
-// UTC and its text of a GPS moment.
-void PutUtc(std::int64_t gpsMs, TimeManager& time) {
-  const std::int64_t utcMs = gpsMs - time.leapSeconds * SecondMs + GpsEpochDay * DayMs;
-  if (utcMs < 0) return;
-  PutDate(utcMs / DayMs, time.utcTime);
-  PutTimeOfDay(utcMs % DayMs, time.utcTime);
+bool PutWeek(std::int64_t week, WeekFrom from, DecoderClock& clock) {
+  if (week < 0 || week >= Unknown<std::uint16_t>()) return false;
+  clock.gpsTime.week = static_cast<std::uint16_t>(week);
+  clock.weekFrom = from;
+  return true;
 }
 
-// A second 60 is followed by a leap second more.
-void TrackLeapSecond(const UTCTIME& utc, TimeManager& time) {
-  if (utc.second >= 60) {
-    time.leapPending = 1;
-  } else if (time.leapPending != 0) {
-    time.leapPending = 0;
-    time.setLeap(time.leapSeconds + 1);
+// Steps from a known time keep what its week was taken from.
+void PutGps(std::int64_t ms, WeekFrom from, DecoderClock& clock) {
+  if (ms < 0 || !PutWeek(ms / WeekMs, from, clock)) return;
+  clock.gpsTime.tow = static_cast<std::uint32_t>(ms % WeekMs);
+}
+
+// Date and time of day of a UTC moment, in ms from the GPS epoch; of a leap second the moment
+// behind it, which has the same number.
+void PutUtc(std::int64_t utcMs, bool isLeapSecond, TimeManager& clock) {
+  const std::int64_t ms = utcMs + GpsEpochDay * DayMs - (isLeapSecond ? SecondMs : 0);
+  if (ms < 0) return;
+  PutDate(ms / DayMs, clock.utcTime);
+  PutTimeOfDay(ms % DayMs, clock.utcTime);
+  if (isLeapSecond) clock.utcTime.second = 60;
+}
+
+std::int64_t LeapMs(const TimeManager& clock) { return clock.leapSeconds * SecondMs; }
+
+void PutUtcOfGps(TimeManager& clock) {
+  if (KnowsWeek(clock)) return PutUtc(Now(clock) - LeapMs(clock), false, clock);
+  PutTimeOfDay(Modulo(clock.gpsTime.tow - LeapMs(clock), DayMs), clock.utcTime);
+}
+
+bool IsLeapSecond(const UTCTIME& utc) {
+  return utc.hour == 23 && utc.minute == 59 && utc.second == 60;
+}
+
+// A second 60 at the end of a day is followed by a leap second more.
+void TrackLeapSecond(const UTCTIME& utc, TimeManager& clock) {
+  if (IsLeapSecond(utc)) {
+    clock.leapPending = 1;
+  } else if (clock.leapPending != 0) {
+    clock.leapPending = 0;
+    clock.setLeap(clock.leapSeconds + 1);
   }
 }
 
-void SetTimeOfDay(std::int64_t utcMs, TimeManager& time) {
-  const std::int64_t ofDay = utcMs + time.leapSeconds * SecondMs;
-  if (KnowsWeek(time) && KnowsTow(time)) {
-    PutGps(Nearest(ofDay, Now(time), DayMs), time);
-    PutUtc(Now(time), time);
-  } else if (KnowsTow(time)) {
-    const std::int64_t tow = Nearest(ofDay, time.gpsTime.tow, DayMs);
-    time.gpsTime.tow = static_cast<std::uint32_t>((tow + WeekMs) % WeekMs);
+// A time of day without a date, `utcMs` from midnight.
+void SetTimeOfDay(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
+  const std::int64_t ofDay = utcMs + LeapMs(clock);
+  if (KnowsWeek(clock) && KnowsTow(clock)) {
+    PutGps(Nearest(ofDay, Now(clock), DayMs), clock.weekFrom, clock);
+    return PutUtc(Now(clock) - LeapMs(clock), isLeapSecond, clock);
   }
+  PutTimeOfDay(Modulo(utcMs - (isLeapSecond ? SecondMs : 0), DayMs), clock.utcTime);
+  if (isLeapSecond) clock.utcTime.second = 60;
+  if (KnowsTow(clock)) {
+    const std::int64_t tow = Nearest(ofDay, clock.gpsTime.tow, DayMs);
+    clock.gpsTime.tow = static_cast<std::uint32_t>(Modulo(tow, WeekMs));
+  }
+}
+
+// A date without a time of day, in days from the GPS epoch.
+void SetDate(std::int64_t day, DecoderClock& clock) {
+  if (IsTimeOfDay(clock.utcTime)) {
+    const std::int64_t utcMs = day * DayMs + MsOfDay(clock.utcTime);
+    PutGps(utcMs + LeapMs(clock), WeekFrom::Date, clock);
+    return PutUtc(utcMs, IsLeapSecond(clock.utcTime), clock);
+  }
+  PutDate(day + GpsEpochDay, clock.utcTime);
+  PutWeek(day / 7, WeekFrom::Date, clock);
 }
 
 constexpr int DaysOfMonth(int year, int month) {
@@ -113,56 +155,85 @@ bool IsTimeOfDay(const UTCTIME& utc) {
   return utc.hour < 24 && utc.minute < 60 && utc.second <= 60;
 }
 
+void Start(std::uint32_t week, DecoderClock& clock) {
+  if (week == 0 || !PutWeek(week, WeekFrom::Start, clock)) return;
+  clock.source = NavframeTimeFromStart;
+}
+
 void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
-            TimeManager& time) {
+            NavframeTimeSource source, DecoderClock& clock) {
   const bool hasTime = IsTimeOfDay(utc);
-  if (hasTime) {
-    TrackLeapSecond(utc, time);
-    PutTimeOfDay(MsOfDay(utc), time.utcTime);
-    time.utcTime.second = utc.second;
-    time.timeText.assign(text.substr(0, text.find('\0')));
-  }
   const bool hasDate = IsDate(utc);
-  if (hasDate) {
-    time.utcTime.year = utc.year;
-    time.utcTime.month = utc.month;
-    time.utcTime.day = utc.day;
-  }
-  // Towards the past, so that a moment just before a second is none behind it.
-  std::int64_t fraction = nanoseconds / NanosecondsPerMs;
-  if (nanoseconds % NanosecondsPerMs < 0) --fraction;
-  const UTCTIME& now = time.utcTime;
-  if (hasDate && IsTimeOfDay(now)) {
-    const std::int64_t day = DayOf(now.year, now.month, now.day) - GpsEpochDay;
-    PutGps(day * DayMs + MsOfDay(now) + fraction + time.leapSeconds * SecondMs, time);
-  } else if (hasTime) {
-    SetTimeOfDay(MsOfDay(utc) + fraction, time);
-  }
+  if (!hasTime && !hasDate) return;
+  clock.source = source;
+  const std::int64_t day = hasDate ? DayOf(utc.year, utc.month, utc.day) - GpsEpochDay : 0;
+  if (!hasTime) return SetDate(day, clock);
+  TrackLeapSecond(utc, clock);
+  if (!text.empty()) clock.timeText = text;
+  // To the nearest millisecond, as receivers round their times of week.
+  const std::int64_t half = nanoseconds < 0 ? -NanosecondsPerMs / 2 : NanosecondsPerMs / 2;
+  const std::int64_t ofDay = MsOfDay(utc) + (nanoseconds + half) / NanosecondsPerMs;
+  const bool isLeapSecond = IsLeapSecond(utc);
+  if (!hasDate) return SetTimeOfDay(ofDay, isLeapSecond, clock);
+  PutGps(day * DayMs + ofDay + LeapMs(clock), WeekFrom::Date, clock);
+  PutUtc(day * DayMs + ofDay, isLeapSecond, clock);
 }
 
-void SetTow(std::uint32_t tow, TimeManager& time) {
+void SetTow(std::uint32_t tow, NavframeTimeSource source, DecoderClock& clock) {
   if (tow >= WeekMs) return;
-  if (KnowsWeek(time)) {
-    PutGps(KnowsTow(time) ? Nearest(tow, Now(time), WeekMs) : time.gpsTime.week * WeekMs + tow,
-           time);
-    PutUtc(Now(time), time);
+  clock.source = source;
+  if (KnowsWeek(clock) && KnowsTow(clock)) {
+    PutGps(Nearest(tow, Now(clock), WeekMs), clock.weekFrom, clock);
   }
-  time.gpsTime.tow = tow;
-  time.timeText = TimeOfDayText(tow, time.leapSeconds).View();
+  clock.gpsTime.tow = tow;
+  PutUtcOfGps(clock);
+  clock.timeText = TimeOfDayText(tow, clock.leapSeconds).View();
 }
 
-void SetGpsTime(GPSTIME gpsTime, TimeManager& time) {
-  time.gpsTime.week = gpsTime.week;
-  time.gpsTime.tow = Unknown<std::uint32_t>();
-  SetTow(gpsTime.tow, time);
+void SetGpsTime(GPSTIME gpsTime, NavframeTimeSource source, DecoderClock& clock) {
+  if (gpsTime.tow >= WeekMs || !PutWeek(gpsTime.week, WeekFrom::Date, clock)) return;
+  clock.gpsTime.tow = gpsTime.tow;
+  SetTow(gpsTime.tow, source, clock);
 }
 
-void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay, TimeManager& time) {
+void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay,
+                  NavframeTimeSource source, DecoderClock& clock) {
   const std::int64_t day = modifiedJulianDay + JulianEpochDay - GpsEpochDay;
   if (day < 0 || secondOfDay > DayMs / SecondMs) return;
-  PutGps(day * DayMs + (secondOfDay + time.leapSeconds) * SecondMs, time);
-  PutUtc(Now(time), time);
-  time.timeText = TimeOfDayText(time.gpsTime.tow, time.leapSeconds).View();
+  const std::int64_t ms = day * DayMs + std::int64_t{secondOfDay} * SecondMs + LeapMs(clock);
+  SetGpsTime({static_cast<std::uint32_t>(ms % WeekMs), static_cast<std::uint16_t>(ms / WeekMs), 0},
+             source, clock);
+}
+
+void SetEphemerisWeek(std::int64_t week, std::int64_t rollover, NavframeTimeSource source,
+                      DecoderClock& clock) {
+  constexpr std::int64_t GpsRollover = 1024;
+  if (clock.weekFrom == WeekFrom::Date || (!KnowsWeek(clock) && rollover <= GpsRollover)) return;
+  const std::int64_t known = clock.gpsTime.week;
+  if (KnowsWeek(clock)) week = Nearest(week, known, rollover);
+  // Ephemerides are sent on behind the end of their week, but not ahead of it.
+  const bool isLate = clock.weekFrom == WeekFrom::Ephemeris && week == known - 1;
+  if (isLate || !PutWeek(week, WeekFrom::Ephemeris, clock)) return;
+  clock.source = source;
+  if (KnowsTow(clock)) PutUtcOfGps(clock);
+}
+
+std::uint32_t TowOfGlonass(std::uint32_t day, std::uint32_t ofDay, const DecoderClock& clock) {
+  constexpr std::uint32_t UnknownDay = 7;
+  const std::int64_t ms = ofDay - GlonassAheadMs + LeapMs(clock);
+  if (ofDay >= DayMs + SecondMs || (day == UnknownDay && !KnowsTow(clock))) {
+    return Unknown<std::uint32_t>();
+  }
+  const std::int64_t tow =
+      day == UnknownDay ? Nearest(ms, clock.gpsTime.tow, DayMs) : day * DayMs + ms;
+  return static_cast<std::uint32_t>(Modulo(tow, WeekMs));
+}
+
+std::int64_t WeekOfGlonass(std::int64_t interval, std::int64_t day, std::int64_t secondOfDay) {
+  constexpr std::int64_t FirstInterval = DayOf(1996, 1, 1) - GpsEpochDay;
+  constexpr std::int64_t IntervalDays = 4 * 365 + 1;
+  const std::int64_t days = FirstInterval + (interval - 1) * IntervalDays + day - 1;
+  return (days * DayMs + secondOfDay * SecondMs - GlonassAheadMs) / WeekMs;
 }
 
 }  // namespace navframe::true_clock

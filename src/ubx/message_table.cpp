@@ -1,11 +1,13 @@
 #include "ubx/message_table.h"
 
 #include <array>
+#include <type_traits>
 
 #include "navframe/navframe.h"
 #include "navframe/records.h"
 #include "ubx/field_rows.h"
 #include "ubx/messages.h"
+#include "ubx/time_keeping.h"
 
 namespace navframe::ubx {
 namespace {
@@ -14,24 +16,33 @@ constexpr std::uint32_t AnyLength = 0xFFFFFFFF;
 constexpr LengthRule Exactly(std::uint32_t length) { return {length, length}; }
 constexpr LengthRule AtLeast(std::uint32_t length) { return {length, AnyLength}; }
 
-template <class Record, void (*Decode)(const Payload&, TimeManager&, Record&)>
+template <class Record, auto Decode, auto KeepTime>
 constexpr MessageRow Row(std::uint8_t messageClass, std::uint8_t id, LengthRule frameLength,
                          std::uint32_t msgId) {
+  constexpr bool Recurs =
+      std::is_invocable_v<decltype(Decode), const Payload&, DecoderClock&, Record&, std::uint32_t&>;
   return {messageClass,
           id,
           frameLength,
           msgId,
           sizeof(Record),
-          [](const Payload& payload, TimeManager& time, void* record) {
-            Decode(payload, time, *static_cast<Record*>(record));
-          }};
+          Recurs,
+          [](const Payload& payload, DecoderClock& time, const RecurringRoom& room) {
+            auto& record = *static_cast<Record*>(room.payload);
+            if constexpr (Recurs) {
+              Decode(payload, time, record, *room.written);
+            } else {
+              Decode(payload, time, record);
+            }
+          },
+          KeepTime};
 }
 
 // A message that is rows of fields; where its time of week stands.
 template <class Record, const auto& Rows, std::uint32_t PayloadLength, std::size_t TowOffset = 0>
 constexpr MessageRow Fixed(std::uint8_t messageClass, std::uint8_t id, std::uint32_t msgId) {
   static_assert(PayloadRead(Rows) <= PayloadLength && TowOffset + 4 <= PayloadLength);
-  return Row<Record, DecodeFields<Record, Rows, TowOffset>>(
+  return Row<Record, DecodeFields<Record, Rows, TowOffset>, KeepTowAt<TowOffset>>(
       messageClass, id, Exactly(HeaderLength + PayloadLength + ChecksumLength), msgId);
 }
 
@@ -77,10 +88,12 @@ constexpr auto ProtectionLevels = std::to_array<FieldRow>({
 constexpr MessageRow Messages[] = {
     Fixed<UbxProtectionLevelsRecord, ProtectionLevels, 52, 12>(0x01, 0x62,
                                                                MsgIdUbxProtectionLevels),
-    Row<UbxNavigationRecord, DecodeNavigation>(0x01, 0x07, Exactly(100), MsgIdUbxNavigation),
-    Row<UbxSatellitesRecord, DecodeSatellites>(0x01, 0x35, AtLeast(15), MsgIdUbxSatellites),
-    Row<UbxRawMeasurementsRecord, DecodeRawMeasurements>(0x02, 0x15, AtLeast(0),
-                                                         MsgIdUbxRawMeasurements),
+    Row<UbxNavigationRecord, DecodeNavigation, KeepNavigationTime>(0x01, 0x07, Exactly(100),
+                                                                   MsgIdUbxNavigation),
+    Row<UbxSatellitesRecord, DecodeSatellites, KeepTowAt<0>>(0x01, 0x35, AtLeast(15),
+                                                             MsgIdUbxSatellites),
+    Row<UbxRawMeasurementsRecord, DecodeRawMeasurements, KeepRawTime>(0x02, 0x15, AtLeast(0),
+                                                                      MsgIdUbxRawMeasurements),
     Fixed<UbxAttitudeRecord, Attitude, 32>(0x01, 0x05, MsgIdUbxAttitude),
 };
 

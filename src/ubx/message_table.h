@@ -3,7 +3,8 @@
 
 #include <cstdint>
 
-#include "navframe/time_manager.h"
+#include "output/record_sink.h"
+#include "time/decoder_clock.h"
 #include "ubx/frame.h"
 
 namespace navframe::ubx {
@@ -15,9 +16,10 @@ struct LengthRule {
   constexpr bool Takes(std::uint32_t length) const { return length >= fewest && length <= most; }
 };
 
-// Fills a record whose bytes are undefined before, all of them; moves the clock where the message
-// does.
-using MessageDecoder = void (*)(const Payload& payload, TimeManager& time, void* record);
+// Fills a record, every byte of it that is not behind `written`; moves the clock of the exports
+// where the message does.
+using MessageDecoder = void (*)(const Payload& payload, DecoderClock& time,
+                                const RecurringRoom& room);
 
 struct MessageRow {
   std::uint8_t messageClass;
@@ -25,7 +27,9 @@ struct MessageRow {
   LengthRule frameLength;
   std::uint32_t msgId;
   std::uint32_t recordSize;
+  bool recurs;  // one of RecurringKinds
   MessageDecoder decode;
+  void (*keepTime)(const Payload& payload, DecoderClock& clock);  // moves a true clock
 };
 
 // Null for a message that is not decoded.

@@ -5,14 +5,16 @@
 #pragma once
 
 #include "navframe/records.h"
-#include "navframe/time_manager.h"
+#include "time/decoder_clock.h"
 #include "ubx/frame.h"
 
 namespace navframe::ubx {
 
-void DecodeNavigation(const Payload& payload, TimeManager& time, UbxNavigationRecord& record);
-void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record);
+void DecodeNavigation(const Payload& payload, DecoderClock& time, UbxNavigationRecord& record);
+// Entries behind the last one are made unknown as far as they are `written`: see RecurringRoom.
+void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record,
+                      std::uint32_t& written);
 void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
-                           UbxRawMeasurementsRecord& record);
+                           UbxRawMeasurementsRecord& record, std::uint32_t& written);
 
 }  // namespace navframe::ubx

@@ -52,9 +52,10 @@ UTCTIME TimeOf(const UbxNavigationRecord& record) {
           .reserved1 = 0};
 }
 
-// Moves the clock to what the message says of date and time.
-void KeepTime(const UbxNavigationRecord& record, TimeManager& time) {
+// Moves the clock of the exports to what the message says of date and time.
+void KeepTime(const UbxNavigationRecord& record, DecoderClock& time) {
   UTCTIME utc = TimeOf(record);
+  if (record.timeValid != 0 || record.dateValid != 0) time.source = NavframeTimeFromUbx;
   if (record.timeValid != 0 && record.dateValid != 0) {
     time.setDateTime(utc, TimeText(utc));
     time.UTC2GPSTime(time.utcTime, time.gpsTime);
@@ -140,14 +141,14 @@ void DecodeMotion(const std::uint8_t* p, UbxNavigationRecord& record) {
 
 }  // namespace
 
-void DecodeNavigation(const Payload& payload, TimeManager& time, UbxNavigationRecord& record) {
+void DecodeNavigation(const Payload& payload, DecoderClock& time, UbxNavigationRecord& record) {
   const std::uint8_t* const p = payload.bytes;
   std::memset(&record, 0, sizeof(record));
   DecodeTime(p, record);
   DecodeStatus(p, record);
   DecodePosition(p, record);
   DecodeMotion(p, record);
-  KeepTime(record, time);
+  if (!time.isTrue) KeepTime(record, time);
   WriteHead(ReadLe<std::uint32_t>(p, 0), time.getWeek(), time, record);
 }
 

@@ -79,7 +79,7 @@ void DecodeMeasurement(const std::uint8_t* entry, UbxRawMeasurement& measurement
 }  // namespace
 
 void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
-                           UbxRawMeasurementsRecord& record) {
+                           UbxRawMeasurementsRecord& record, std::uint32_t& written) {
   DecodeHead(payload, time, record);
   const std::size_t held = payload.Entries(EntriesOffset, EntryLength);
   const std::size_t count = std::min<std::size_t>(ReadOr<std::uint8_t>(payload, 11, 0), held);
@@ -89,7 +89,8 @@ void DecodeRawMeasurements(const Payload& payload, TimeManager& time,
   }
   // Only what the count leaves: the record is many times as long as its message.
   MakeUnknownFrom(
-      offsetof(UbxRawMeasurementsRecord, measurements) + count * sizeof(UbxRawMeasurement), record);
+      offsetof(UbxRawMeasurementsRecord, measurements) + count * sizeof(UbxRawMeasurement), written,
+      record);
 }
 
 }  // namespace navframe::ubx

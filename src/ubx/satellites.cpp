@@ -42,7 +42,8 @@ void DecodeSatellite(const std::uint8_t* entry, UbxSatellite& satellite) {
 
 }  // namespace
 
-void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record) {
+void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRecord& record,
+                      std::uint32_t& written) {
   WriteHead(ReadLe<std::uint32_t>(payload.bytes, 0), time.getWeek(), time, record);
   record.version = payload.bytes[4];
   const std::size_t held = payload.Entries(EntriesOffset, EntryLength);
@@ -52,7 +53,8 @@ void DecodeSatellites(const Payload& payload, TimeManager& time, UbxSatellitesRe
     DecodeSatellite(payload.bytes + EntriesOffset + i * EntryLength, record.satellites[i]);
   }
   // The rest of the record: satellites behind the last one, and padding at its end.
-  MakeUnknownFrom(offsetof(UbxSatellitesRecord, satellites) + count * sizeof(UbxSatellite), record);
+  MakeUnknownFrom(offsetof(UbxSatellitesRecord, satellites) + count * sizeof(UbxSatellite), written,
+                  record);
 }
 
 }  // namespace navframe::ubx

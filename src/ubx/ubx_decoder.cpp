@@ -18,9 +18,12 @@ DecodeResult UbxDecoder::Decode(const std::uint8_t* frame, std::uint32_t length)
   if (!row->frameLength.Takes(length)) return {NavframeBadContent};
   if (!sink_.Passes(row->msgId)) return {};
   sink_.NoteDecoded(row->msgId);
-  void* const record = sink_.Allocate(row->recordSize);
-  row->decode({frame + HeaderLength, length - HeaderLength - ChecksumLength}, time_, record);
-  sink_.PushMessage(row->msgId, record, row->recordSize);
+  const RecurringRoom room = row->recurs ? sink_.AllocateRecurring(row->msgId, row->recordSize)
+                                         : RecurringRoom{sink_.Allocate(row->recordSize), nullptr};
+  const Payload payload = {frame + HeaderLength, length - HeaderLength - ChecksumLength};
+  if (time_.isTrue) row->keepTime(payload, time_);
+  row->decode(payload, time_, room);
+  sink_.PushMessage(row->msgId, room.payload, row->recordSize);
   return {};
 }
 

@@ -3,15 +3,15 @@
 
 #include <cstdint>
 
-#include "navframe/time_manager.h"
 #include "output/record_sink.h"
+#include "time/decoder_clock.h"
 
 namespace navframe::ubx {
 
 class UbxDecoder {
  public:
   // `sink` and `time` must outlive the decoder.
-  UbxDecoder(RecordSink& sink, TimeManager& time) : sink_(sink), time_(time) {}
+  UbxDecoder(RecordSink& sink, DecoderClock& time) : sink_(sink), time_(time) {}
 
   // Decodes a whole frame of `length` bytes, or does nothing when it is of no known message, of a
   // length that its message does not have, or blocked by the output filter.
@@ -22,7 +22,7 @@ class UbxDecoder {
 
  private:
   RecordSink& sink_;
-  TimeManager& time_;
+  DecoderClock& time_;
 };
 
 }  // namespace navframe::ubx

@@ -1,8 +1,11 @@
 # cmake -DROOT=... -P readme.cmake
-# The host that the README shows is the one that the installation check builds and runs.
+# The hosts that the README shows are those that the installation check builds and runs.
 file(READ "${ROOT}/README.md" readme)
-file(READ "${ROOT}/examples/decode.c" host)
-string(FIND "${readme}" "```c\n${host}```" at)
-if(at EQUAL -1)
-  message(FATAL_ERROR "README.md does not show examples/decode.c as it is")
-endif()
+foreach(shown "c:examples/decode.c" "cpp:examples/find_package/track.cpp")
+  string(REGEX MATCH "^([a-z]+):(.*)$" parts "${shown}")
+  file(READ "${ROOT}/${CMAKE_MATCH_2}" host)
+  string(FIND "${readme}" "```${CMAKE_MATCH_1}\n${host}```" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "README.md does not show ${CMAKE_MATCH_2} as it is")
+  endif()
+endforeach()

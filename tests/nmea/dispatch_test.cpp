@@ -127,7 +127,7 @@ TEST(Dispatch, BadFieldLeavesAsExceptionAndTheSentenceStays) {
       {"GPGGA,123519", "invalid string position"},
       {"GPGGA,123519.", "invalid stoi argument"},
       {"GPRMC,,,,,,,,,310", "invalid string position"},
-      {"GPGSV,1,1,1,1,x,1,1,1", "invalid stoi argument"},
+      {"GPGSV,1,1,2,1,1,1,1,2,x,1,1,1", "invalid stoi argument"},
   };
   for (const auto& [body, what] : cases) {
     const auto decoder = std::make_unique<Decoder>();
@@ -148,8 +148,12 @@ TEST(Dispatch, BadFieldLeavesAsExceptionAndTheSentenceStays) {
     EXPECT_EQ(PopAll(*decoder).size(), 1U) << "what was decoded before stays queued";
     // Stepping over its head, the rest of the stream goes on.
     static_cast<void>(SkipOneByte(decoder->input));
-    const auto ids = Ids(Push(*decoder, Sentence("GPVTG,")));
-    EXPECT_EQ(std::count(ids.begin(), ids.end(), 8U), 3) << body;
+    const auto records = Push(*decoder, Sentence("GPVTG,"));
+    EXPECT_EQ(std::ranges::count(Ids(records), 8U), 3) << body;
+    for (const auto& record : records) {
+      if (record.id != 4) continue;
+      EXPECT_EQ(record.As<GsvRecord>().satelliteCount, 0) << "no half of a sentence is kept";
+    }
   }
 }
 

@@ -1,8 +1,10 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -71,36 +73,41 @@ std::string Kinds(const std::string& lines) {
   return kinds;
 }
 
+const std::string Log =
+    "#BESTPOSA,COM2,0,41.5,FINESTEERING,2409,561618.000,0,0,1500;SOL_COMPUTED,SINGLE,48.5,11.25,"
+    "545.5,46.5,WGS84,1.5,1.25,2.5,\"0\",0.0,0.0,18,16,16,16,0,0,0,0*cff54e0f\r\n";
+
 // A sentence, one behind a tag block, one that is malformed, and a frame of each other protocol.
 std::string OneOfEach() {
   const sample::Epoch epoch = sample::Drive().Next();
-  return Sentence("GPVTG,63,T,,M,26,N,48,K,D") + "\\s:1234\\" +
+  return Sentence("GPVTG,63,T,,M,26,N,48,K,D") + "\\s:1234*4D\\" +
          Sentence("GPZDA,120000.00,14,03,2026,00,00") +
          Sentence("GPGGA,x\x1B[2J\x7F\xFF" + std::string(13, ',')) + Text(UbxNavigation(epoch)) +
-         Text(sample::RtcmStation()) + Text(Binary55Aa(epoch));
+         Text(sample::RtcmStation()) + Text(Binary55Aa(epoch)) + Log;
 }
 
 TEST_F(Tool, Options) {
+  constexpr const char* All = "VTG ZDA GGA NAV-PVT STATION 55AA BESTPOS";
   const struct {
     const char* command;
     int status;
     const char* kinds;
     const char* says;
   } cases[] = {
-      {"navframe $IN", 0, "VTG ZDA NAV-PVT STATION 55AA", "navframe: malformed sentence at byte "},
-      {"navframe --quiet <$IN", 0, "VTG ZDA NAV-PVT STATION 55AA", ""},
-      {"navframe --quiet --chunk 1 - <$IN", 0, "VTG ZDA NAV-PVT STATION 55AA", ""},
-      {"navframe --quiet --chunk 8388608 $IN", 0, "VTG ZDA NAV-PVT STATION 55AA", ""},
+      {"navframe $IN", 0, All, "navframe: malformed sentence at byte 80: $GPGGA,x"},
+      {"navframe --quiet <$IN", 0, All, ""},
+      {"navframe --quiet --chunk 1 - <$IN", 0, All, ""},
+      {"navframe --quiet --chunk 8388608 $IN", 0, All, ""},
       {"navframe --chunk 8388609 $IN", 2, "", "8388609"},
       {"navframe --chunk 0 $IN", 2, "", "--chunk"},
-      {"navframe --quiet --protocols tagblock,nmea $IN", 0, "VTG ZDA", ""},
+      {"navframe --quiet --protocols tagblock,nmea $IN", 0, "VTG ZDA GGA", ""},
       {"navframe --protocols rtcm,UBX - <$IN", 0, "NAV-PVT STATION", ""},
-      {"navframe --protocols 55aa --protocols rtcm $IN", 0, "STATION 55AA", ""},
+      {"navframe --protocols 55aa --protocols log $IN", 0, "55AA BESTPOS", ""},
       {"navframe --protocols nmea,none $IN", 2, "", "none"},
-      {"navframe --quiet --only vtg $IN", 0, "VTG 55AA", ""},
-      {"navframe --quiet --only 102 $IN", 0, "NAV-PVT 55AA", ""},
+      {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION BESTPOS", ""},
+      {"navframe --quiet --only 102 $IN", 0, "NAV-PVT", ""},
+      {"navframe --only vtg $IN", 0, "VTG", "malformed"},
       {"navframe --only 102x $IN", 2, "", "no kind of record is called 102x"},
-      {"navframe --quiet --board 7 $IN", 0, "NAV-PVT STATION 55AA", ""},
       {"navframe $DIR/none", 1, "", "/none: No such file"},
       {"navframe $DIR", 1, "", "navframe: cannot read /"},
       {"navframe - <&-", 1, "", "navframe: cannot read standard input: "},
@@ -129,12 +136,21 @@ TEST_F(Tool, ControlCharactersAreNotShown) {
 }
 
 TEST_F(Tool, Statistics) {
-  const std::string input = OneOfEach() + OneOfEach();
-  EXPECT_THAT(
-      Run("navframe --quiet --stats $IN", input).err,
-      MatchesRegex("VTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT +2\n10 records, "
-                   "2 malformed sentences, " +
-                   std::to_string(input.size()) + " bytes, 0\\.[0-9]+ s, [0-9]+\\.[0-9] MB/s\n"));
+  const std::string input = OneOfEach() + "??" + OneOfEach() + Sentence("GPTXT,01") +
+                            Text(RtcmFrame({0x43, 0x50})) + Text(RtcmFrame({0x4C, 0xE0}));
+  EXPECT_THAT(Run("navframe --quiet --stats $IN", input).err,
+              MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT +2\nBESTPOS +2\n"
+                           "bad content RTCM 3 1077 +1\n"
+                           "undecoded NMEA GPTXT +1\nundecoded RTCM 3 1230 +1\n"
+                           "NMEA: 7 frames, [0-9]+ bytes, 0 false starts\n"
+                           "NMEA tag block: 2 frames, 22 bytes, 0 false starts\n"
+                           "RTCM 3: 4 frames, [0-9]+ bytes, 0 false starts\n"
+                           "UBX: 2 frames, 200 bytes, 0 false starts\n"
+                           "55AA: 2 frames, [0-9]+ bytes, 0 false starts\n"
+                           "ASCII log: 2 frames, [0-9]+ bytes, 0 false starts\n"
+                           "14 records, 2 malformed sentences, " +
+                           std::to_string(input.size()) +
+                           " bytes, 2 skipped, 0\\.[0-9]+ s, [0-9]+\\.[0-9] MB/s\n"));
 }
 
 // 5 MB: a hundred thousand sentences and garbage.
@@ -151,8 +167,8 @@ TEST_F(Tool, LargeOutput) {
   EXPECT_EQ(std::count(whole.out.begin(), whole.out.end(), '\n'), 100'000);
   double seconds = 0;
   double speed = 0;
-  const std::size_t last = whole.err.find("bytes, ");
-  ASSERT_EQ(std::sscanf(whole.err.c_str() + last, "bytes, %lf s, %lf MB/s", &seconds, &speed), 2);
+  const std::size_t last = whole.err.find("skipped, ");
+  ASSERT_EQ(std::sscanf(whole.err.c_str() + last, "skipped, %lf s, %lf MB/s", &seconds, &speed), 2);
   EXPECT_NEAR(speed * seconds, 5, 0.5);
   // A reader that has read enough is no failure.
   const Outcome left = Run("{ navframe $IN; echo $? >&2; } | head -n 1", Large());
@@ -160,16 +176,47 @@ TEST_F(Tool, LargeOutput) {
   EXPECT_EQ(left.err, "0\n");
 }
 
-// The second sentence is sent when the first one's line is there.
+// The second sentence is sent when the first one's line is there, also behind what looks like the
+// start of a long UBX frame.
 TEST_F(Tool, LiveInputIsShownAtOnce) {
-  const std::string input = Sentence("GPVTG,63,T,,M,26,N,48,K,D");
-  const Outcome outcome =
-      Run("mkfifo $DIR/seen; "
-          "{ cat $IN; read -r line <$DIR/seen; cat $IN; } |"
-          "timeout 20 navframe |"
-          "{ read -r line; echo \"$line\"; echo >$DIR/seen; cat; }",
-          input);
-  EXPECT_EQ(Kinds(outcome.out), "VTG VTG");
+  const std::string sentence = Sentence("GPVTG,63,T,,M,26,N,48,K,D");
+  for (const std::string& input : {sentence, "\xB5\x62\x01\x07\xB8\x0B" + sentence}) {
+    const Outcome outcome =
+        Run("mkfifo $DIR/seen; "
+            "{ cat $IN; read -r line <$DIR/seen; cat $IN; } |"
+            "timeout 20 navframe |"
+            "{ read -r line; echo \"$line\"; echo >$DIR/seen; cat; }",
+            input);
+    EXPECT_EQ(Kinds(outcome.out), "VTG VTG");
+    Run("rm $DIR/seen", "");
+  }
+}
+
+TEST_F(Tool, PipesGiveWhatFilesDo) {
+  constexpr const char* Same =
+      "navframe --quiet $IN >$DIR/file; wc -l <$DIR/file; "
+      "dd if=$IN bs=7 status=none | navframe --quiet | cmp $DIR/file -";
+  const std::string satellites = Sentence("GPGSV,1,1,01,03,10,111,30,1");
+  const std::string input = satellites + "\xD3" + OneOfEach() + "\\s:" + OneOfEach() + satellites;
+  EXPECT_EQ(Run(Same, input + input.substr(0, input.size() - 1)).out, "34\n");
+}
+
+TEST_F(Tool, Captures) {
+  if (getenv("NAVFRAME_CAPTURES") == nullptr) GTEST_SKIP() << "NAVFRAME_CAPTURES is not set";
+  EXPECT_EQ(Run("for capture in \"$NAVFRAME_CAPTURES\"/*; do navframe \"$capture\" >$DIR/file; "
+                "dd if=\"$capture\" bs=499 status=none | navframe | cmp $DIR/file -; done",
+                "")
+                .out,
+            "");
+  // Times hhmmss: every position that was sent.
+  const Outcome positions =
+      Run("cd \"$NAVFRAME_CAPTURES\"; grep GGA, nmea-times-whole-seconds.nmea | tee $DIR/sent |"
+          "awk -F, '{ printf \"%s %.6f\\n\", $2, int($3 / 100) + $3 % 100 / 60 }'; "
+          "navframe --only GGA $DIR/sent | sed 's/.*timeText \\([0-9]*\\).*latitude /\\1 /' |"
+          "awk '{ printf \"%s %.6f\\n\", $1, $2 }' >&2",
+          "");
+  EXPECT_EQ(std::count(positions.out.begin(), positions.out.end(), '\n'), 12);
+  EXPECT_EQ(positions.err, positions.out);
 }
 
 // What a command writes to a terminal that its standard error is.
@@ -184,10 +231,17 @@ class Terminal {
     close(master_);
   }
 
+  // What comes within a moment: the terminal passes it on in its own time.
   std::string Shown() const {
-    std::string shown(4096, '\0');
-    const ssize_t length = read(master_, shown.data(), shown.size());
-    return shown.substr(0, length < 0 ? 0 : static_cast<std::size_t>(length));
+    constexpr int Milliseconds = 200;
+    std::string shown;
+    std::array<char, 4096> piece{};
+    for (pollfd master = {master_, POLLIN, 0}; poll(&master, 1, Milliseconds) > 0;) {
+      const ssize_t length = read(master_, piece.data(), piece.size());
+      if (length <= 0) break;
+      shown.append(piece.data(), static_cast<std::size_t>(length));
+    }
+    return shown;
   }
 
  private:

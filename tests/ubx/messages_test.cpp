@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::uint16_t Week = 2222;
 
-TimeManager Clock() {
-  TimeManager time;
+DecoderClock Clock() {
+  DecoderClock time;
   time.gpsTime.week = Week;
   time.timeText = "clock";
   return time;
@@ -27,8 +27,9 @@ Bytes DecodedOver(int dirt, std::uint8_t messageClass, std::uint8_t id, Bytes pa
   const ubx::MessageRow* const row = ubx::FindMessage(messageClass, id);
   Bytes record(row->recordSize, static_cast<std::uint8_t>(dirt));
   payload.shrink_to_fit();  // so that the address sanitizer sees a read past it
-  TimeManager time = Clock();
-  row->decode({payload.data(), payload.size()}, time, record.data());
+  DecoderClock time = Clock();
+  std::uint32_t written = row->recordSize;
+  row->decode({payload.data(), payload.size()}, time, {record.data(), &written});
   return record;
 }
 
@@ -80,7 +81,7 @@ TEST(UbxMessages, EveryLengthIsTakenOrNot) {
         if (length > count) payload.U8(count, 255);
       }
       const auto sink = std::make_unique<QueueSink>();
-      TimeManager time = Clock();
+      DecoderClock time = Clock();
       const Bytes frame = UbxFrame(messageClass, id, payload);
       static_cast<void>(ubx::UbxDecoder(*sink, time)
                             .Decode(frame.data(), static_cast<std::uint32_t>(frame.size())));

@@ -4,14 +4,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "navframe/stream.h"
 
 namespace navframe::tool {
 
 struct Options {
   std::string file = "-";  // "-": standard input
-  std::uint32_t protocols = 0xFFFFFFFF;
-  std::uint32_t board = 0;
-  std::uint32_t only = 0;  // kind, 0 for all
+  std::uint32_t protocols = NavframeAllProtocols;
+  std::vector<const NavframeKind*> only;  // none for all
   std::size_t chunk = 65536;
   bool stats = false;
   bool quiet = false;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "decode.h"
-#include "navframe/navframe.h"
+#include "navframe/stream.h"
 #include "record_text.h"
 
 namespace {
@@ -16,21 +16,21 @@ namespace {
 using navframe::tool::Options;
 
 const std::map<std::string, std::uint32_t> Protocols = {
-    {"nmea", navframe::ProtocolNmea},  {"tagblock", navframe::ProtocolNmeaTagBlock},
-    {"rtcm", navframe::ProtocolRtcm3}, {"ubx", navframe::ProtocolUbx},
-    {"55aa", navframe::Protocol55Aa},
+    {"nmea", NavframeNmea},  {"tagblock", NavframeNmeaTagBlock},
+    {"rtcm", NavframeRtcm3}, {"ubx", NavframeUbx},
+    {"55aa", Navframe55Aa},  {"log", NavframeAsciiLog},
 };
 
 constexpr const char* Examples = R"(Examples:
   navframe drive.nmea                      every record of a file, a line each
-  navframe --only GGA drive.nmea           positions alone
+  navframe --only GGA,GSV drive.nmea       positions and satellites in view alone
   navframe --protocols rtcm,ubx - < log    two protocols of standard input
-  navframe --stats log > /dev/null         how many records of each kind, how fast
+  navframe --stats log > /dev/null         what is in it, decoded or not, and how fast
 
 Exit status: 0 decoded, 1 the input could not be read or the output not written, 2 wrong usage.)";
 
 std::string CheckKind(const std::string& text) {
-  if (navframe::tool::KindId(text)) return {};
+  if (navframe::tool::KindNamed(text) != nullptr) return {};
   return "no kind of record is called " + text;
 }
 
@@ -41,20 +41,23 @@ int main(int argc, char** argv) {
 
   Options options;
   std::vector<std::uint32_t> protocols;
-  std::string only;
+  std::vector<std::string> only;
   CLI::App app("Decodes the output of GNSS receivers to lines of text.", "navframe");
   app.footer(Examples);
   app.set_version_flag("--version", "navframe " NAVFRAME_VERSION);
   app.add_option("FILE", options.file, "Input; - or nothing for standard input");
-  app.add_option("--protocols", protocols, "Protocols to look for, all by default")
+  app.add_option("--protocols", protocols,
+                 "Protocols to look for, all by default: nmea, tagblock, rtcm, ubx, 55aa, log")
+      ->option_text("NAME[,NAME...]")
       ->delimiter(',')
       ->allow_extra_args(false)  // what follows is FILE
       ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
-  app.add_option("--board", options.board,
-                 "Board type of the receiver; 7 has \"$\" start log lines");
-  app.add_option("--only", only, "One kind of record alone, by name or number")
+  app.add_option("--only", only, "Kinds of records, by name or number, all by default")
+      ->option_text("KIND[,KIND...]")
+      ->delimiter(',')
+      ->allow_extra_args(false)
       ->check(CheckKind, "KIND");
-  app.add_option("--chunk", options.chunk, "Bytes pushed at once")
+  app.add_option("--chunk", options.chunk, "Bytes read at once")
       ->check(CLI::Range(std::size_t{1}, std::size_t{1} << 23))
       ->capture_default_str();
   app.add_flag("--stats", options.stats, "Print counts and speed to standard error at the end");
@@ -71,6 +74,6 @@ int main(int argc, char** argv) {
     options.protocols = 0;
     for (const std::uint32_t bit : protocols) options.protocols |= bit;
   }
-  if (!only.empty()) options.only = *navframe::tool::KindId(only);
+  for (const std::string& name : only) options.only.push_back(navframe::tool::KindNamed(name));
   return navframe::tool::Decode(options);
 }

@@ -105,18 +105,13 @@ class Lines {
 
 }  // namespace
 
-std::optional<std::uint32_t> KindId(const std::string& text) {
-  const NavframeKind* const kind = navframe_kind_named(text.c_str());
-  if (kind != nullptr && kind->source == SourceStream) return kind->id;
+const NavframeKind* KindNamed(const std::string& text) {
+  if (const NavframeKind* const kind = navframe_kind_named(text.c_str())) return kind;
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-  return id;
-}
-
-std::string KindName(std::uint32_t id) {
+  if (error != std::errc{} || end != text.data() + text.size()) return nullptr;
   const NavframeKind* const kind = navframe_kind(id, SourceStream);
-  return kind == nullptr ? "MSG" + std::to_string(id) : kind->name;
+  return kind != nullptr ? kind : navframe_kind(id, SourceAsciiLog);
 }
 
 void AppendRecord(const NavframeKind& kind, const void* payload, std::string& out) {

@@ -1,0 +1,89 @@
+// Which kinds have a record as their payload, for reading it by its type. Made by
+// scripts/catalogue from the list of kinds: do not edit.
+// clang-format off
+#ifndef NAVFRAME_KINDS_OF_HPP
+#define NAVFRAME_KINDS_OF_HPP
+
+#include <cstdint>
+
+#include "navframe/navframe.h"
+#include "navframe/records.h"
+
+namespace navframe {
+
+// Of a kind: NavframeKind::id and source.
+struct KindId {
+  std::uint32_t id;
+  std::uint32_t source;
+};
+
+// KindsOf<GgaRecord>::Ids are the kinds with this payload; defined for no type that is none.
+template <class Record>
+struct KindsOf;
+
+template <> struct KindsOf<GgaRecord> { static constexpr KindId Ids[] = {{MsgIdGga, SourceStream}, {MsgIdTaggedGga, SourceStream}}; };
+template <> struct KindsOf<RmcRecord> { static constexpr KindId Ids[] = {{MsgIdRmc, SourceStream}, {MsgIdTaggedRmc, SourceStream}}; };
+template <> struct KindsOf<GsaRecord> { static constexpr KindId Ids[] = {{MsgIdGsa, SourceStream}, {MsgIdTaggedGsa, SourceStream}}; };
+template <> struct KindsOf<GsvRecord> { static constexpr KindId Ids[] = {{MsgIdGsv, SourceStream}, {MsgIdTaggedGsv, SourceStream}}; };
+template <> struct KindsOf<WideGsvRecord> { static constexpr KindId Ids[] = {{MsgIdWideGsv, SourceStream}}; };
+template <> struct KindsOf<GllRecord> { static constexpr KindId Ids[] = {{MsgIdGll, SourceStream}, {MsgIdTaggedGll, SourceStream}}; };
+template <> struct KindsOf<GstRecord> { static constexpr KindId Ids[] = {{MsgIdGst, SourceStream}, {MsgIdTaggedGst, SourceStream}}; };
+template <> struct KindsOf<GbsRecord> { static constexpr KindId Ids[] = {{MsgIdGbs, SourceStream}, {MsgIdTaggedGbs, SourceStream}}; };
+template <> struct KindsOf<VtgRecord> { static constexpr KindId Ids[] = {{MsgIdVtg, SourceStream}, {MsgIdTaggedVtg, SourceStream}}; };
+template <> struct KindsOf<ZdaRecord> { static constexpr KindId Ids[] = {{MsgIdZda, SourceStream}, {MsgIdTaggedZda, SourceStream}}; };
+template <> struct KindsOf<NavPosRecord> { static constexpr KindId Ids[] = {{MsgIdNavPos, SourceStream}}; };
+template <> struct KindsOf<NavVelRecord> { static constexpr KindId Ids[] = {{MsgIdNavVel, SourceStream}}; };
+template <> struct KindsOf<NavTimeRecord> { static constexpr KindId Ids[] = {{MsgIdNavTime, SourceStream}}; };
+template <> struct KindsOf<NavAccRecord> { static constexpr KindId Ids[] = {{MsgIdNavAcc, SourceStream}}; };
+template <> struct KindsOf<PNavMsgRecord> { static constexpr KindId Ids[] = {{MsgIdPNavMsg, SourceStream}}; };
+template <> struct KindsOf<CwOutRecord> { static constexpr KindId Ids[] = {{MsgIdCwOut, SourceStream}}; };
+template <> struct KindsOf<GyoAccRecord> { static constexpr KindId Ids[] = {{MsgIdGyoAcc, SourceStream}, {MsgIdGyoAccV, SourceStream}, {MsgIdRtcmGyoAcc, SourceStream}}; };
+template <> struct KindsOf<SnrStatRecord> { static constexpr KindId Ids[] = {{MsgIdSnrStat, SourceStream}}; };
+template <> struct KindsOf<NavAttRecord> { static constexpr KindId Ids[] = {{MsgIdNavAtt, SourceStream}, {MsgIdRtcmNavAtt, SourceStream}}; };
+template <> struct KindsOf<ImuRecord> { static constexpr KindId Ids[] = {{MsgIdImuRaw, SourceStream}, {MsgIdImuVeh, SourceStream}, {MsgIdRtcmImuRaw, SourceStream}, {MsgIdRtcmImuVeh, SourceStream}}; };
+template <> struct KindsOf<InsPvaRecord> { static constexpr KindId Ids[] = {{MsgIdInsPva, SourceStream}, {MsgIdRtcmInsPva, SourceStream}}; };
+template <> struct KindsOf<StationPositionRecord> { static constexpr KindId Ids[] = {{MsgIdStationPosition, SourceStream}}; };
+template <> struct KindsOf<SystemParametersRecord> { static constexpr KindId Ids[] = {{MsgIdSystemParameters, SourceStream}}; };
+template <> struct KindsOf<MsmRecord> { static constexpr KindId Ids[] = {{MsgIdMsmGps, SourceStream}, {MsgIdMsmGlonass, SourceStream}, {MsgIdMsmGalileo, SourceStream}, {MsgIdMsmBeiDou, SourceStream}, {MsgIdMsmQzss, SourceStream}}; };
+template <> struct KindsOf<RtcmSnrStatRecord> { static constexpr KindId Ids[] = {{MsgIdRtcmSnrStat, SourceStream}}; };
+template <> struct KindsOf<TimeStatusRecord> { static constexpr KindId Ids[] = {{MsgIdTimeStatus, SourceStream}}; };
+template <> struct KindsOf<Sub249Record> { static constexpr KindId Ids[] = {{MsgIdSub249, SourceStream}}; };
+template <> struct KindsOf<ClockOrbitRecord> { static constexpr KindId Ids[] = {{MsgIdClockOrbit, SourceStream}}; };
+template <> struct KindsOf<SystemCountsRecord> { static constexpr KindId Ids[] = {{MsgIdSystemCounts, SourceStream}}; };
+template <> struct KindsOf<SignalObservationsRecord> { static constexpr KindId Ids[] = {{MsgIdSignalObservations, SourceStream}}; };
+template <> struct KindsOf<IntegerSetRecord> { static constexpr KindId Ids[] = {{MsgIdIntegerSet, SourceStream}}; };
+template <> struct KindsOf<Sub17Record> { static constexpr KindId Ids[] = {{MsgIdSub17, SourceStream}}; };
+template <> struct KindsOf<Sub33Record> { static constexpr KindId Ids[] = {{MsgIdSub33, SourceStream}}; };
+template <> struct KindsOf<Sub34Record> { static constexpr KindId Ids[] = {{MsgIdSub34, SourceStream}}; };
+template <> struct KindsOf<Sub21Record> { static constexpr KindId Ids[] = {{MsgIdSub21, SourceStream}}; };
+template <> struct KindsOf<Binary55AaRecord> { static constexpr KindId Ids[] = {{MsgIdBinary55Aa, SourceStream}}; };
+template <> struct KindsOf<UbxProtectionLevelsRecord> { static constexpr KindId Ids[] = {{MsgIdUbxProtectionLevels, SourceStream}}; };
+template <> struct KindsOf<UbxNavigationRecord> { static constexpr KindId Ids[] = {{MsgIdUbxNavigation, SourceStream}}; };
+template <> struct KindsOf<UbxSatellitesRecord> { static constexpr KindId Ids[] = {{MsgIdUbxSatellites, SourceStream}}; };
+template <> struct KindsOf<UbxRawMeasurementsRecord> { static constexpr KindId Ids[] = {{MsgIdUbxRawMeasurements, SourceStream}}; };
+template <> struct KindsOf<UbxAttitudeRecord> { static constexpr KindId Ids[] = {{MsgIdUbxAttitude, SourceStream}}; };
+template <> struct KindsOf<DiagnosticRecord> { static constexpr KindId Ids[] = {{MsgIdDiagnostic, SourceStream}}; };
+template <> struct KindsOf<PositionLogRecord> { static constexpr KindId Ids[] = {{LogIdBestPosition, SourceAsciiLog}, {LogIdPseudorangePosition, SourceAsciiLog}, {LogIdMatchedPosition, SourceAsciiLog}, {LogIdPosition6006, SourceAsciiLog}}; };
+template <> struct KindsOf<VelocityLogRecord> { static constexpr KindId Ids[] = {{LogIdBestVelocity, SourceAsciiLog}, {LogIdPseudorangeVelocity, SourceAsciiLog}}; };
+template <> struct KindsOf<DopLogRecord> { static constexpr KindId Ids[] = {{LogIdPseudorangeDop, SourceAsciiLog}, {LogIdPseudorangeDop2, SourceAsciiLog}}; };
+template <> struct KindsOf<TimeLogRecord> { static constexpr KindId Ids[] = {{LogIdTime, SourceAsciiLog}}; };
+template <> struct KindsOf<CartesianLogRecord> { static constexpr KindId Ids[] = {{LogIdCartesian, SourceAsciiLog}}; };
+template <> struct KindsOf<HeadingLogRecord> { static constexpr KindId Ids[] = {{LogIdHeading, SourceAsciiLog}, {LogIdSecondHeading, SourceAsciiLog}}; };
+template <> struct KindsOf<RangeLogRecord> { static constexpr KindId Ids[] = {{LogIdRange, SourceAsciiLog}, {LogIdShortRange, SourceAsciiLog}}; };
+template <> struct KindsOf<VisibilityLogRecord> { static constexpr KindId Ids[] = {{LogIdVisibility, SourceAsciiLog}}; };
+template <> struct KindsOf<SystemVisibilityLogRecord> { static constexpr KindId Ids[] = {{LogIdSystemVisibility, SourceAsciiLog}}; };
+template <> struct KindsOf<SatelliteListLogRecord> { static constexpr KindId Ids[] = {{LogIdSatelliteList, SourceAsciiLog}}; };
+template <> struct KindsOf<NavigationSolutionLogRecord> { static constexpr KindId Ids[] = {{LogIdNavigationSolution, SourceAsciiLog}}; };
+template <> struct KindsOf<AgriculturalLogRecord> { static constexpr KindId Ids[] = {{LogIdAgricultural, SourceAsciiLog}}; };
+template <> struct KindsOf<HeaderLogRecord> { static constexpr KindId Ids[] = {{LogIdCompactObservations, SourceAsciiLog}, {LogId52, SourceAsciiLog}, {LogIdRtkData, SourceAsciiLog}, {LogId1461, SourceAsciiLog}, {LogIdFirmware, SourceAsciiLog}}; };
+template <> struct KindsOf<GpsEphemerisLogRecord> { static constexpr KindId Ids[] = {{LogIdGpsEphemeris, SourceAsciiLog}}; };
+template <> struct KindsOf<GlonassEphemerisLogRecord> { static constexpr KindId Ids[] = {{LogIdGlonassEphemeris, SourceAsciiLog}}; };
+template <> struct KindsOf<GalileoEphemerisLogRecord> { static constexpr KindId Ids[] = {{LogIdGalileoEphemeris, SourceAsciiLog}}; };
+template <> struct KindsOf<BdsEphemerisLogRecord> { static constexpr KindId Ids[] = {{LogIdBdsEphemeris, SourceAsciiLog}}; };
+template <> struct KindsOf<IonosphereLogRecord> { static constexpr KindId Ids[] = {{LogIdGpsIonosphere, SourceAsciiLog}, {LogIdBdsIonosphere, SourceAsciiLog}}; };
+template <> struct KindsOf<GalileoIonosphereLogRecord> { static constexpr KindId Ids[] = {{LogIdGalileoIonosphere, SourceAsciiLog}}; };
+template <> struct KindsOf<UtcLogRecord> { static constexpr KindId Ids[] = {{LogIdGpsUtc, SourceAsciiLog}, {LogIdBdsUtc, SourceAsciiLog}, {LogIdGalileoUtc, SourceAsciiLog}}; };
+
+}  // namespace navframe
+
+#endif  // NAVFRAME_KINDS_OF_HPP

@@ -1,0 +1,113 @@
+#include "nmea/wide_view.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "base/unknown.h"
+#include "catalogue/unknown_records.h"
+
+namespace navframe::nmea {
+namespace {
+
+constexpr int MostNarrowNumber = 254;  // 255 stands for an unknown one
+constexpr int MostNumber = 65534;
+constexpr std::uint16_t LowestNegative = 0x8000;  // of elevations, as 16 bits without a sign
+
+bool IsBelowHorizon(std::uint16_t elevation) {
+  return elevation >= LowestNegative && !IsUnknown(elevation);
+}
+
+std::int16_t Elevation(std::uint16_t elevation) {
+  return IsUnknown(elevation) ? std::int16_t{INT16_MIN} : static_cast<std::int16_t>(elevation);
+}
+
+// Numbers that are none leave a satellite without one.
+bool HasNumber(const GsvBlock& block) {
+  return block.numbered && block.number >= 0 && block.number <= MostNumber;
+}
+
+bool FitsNarrow(const GsvBlock& block) {
+  return block.numbered == HasNumber(block) && !IsBelowHorizon(block.elevation) &&
+         (!block.numbered || block.number <= MostNarrowNumber);
+}
+
+}  // namespace
+
+WideSatelliteInView* WideView::New(int systemId) {
+  if (record_.satelliteCount >= Most) return nullptr;
+  WideSatelliteInView& entry = record_.satellites[record_.satelliteCount++];
+  catalogue::MakeUnknown(entry);
+  entry.systemId = static_cast<std::uint8_t>(systemId);
+  return &entry;
+}
+
+WideSatelliteInView* WideView::Entry(int systemId, int number) {
+  for (std::size_t i = 0; i < record_.satelliteCount; ++i) {
+    WideSatelliteInView& entry = record_.satellites[i];
+    if (entry.number == number && entry.systemId == static_cast<std::uint8_t>(systemId)) {
+      return &entry;
+    }
+  }
+  WideSatelliteInView* const entry = New(systemId);
+  if (entry != nullptr) entry->number = static_cast<std::uint16_t>(number);
+  return entry;
+}
+
+void WideView::AddSignalTo(WideSatelliteInView& entry, std::uint8_t signalId,
+                           const GsvBlock& block) {
+  if (block.hasElevation) entry.elevation = Elevation(block.elevation);
+  if (block.hasAzimuth) entry.azimuth = block.azimuth;
+  if (entry.signalCount >= std::size(entry.signals)) return;
+  SatelliteSignal& signal = entry.signals[entry.signalCount++];
+  signal.signalId = signalId;
+  signal.cn0 = block.cn0;
+}
+
+void WideView::TakeOver(const SatellitesInView& narrow) {
+  inUse_ = true;
+  record_.satelliteCount = 0;
+  const auto take = [this](const SatelliteInView& from) {
+    WideSatelliteInView& entry = *New(from.systemId);  // all of both lists have room
+    entry.number = IsUnknown(from.number) ? Unknown<std::uint16_t>() : from.number;
+    entry.azimuth = from.azimuth;
+    entry.elevation = Elevation(from.elevation);
+    entry.used = from.used;
+    entry.signalCount = from.signalCount;
+    std::copy_n(from.signals, from.signalCount, entry.signals);
+  };
+  std::ranges::for_each(narrow.Numbered(), take);
+  std::ranges::for_each(narrow.Unnumbered(), take);
+}
+
+void WideView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block,
+                         SatellitesInView& narrow) {
+  if (!inUse_) {
+    if (FitsNarrow(block) && narrow.AddSignal(systemId, signalId, block)) return;
+    TakeOver(narrow);
+  }
+  WideSatelliteInView* const entry =
+      HasNumber(block) ? Entry(systemId, block.number) : New(systemId);
+  if (entry != nullptr) AddSignalTo(*entry, signalId, block);
+}
+
+void WideView::MarkUsed(int systemId, int number, SatellitesInView& narrow) {
+  if (number < 0 || number > MostNumber) return;
+  if (!inUse_) {
+    if (number <= MostNarrowNumber && narrow.MarkUsed(systemId, number)) return;
+    TakeOver(narrow);
+  }
+  if (WideSatelliteInView* const entry = Entry(systemId, number)) entry->used = 1;
+}
+
+void WideView::Fill(const SatellitesInView& narrow, WideGsvRecord& record) const {
+  narrow.FillHeader(record);
+  record.reserved = 0;
+  record.satelliteCount = record_.satelliteCount;
+  std::copy_n(record_.satellites, record_.satelliteCount, record.satellites);
+  for (std::size_t i = record_.satelliteCount; i < Most; ++i) {
+    catalogue::MakeUnknown(record.satellites[i]);
+  }
+}
+
+}  // namespace navframe::nmea

@@ -1,0 +1,44 @@
+// The satellites of a GSV cycle that a GsvRecord has no room for.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "navframe/records.h"
+#include "nmea/satellites_in_view.h"
+
+namespace navframe::nmea {
+
+// Takes over a cycle from SatellitesInView where that would lose something of it.
+class WideView {
+ public:
+  bool InUse() const { return inUse_; }
+  void Reset() { inUse_ = false; }
+
+  // Adds to `narrow`, or here what it has no room for.
+  void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block,
+                 SatellitesInView& narrow);
+  void MarkUsed(int systemId, int number, SatellitesInView& narrow);
+
+  std::span<const WideSatelliteInView> Satellites() const {
+    return {record_.satellites, record_.satelliteCount};
+  }
+
+  // The record of the cycle, with the header of a narrow one.
+  void Fill(const SatellitesInView& narrow, WideGsvRecord& record) const;
+
+  // What `narrow` has, from when on everything is added here.
+  void TakeOver(const SatellitesInView& narrow);
+
+ private:
+  static constexpr std::size_t Most = std::size(WideGsvRecord{}.satellites);
+
+  WideSatelliteInView* New(int systemId);
+  WideSatelliteInView* Entry(int systemId, int number);
+  static void AddSignalTo(WideSatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
+
+  WideGsvRecord record_;  // written from when on it is in use
+  bool inUse_ = false;
+};
+
+}  // namespace navframe::nmea

@@ -1,0 +1,70 @@
+#include "ubx/time_keeping.h"
+
+#include <cmath>
+
+#include "base/unknown.h"
+#include "time/time_of_day.h"
+#include "time/true_clock.h"
+#include "ubx/record_head.h"
+
+namespace navframe::ubx {
+namespace {
+
+constexpr std::int64_t SecondMs = 1000;
+
+// GPS time less UTC, of a time of week and a time of day that belong to one moment: what whole days
+// leave, rounded to the second.
+std::int64_t LeapSecondsOf(std::uint32_t tow, const UTCTIME& utc, std::int32_t nanoseconds) {
+  const std::int64_t ofDay =
+      ((utc.hour * 60LL + utc.minute) * 60 + utc.second) * SecondMs + nanoseconds / 1'000'000;
+  return (tow + WeekMs - ofDay + SecondMs / 2) % DayMs / SecondMs;
+}
+
+}  // namespace
+
+void KeepNavigationTime(const Payload& payload, DecoderClock& clock) {
+  const std::uint8_t* const p = payload.bytes;
+  const std::uint8_t valid = p[11];
+  const bool dateValid = Bits(valid, 0, 1) != 0;
+  const bool timeValid = Bits(valid, 1, 1) != 0;
+  const bool fullyResolved = Bits(valid, 2, 1) != 0;
+  const UTCTIME utc = {.year = dateValid ? ReadLe<std::uint16_t>(p, 4) : Unknown<std::uint16_t>(),
+                       .month = p[6],
+                       .day = p[7],
+                       .hour = timeValid ? p[8] : Unknown<std::uint8_t>(),
+                       .minute = p[9],
+                       .second = p[10],
+                       .reserved0 = 0,
+                       .millisecond = 0,
+                       .flag = 0,
+                       .reserved1 = 0};
+  const auto tow = ReadLe<std::uint32_t>(p, 0);
+  const auto nanoseconds = ReadLe<std::int32_t>(p, 16);
+  // Both times in one message tell how many leap seconds there are.
+  constexpr std::int64_t Plausible = 60;
+  if (dateValid && timeValid && fullyResolved && tow < WeekMs) {
+    const std::int64_t leapSeconds = LeapSecondsOf(tow, utc, nanoseconds);
+    if (leapSeconds > 0 && leapSeconds < Plausible && clock.leapPending == 0) {
+      clock.setLeap(static_cast<int>(leapSeconds));
+    }
+  }
+  true_clock::SetUtc(utc, nanoseconds, {}, NavframeTimeFromUbx, clock);
+}
+
+void KeepRawTime(const Payload& payload, DecoderClock& clock) {
+  constexpr std::size_t HeadLength = 16;
+  if (payload.length < HeadLength || Bits(payload.bytes[12], 0, 1) == 0) return;
+  const double ms = std::round(ReadLe<double>(payload.bytes, 0) * 1000);
+  if (!(ms >= 0 && ms < static_cast<double>(WeekMs))) return;
+  const auto leapSeconds = ReadLe<std::int8_t>(payload.bytes, 10);
+  if (leapSeconds >= 0) clock.setLeap(leapSeconds);
+  true_clock::SetGpsTime(
+      {static_cast<std::uint32_t>(ms), ReadLe<std::uint16_t>(payload.bytes, 8), 0},
+      NavframeTimeFromUbx, clock);
+}
+
+void KeepTow(std::uint32_t tow, DecoderClock& clock) {
+  if (!IsUnknown(clock.gpsTime.week)) true_clock::SetTow(tow, NavframeTimeFromUbx, clock);
+}
+
+}  // namespace navframe::ubx
