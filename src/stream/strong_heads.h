@@ -56,46 +56,33 @@ class StrongHeads {
     return byte == Rtcm || byte == Log || (WithUbx && byte == Ubx);
   }
 
-  // A bit for each of BlockSize bytes that may begin a head, as far as the next one tells.
+  // A bit for each of BlockSize bytes that may begin a head. Most blocks hold none.
 #if defined(__SSE2__) && defined(__x86_64__)
-  static __m128i Load(const std::uint8_t* bytes) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
-  }
-  static __m128i All(std::uint8_t byte) { return _mm_set1_epi8(static_cast<char>(byte)); }
-
-  // Zero for heads. "#" is rare enough to be looked at alone.
-  static __m128i Distance(const std::uint8_t* bytes) {
-    const __m128i first = Load(bytes);
-    const __m128i second = Load(bytes + 1);
-    const __m128i ofRtcm =
-        _mm_or_si128(_mm_xor_si128(first, All(Rtcm)), _mm_subs_epu8(second, All(LongestRtcmHigh)));
-    const __m128i least = _mm_min_epu8(ofRtcm, _mm_xor_si128(first, All(Log)));
-    if constexpr (!WithUbx) return least;
-    return _mm_min_epu8(least, _mm_or_si128(_mm_xor_si128(first, All(Ubx)),
-                                            _mm_xor_si128(second, All(SecondOfUbx))));
-  }
-
   static std::uint64_t HitsIn(const std::uint8_t* bytes) {
-    const __m128i parts[] = {Distance(bytes), Distance(bytes + 16), Distance(bytes + 32),
-                             Distance(bytes + 48)};
-    const __m128i zero = _mm_setzero_si128();
-    const __m128i least =
-        _mm_min_epu8(_mm_min_epu8(parts[0], parts[1]), _mm_min_epu8(parts[2], parts[3]));
-    if (_mm_movemask_epi8(_mm_cmpeq_epi8(least, zero)) == 0) [[likely]]
+    const auto equalTo = [](__m128i part, std::uint8_t byte) {
+      return _mm_cmpeq_epi8(part, _mm_set1_epi8(static_cast<char>(byte)));
+    };
+    __m128i parts[4];
+    for (std::size_t i = 0; i < 4; ++i) {
+      const __m128i part = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16 * i));
+      parts[i] = _mm_or_si128(equalTo(part, Rtcm), equalTo(part, Log));
+      if constexpr (WithUbx) parts[i] = _mm_or_si128(parts[i], equalTo(part, Ubx));
+    }
+    const __m128i any =
+        _mm_or_si128(_mm_or_si128(parts[0], parts[1]), _mm_or_si128(parts[2], parts[3]));
+    if (_mm_movemask_epi8(any) == 0) [[likely]]
       return 0;
     std::uint64_t hits = 0;
     for (std::size_t i = 0; i < 4; ++i) {
-      const int part = _mm_movemask_epi8(_mm_cmpeq_epi8(parts[i], zero));
-      hits |= std::uint64_t{static_cast<std::uint32_t>(part)} << (16 * i);
+      const auto part = static_cast<std::uint32_t>(_mm_movemask_epi8(parts[i]));
+      hits |= std::uint64_t{part} << (16 * i);
     }
     return hits;
   }
 #else
   static std::uint64_t HitsIn(const std::uint8_t* bytes) {
     std::uint64_t hits = 0;
-    for (std::size_t i = 0; i < BlockSize; ++i) {
-      hits |= std::uint64_t{IsHead(bytes[i], bytes[i + 1])} << i;
-    }
+    for (std::size_t i = 0; i < BlockSize; ++i) hits |= std::uint64_t{MayBegin(bytes[i])} << i;
     return hits;
   }
 #endif
