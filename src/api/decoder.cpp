@@ -44,25 +44,25 @@ FramerResult Decoder::HandleHead() {
   const std::uint32_t available = std::min(input.ring.Available(), row.longestFrame);
   const Head head{input.ring.View(available), available, input.ring.Position()};
   const Framing framing = row.frame(decoders.framing, decoders.dialect, head);
-  switch (framing.verdict) {
+  switch (framing.Outcome()) {
     case Verdict::NeedMore:
       return FramerResult::NeedMore;
     case Verdict::Rejected:
       // A UBX frame with a wrong checksum is the one fault that hosts are told of.
-      if (row.protocol == NavframeUbx && framing.reason == NavframeBadChecksum) {
+      if (row.protocol == NavframeUbx && framing.Reason() == NavframeBadChecksum) {
         decoders.ubx.ReportCheckError();
       }
       return SkipOneByte(input);
     case Verdict::Frame:
       break;
   }
-  const DecodeResult result = row.decode(decoders, head.bytes, framing.length);
+  const DecodeResult result = row.decode(decoders, head.bytes, framing.Length());
   // The sentence stays at the head then, and meets the next call.
   if (result.fault != NumberFault::None) Throw(result.fault);
   if constexpr (row.protocol == Navframe55Aa) {
-    Accept55Aa(input, framing.length);
+    Accept55Aa(input, framing.Length());
   } else {
-    AcceptFrame(input, framing.length);
+    AcceptFrame(input, framing.Length());
   }
   if constexpr (row.protocol == NavframeNmea) ConsumeLineEnd(input.ring);
   return FramerResult::Done;
@@ -70,7 +70,7 @@ FramerResult Decoder::HandleHead() {
 
 FramerResult Decoder::HandleTagBlock() {
   const Framing framing = nmea::AwaitTaggedSentence(input.ring, tagBlockStarSearch);
-  return framing.verdict == Verdict::NeedMore ? FramerResult::NeedMore : SkipOneByte(input);
+  return framing.Outcome() == Verdict::NeedMore ? FramerResult::NeedMore : SkipOneByte(input);
 }
 
 std::uint32_t Decoder::PutData(const std::uint8_t* data, std::uint32_t length) {

@@ -96,7 +96,7 @@ StrongerFrames::Answer StrongerFrames::Search(const Head& head, std::uint32_t le
     const ProtocolRow* const row = protocols_.RowOf(head.bytes[at]);
     if (row != nullptr && row->rank > than_) {
       const Head inner{head.bytes + at, head.available - at, next_};
-      const Verdict verdict = row->frame(state_, dialect_, inner).verdict;
+      const Verdict verdict = row->frame(state_, dialect_, inner).Outcome();
       if (verdict == Verdict::Frame) return Answer::Frame;
       if (verdict == Verdict::NeedMore && !ended) return Answer::Open;
     }
@@ -130,8 +130,8 @@ std::uint32_t FramesBehind::Find(const Head& head) {
     if (at == head.available) break;
     const Framing framing = FrameAt(head, at);
     credit_ -=
-        OfFramer + (framing.verdict == Verdict::NeedMore ? 0 : framing.length / BytesChecked);
-    if (framing.verdict != Verdict::Frame) continue;
+        OfFramer + (framing.Outcome() == Verdict::NeedMore ? 0 : framing.Length() / BytesChecked);
+    if (framing.Outcome() != Verdict::Frame) continue;
     found = at;
     break;
   }

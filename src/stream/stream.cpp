@@ -177,27 +177,27 @@ bool StreamDecoder::HandleHead(const Head& head) {
   const ProtocolRow& row = *protocols_.RowOf(head.bytes[0]);
   const Dialect& dialect = decoders_->dialect;
   const Framing framing = row.frame(decoders_->framing, dialect, head);
-  switch (framing.verdict) {
+  switch (framing.Outcome()) {
     case Verdict::NeedMore:
-      return HandleWaiting(head, row, framing.length);
+      return HandleWaiting(head, row, framing.Length());
     case Verdict::Rejected:
-      return Reject(row, framing.reason, framing.length);
+      return Reject(row, framing.Reason(), framing.Length());
     case Verdict::Frame:
       break;
   }
   // A check of few bits may hold by chance: a frame with a stronger one is believed rather.
   if (dialect.strongerFramesWin && row.rank != Rank::Crc) {
     StrongerFrames& stronger = *stronger_[static_cast<std::size_t>(row.rank)];
-    switch (stronger.Look(head, framing.length, flushing_ || idle_)) {
+    switch (stronger.Look(head, framing.Length(), flushing_ || idle_)) {
       case StrongerFrames::Answer::Frame:
-        return Reject(row, NavframeStrongerFrame, framing.length);
+        return Reject(row, NavframeStrongerFrame, framing.Length());
       case StrongerFrames::Answer::Open:
         return false;
       case StrongerFrames::Answer::None:
         break;
     }
   }
-  return TakeFrame(head, row, framing.length);
+  return TakeFrame(head, row, framing.Length());
 }
 
 // A head that needs more bytes: it waits, unless the input ended, or the line is quiet and a whole
