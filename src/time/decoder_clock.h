@@ -18,6 +18,10 @@ struct DecoderClock : TimeManager {
   const bool isTrue;
   WeekFrom weekFrom = WeekFrom::Nothing;       // kept by true_clock
   NavframeTimeSource source = NavframeNoTime;  // that moved it last
+
+  // The day of the calendar that was last looked up, in days from 1970-01-01: times come in days.
+  std::int64_t calendarDay = -1;
+  UTCTIME calendarDate{};
 };
 
 }  // namespace navframe

@@ -39,10 +39,11 @@ void PutDate(std::int64_t day, UTCTIME& utc) {
 }
 
 void PutTimeOfDay(std::int64_t ms, UTCTIME& utc) {
-  utc.hour = static_cast<std::uint8_t>(ms / 3'600'000);
-  utc.minute = static_cast<std::uint8_t>(ms / 60'000 % 60);
-  utc.second = static_cast<std::uint8_t>(ms / SecondMs % 60);
-  utc.millisecond = static_cast<std::uint16_t>(ms % SecondMs);
+  const auto ofDay = static_cast<std::uint32_t>(ms);  // shorter divisions
+  utc.hour = static_cast<std::uint8_t>(ofDay / 3'600'000);
+  utc.minute = static_cast<std::uint8_t>(ofDay / 60'000 % 60);
+  utc.second = static_cast<std::uint8_t>(ofDay / 1000 % 60);
+  utc.millisecond = static_cast<std::uint16_t>(ofDay % 1000);
 }
 
 std::int64_t MsOfDay(const UTCTIME& utc) {
@@ -84,17 +85,24 @@ void PutGps(std::int64_t ms, WeekFrom from, DecoderClock& clock) {
 
 // Date and time of day of a UTC moment, in ms from the GPS epoch; of a leap second the moment
 // behind it, which has the same number.
-void PutUtc(std::int64_t utcMs, bool isLeapSecond, TimeManager& clock) {
+void PutUtc(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
   const std::int64_t ms = utcMs + GpsEpochDay * DayMs - (isLeapSecond ? SecondMs : 0);
   if (ms < 0) return;
-  PutDate(ms / DayMs, clock.utcTime);
+  const std::int64_t day = ms / DayMs;
+  if (day != clock.calendarDay) {
+    PutDate(day, clock.calendarDate);
+    clock.calendarDay = day;
+  }
+  clock.utcTime.year = clock.calendarDate.year;
+  clock.utcTime.month = clock.calendarDate.month;
+  clock.utcTime.day = clock.calendarDate.day;
   PutTimeOfDay(ms % DayMs, clock.utcTime);
   if (isLeapSecond) clock.utcTime.second = 60;
 }
 
 std::int64_t LeapMs(const TimeManager& clock) { return clock.leapSeconds * SecondMs; }
 
-void PutUtcOfGps(TimeManager& clock) {
+void PutUtcOfGps(DecoderClock& clock) {
   if (KnowsWeek(clock)) return PutUtc(Now(clock) - LeapMs(clock), false, clock);
   PutTimeOfDay(Modulo(clock.gpsTime.tow - LeapMs(clock), DayMs), clock.utcTime);
 }
