@@ -16,7 +16,8 @@ constexpr std::size_t BufferSize = 1 << 16;
 NavframeOptions ChosenOptions(fuzz::Input& steering) {
   const std::uint8_t choice = steering.Byte();
   NavframeOptions options = fuzz::OptionsOf(choice % 4 == 1 ? NavframeLegacy : NavframeStandard);
-  if (choice >= 192) options.protocols = steering.Byte() & NavframeAllProtocols;
+  const std::uint32_t protocols = steering.Byte() & NavframeAllProtocols;
+  if (choice >= 192 && protocols != 0) options.protocols = protocols;
   if (choice % 8 >= 4) options.startWeek = 2300;
   return options;
 }
