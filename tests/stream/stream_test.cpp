@@ -17,8 +17,9 @@ const Bytes Gsv1 = Nmea("GPGSV,2,1,05,01,40,083,46,02,17,308,41,,,,,,,,");  // 5
 const Bytes Gsv2 = Nmea("GPGSV,2,2,05,03,40,083,46");                       // 31
 const Bytes Unknown = Nmea("GPTXT,01,01,02,u-blox");                        // 27
 const Bytes Station = sample::RtcmStation();                                // 25
-
-const Bytes Zeros = RtcmFrame(Bytes(19));  // 25
+const Bytes Zeros = RtcmFrame(Bytes(19));                                   // 25
+const Bytes AroundFalseHeads =
+    Frame55Aa(Bytes{0xD3, 0, 180, 0xD3, 0, 180, 0xD3, 0, 180} + Bytes(155));  // 171
 
 // A minute of positions, 64 bytes each.
 Bytes Gga(int second) {
@@ -65,6 +66,7 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {ToBytes(Log("#VERSIONA,1")), "ASCII log VERSIONA 22 =0 no kind\n"},
       {ToBytes("\\g:1*6C\\") + Vtg,
        "NMEA tag block 8 =0\nNMEA GPVTG 38 =1 \\g:1*6C\n  VTG \\g:1*6C\n"},
+      {ToBytes("\\g:1*6C\\") + Station, "NMEA tag block 8 =0\nRTCM 3 1005 25 =1\n  STATION\n"},
       {ToBytes("\\g:1*6C\\\n") + Vtg, "NMEA tag block 8 =0\nskipped 1\nNMEA GPVTG 38 =1\n  VTG\n"},
       // Satellites in view belong to the sentence that closed them, or to the end.
       {Gsv1 + Gsv2 + Vtg, "NMEA GPGSV 52 =0\nNMEA GPGSV 31 =0\nNMEA GPVTG 38 =2\n  GSV\n  VTG\n"},
@@ -124,7 +126,8 @@ Bytes Rough() {
   Bytes bytes;
   for (std::uint64_t seed = 1; seed < 4; ++seed) {
     bytes = bytes + NoiseBytes(3000, seed) + sample::MixedStream() +
-            ToBytes("\\g:1*6C\\" + Sentence("GPVTG,x,T") + Log("#VERSIONA,1")) + Gsv1;
+            ToBytes("\\g:1*6C\\" + Sentence("GPVTG,x,T") + Log("#VERSIONA,1")) + Gsv1 +
+            AroundFalseHeads + Frame55Aa(Bytes(4) + Zeros + Bytes(135));
   }
   return bytes;
 }
@@ -232,6 +235,7 @@ TEST(Streams, AQuietLineGivesUpWhatAWholeFrameStandsBehind) {
   EXPECT_EQ(watched.PutIdle(Gsv2), "NMEA GPGSV 31 =0\n") << "the first one is missing";
   EXPECT_EQ(watched.Put(First(Vtg, 36)), "");
   EXPECT_EQ(watched.Idle(), "NMEA GPVTG 36 =2\n  GSV\n  VTG\n");
+  EXPECT_EQ(watched.PutIdle(Gsv1 + Gsv2), "NMEA GPGSV 52 =0\nNMEA GPGSV 31 =0\n  GSV\n");
 }
 
 TEST(Streams, AStrongerCheckWins) {
@@ -242,8 +246,14 @@ TEST(Streams, AStrongerCheckWins) {
                          RtcmFrame(ToBytes(checked.substr(10, 5) + std::string(252, 'x')));
   const Case cases[] = {
       {reaching, "NMEA rejected stronger 15\nskipped 6\nRTCM 3 1927 263 =0 no kind\n"},
-      {Frame55Aa(Bytes(4) + ubx + Bytes(132)),
-       "55AA rejected stronger 171\nskipped 9\nUBX 0A04 28 =0 no kind\nskipped 133\n"},
+      {AroundFalseHeads + Frame55Aa(Bytes(4) + Zeros + Bytes(135)),
+       "55AA 164 171 =0 no kind\n"
+       "55AA rejected stronger 171\nskipped 9\nRTCM 3 25 =0 no kind\nskipped 136\n"},
+      {Frame55Aa(ubx + Bytes(136)),
+       "55AA rejected stronger 171\nskipped 5\nUBX 0A04 28 =0 no kind\nskipped 137\n"},
+      // The checksum of one is the first byte of the other.
+      {Frame55Aa(Bytes{0xCB} + Bytes(7)) + Bytes(Zeros.begin() + 1, Zeros.end()),
+       "55AA rejected stronger 15\nskipped 13\nRTCM 3 25 =0 no kind\n"},
       {UbxFrame(0x0A, 0x04, Zeros + Bytes(3)),
        "UBX rejected stronger 36\nskipped 5\nRTCM 3 25 =0 no kind\nskipped 5\n"},
       // Neither a weaker one, nor an equal one.
@@ -263,6 +273,8 @@ TEST(Streams, AStrongerCheckWins) {
   WatchedStream watched;
   EXPECT_EQ(watched.Put(Frame55Aa(Bytes{0xD3, 0, 200} + Bytes(161)) + Bytes(40)), "");
   EXPECT_EQ(watched.Put(Bytes(1)), "55AA 164 171 =0 no kind\n");
+  EXPECT_EQ(watched.PutIdle(Frame55Aa(Bytes{0xD3, 0, 200} + Bytes(161))),
+            "skipped 41\n55AA 164 171 =0 no kind\n");
 }
 
 TEST(Streams, LegacyShowsWhatTheExportsThrowAndTell) {
@@ -272,7 +284,8 @@ TEST(Streams, LegacyShowsWhatTheExportsThrowAndTell) {
   EXPECT_EQ(watched.Put(Gga(0) + Nmea("GPVTG,x,T") + Vtg + Damaged(UbxFrame(1, 7, Bytes(4)))),
             "NMEA GPGGA 64 =1\n  GGA\nNMEA GPVTG 15 =0 field 1\nNMEA GPVTG 38 =1\n  VTG\n"
             "UBX rejected checksum 12\n  DIAGNOSTIC\n");
-  watched.Flush();
+  EXPECT_EQ(watched.stream.statistics().nmea.undecoded, 1U);
+  EXPECT_EQ(watched.Flush(), "skipped 11\n");
 }
 
 TEST(Streams, ManyDoNotKnowEachOther) {
@@ -300,18 +313,22 @@ TEST(Streams, ManyDoNotKnowEachOther) {
 }
 
 TEST(Streams, AResetIsANewStream) {
-  const Bytes bytes = Rough();
-  const std::string expected = LinesOf(Asking(NavframeAllItems), bytes);
+  const Bytes bytes = Bytes(8) + Vtg + UbxFrame(1, 7, Bytes(60)) + Rough();
+  const std::string expected = LinesOf(Asking(NavframeAllItems), bytes, 10);
   Stream stream(Asking(NavframeAllItems));
-  for (const std::size_t before : {std::size_t{10}, std::size_t{4000}, bytes.size() - 20}) {
-    stream.put(std::span(bytes).first(before));
-    Item last;
-    while (stream.statistics().waitingBytes > before / 2 && stream.next(last) > 0) continue;
+  // A tag block in front of where the new stream has a sentence; a head given up where it waits;
+  // anything else; and always the end of the input.
+  for (const Bytes& before : {ToBytes("\\g:1*6C\\"), UbxHeader(4000) + Bytes(90) + Vtg, Rough()}) {
+    stream.feed(before, [](const Item&) {});
+    stream.idle();
+    stream.feed({}, [](const Item&) {});
     stream.flush();
     stream.reset();
     std::string lines;
     const auto add = [&lines](const Item& item) { lines += LineOf(item, true); };
-    stream.feed(bytes, add);
+    for (std::size_t at = 0; at < bytes.size(); at += 10) {
+      stream.feed(std::span(bytes).subspan(at, std::min<std::size_t>(10, bytes.size() - at)), add);
+    }
     stream.finish(add);
     EXPECT_EQ(lines, expected);
     EXPECT_EQ(stream.statistics().bytes, bytes.size());
