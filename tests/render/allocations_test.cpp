@@ -1,9 +1,10 @@
-// Rendering works in the host's buffer alone.
+// Rendering works in the host's buffer alone, and a stream in the memory that it has.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
 #include "generator/mixed_stream.h"
+#include "navframe/stream.hpp"
 #include "render/render.h"
 #include "support/streams.h"
 
@@ -33,6 +34,22 @@ TEST(RenderRecord, AllocatesNothing) {
     RenderRecord({record.id, record.source, record.payload.get()}, out.data(), true);
   }
   EXPECT_EQ(allocations, before);
+#else
+  GTEST_SKIP() << "allocations are not counted here";
+#endif
+}
+
+TEST(Streams, AllocateNothingForRecords) {
+#ifdef NAVFRAME_COUNTS_ALLOCATIONS
+  const Bytes bytes = sample::MixedStream();
+  Stream stream;
+  std::size_t records = 0;
+  const auto count = [&records](const Item&) { ++records; };
+  stream.feed(bytes, count);  // false heads want memory once
+  const std::size_t before = allocations;
+  stream.feed(bytes, count);
+  stream.finish(count);
+  EXPECT_EQ(allocations, before) << records;
 #else
   GTEST_SKIP() << "allocations are not counted here";
 #endif
