@@ -287,8 +287,10 @@ bool StreamDecoder::HandOutRecord(NavframeItem& item) {
   if (!wanted_.empty() && !std::ranges::binary_search(wanted_, &row->kind)) return false;
   Describe(item);
   item.type = NavframeItemRecord;
-  // Why a frame gave no record concerns none that it gave; only a field of its own may be missing.
-  if (item.reason != NavframeBadField || record.id == MsgIdGsv) {
+  // Why a frame gave no record of its own, the last one, concerns none that it gave; but of its own
+  // one a field may be missing.
+  const bool isOwn = nextRecord_ == sink_.Count() && !IsUndecoded(span_.result, decoders_->dialect);
+  if (item.reason != NavframeBadField || !isOwn) {
     item.reason = NavframeNoReason;
     item.badField = 0;
   }

@@ -74,6 +74,8 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {Gsv2 + ToBytes("Uxxxxx"), "NMEA GPGSV 31 =0\n55AA rejected header 0\nskipped 5\n  GSV\n"},
       {Gsv2 + Nmea("GPVTG,x,T"),
        "NMEA GPGSV 31 =0\nNMEA GPVTG 15 =2 field 1\n  GSV\n  VTG field 1\n"},
+      {Nmea("GPGSV,1,1,01,300,40,083,46") + Nmea("GPVTG,x,T"),
+       "NMEA GPGSV 32 =0\nNMEA GPVTG 15 =2 field 1\n  GSV-WIDE\n  VTG field 1\n"},
       // Rejected by what follows the first byte, by a length, by a check, and cut off by the end.
       {ToBytes("$1P,*00"), "NMEA rejected header 0\nskipped 6\n"},
       {ToBytes("$GPXXX" + std::string(260, ',')), "NMEA rejected length 0\nskipped 265\n"},
