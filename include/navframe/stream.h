@@ -11,15 +11,18 @@
  *        while (navframe_next(stream, &item) == NavframeItemReady) use(item);
  *      }
  *
- *    The same bytes give the same items, however they are cut.
+ *    The same bytes give the same items, however they are cut; navframe_idle alone lets the pauses
+ *    between them count.
  * 3. An item, and everything that it points at, is good until the next call on its stream;
  *    navframe_copy_record keeps a record longer.
  * 4. Spans cover the bytes that were put, each byte once, in their order: a frame, a rejected byte
  *    (what looked like a frame and was none; what stands behind it is looked at again), or a run of
  *    skipped bytes. Records come behind the frame that they were decoded from.
- * 5. Structs that cross this interface begin with their size: set it to sizeof of the struct, as in
- * `NavframeItem item = {sizeof item};`. Members that a later version adds at the end are then left
- * alone for this host.
+ * 5. Structs that cross this interface begin with their size, which the host sets:
+ *
+ *      NavframeItem item = {sizeof item};
+ *
+ *    Members that a later version adds at the end are then left alone for this host.
  * 6. Functions that can fail return a NavframeStatus, negative ones being errors.
  */
 #ifndef NAVFRAME_STREAM_H
