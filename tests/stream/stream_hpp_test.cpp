@@ -72,7 +72,6 @@ TEST(StreamHpp, HandsOutTheKindsOfStructs) {
   const auto kinds = kindsOf<VtgRecord, GyoAccRecord>();
   for (const NavframeKind* kind : kinds) ASSERT_NE(kind, nullptr);
   EXPECT_EQ(kinds.size(), 5U) << "VTG, its tagged twin; GYOACC, GYOACC-V, RTCM-GYOACC";
-  // Every kind of the catalogue belongs to the struct that it names.
   EXPECT_EQ(kinds.back()->record->name, std::string("GyoAccRecord"));
   StreamOptions options;
   options.kinds = kinds.data() + 2;
