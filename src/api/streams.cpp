@@ -68,9 +68,9 @@ NavframeStatus Judge(const NavframeOptions& options) {
   constexpr std::uint32_t AllProtocols = NavframeAllProtocols;
   constexpr std::uint32_t AllItems = NavframeAllItems | NavframeItemUndecoded;
   const bool sound = options.dialect <= NavframeLegacy &&
-                     (options.protocols & ~AllProtocols) == 0 &&
-                     (options.items & ~AllItems) == 0 && options.bufferSize >= SmallestBuffer &&
-                     options.bufferSize <= LargestBuffer && options.startWeek < UnknownWeek &&
+                     (options.protocols & ~AllProtocols) == 0 && (options.items & ~AllItems) == 0 &&
+                     options.bufferSize >= SmallestBuffer && options.bufferSize <= LargestBuffer &&
+                     options.startWeek < UnknownWeek &&
                      (options.kindCount == 0 || options.kinds != nullptr);
   if (!sound) return NavframeBadArgument;
   // What a look-up did not find, or a copy of what it found.
