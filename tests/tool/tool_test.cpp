@@ -153,6 +153,15 @@ TEST_F(Tool, Statistics) {
                            " bytes, 2 skipped, 0\\.[0-9]+ s, [0-9]+\\.[0-9] MB/s\n"));
 }
 
+// Whichever kind a message's content needs.
+TEST_F(Tool, OnlyTakesAllKindsOfAMessage) {
+  const std::string input = Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPTXT,01") +
+                            Sentence("GPGSV,1,1,01,303,10,111,30,1") + Sentence("GPTXT,01");
+  EXPECT_EQ(Kinds(Run("navframe --only gsv $IN", input).out), "GSV GSV GSV-WIDE GSV-WIDE");
+  EXPECT_EQ(Kinds(Run("navframe --only GSV-WIDE $IN", input).out), "GSV-WIDE GSV-WIDE");
+  EXPECT_EQ(Kinds(Run("navframe --only 4 $IN", input).out), "GSV GSV");
+}
+
 // 5 MB: a hundred thousand sentences and garbage.
 std::string Large() {
   std::string input;

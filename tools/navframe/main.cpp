@@ -30,7 +30,7 @@ constexpr const char* Examples = R"(Examples:
 Exit status: 0 decoded, 1 the input could not be read or the output not written, 2 wrong usage.)";
 
 std::string CheckKind(const std::string& text) {
-  if (navframe::tool::KindNamed(text) != nullptr) return {};
+  if (!navframe::tool::KindsNamed(text).empty()) return {};
   return "no kind of record is called " + text;
 }
 
@@ -74,6 +74,9 @@ int main(int argc, char** argv) {
     options.protocols = 0;
     for (const std::uint32_t bit : protocols) options.protocols |= bit;
   }
-  for (const std::string& name : only) options.only.push_back(navframe::tool::KindNamed(name));
+  for (const std::string& name : only) {
+    const auto kinds = navframe::tool::KindsNamed(name);
+    options.only.insert(options.only.end(), kinds.begin(), kinds.end());
+  }
   return navframe::tool::Decode(options);
 }

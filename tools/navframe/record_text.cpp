@@ -1,5 +1,7 @@
 #include "record_text.h"
 
+#include <strings.h>
+
 #include <array>
 #include <charconv>
 
@@ -105,13 +107,20 @@ class Lines {
 
 }  // namespace
 
-const NavframeKind* KindNamed(const std::string& text) {
-  if (const NavframeKind* const kind = navframe_kind_named(text.c_str())) return kind;
+std::vector<const NavframeKind*> KindsNamed(const std::string& text) {
+  std::vector<const NavframeKind*> kinds;
+  const NavframeKind* const named = navframe_kind_named(text.c_str());
+  for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
+    const NavframeKind* const kind = navframe_kind_at(i);
+    if (kind == named || strcasecmp(kind->message, text.c_str()) == 0) kinds.push_back(kind);
+  }
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-  if (error != std::errc{} || end != text.data() + text.size()) return nullptr;
-  const NavframeKind* const kind = navframe_kind(id, SourceStream);
-  return kind != nullptr ? kind : navframe_kind(id, SourceAsciiLog);
+  if (!kinds.empty() || error != std::errc{} || end != text.data() + text.size()) return kinds;
+  const NavframeKind* const numbered = navframe_kind(id, SourceStream);
+  const NavframeKind* const log = navframe_kind(id, SourceAsciiLog);
+  if (numbered != nullptr || log != nullptr) kinds.push_back(numbered != nullptr ? numbered : log);
+  return kinds;
 }
 
 void AppendRecord(const NavframeKind& kind, const void* payload, std::string& out) {
