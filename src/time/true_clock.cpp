@@ -121,6 +121,14 @@ void TrackLeapSecond(const UTCTIME& utc, TimeManager& clock) {
   }
 }
 
+// "hhmmss.mmm", for messages that have no text of their own.
+std::string TimeText(std::int64_t utcMs, bool isLeapSecond) {
+  const std::int64_t ms = Modulo(utcMs - (isLeapSecond ? SecondMs : 0), DayMs);
+  std::string text(TimeOfDayText(static_cast<std::uint32_t>(ms), 0).View());
+  if (isLeapSecond) text.replace(4, 2, "60");
+  return text;
+}
+
 // A time of day without a date, `utcMs` from midnight.
 void SetTimeOfDay(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
   const std::int64_t ofDay = utcMs + LeapMs(clock);
@@ -177,11 +185,11 @@ void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
   const std::int64_t day = hasDate ? DayOf(utc.year, utc.month, utc.day) - GpsEpochDay : 0;
   if (!hasTime) return SetDate(day, clock);
   TrackLeapSecond(utc, clock);
-  if (!text.empty()) clock.timeText = text;
   // To the nearest millisecond, as receivers round their times of week.
   const std::int64_t half = nanoseconds < 0 ? -NanosecondsPerMs / 2 : NanosecondsPerMs / 2;
   const std::int64_t ofDay = MsOfDay(utc) + (nanoseconds + half) / NanosecondsPerMs;
   const bool isLeapSecond = IsLeapSecond(utc);
+  clock.timeText = text.empty() ? TimeText(ofDay, isLeapSecond) : std::string(text);
   if (!hasDate) return SetTimeOfDay(ofDay, isLeapSecond, clock);
   PutGps(day * DayMs + ofDay + LeapMs(clock), WeekFrom::Date, clock);
   PutUtc(day * DayMs + ofDay, isLeapSecond, clock);

@@ -19,7 +19,8 @@ bool IsTimeOfDay(const UTCTIME& utc);
 void Start(std::uint32_t week, DecoderClock& clock);
 
 // Moves the clock to what is known of a UTC moment: date, time of day or both. `nanoseconds` are
-// added to the whole second. The text, if it is not empty, becomes the clock's time text.
+// added to the whole second. The text becomes the clock's time text; "hhmmss.mmm" where it is
+// empty.
 void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
             NavframeTimeSource source, DecoderClock& clock);
 

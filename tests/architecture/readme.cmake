@@ -1,5 +1,6 @@
 # cmake -DROOT=... -P readme.cmake
-# The hosts that the README shows are those that the installation check builds and runs.
+# The README shows the sample's lines as the tool prints them, and hosts that the installation check
+# builds and runs.
 file(READ "${ROOT}/README.md" readme)
 foreach(shown "c:examples/decode.c" "cpp:examples/find_package/track.cpp")
   string(REGEX MATCH "^([a-z]+):(.*)$" parts "${shown}")
@@ -9,3 +10,18 @@ foreach(shown "c:examples/decode.c" "cpp:examples/find_package/track.cpp")
     message(FATAL_ERROR "README.md does not show ${CMAKE_MATCH_2} as it is")
   endif()
 endforeach()
+
+file(READ "${ROOT}/samples/mixed.txt" printed)
+string(REGEX MATCH "scripts/run\n[^`]+" screen "${readme}")
+string(REGEX MATCHALL "\n[A-Z0-9-]+ [^\n]+" lines "${screen}")
+list(LENGTH lines count)
+list(TRANSFORM lines REPLACE " \\.\\.\\.$" "")
+foreach(line IN LISTS lines)
+  string(FIND "\n${printed}" "${line}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "README.md shows a line that the tool does not print:${line}")
+  endif()
+endforeach()
+if(count LESS 5)
+  message(FATAL_ERROR "README.md shows no lines of samples/mixed.txt")
+endif()

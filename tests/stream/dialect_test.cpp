@@ -367,6 +367,18 @@ TEST(Dialects, WeekOfAUbxTimeAtTheWeeksEnd) {
   }
 }
 
+TEST(Dialects, TimeTextOfAUbxTime) {
+  const std::pair<Bytes, const char*> rows[] = {
+      {Pvt(DateAndTime, 7, 31, 12, 0, 1, 0, 0), "120001.000"},
+      {Pvt(Time, 0, 0, 0, 0, 0, -1'400'000, 0), "235959.999"},
+      {Pvt(DateAndTime, 6, 30, 23, 59, 60, 2'000'000, 0), "235960.002"},
+  };
+  for (const auto& [frame, text] : rows) {
+    const auto records = Records(NavframeStandard, frame);
+    EXPECT_STREQ(records.at(0).As<UbxNavigationRecord>().timeText, text);
+  }
+}
+
 TEST(Dialects, FramesThatOneOfThemDoesNotTake) {
   const auto expect = [](const Bytes& bytes, const char* standard, const char* legacy) {
     EXPECT_EQ(Names(Records(NavframeStandard, bytes)), standard);
