@@ -10,26 +10,8 @@
 namespace navframe::nmea {
 namespace {
 
-constexpr int MostNarrowNumber = 254;  // 255 stands for an unknown one
-constexpr int MostNumber = 65534;
-constexpr std::uint16_t LowestNegative = 0x8000;  // of elevations, as 16 bits without a sign
-
-bool IsBelowHorizon(std::uint16_t elevation) {
-  return elevation >= LowestNegative && !IsUnknown(elevation);
-}
-
 std::int16_t Elevation(std::uint16_t elevation) {
   return IsUnknown(elevation) ? std::int16_t{INT16_MIN} : static_cast<std::int16_t>(elevation);
-}
-
-// Numbers that are none leave a satellite without one.
-bool HasNumber(const GsvBlock& block) {
-  return block.numbered && block.number >= 0 && block.number <= MostNumber;
-}
-
-bool FitsNarrow(const GsvBlock& block) {
-  return block.numbered == HasNumber(block) && !IsBelowHorizon(block.elevation) &&
-         (!block.numbered || block.number <= MostNarrowNumber);
 }
 
 }  // namespace
@@ -80,23 +62,15 @@ void WideView::TakeOver(const SatellitesInView& narrow) {
   std::ranges::for_each(narrow.Unnumbered(), take);
 }
 
-void WideView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block,
-                         SatellitesInView& narrow) {
-  if (!inUse_) {
-    if (FitsNarrow(block) && narrow.AddSignal(systemId, signalId, block)) return;
-    TakeOver(narrow);
-  }
-  WideSatelliteInView* const entry =
-      HasNumber(block) ? Entry(systemId, block.number) : New(systemId);
+void WideView::AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
+  // Numbers that are none leave a satellite without one.
+  const bool hasNumber = block.numbered && block.number >= 0 && block.number <= MostNumber;
+  WideSatelliteInView* const entry = hasNumber ? Entry(systemId, block.number) : New(systemId);
   if (entry != nullptr) AddSignalTo(*entry, signalId, block);
 }
 
-void WideView::MarkUsed(int systemId, int number, SatellitesInView& narrow) {
+void WideView::MarkUsed(int systemId, int number) {
   if (number < 0 || number > MostNumber) return;
-  if (!inUse_) {
-    if (number <= MostNarrowNumber && narrow.MarkUsed(systemId, number)) return;
-    TakeOver(narrow);
-  }
   if (WideSatelliteInView* const entry = Entry(systemId, number)) entry->used = 1;
 }
 

@@ -17,8 +17,23 @@ class WideView {
 
   // Adds to `narrow`, or here what it has no room for.
   void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block,
-                 SatellitesInView& narrow);
-  void MarkUsed(int systemId, int number, SatellitesInView& narrow);
+                 SatellitesInView& narrow) {
+    if (!inUse_) [[likely]] {
+      if (FitsNarrow(block) && narrow.AddSignal(systemId, signalId, block)) [[likely]]
+        return;
+      TakeOver(narrow);
+    }
+    AddSignal(systemId, signalId, block);
+  }
+  void MarkUsed(int systemId, int number, SatellitesInView& narrow) {
+    if (!inUse_) [[likely]] {
+      if (FitsNarrow(number) && narrow.MarkUsed(systemId, number)) [[likely]]
+        return;
+      if (number < 0 || number > MostNumber) return;
+      TakeOver(narrow);
+    }
+    MarkUsed(systemId, number);
+  }
 
   std::span<const WideSatelliteInView> Satellites() const {
     return {record_.satellites, record_.satelliteCount};
@@ -31,6 +46,19 @@ class WideView {
   void TakeOver(const SatellitesInView& narrow);
 
  private:
+  static constexpr int MostNumber = 65534;
+
+  // 255 stands for an unknown one.
+  static constexpr bool FitsNarrow(int number) { return static_cast<unsigned>(number) < 255; }
+  // Elevations are 16 bits without a sign there, of which the highest is that of the unknown one.
+  static constexpr bool FitsNarrow(const GsvBlock& block) {
+    return (!block.numbered || FitsNarrow(block.number)) &&
+           static_cast<std::uint16_t>(block.elevation + 1) <= 0x8000;
+  }
+
+  void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
+  void MarkUsed(int systemId, int number);
+
   static constexpr std::size_t Most = std::size(WideGsvRecord{}.satellites);
 
   WideSatelliteInView* New(int systemId);
