@@ -7,6 +7,7 @@ namespace navframe {
 // docs/compatibility.md has a row for each.
 struct Dialect {
   bool wholeTimes = false;           // times of day of sentences with any number of decimals
+  bool yearsFrom1980 = false;        // two digits of a year are those of 1980 to 2079
   bool keepsSentences = false;       // a field that does not convert leaves its member unknown
   bool needsHemisphere = false;      // a coordinate without its letter is unknown, not negative
   bool wholeGsv = false;             // all satellites and numbers of satellites in view
@@ -22,6 +23,7 @@ struct Dialect {
 
 inline constexpr Dialect LegacyDialect = {};
 inline constexpr Dialect StandardDialect = {.wholeTimes = true,
+                                            .yearsFrom1980 = true,
                                             .keepsSentences = true,
                                             .needsHemisphere = true,
                                             .wholeGsv = true,

@@ -84,7 +84,8 @@ void FieldReader::Date(std::size_t index, UTCTIME& utc) {
   }
   utc.day = static_cast<std::uint8_t>(parts[0]);
   utc.month = static_cast<std::uint8_t>(parts[1]);
-  utc.year = static_cast<std::uint16_t>(parts[2] + 2000);
+  const bool isPast = parts[2] >= 80 && dialect_.yearsFrom1980;
+  utc.year = static_cast<std::uint16_t>(parts[2] + (isPast ? 1900 : 2000));
 }
 
 void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres letters,

@@ -93,7 +93,7 @@ class FieldReader {
     CopyText(text, fields_[index]);
   }
 
-  // ddmmyy: day, month, and year counted from 2000.
+  // ddmmyy: day, month, and year counted from 2000, or the one from 1980 on.
   void Date(std::size_t index, UTCTIME& utc);
 
   // ddmm.mmmm and dddmm.mmmm, with the letter of the hemisphere in the field behind.

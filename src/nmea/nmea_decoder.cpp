@@ -53,7 +53,9 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row == nullptr) return {NavframeNoKind};
   const bool passes = row->Passes(sink_);
   if (row->filterTest == FilterTest::BeforeBuilding && !passes) return {};
-  if (row->takes != nullptr && !row->takes(fields)) return {NavframeBadContent};
+  if (row->takes != nullptr && !row->takes(fields) && !(row->takesByTime && dialect_.wholeTimes)) {
+    return {NavframeBadContent};
+  }
   FieldReader reader(fields, dialect_);
   if (row->kind == MsgIdGsv) {
     if (fields[2] == "1") context.gsvAnnounced += ToIntOrMinimum(fields[1]);

@@ -170,8 +170,12 @@ constexpr PrefixRow Prefixes[] = {
                     {MsgIdSnrStat, BeforeBuilding, ClockRule::None, nullptr, MsgIdRtcmSnrStat})},
     {"NAVATT", With<NavAttRecord, ParseNavAtt>(
                    {MsgIdNavAtt, AfterParsing, ClockRule::TimeOfDay, nullptr, MsgIdRtcmNavAtt})},
-    {"INSPVA", With<InsPvaRecord, ParseInsPva>(
-                   {MsgIdInsPva, AfterParsing, ClockRule::TimeOfDay, IsInsPva, MsgIdRtcmInsPva})},
+    {"INSPVA", With<InsPvaRecord, ParseInsPva>({.kind = MsgIdInsPva,
+                                                .filterTest = AfterParsing,
+                                                .clock = ClockRule::TimeOfDay,
+                                                .takes = IsInsPva,
+                                                .twin = MsgIdRtcmInsPva,
+                                                .takesByTime = true})},
     {"IMUVEH", With<ImuRecord, ParseImuVeh>({.kind = MsgIdImuVeh,
                                              .filterTest = BeforeBuilding,
                                              .twin = MsgIdRtcmImuVeh,

@@ -42,6 +42,7 @@ struct SentenceRow {
   std::uint32_t twin = 0;
   std::uint32_t passesAs = 0;
   bool keepsTimeText = false;  // though it does not move the clock
+  bool takesByTime = false;    // `takes` asks for decimals of its time alone
 
   // What follows from the type of the record.
   std::uint32_t size = 0;                              // 0 for kinds without one

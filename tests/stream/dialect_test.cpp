@@ -287,6 +287,7 @@ std::vector<ClockRow> ClockRows() {
       {{Rmc("120000.00", "290224")}, "nmea 2303:388818000 2024-02-29 12:00:00.000",
        "nmea 2303:475218000 "},
       {{Rmc("", "040824"), Rmc("", "040824")}, "nmea 2326: 2024-08-04", "nmea 2325: "},
+      {{Rmc("120000.00", "220899")}, "nmea 1024:43218000 1999-08-22 12:00:00.000", "nmea 6241:"},
       // Nearest day and week: midnight of GPS, back across that of UTC, the week's end and back.
       {{Rmc("235942.00", "310724"), Gga("235943.00")},
        "nmea 2325:345601000 2024-07-31 23:59:43.000",
@@ -392,6 +393,7 @@ TEST(Dialects, FramesThatOneOfThemDoesNotTake) {
   Bytes longOther = UbxFrame(0x02, 0x13, Bytes(4049));
   EXPECT_EQ(Host(NavframeStandard).Items(longOther)[0].reason, NavframeBadLength);
   expect(Damaged(Attitude(0)), "", "DIAGNOSTIC ");
+  expect(Nmea("INSPVA,310724,120000,47.5,8.5"), "INSPVA ", "");
   expect(ToBytes(LongLog("BESTVELA", "SOL_COMPUTED,SINGLE,0,0,1.5,1,1,1")), "BESTVEL ", "");
   Bytes weak = SystemParameters(0, 18);
   weak.resize(460);
