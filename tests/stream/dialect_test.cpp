@@ -186,18 +186,20 @@ TEST(Dialects, AllSatellitesInView) {
   expect({"GPGSV,1,1,01,03,41,050,46,1", "GPGSV,1,1,01,03,,,40,5", "GPGSV,1,1,01,03,,,41,6",
           "GPGSV,1,1,01,03,,,42,7"},
          "GSV-WIDE 1/3[1:46 5:40 6:41 7:42 ] ", "GSV 1/3[1:46 5:40 6:41 ] ");
-  expect({"GPGSA,A,3,03,,,,,,,,,,,,1.8,1.0,1.4", "GPGSV,1,1,02,03,41,050,46,301,60,317,49,1"},
-         "GSV-WIDE 1/3[1:46 ]used 1/301[1:49 ] ", "GSV 1/3[1:46 ]used 1/45[1:49 ] ");
+  expect({"GPGSA,A,3,03,301,,,,,,,,,,,1.8,1.0,1.4", "GPGSV,1,1,02,03,41,050,46,301,60,317,49,1"},
+         "GSV-WIDE 1/3[1:46 ]used 1/301[1:49 ]used ", "GSV 1/3[1:46 ]used 1/45[1:49 ]used ");
   expect({"GPGSV,1,1,01,03,-5,050,46,1"}, "GSV-WIDE 1/3[1:46 ] ", "GSV 1/3[1:46 ] ");
 
-  // Of 97 satellites the exports keep the last.
-  Bytes many;
-  for (int i = 1; i <= 97; ++i) many = many + Nmea("GPGSV,1,1,01," + std::to_string(i) + ",,,46,1");
-  const auto standard = Records(NavframeStandard, many);
-  ASSERT_EQ(Names(standard), "GSV-WIDE ");
-  EXPECT_EQ(standard[0].As<WideGsvRecord>().satelliteCount, 97);
-  EXPECT_EQ(standard[0].As<WideGsvRecord>().satellites[96].number, 97);
-  EXPECT_EQ(Records(NavframeLegacy, many)[0].As<GsvRecord>().satelliteCount, 1);
+  // Of 97 satellites, the last one with a number or without, the exports keep that one.
+  for (const char* last : {"GPGSV,1,1,01,97,,,46,1", "GLGSV,1,1,01,,,,46,1"}) {
+    Bytes many;
+    for (int i = 1; i <= 96; ++i) many = many + Nmea("GPGSV,1,1,01," + std::to_string(i) + ",,,,1");
+    const auto standard = Records(NavframeStandard, many + Nmea(last));
+    ASSERT_EQ(Names(standard), "GSV-WIDE ");
+    EXPECT_EQ(standard[0].As<WideGsvRecord>().satelliteCount, 97);
+    EXPECT_EQ(standard[0].As<WideGsvRecord>().satellites[96].signals[0].cn0, 46);
+    EXPECT_EQ(Records(NavframeLegacy, many + Nmea(last))[0].As<GsvRecord>().satelliteCount, 1);
+  }
 }
 
 TEST(Dialects, SystemOfAGsa) {
@@ -333,7 +335,7 @@ std::vector<ClockRow> ClockRows() {
       {{Pvt(DateAndTime, 2, 29, 12, 0, 0, -1'400'000, 0)},
        "ubx 2303:388817999 2024-02-29 11:59:59.999",
        "ubx 2303:475218000 "},
-      {{Pvt(Resolved, 7, 31, 12, 0, 0, 0, 302'417'000)},
+      {{Pvt(Resolved, 7, 31, 12, 0, 0, 0, 302'416'999)},
        "ubx 2325:302417000 2024-07-31 12:00:00.000",
        "ubx 2325:302418000 "},
       {{Pvt(Date, 7, 28, 12, 0, 0, 0, 0)}, "ubx 2325: 2024-07-28", "ubx 2324: "},
@@ -405,8 +407,10 @@ TEST(Dialects, LogsAndTagBlocks) {
   const auto items = host.Items(ToBytes(LongLog("BESTVELA", "SOL_COMPUTED,SINGLE,0,0,1.5,1,1,1")));
   const double speed = items.at(1).As<VelocityLogRecord>().horizontalSpeed;  // not aligned there
   EXPECT_EQ(speed, 1.5);
+  host.Items(
+      ToBytes(Log("#BESTVELA,COM2,1,1,APPROXIMATE,1,1.0,0,0,0;SOL_COMPUTED,SINGLE,0,0,1,1,1,1")));
   EXPECT_EQ(host.Time(), "log 2101:345678250 2020-04-16 00:01:00.250");
-  // A log that no kind is made of, and a clock that was never set.
+  // A log that no kind is made of.
   EXPECT_EQ(host.Items(ToBytes(LongLog("VERSIONA", "1"))).at(0).reason, NavframeNoKind);
   const auto tagged = host.Items(ToBytes("\\s:a*28\\") + Gga("120000"));
   ASSERT_EQ(tagged.size(), 3U);
