@@ -111,6 +111,7 @@ class Soak {
       PutChunk(reference_.get(), std::span(bytes).subspan(frame.offset, frame.length), keep);
       PutChunk(reference_.get(), Gap, keep);
     }
+    PutChunk(reference_.get(), Bytes(PaddingLength), keep);
     return records;
   }
 
