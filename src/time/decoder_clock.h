@@ -19,6 +19,9 @@ struct DecoderClock : TimeManager {
   WeekFrom weekFrom = WeekFrom::Nothing;       // kept by true_clock
   NavframeTimeSource source = NavframeNoTime;  // that moved it last
 
+  // The leap seconds that its UTC time was made with.
+  std::int32_t settledLeap = -1;
+
   // The day of the calendar that was last looked up, in days from 1970-01-01: times come in days.
   std::int64_t calendarDay = -1;
   UTCTIME calendarDate{};

@@ -88,6 +88,7 @@ void PutGps(std::int64_t ms, WeekFrom from, DecoderClock& clock) {
 void PutUtc(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
   const std::int64_t ms = utcMs + GpsEpochDay * DayMs - (isLeapSecond ? SecondMs : 0);
   if (ms < 0) return;
+  clock.settledLeap = clock.leapSeconds;
   const std::int64_t day = ms / DayMs;
   if (day != clock.calendarDay) {
     PutDate(day, clock.calendarDate);
@@ -127,6 +128,29 @@ std::string TimeText(std::int64_t utcMs, bool isLeapSecond) {
   std::string text(TimeOfDayText(static_cast<std::uint32_t>(ms), 0).View());
   if (isLeapSecond) text.replace(4, 2, "60");
   return text;
+}
+
+// Whether the clock stands where its last source left it, all of it known: most messages of an
+// epoch bring its time again.
+bool IsSettled(NavframeTimeSource source, const DecoderClock& clock) {
+  return clock.source == source && clock.settledLeap == clock.leapSeconds &&
+         clock.leapPending == 0 && KnowsWeek(clock) && KnowsTow(clock);
+}
+
+bool SaysNow(const UTCTIME& utc, bool hasDate, const DecoderClock& clock) {
+  const UTCTIME& now = clock.utcTime;
+  const bool sameTime = utc.millisecond == now.millisecond && utc.second == now.second &&
+                        utc.minute == now.minute && utc.hour == now.hour && now.second != 60;
+  return sameTime && (!hasDate || (clock.weekFrom == WeekFrom::Date && utc.day == now.day &&
+                                   utc.month == now.month && utc.year == now.year));
+}
+
+// A time of the week that is known, or of none.
+void PutTow(std::uint32_t tow, NavframeTimeSource source, DecoderClock& clock) {
+  clock.source = source;
+  clock.gpsTime.tow = tow;
+  PutUtcOfGps(clock);
+  clock.timeText = TimeOfDayText(tow, clock.leapSeconds).View();
 }
 
 // A time of day without a date, `utcMs` from midnight.
@@ -181,6 +205,10 @@ void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
   const bool hasTime = IsTimeOfDay(utc);
   const bool hasDate = IsDate(utc);
   if (!hasTime && !hasDate) return;
+  if (!text.empty() && SaysNow(utc, hasDate, clock) && IsSettled(source, clock)) {
+    clock.timeText = text;
+    return;
+  }
   clock.source = source;
   const std::int64_t day = hasDate ? DayOf(utc.year, utc.month, utc.day) - GpsEpochDay : 0;
   if (!hasTime) return SetDate(day, clock);
@@ -189,27 +217,27 @@ void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
   const std::int64_t half = nanoseconds < 0 ? -NanosecondsPerMs / 2 : NanosecondsPerMs / 2;
   const std::int64_t ofDay = MsOfDay(utc) + (nanoseconds + half) / NanosecondsPerMs;
   const bool isLeapSecond = IsLeapSecond(utc);
-  clock.timeText = text.empty() ? TimeText(ofDay, isLeapSecond) : std::string(text);
+  if (text.empty()) {
+    clock.timeText = TimeText(ofDay, isLeapSecond);
+  } else {
+    clock.timeText = text;
+  }
   if (!hasDate) return SetTimeOfDay(ofDay, isLeapSecond, clock);
   PutGps(day * DayMs + ofDay + LeapMs(clock), WeekFrom::Date, clock);
   PutUtc(day * DayMs + ofDay, isLeapSecond, clock);
 }
 
 void SetTow(std::uint32_t tow, NavframeTimeSource source, DecoderClock& clock) {
-  if (tow >= WeekMs) return;
-  clock.source = source;
+  if (tow >= WeekMs || (tow == clock.gpsTime.tow && IsSettled(source, clock))) return;
   if (KnowsWeek(clock) && KnowsTow(clock)) {
     PutGps(Nearest(tow, Now(clock), WeekMs), clock.weekFrom, clock);
   }
-  clock.gpsTime.tow = tow;
-  PutUtcOfGps(clock);
-  clock.timeText = TimeOfDayText(tow, clock.leapSeconds).View();
+  PutTow(tow, source, clock);
 }
 
 void SetGpsTime(GPSTIME gpsTime, NavframeTimeSource source, DecoderClock& clock) {
   if (gpsTime.tow >= WeekMs || !PutWeek(gpsTime.week, WeekFrom::Date, clock)) return;
-  clock.gpsTime.tow = gpsTime.tow;
-  SetTow(gpsTime.tow, source, clock);
+  PutTow(gpsTime.tow, source, clock);
 }
 
 void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay,
