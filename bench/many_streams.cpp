@@ -3,6 +3,7 @@
 // bytes that never become a frame make it more.
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "damage.h"
 #include "resident.h"
@@ -23,6 +24,20 @@ std::uint64_t PutEach(const std::vector<StreamHandle>& streams, const Bytes& byt
   return records;
 }
 
+// Heads that wait as long as they may, behind them others inside each other and random bytes.
+Bytes WithoutFrames(sample::Noise& noise) {
+  constexpr std::string_view Long = "\xB5\x62\x02\x15\xF0\x1F";
+  constexpr std::string_view Short = "\xD3\x03\xFF\xB5\x62\x0F\x0F\x0F\x0F";
+  Bytes bytes(1 << 20);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const std::size_t at = i % 9000;
+    const auto random = static_cast<char>(noise.Below(256));
+    const char byte = at < Long.size() ? Long[at] : at < 4000 ? Short[at % Short.size()] : random;
+    bytes[i] = static_cast<std::uint8_t>(byte);
+  }
+  return bytes;
+}
+
 }  // namespace
 }  // namespace navframe::bench
 
@@ -38,11 +53,7 @@ int main(int argc, char** argv) {
   sample::Drive drive;
   sample::Noise noise(1);
   const Bytes traffic = MakeDamagedTraffic(drive, 60, noise).bytes;
-  Bytes nothing(1 << 20, 0);  // heads that wait as long as they may, and random bytes
-  for (std::size_t i = 0; i < nothing.size(); ++i) {
-    nothing[i] = i % 9000 < 6 ? "\xB5\x62\x02\x15\xF0\x1F"[i % 9000]
-                              : static_cast<std::uint8_t>(noise.Below(256));
-  }
+  const Bytes nothing = WithoutFrames(noise);
   const long before = ResidentKiB();
   std::vector<StreamHandle> streams(count);
   for (StreamHandle& stream : streams) stream = OpenStream();

@@ -45,7 +45,12 @@ class AsciiLogDecoder {
   void* FixedBlockOf(std::uint32_t identifier);
 
   RecordSink& sink_;
-  FixedBlock<LineBufferSize> lineBuffer_;
+  // Of the exports alone. Not cleared, so that streams spare its memory: it is filled before it is
+  // pushed.
+  struct alignas(8) LineBuffer {
+    std::array<std::uint8_t, LineBufferSize> bytes;
+  };
+  LineBuffer lineBuffer_;
   FixedBlock<sizeof(InertialLogRecord)> inertialBlock_;
   FixedBlock<sizeof(PositionLogRecord)> positionBlock_;
 };

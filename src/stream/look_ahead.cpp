@@ -105,11 +105,6 @@ StrongerFrames::Answer StrongerFrames::Search(const Head& head, std::uint32_t le
   }
 }
 
-Framing FramesBehind::FrameAt(const Head& head, std::uint32_t at) {
-  const ProtocolRow& row = *protocols_.RowOf(head.bytes[at]);
-  return row.frame(state_, dialect_, {head.bytes + at, head.available - at, base_ + at});
-}
-
 std::uint32_t FramesBehind::Find(const Head& head) {
   // In steps of about a nanosecond: what a byte may cost, the search for heads, a framer.
   constexpr std::int64_t OfByte = 12, MostCredit = 1 << 20, MostDebt = 1 << 18;
@@ -117,25 +112,31 @@ std::uint32_t FramesBehind::Find(const Head& head) {
 
   const std::uint64_t end = head.position + head.available;
   if (end == seen_ && head.position == head_) return 0;  // as before
+  std::int64_t credit = credit_;
   if (end > seen_) {
-    credit_ = std::min(credit_ + OfByte * static_cast<std::int64_t>(end - seen_), MostCredit);
+    credit = std::min(credit + OfByte * static_cast<std::int64_t>(end - seen_), MostCredit);
   }
+  std::uint32_t found = 0;
+  if (credit > 0) {
+    FramingState state;  // its memory is not kept: lines are seldom quiet behind false heads
+    credit -= head.available / BytesSearched;
+    for (std::uint32_t at = 1; at < head.available && credit > -MostDebt; ++at) {
+      at = protocols_.FindStart(head, at, head.available);
+      if (at == head.available) break;
+      const ProtocolRow& row = *protocols_.RowOf(head.bytes[at]);
+      const Framing framing =
+          row.frame(state, dialect_, {head.bytes + at, head.available - at, at});
+      const bool isOpen = framing.Outcome() == Verdict::NeedMore;
+      credit -= OfFramer + (isOpen ? 0 : framing.Length() / BytesChecked);
+      if (framing.Outcome() != Verdict::Frame) continue;
+      found = at;
+      break;
+    }
+  }
+  // Nothing is decided before the end: a call without memory is made again.
   seen_ = end;
   head_ = head.position;
-  if (credit_ <= 0) return 0;
-  credit_ -= head.available / BytesSearched;
-  std::uint32_t found = 0;
-  for (std::uint32_t at = 1; at < head.available && credit_ > -MostDebt; ++at) {
-    at = protocols_.FindStart(head, at, head.available);
-    if (at == head.available) break;
-    const Framing framing = FrameAt(head, at);
-    credit_ -=
-        OfFramer + (framing.Outcome() == Verdict::NeedMore ? 0 : framing.Length() / BytesChecked);
-    if (framing.Outcome() != Verdict::Frame) continue;
-    found = at;
-    break;
-  }
-  base_ += head.available;
+  credit_ = credit;
   return found;
 }
 

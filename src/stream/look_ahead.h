@@ -81,13 +81,8 @@ class FramesBehind {
   std::uint32_t Find(const Head& head);
 
  private:
-  Framing FrameAt(const Head& head, std::uint32_t at);
-
   Dialect dialect_;
   const SearchedProtocols& protocols_;
-  FramingState state_;
-  // The places that framers are told count on from search to search, as they want it.
-  std::uint64_t base_ = 0;
   std::uint64_t seen_ = 0;                  // position behind the last byte that was there
   std::uint64_t head_ = ~std::uint64_t{0};  // position of the last head
   std::int64_t credit_ = 0;
