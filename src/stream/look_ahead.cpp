@@ -118,14 +118,15 @@ std::uint32_t FramesBehind::Find(const Head& head) {
   }
   std::uint32_t found = 0;
   if (credit > 0) {
-    FramingState state;  // its memory is not kept: lines are seldom quiet behind false heads
+    const std::uint64_t base = base_;
+    base_ += head.available;  // also for a call that ends without memory
     credit -= head.available / BytesSearched;
     for (std::uint32_t at = 1; at < head.available && credit > -MostDebt; ++at) {
       at = protocols_.FindStart(head, at, head.available);
       if (at == head.available) break;
       const ProtocolRow& row = *protocols_.RowOf(head.bytes[at]);
       const Framing framing =
-          row.frame(state, dialect_, {head.bytes + at, head.available - at, at});
+          row.frame(state_, dialect_, {head.bytes + at, head.available - at, base + at});
       const bool isOpen = framing.Outcome() == Verdict::NeedMore;
       credit -= OfFramer + (isOpen ? 0 : framing.Length() / BytesChecked);
       if (framing.Outcome() != Verdict::Frame) continue;

@@ -83,6 +83,8 @@ class FramesBehind {
  private:
   Dialect dialect_;
   const SearchedProtocols& protocols_;
+  FramingState state_;
+  std::uint64_t base_ = 0;                  // places go up from search to search, as framers want
   std::uint64_t seen_ = 0;                  // position behind the last byte that was there
   std::uint64_t head_ = ~std::uint64_t{0};  // position of the last head
   std::int64_t credit_ = 0;
