@@ -90,7 +90,8 @@ std::uint8_t SignalId(std::string_view field) {
   return static_cast<std::uint8_t>(ToIntOrMinimum(field));
 }
 
-bool IsEmptyBlock(const FieldReader& fields, std::size_t index) {
+// Rare, and out of the way of the loop that asks.
+[[gnu::noinline]] bool IsEmptyBlock(const FieldReader& fields, std::size_t index) {
   return fields[index].empty() && fields[index + 1].empty() && fields[index + 2].empty() &&
          fields[index + 3].empty();
 }
