@@ -115,7 +115,8 @@ std::size_t StreamDecoder::Put(const std::uint8_t* data, std::size_t length) {
   return taken;
 }
 
-bool StreamDecoder::Next(NavframeItem& item) {
+// Flattened: what it calls for each span are parts of one path.
+[[gnu::flatten]] bool StreamDecoder::Next(NavframeItem& item) {
   for (;;) {
     if (span_.waits) {
       span_.waits = false;
