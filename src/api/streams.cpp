@@ -5,7 +5,7 @@
 #include <new>
 
 #include "navframe/stream.h"
-#include "stream/stream.h"
+#include "stream/stream_decoder.h"
 
 struct NavframeStream final : navframe::StreamDecoder {
   using StreamDecoder::StreamDecoder;

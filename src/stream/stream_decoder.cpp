@@ -1,4 +1,4 @@
-#include "stream/stream.h"
+#include "stream/stream_decoder.h"
 
 #include <algorithm>
 #include <array>
