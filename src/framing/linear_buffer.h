@@ -16,10 +16,10 @@ class LinearBuffer {
       : bytes_(new std::uint8_t[capacity + Head::Slack]), capacity_(capacity) {}
 
   // Appends as many bytes as there is room for, and returns their number. What is left over from
-  // before goes to the front when that is needed: it is small as a rule, a frame that waits.
+  // before, a frame that waits, goes to the front when that is needed; and when it is no longer than
+  // what comes, so that a stream that is consumed as it arrives stays in the first, cached pages.
   std::size_t Append(const std::uint8_t* data, std::size_t length) {
-    if (begin_ == end_) begin_ = end_ = 0;
-    if (length > capacity_ - end_ && begin_ != 0) {
+    if (begin_ != 0 && (end_ - begin_ <= length || length > capacity_ - end_)) {
       std::memmove(bytes_.get(), Bytes(), Size());
       end_ -= begin_;
       begin_ = 0;
