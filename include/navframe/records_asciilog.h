@@ -105,9 +105,9 @@ typedef struct AsciiLogHeader {
   int32_t milliseconds;    /* [ms] time of that week: in the long form rounded, in the short form
                               as the line has it, modulo 2^32; unknown INT32_MIN; see
                               docs/compatibility.md, Short headers */
-  uint32_t receiverStatus; /* digits of the status, which are hexadecimal, read as a decimal
-                              number (20 for "00000020", a line whose status has a letter gives no
-                              record); as sent; see docs/compatibility.md, receiverStatus */
+  uint32_t receiverStatus; /* status word; from a decoder without a stream its hexadecimal digits
+                              read as a decimal number; as sent; see docs/compatibility.md,
+                              receiverStatus */
   uint16_t reserved;       /* reserved */
   uint16_t softwareBuild;  /* build number of the software; as sent */
 } AsciiLogHeader;

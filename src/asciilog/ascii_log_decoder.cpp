@@ -7,7 +7,8 @@
 
 namespace navframe::asciilog {
 
-AsciiLogDecoder::AsciiLogDecoder(RecordSink& sink) : sink_(sink) {
+AsciiLogDecoder::AsciiLogDecoder(RecordSink& sink, const Dialect& dialect)
+    : sink_(sink), dialect_(dialect) {
   sink_.DeclareFixed(&lineBuffer_);
   sink_.DeclareFixed(&inertialBlock_);
   sink_.DeclareFixed(&positionBlock_);
@@ -31,7 +32,7 @@ bool AsciiLogDecoder::DecodeLine(std::string_view line, std::uint32_t identifier
   if (row == nullptr) return false;
   void* const record = sink_.Allocate(row->recordSize);
   std::memset(record, 0, row->recordSize);
-  const bool decoded = DecodeLog(*row, line, record) == DecodeResult::Success;
+  const bool decoded = DecodeLog(*row, line, record, dialect_) == DecodeResult::Success;
   void* const fixed = FixedBlockOf(identifier);
   // A record that is not queued is not freed either, only set aside.
   if (!decoded || fixed != nullptr) sink_.Abandon(record, row->recordSize);

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "base/dialect.h"
 #include "framing/forward_search.h"
 #include "navframe/records.h"
 #include "output/record_sink.h"
@@ -17,8 +18,9 @@ class AsciiLogDecoder {
  public:
   static constexpr std::uint32_t LineBufferSize = NAVFRAME_ASCII_LOG_FRAME_CAPACITY;
 
-  // `sink` must outlive the decoder. Tells it which payloads are no memory of its own.
-  explicit AsciiLogDecoder(RecordSink& sink);
+  // `sink` and `dialect` must outlive the decoder. Tells it which payloads are no memory of its
+  // own.
+  explicit AsciiLogDecoder(RecordSink& sink, const Dialect& dialect = LegacyDialect);
   AsciiLogDecoder(const AsciiLogDecoder&) = delete;
   AsciiLogDecoder& operator=(const AsciiLogDecoder&) = delete;
 
@@ -45,6 +47,7 @@ class AsciiLogDecoder {
   void* FixedBlockOf(std::uint32_t identifier);
 
   RecordSink& sink_;
+  const Dialect& dialect_;
   // Of the exports alone. Not cleared, so that streams spare its memory: it is filled before it is
   // pushed.
   struct alignas(8) LineBuffer {

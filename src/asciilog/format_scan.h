@@ -24,7 +24,7 @@ class FormatScan {
   std::uint32_t Unsigned();  // "%u"
   float Float();             // "%f"
   double Double();           // "%lf"
-  std::uint32_t Hex();       // "%8X", of a text with at most 8 characters left
+  std::uint32_t Hex();       // "%8X", of at most 8 digits
   void Comma();              // ","
 
  private:

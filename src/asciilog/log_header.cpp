@@ -23,9 +23,13 @@ std::uint8_t IdleTime(float percent) {
 }
 
 // #NAME,port,sequence,idle time,time status,week,seconds,receiver status,reserved,build;
-// The status and the reserved field are printed in hexadecimal but have always been read as
-// decimal numbers: a digit above 9 in the reserved field leaves the header one field short.
-bool ReadLongHeader(std::string_view line, LogHeader& header) {
+// The status and the reserved field are printed in hexadecimal. Unless a dialect knows that they
+// are read as decimal numbers, as they have always been: a digit above 9 in the reserved field
+// leaves the header one field short.
+bool ReadLongHeader(std::string_view line, const Dialect& dialect, LogHeader& header) {
+  const auto number = [&dialect](FormatScan& scan) {
+    return dialect.hexLogStatus ? scan.Hex() : static_cast<std::uint32_t>(scan.Int());
+  };
   FormatScan scan(line);
   scan.SkipText();
   scan.Comma();
@@ -41,9 +45,9 @@ bool ReadLongHeader(std::string_view line, LogHeader& header) {
   scan.Comma();
   const double seconds = scan.Double();
   scan.Comma();
-  const std::int32_t receiverStatus = scan.Int();
+  const std::uint32_t receiverStatus = number(scan);
   scan.Comma();
-  const std::int32_t reserved = scan.Int();
+  const std::uint32_t reserved = number(scan);
   scan.Comma();
   const std::int32_t build = scan.Int();
   if (scan.Converted() != HeaderConversions) return false;
@@ -56,7 +60,7 @@ bool ReadLongHeader(std::string_view line, LogHeader& header) {
   image.timeStatus = static_cast<std::uint8_t>(TimeStatus(timeStatus));
   image.week = static_cast<std::uint16_t>(week);
   image.milliseconds = Truncated(std::round(seconds * 1000));
-  image.receiverStatus = static_cast<std::uint32_t>(receiverStatus);
+  image.receiverStatus = receiverStatus;
   image.reserved = static_cast<std::uint16_t>(reserved);
   image.softwareBuild = static_cast<std::uint16_t>(build);
   return true;
@@ -115,14 +119,14 @@ std::string_view LogLine::Body() const {
 }
 
 std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
-                                    std::uint32_t identifier) {
+                                    std::uint32_t identifier, const Dialect& dialect) {
   constexpr std::array<std::uint8_t, 3> Sync = {0xAA, 0x44, 0x12};
   LogHeader header{};
   std::ranges::copy(Sync, header.image.sync);
   header.image.headerLength = sizeof(AsciiLogHeader);
   header.image.messageId = static_cast<std::uint16_t>(identifier);
-  const bool read =
-      form == HeaderForm::Long ? ReadLongHeader(line, header) : ReadShortHeader(line, header);
+  const bool read = form == HeaderForm::Long ? ReadLongHeader(line, dialect, header)
+                                             : ReadShortHeader(line, header);
   return read ? std::optional(header) : std::nullopt;
 }
 

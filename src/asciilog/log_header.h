@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "asciilog/words.h"
+#include "base/dialect.h"
 #include "navframe/records.h"
 
 namespace navframe::asciilog {
@@ -37,7 +38,8 @@ struct LogHeader {
 // Reads the header of a line in the long or the short form. Nothing when the line does not have
 // exactly the nine fields of the form.
 std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
-                                    std::uint32_t identifier);
+                                    std::uint32_t identifier,
+                                    const Dialect& dialect = LegacyDialect);
 
 // The GPS time of a header; nothing while the receiver's clock was not set by satellites.
 std::optional<GPSTIME> GpsTimeOf(const LogHeader& header);

@@ -71,13 +71,14 @@ const LogRow* RowOf(std::uint32_t identifier) {
   return row != std::ranges::end(Rows) && row->identifier == identifier ? row : nullptr;
 }
 
-DecodeResult DecodeLog(const LogRow& row, std::string_view text, void* record) {
+DecodeResult DecodeLog(const LogRow& row, std::string_view text, void* record,
+                       const Dialect& dialect) {
   const auto line = LogLine::Of(text);
   if (!line || !line->CrcMatches()) return DecodeResult::Malformed;
   const LogFormat& format = *row.format;
   if (format.header == HeaderForm::None) return DecodeResult::Success;
 
-  auto header = ReadHeader(format.header, text, row.identifier);
+  auto header = ReadHeader(format.header, text, row.identifier, dialect);
   if (!header) return DecodeResult::Malformed;
   auto* const bytes = static_cast<std::byte*>(record);
   if (!format.body.fields.empty()) {
@@ -89,8 +90,8 @@ DecodeResult DecodeLog(const LogRow& row, std::string_view text, void* record) {
   return DecodeResult::Success;
 }
 
-std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line) {
-  const auto header = ReadHeader(row.format->header, line, row.identifier);
+std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line, const Dialect& dialect) {
+  const auto header = ReadHeader(row.format->header, line, row.identifier, dialect);
   return header ? GpsTimeOf(*header) : std::nullopt;
 }
 

@@ -34,9 +34,10 @@ const LogRow* RowOf(std::uint32_t identifier);
 enum class [[nodiscard]] DecodeResult : int{Success = 0, Malformed = 2};
 
 // Decodes a line into a record of row.recordSize bytes that holds zeros.
-DecodeResult DecodeLog(const LogRow& row, std::string_view line, void* record);
+DecodeResult DecodeLog(const LogRow& row, std::string_view line, void* record,
+                       const Dialect& dialect = LegacyDialect);
 
 // The GPS time of a line that was decoded; nothing when it has none.
-std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line);
+std::optional<GPSTIME> TimeOf(const LogRow& row, std::string_view line, const Dialect& dialect);
 
 }  // namespace navframe::asciilog

@@ -18,6 +18,7 @@ struct Dialect {
   bool silentCheckErrors = false;    // UBX frames with a wrong checksum give no record
   bool tagBlocks = false;            // recognised whole
   bool asciiLogs = false;            // "#" lines are looked for
+  bool hexLogStatus = false;         // status and reserved field of log headers
   bool strongerFramesWin = false;    // over weaker ones that hold by chance
 };
 
@@ -34,6 +35,7 @@ inline constexpr Dialect StandardDialect = {.wholeTimes = true,
                                             .silentCheckErrors = true,
                                             .tagBlocks = true,
                                             .asciiLogs = true,
+                                            .hexLogStatus = true,
                                             .strongerFramesWin = true};
 
 }  // namespace navframe

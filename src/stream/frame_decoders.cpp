@@ -11,7 +11,7 @@ DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::
   if (catalogue::FindKind(log, SourceAsciiLog) == nullptr) return {NavframeNoKind};
   const std::string_view line(reinterpret_cast<const char*>(frame), length);
   if (!decoders.asciiLog.DecodeLine(line, log)) return {NavframeBadContent};
-  if (const auto time = asciilog::TimeOf(*asciilog::RowOf(log), line)) {
+  if (const auto time = asciilog::TimeOf(*asciilog::RowOf(log), line, decoders.dialect)) {
     true_clock::SetGpsTime(*time, NavframeTimeFromLog, decoders.time);
   }
   return {};

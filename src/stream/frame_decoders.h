@@ -44,7 +44,7 @@ struct FrameDecoders {
         ubx{sink, time},
         binary55Aa{sink},
         rtcm{sink, time, dialect},
-        asciiLog{sink} {}
+        asciiLog{sink, dialect} {}
   FrameDecoders(const FrameDecoders&) = delete;
   FrameDecoders& operator=(const FrameDecoders&) = delete;
 

@@ -410,6 +410,12 @@ TEST(Dialects, LogsAndTagBlocks) {
   host.Items(
       ToBytes(Log("#BESTVELA,COM2,1,1,APPROXIMATE,1,1.0,0,0,0;SOL_COMPUTED,SINGLE,0,0,1,1,1,1")));
   EXPECT_EQ(host.Time(), "log 2101:345678250 2020-04-16 00:01:00.250");
+  // Hexadecimal numbers in the header.
+  const auto hex = host.Items(ToBytes(
+      Log("#BESTVELA,COM2,1,1,FINE,1,1.0,8200002a,b1f6,1;SOL_COMPUTED,SINGLE,0,0,1,1,1,1")));
+  const auto header = hex.at(1).As<VelocityLogRecord>().header;
+  EXPECT_EQ(header.receiverStatus, 0x8200002AU);
+  EXPECT_EQ(header.reserved, 0xB1F6);
   // A log that no kind is made of.
   EXPECT_EQ(host.Items(ToBytes(LongLog("VERSIONA", "1"))).at(0).reason, NavframeNoKind);
   const auto tagged = host.Items(ToBytes("\\s:a*28\\") + Gga("120000"));
