@@ -56,7 +56,9 @@ void DecodeAnnouncements(const Frame& frame, std::uint32_t bit, SystemParameters
 void KeepSystemTime(const void* record, DecoderClock& clock) {
   const auto& parameters = *static_cast<const SystemParametersRecord*>(record);
   if (IsUnknown(parameters.modifiedJulianDay) || IsUnknown(parameters.secondsOfDay)) return;
-  if (!IsUnknown(parameters.leapSeconds)) clock.setLeap(parameters.leapSeconds);
+  if (!IsUnknown(parameters.leapSeconds)) {
+    true_clock::SetLeapSeconds(parameters.leapSeconds, clock);
+  }
   true_clock::SetJulianDay(parameters.modifiedJulianDay, parameters.secondsOfDay,
                            NavframeTimeFromRtcm, clock);
 }

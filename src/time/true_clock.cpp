@@ -195,6 +195,12 @@ bool IsTimeOfDay(const UTCTIME& utc) {
   return utc.hour < 24 && utc.minute < 60 && utc.second <= 60;
 }
 
+void SetLeapSeconds(std::int32_t leapSeconds, DecoderClock& clock) {
+  if (leapSeconds == clock.leapSeconds) return;
+  clock.setLeap(leapSeconds);
+  clock.leapPending = 0;
+}
+
 void Start(std::uint32_t week, DecoderClock& clock) {
   if (week == 0 || !PutWeek(week, WeekFrom::Start, clock)) return;
   clock.source = NavframeTimeFromStart;

@@ -15,6 +15,10 @@ bool IsDate(const UTCTIME& utc);
 // Hour, minute and second of a day.
 bool IsTimeOfDay(const UTCTIME& utc);
 
+// How many leap seconds a message says there are. One that was awaited behind a second 60 is then
+// not counted again.
+void SetLeapSeconds(std::int32_t leapSeconds, DecoderClock& clock);
+
 // Where a host says that its stream begins, 0 for no week.
 void Start(std::uint32_t week, DecoderClock& clock);
 

@@ -44,8 +44,8 @@ void KeepNavigationTime(const Payload& payload, DecoderClock& clock) {
   constexpr std::int64_t Plausible = 60;
   if (dateValid && timeValid && fullyResolved && tow < WeekMs) {
     const std::int64_t leapSeconds = LeapSecondsOf(tow, utc, nanoseconds);
-    if (leapSeconds > 0 && leapSeconds < Plausible && clock.leapPending == 0) {
-      clock.setLeap(static_cast<int>(leapSeconds));
+    if (leapSeconds > 0 && leapSeconds < Plausible) {
+      true_clock::SetLeapSeconds(static_cast<std::int32_t>(leapSeconds), clock);
     }
   }
   true_clock::SetUtc(utc, nanoseconds, {}, NavframeTimeFromUbx, clock);
@@ -57,7 +57,7 @@ void KeepRawTime(const Payload& payload, DecoderClock& clock) {
   const double ms = std::round(ReadLe<double>(payload.bytes, 0) * 1000);
   if (!(ms >= 0 && ms < static_cast<double>(WeekMs))) return;
   const auto leapSeconds = ReadLe<std::int8_t>(payload.bytes, 10);
-  if (leapSeconds >= 0) clock.setLeap(leapSeconds);
+  if (leapSeconds >= 0) true_clock::SetLeapSeconds(leapSeconds, clock);
   true_clock::SetGpsTime(
       {static_cast<std::uint32_t>(ms), ReadLe<std::uint16_t>(payload.bytes, 8), 0},
       NavframeTimeFromUbx, clock);

@@ -306,6 +306,8 @@ std::vector<ClockRow> ClockRows() {
        "nmea 2321:86418000 2024-06-30 23:59:60.000", "nmea 2321:"},
       {{Rmc("235960.00", "300624"), Rmc("000000.00", "010724"), Gga("000001.00")},
        "nmea 2321:86420000 2024-07-01 00:00:01.000", "nmea 2321:"},
+      {{SystemParameters(0, 17), Rmc("235960.00", "310724"), SystemParameters(86400, 18),
+        Gga("000000.00")}, "nmea 2325:345618000 2024-08-01 00:00:00.000", "nmea 2325:"},
       {{noon, Rmc("123460.00", "310724"), Rmc("123501.00", "310724")},
        "nmea 2325:304519000 2024-07-31 12:35:01.000", "nmea 2325:304520000 "},
       // GLONASS: an unknown day, 17 leap seconds, Sunday in Moscow and Saturday in UTC.
