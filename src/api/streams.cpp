@@ -163,7 +163,8 @@ void* navframe_user(const NavframeStream* stream) {
 }
 
 size_t navframe_copy_record(const NavframeItem* item, void* out, size_t capacity) {
-  if (item == nullptr || item->kind == nullptr || item->record == nullptr) return 0;
+  constexpr size_t UpToRecord = offsetof(NavframeItem, record) + sizeof(item->record);
+  if (item == nullptr || item->size < UpToRecord || item->record == nullptr) return 0;
   const size_t size = item->kind->size;
   if (out != nullptr && size <= capacity) std::memcpy(out, item->record, size);
   return size;

@@ -154,6 +154,8 @@ TEST(StreamArguments, RecordsAreCopiedWhole) {
   EXPECT_EQ(record.courseTrue, 0);
   EXPECT_EQ(navframe_copy_record(&item, &record, sizeof record), sizeof record);
   EXPECT_FLOAT_EQ(record.courseTrue, 54.7F);
+  item.size = offsetof(NavframeItem, record);
+  EXPECT_EQ(navframe_copy_record(&item, &record, sizeof record), 0U) << "an older host's item";
 }
 
 TEST(StreamArguments, EveryNumberHasItsOwnText) {
