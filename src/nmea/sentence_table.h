@@ -2,7 +2,7 @@
 // together, in standard_sentences.cpp and proprietary_sentences.cpp.
 //
 // A parser fills a record of unknown values from a sentence's fields; an empty field leaves the
-// value unknown, a field that cannot be converted throws.
+// value unknown, and so does one that cannot be converted, of which its reader takes note.
 #pragma once
 
 #include <cstddef>
