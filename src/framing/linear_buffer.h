@@ -16,8 +16,9 @@ class LinearBuffer {
       : bytes_(new std::uint8_t[capacity + Head::Slack]), capacity_(capacity) {}
 
   // Appends as many bytes as there is room for, and returns their number. What is left over from
-  // before, a frame that waits, goes to the front when that is needed; and when it is no longer than
-  // what comes, so that a stream that is consumed as it arrives stays in the first, cached pages.
+  // before, a frame that waits, goes to the front when that is needed; and when it is no longer
+  // than what comes, so that a stream that is consumed as it arrives stays in the first, cached
+  // pages.
   std::size_t Append(const std::uint8_t* data, std::size_t length) {
     if (begin_ != 0 && (end_ - begin_ <= length || length > capacity_ - end_)) {
       std::memmove(bytes_.get(), Bytes(), Size());
@@ -25,8 +26,11 @@ class LinearBuffer {
       begin_ = 0;
     }
     const std::size_t taken = std::min(length, capacity_ - end_);
-    if (taken != 0) std::memcpy(bytes_.get() + end_, data, taken);
+    if (taken == 0) return 0;
+    std::memcpy(bytes_.get() + end_, data, taken);
     end_ += taken;
+    // What may be loaded behind the end says nothing, and always the same.
+    std::memset(bytes_.get() + end_, 0, Head::Slack);
     return taken;
   }
 

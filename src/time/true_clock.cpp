@@ -9,9 +9,9 @@ namespace {
 constexpr std::int64_t SecondMs = 1000;
 constexpr std::int64_t NanosecondsPerMs = 1'000'000;
 constexpr std::int64_t FirstYear = 1980;
-constexpr std::int64_t GpsEpochDay = 3657;              // 1980-01-06, in days from 1970-01-01
-constexpr std::int64_t JulianEpochDay = -40587;         // 1858-11-17, likewise
-constexpr std::int64_t GlonassAheadMs = 3 * 3'600'000;  // of UTC
+constexpr std::int64_t GpsEpochDay = 3657;           // 1980-01-06, in days from 1970-01-01
+constexpr std::int64_t JulianEpochDay = -40587;      // 1858-11-17, likewise
+constexpr std::int64_t GlonassAheadMs = 10'800'000;  // of UTC, three hours
 
 // Days from 1970-01-01, by the Gregorian calendar; years are counted from March, so that the day of
 // a leap year comes last.
