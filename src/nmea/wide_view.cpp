@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstring>
 
 #include "base/unknown.h"
@@ -82,6 +83,9 @@ void WideView::Fill(const SatellitesInView& narrow, WideGsvRecord& record) const
   for (std::size_t i = record_.satelliteCount; i < Most; ++i) {
     catalogue::MakeUnknown(record.satellites[i]);
   }
+  // The padding behind the list is the host's, too.
+  constexpr std::size_t End = offsetof(WideGsvRecord, satellites) + sizeof(record.satellites);
+  std::memset(reinterpret_cast<std::byte*>(&record) + End, 0, sizeof(record) - End);
 }
 
 }  // namespace navframe::nmea
