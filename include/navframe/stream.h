@@ -77,8 +77,10 @@ typedef enum NavframeItemType {
   NavframeItemFrame = 0x02,     /* span: a whole frame whose check holds */
   NavframeItemRejected = 0x04,  /* span: the first byte of what looked like a frame */
   NavframeItemSkipped = 0x08,   /* span: bytes that start nothing, 64 KiB at most */
-  NavframeItemUndecoded = 0x10, /* as a bit: frames that gave no record of their own, when frames
-                                   are not asked for as a whole; their type is NavframeItemFrame */
+  NavframeItemUndecoded = 0x10, /* as a bit: frames whose reason says why no record was made of
+                                   them, when frames are not asked for as a whole; their type is
+                                   NavframeItemFrame. Satellites in view that are still collected
+                                   are none, and neither are tag blocks */
   NavframeAllItems = 0x0F
 } NavframeItemType;
 
@@ -165,7 +167,7 @@ typedef struct NavframeItem {
 typedef struct NavframeProtocolStatistics {
   uint64_t frames;     /* whole frames */
   uint64_t frameBytes; /* [B] of them */
-  uint64_t undecoded;  /* frames that gave no record of their own */
+  uint64_t undecoded;  /* frames as NavframeItemUndecoded means them */
   uint64_t rejected;   /* heads that were no frame */
   uint64_t records;    /* made, handed out or not */
 } NavframeProtocolStatistics;
