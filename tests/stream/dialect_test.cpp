@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "navframe/records.h"
-#include "navframe/stream.h"
+#include "navframe/stream.hpp"
 #include "support/asciilog.h"
 #include "support/binary_frames.h"
 
@@ -27,28 +27,16 @@ struct Item : NavframeItem {
 // A stream that hands out everything.
 class Host {
  public:
-  explicit Host(NavframeDialect dialect, std::uint32_t startWeek = 0) {
-    NavframeOptions options;
-    options.size = sizeof options;
-    navframe_default_options(&options);
-    options.dialect = dialect;
-    options.items = NavframeAllItems;
-    options.startWeek = startWeek;
-    EXPECT_EQ(navframe_open(&options, &stream_), NavframeOk);
-  }
-  Host(const Host&) = delete;
-  Host& operator=(const Host&) = delete;
-  ~Host() { navframe_close(stream_); }
+  explicit Host(NavframeDialect dialect, std::uint32_t startWeek = 0)
+      : stream_(Everything(dialect, startWeek)) {}
 
   // Of bytes that are all that comes for now.
   std::vector<Item> Items(const Bytes& bytes) {
     std::vector<Item> items;
-    EXPECT_EQ(navframe_put(stream_, bytes.data(), bytes.size()), bytes.size());
-    navframe_flush(stream_);
-    Item item;
-    item.size = sizeof(NavframeItem);
-    while (navframe_next(stream_, &item) == NavframeItemReady) {
-      item.payload.resize(item.kind == nullptr ? 0 : item.kind->size);
+    EXPECT_EQ(stream_.put(bytes), bytes.size());
+    stream_.flush();
+    for (const auto& next : stream_.items()) {
+      Item item{next.raw(), Bytes(next.kind() == nullptr ? 0 : next.kind()->size)};
       navframe_copy_record(&item, item.payload.data(), item.payload.size());
       items.push_back(item);
       time_ = item.time;
@@ -75,7 +63,15 @@ class Host {
   }
 
  private:
-  NavframeStream* stream_ = nullptr;
+  static StreamOptions Everything(NavframeDialect dialect, std::uint32_t startWeek) {
+    StreamOptions options;
+    options.dialect = dialect;
+    options.items = NavframeAllItems;
+    options.startWeek = startWeek;
+    return options;
+  }
+
+  Stream stream_;
   NavframeTime time_{};
 };
 
