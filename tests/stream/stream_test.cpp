@@ -43,6 +43,10 @@ StreamOptions Asking(std::uint32_t items) {
   return options;
 }
 
+std::string Repeated(const std::string& lines, int times) {
+  return times == 0 ? "" : lines + Repeated(lines, times - 1);
+}
+
 std::string Name(std::size_t chunk) { return "by " + std::to_string(chunk); }
 
 // What comes of some bytes at the end of a stream.
@@ -62,7 +66,8 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {Station, "RTCM 3 1005 25 =1\n  STATION\n"},
       {RtcmFrame(BitWriter().Put(4074, 12).Put(77, 12)), "RTCM 3 4074-77 9 =0 no kind\n"},
       {RtcmFrame(BitWriter().Put(910, 12).Put(33, 8)), "RTCM 3 910-33 9 =0 content\n"},
-      {RtcmFrame(Bytes{}), "RTCM 3 6 =0 no kind\n"},
+      {Bytes{0xD3, 0x00, 0x00, 0x47, 0xEA, 0x4B}, "RTCM 3 6 =0 no kind\n"},
+      {RtcmFrame(Bytes(1023)), "RTCM 3 1029 =0 no kind\n"},
       {ToBytes(Log("#VERSIONA,1")), "ASCII log VERSIONA 22 =0 no kind\n"},
       {ToBytes("\\g:1*6C\\") + Vtg,
        "NMEA tag block 8 =0\nNMEA GPVTG 38 =1 \\g:1*6C\n  VTG \\g:1*6C\n"},
@@ -86,7 +91,8 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {UbxHeader(4049), "UBX rejected length 4057\nskipped 5\n"},
       {Damaged(UbxFrame(1, 7, Bytes(10))), "UBX rejected checksum 18\nskipped 17\n"},
       {UbxHeader(100), "UBX rejected cut 108\nskipped 5\n"},
-      {ToBytes("\xD3\x04\x01"), "RTCM 3 rejected header 0\nskipped 2\n"},
+      {ToBytes("\xD3\x04\x01\xD3\x08\x01\xD3\x10\x01\xD3\x20\x01\xD3\x40\x01\xD3\x80\x01"),
+       Repeated("RTCM 3 rejected header 0\nskipped 2\n", 6)},
       {Damaged(Zeros), "RTCM 3 rejected checksum 25\nskipped 24\n"},
       {First(Zeros, 20), "RTCM 3 rejected cut 25\nskipped 19\n"},
       {ToBytes("Uxxxxx"), "55AA rejected header 0\nskipped 5\n"},
