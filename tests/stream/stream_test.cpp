@@ -296,30 +296,6 @@ TEST(Streams, LegacyShowsWhatTheExportsThrowAndTell) {
   EXPECT_EQ(watched.Flush(), "skipped 11\n");
 }
 
-TEST(Streams, ManyDoNotKnowEachOther) {
-  constexpr std::size_t Count = 12;
-  constexpr std::size_t Piece = 97;
-  std::vector<Bytes> inputs;
-  std::vector<Stream> streams(Count);
-  std::vector<std::string> lines(Count);
-  const Bytes rough = Rough();
-  for (std::size_t i = 0; i < Count; ++i) {
-    inputs.emplace_back(rough.begin() + static_cast<std::ptrdiff_t>(i * 500), rough.end());
-  }
-  for (std::size_t at = 0; at < rough.size(); at += Piece) {
-    for (std::size_t i = 0; i < Count; ++i) {
-      if (at >= inputs[i].size()) continue;
-      const auto rest = std::span(inputs[i]).subspan(at);
-      streams[i].feed(rest.first(std::min(Piece, rest.size())),
-                      [&](const Item& item) { lines[i] += LineOf(item, true); });
-    }
-  }
-  for (std::size_t i = 0; i < Count; ++i) {
-    streams[i].finish([&](const Item& item) { lines[i] += LineOf(item, true); });
-    EXPECT_EQ(lines[i], LinesOf(Asking(NavframeItemRecord), inputs[i])) << i;
-  }
-}
-
 TEST(Streams, AResetIsANewStream) {
   const Bytes bytes = Bytes(8) + Vtg + UbxFrame(1, 7, Bytes(60)) + Rough();
   const std::string expected = LinesOf(Asking(NavframeAllItems), bytes, 10);
