@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "damage.h"
@@ -157,17 +158,24 @@ bool Keeps(bool promise, const char* what) {
   return promise;
 }
 
+double BestCost(std::span<const Tenth> tenths) {
+  return std::ranges::min(tenths, {}, &Tenth::nsPerByte).nsPerByte;
+}
+
 bool Judge(const Totals& totals, const std::vector<Tenth>& tenths) {
   long most = 0;
   for (const Tenth& tenth : tenths) most = std::max(most, tenth.residentKiB);
   const long growth = most - tenths.front().residentKiB;
-  const double slowdown = tenths.back().nsPerByte / tenths.front().nsPerByte;
+  // The best of three: other jobs of the machine may have all of a tenth.
+  const std::span<const Tenth> all(tenths);
+  const double slowdown = BestCost(all.last(3)) / BestCost(all.first(3));
   std::printf("whole frames %zu, pieces of damage %zu\n", totals.frames, totals.hits);
   std::printf("valid by chance %zu, frames swallowed by them %zu\n", totals.chance,
               totals.swallowed);
   std::printf("records %zu, wrong %zu\n", totals.records, totals.wrong);
-  std::printf("growth after the first tenth %ld KiB, last tenth at %.2f of the first's cost\n",
-              growth, slowdown);
+  std::printf(
+      "growth after the first tenth %ld KiB, last three tenths at %.2f of the first's cost\n",
+      growth, slowdown);
   const bool records = Keeps(totals.wrong == 0 && totals.records != 0, "every record as expected");
   const bool swallowed = Keeps(totals.swallowed <= totals.chance, "no frame lost without cause");
   const bool memory = Keeps(growth <= MostGrowthKiB, "memory within 1 MiB");
