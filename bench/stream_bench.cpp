@@ -1,5 +1,6 @@
 // What streams cost beside the exports: the same bytes through both in turns, and many streams in
-// several threads. stream_bench [ROUNDS] prints two tables, of the best of that many rounds.
+// several threads. stream_bench [ROUNDS] prints two tables: medians and quartiles of the ratios of
+// that many rounds, and the best of some for threads.
 #include <time.h>
 
 #include <algorithm>
@@ -23,29 +24,57 @@ double ThreadSeconds() {
 }
 
 template <class Run>
-void TakeBest(double& best, Run&& run) {
+double Seconds(Run&& run) {
   const double start = ThreadSeconds();
   run();
-  best = std::min(best, ThreadSeconds() - start);
+  return ThreadSeconds() - start;
 }
 
 constexpr double None = std::numeric_limits<double>::max();
 
+// What was measured once a round.
+class Samples {
+ public:
+  void Add(double sample) { samples_.push_back(sample); }
+  double Best() const { return std::ranges::min(samples_); }
+  // Of both turns of a round: what else the machine does concerns them alike.
+  Samples Over(const Samples& other) const {
+    Samples ratios;
+    for (std::size_t i = 0; i < samples_.size(); ++i) ratios.Add(samples_[i] / other.samples_[i]);
+    std::ranges::sort(ratios.samples_);
+    return ratios;
+  }
+  double AtQuarter(std::size_t quarter) const {
+    return samples_[(samples_.size() - 1) * quarter / 4];
+  }
+
+ private:
+  std::vector<double> samples_;
+};
+
+void PrintRatio(const Samples& time, const Samples& reference) {
+  const Samples ratios = reference.Over(time);
+  std::printf(" %.2f (%.2f-%.2f) |", ratios.AtQuarter(2), ratios.AtQuarter(1), ratios.AtQuarter(3));
+}
+
 void CompareWithExports(const NamedStream& traffic, int rounds) {
   const Bytes& bytes = traffic.bytes;
   const StreamHandle stream = OpenStream();
-  double exports = None;
-  double ofChunks[] = {None, None, None};
+  Samples exports;
+  Samples ofChunks[std::size(Chunks)];
   for (int round = 0; round < rounds; ++round) {
-    TakeBest(exports, [&] { DecodeAll(bytes, DefaultChunk); });
+    exports.Add(Seconds([&] { DecodeAll(bytes, DefaultChunk); }));
     for (std::size_t i = 0; i < std::size(Chunks); ++i) {
-      TakeBest(ofChunks[i], [&] { DecodeAll(stream.get(), bytes, Chunks[i]); });
+      ofChunks[i].Add(Seconds([&] { DecodeAll(stream.get(), bytes, Chunks[i]); }));
     }
   }
-  const auto size = static_cast<double>(bytes.size());
-  std::printf("| %s | %.0f | %.0f | %.2f | %.2f | %.2f |\n", traffic.name.c_str(),
-              size * 1e-6 / exports, size * 1e-6 / ofChunks[0], exports / ofChunks[0],
-              ofChunks[0] / ofChunks[1], ofChunks[0] / ofChunks[2]);
+  const double megabytes = static_cast<double>(bytes.size()) * 1e-6;
+  std::printf("| %s | %.0f | %.0f |", traffic.name.c_str(), megabytes / exports.Best(),
+              megabytes / ofChunks[0].Best());
+  PrintRatio(ofChunks[0], exports);
+  PrintRatio(ofChunks[1], ofChunks[0]);
+  PrintRatio(ofChunks[2], ofChunks[0]);
+  std::printf("\n");
   std::fflush(stdout);
 }
 
