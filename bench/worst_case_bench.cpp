@@ -137,7 +137,7 @@ std::vector<WorstCase> WorstCasesOfStreams() {
     cases.push_back({StreamPrefix + name, bytes, WholeChunk, MostOfStreams});
   }
   for (const auto& [name, bytes] : streams) {
-    cases.push_back({StreamPrefix + name + IdleSuffix, bytes, IdleChunk, 2 * MostOfStreams});
+    cases.push_back({StreamPrefix + name + IdleSuffix, bytes, IdleChunk, 3 * MostOfStreams});
   }
   return cases;
 }
