@@ -42,7 +42,8 @@ constexpr MessageRow Row(std::uint8_t messageClass, std::uint8_t id, LengthRule 
 template <class Record, const auto& Rows, std::uint32_t PayloadLength, std::size_t TowOffset = 0>
 constexpr MessageRow Fixed(std::uint8_t messageClass, std::uint8_t id, std::uint32_t msgId) {
   static_assert(PayloadRead(Rows) <= PayloadLength && TowOffset + 4 <= PayloadLength);
-  return Row<Record, DecodeFields<Record, Rows, TowOffset>, KeepTowAt<TowOffset>>(
+  static_assert(CoversEveryMember<Record, Rows>());
+  return Row<Record, DecodeFields<Record, Rows, TowOffset, PayloadLength>, KeepTowAt<TowOffset>>(
       messageClass, id, Exactly(HeaderLength + PayloadLength + ChecksumLength), msgId);
 }
 
