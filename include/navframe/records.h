@@ -39,5 +39,8 @@
 #include "navframe/records_rtcm.h"
 #include "navframe/records_sensors.h"
 #include "navframe/records_ubx.h"
+#include "navframe/records_ubx_devices.h"
+#include "navframe/records_ubx_satellites.h"
+#include "navframe/records_ubx_standard.h"
 
 #endif /* NAVFRAME_RECORDS_H */

@@ -15,6 +15,7 @@ struct Dialect {
   bool trueClock = false;            // calendar, weeks and zones as they are, nearest day and week
   bool clockNeedsTow = false;        // messages without a time of week leave the clock alone
   bool longRawMeasurements = false;  // raw measurements of up to 255 signals
+  bool standardRecords = false;      // records that hold all that their messages say
   bool silentCheckErrors = false;    // UBX frames with a wrong checksum give no record
   bool tagBlocks = false;            // recognised whole
   bool asciiLogs = false;            // "#" lines are looked for
@@ -32,6 +33,7 @@ inline constexpr Dialect StandardDialect = {.wholeTimes = true,
                                             .trueClock = true,
                                             .clockNeedsTow = true,
                                             .longRawMeasurements = true,
+                                            .standardRecords = true,
                                             .silentCheckErrors = true,
                                             .tagBlocks = true,
                                             .asciiLogs = true,

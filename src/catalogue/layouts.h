@@ -17,6 +17,14 @@ inline constexpr NavframeValueName ProtectionFrameValues[] = {{0, "not valid"}, 
 
 inline constexpr NavframeValueName UbxSystemValues[] = {{0, "GPS"}, {1, "SBAS"}, {2, "Galileo"}, {3, "BeiDou"}, {5, "QZSS"}, {6, "GLONASS"}, {7, "NavIC"},};
 
+inline constexpr NavframeValueName UbxFixTypeValues[] = {{0, "none"}, {1, "dead reckoning"}, {2, "two-dimensional"}, {3, "three-dimensional"}, {4, "GNSS and dead reckoning"}, {5, "time only"},};
+
+inline constexpr NavframeValueName UbxUtcStandardValues[] = {{0, "not known"}, {1, "CRL"}, {2, "NIST"}, {3, "USNO"}, {4, "BIPM"}, {5, "EU laboratories"}, {6, "SU"}, {7, "NTSC"}, {8, "NPLI"}, {15, "not known"},};
+
+inline constexpr NavframeValueName UbxQualityValues[] = {{0, "no signal"}, {1, "searching"}, {2, "acquired"}, {3, "detected but unusable"}, {4, "code locked"}, {5, "code and carrier locked"}, {6, "code and carrier locked"}, {7, "code and carrier locked"},};
+
+inline constexpr NavframeValueName UbxSensorTypeValues[] = {{0, "none"}, {5, "gyroscope Z"}, {6, "wheel ticks front left"}, {7, "wheel ticks front right"}, {8, "wheel ticks rear left"}, {9, "wheel ticks rear right"}, {10, "single tick"}, {11, "speed"}, {12, "temperature of gyroscope"}, {13, "gyroscope Y"}, {14, "gyroscope X"}, {16, "accelerometer X"}, {17, "accelerometer Y"}, {18, "accelerometer Z"},};
+
 inline constexpr NavframeValueName SolutionStatusValues[] = {{0, "SOL_COMPUTED or not known"}, {1, "INSUFFICIENT_OBS"}, {2, "NO_CONVERGENCE"}, {3, "SINGULARITY"}, {4, "COV_TRACE"}, {5, "TEST_DIST"}, {6, "COLD_START"}, {7, "V_H_LIMIT"}, {8, "VARIANCE"}, {9, "RESIDUALS"}, {10, "DELTA_POS"}, {11, "NEGATIVE_VAR"}, {13, "INTEGRITY_WARNING"}, {18, "PENDING"}, {19, "INVALID_FIX"}, {20, "UNAUTHORIZED"}, {21, "ANTENNA_WARNING"},};
 
 inline constexpr NavframeValueName SolutionTypeValues[] = {{0, "NONE or not known"}, {1, "FIXEDPOS"}, {2, "FIXEDHEIGHT"}, {8, "DOPPLER_VELOCITY"}, {16, "SINGLE"}, {17, "PSRDIFF"}, {18, "SBAS"}, {19, "PROPAGATED"}, {20, "OMNISTAR"}, {32, "L1_FLOAT"}, {33, "IONOFREE_FLOAT"}, {34, "NARROW_FLOAT"}, {48, "L1_INT"}, {49, "WIDE_INT"}, {50, "NARROW_INT"}, {51, "RTK_DIRECT_INS"}, {52, "INS"}, {53, "INS_PSRSP"}, {54, "INS_PSRDIFF"}, {55, "INS_RTKFLOAT"}, {56, "INS_RTKFIXED"}, {64, "OMNISTAR_HP"}, {65, "OMNISTAR_XP"}, {66, "CDGPS"}, {68, "PPP_CONVERGING"}, {69, "PPP"}, {77, "PPP_BASIC_CONVERGING"}, {78, "PPP_BASIC"},};
@@ -854,6 +862,850 @@ inline constexpr MemberRow DiagnosticRecordMembers[] = {
 inline constexpr RecordRow DiagnosticRecordLayout = LayoutOf<DiagnosticRecord, DiagnosticRecordMembers>("DiagnosticRecord");
 static_assert(CoversEveryByte(DiagnosticRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<DiagnosticRecord> = DiagnosticRecordLayout;
+
+inline constexpr NavframeValueName UbxFullNavigationRecordPowerSaveStateValues[] = {{0, "none"}, {1, "enabled"}, {2, "acquisition"}, {3, "tracking"}, {4, "power optimized tracking"}, {5, "inactive"},};
+inline constexpr NavframeValueName UbxFullNavigationRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
+inline constexpr MemberRow UbxFullNavigationRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFullNavigationRecord, tow), sizeof(UbxFullNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxFullNavigationRecord, week), sizeof(UbxFullNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFullNavigationRecord, reserved), sizeof(UbxFullNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxFullNavigationRecord, timeText), sizeof(UbxFullNavigationRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"year", "", "UTC", NavframeU16, offsetof(UbxFullNavigationRecord, year), sizeof(UbxFullNavigationRecord::year), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"month", "", "1 to 12", NavframeU8, offsetof(UbxFullNavigationRecord, month), sizeof(UbxFullNavigationRecord::month), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"day", "", "1 to 31", NavframeU8, offsetof(UbxFullNavigationRecord, day), sizeof(UbxFullNavigationRecord::day), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UbxFullNavigationRecord, hour), sizeof(UbxFullNavigationRecord::hour), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UbxFullNavigationRecord, minute), sizeof(UbxFullNavigationRecord::minute), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"second", "s", "0 to 60", NavframeU8, offsetof(UbxFullNavigationRecord, second), sizeof(UbxFullNavigationRecord::second), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dateValid", "", "the date is valid", NavframeU8, offsetof(UbxFullNavigationRecord, dateValid), sizeof(UbxFullNavigationRecord::dateValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeValid", "", "the time of day is valid", NavframeU8, offsetof(UbxFullNavigationRecord, timeValid), sizeof(UbxFullNavigationRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"fullyResolved", "", "no uncertainty of whole seconds is left", NavframeU8, offsetof(UbxFullNavigationRecord, fullyResolved), sizeof(UbxFullNavigationRecord::fullyResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"magValid", "", "the magnetic declination is valid", NavframeU8, offsetof(UbxFullNavigationRecord, magValid), sizeof(UbxFullNavigationRecord::magValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 35, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxFullNavigationRecord, timeAccuracy), sizeof(UbxFullNavigationRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"nanoseconds", "ns", "fraction of the second, -10^9 to 10^9", NavframeI32, offsetof(UbxFullNavigationRecord, nanoseconds), sizeof(UbxFullNavigationRecord::nanoseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"fixType", "", "type of the fix", NavframeU8, offsetof(UbxFullNavigationRecord, fixType), sizeof(UbxFullNavigationRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxFixTypeValues, nullptr}, false, 0},
+    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxFullNavigationRecord, fixOk), sizeof(UbxFullNavigationRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxFullNavigationRecord, diffSolution), sizeof(UbxFullNavigationRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"powerSaveState", "", "state of power saving", NavframeU8, offsetof(UbxFullNavigationRecord, powerSaveState), sizeof(UbxFullNavigationRecord::powerSaveState), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxFullNavigationRecordPowerSaveStateValues, nullptr}, false, 0},
+    {{"headingValid", "", "vehicleHeading is that of the vehicle, and not the heading of motion", NavframeU8, offsetof(UbxFullNavigationRecord, headingValid), sizeof(UbxFullNavigationRecord::headingValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierSolution", "", "carrier phase solution", NavframeU8, offsetof(UbxFullNavigationRecord, carrierSolution), sizeof(UbxFullNavigationRecord::carrierSolution), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFullNavigationRecordCarrierSolutionValues, nullptr}, false, 0},
+    {{"confirmedAvailable", "", "the confirmations below are available", NavframeU8, offsetof(UbxFullNavigationRecord, confirmedAvailable), sizeof(UbxFullNavigationRecord::confirmedAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"confirmedDate", "", "the date was confirmed", NavframeU8, offsetof(UbxFullNavigationRecord, confirmedDate), sizeof(UbxFullNavigationRecord::confirmedDate), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"confirmedTime", "", "the time of day was confirmed", NavframeU8, offsetof(UbxFullNavigationRecord, confirmedTime), sizeof(UbxFullNavigationRecord::confirmedTime), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(UbxFullNavigationRecord, satellites), sizeof(UbxFullNavigationRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"invalidPosition", "", "longitude, latitude and heights are not valid", NavframeU8, offsetof(UbxFullNavigationRecord, invalidPosition), sizeof(UbxFullNavigationRecord::invalidPosition), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"correctionAge", "", "of the last differential correction, the receiver's code, 0 to 15", NavframeU8, offsetof(UbxFullNavigationRecord, correctionAge), sizeof(UbxFullNavigationRecord::correctionAge), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeAuthenticated", "", "the time was checked against a trusted source", NavframeU8, offsetof(UbxFullNavigationRecord, timeAuthenticated), sizeof(UbxFullNavigationRecord::timeAuthenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"fixAuthenticated", "", "the fix is of authenticated navigation messages", NavframeU8, offsetof(UbxFullNavigationRecord, fixAuthenticated), sizeof(UbxFullNavigationRecord::fixAuthenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive; unknown without a fix", NavframeF64, offsetof(UbxFullNavigationRecord, longitude), sizeof(UbxFullNavigationRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive; unknown without a fix", NavframeF64, offsetof(UbxFullNavigationRecord, latitude), sizeof(UbxFullNavigationRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above the ellipsoid; unknown without a fix", NavframeF64, offsetof(UbxFullNavigationRecord, height), sizeof(UbxFullNavigationRecord::height), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightMsl", "m", "above mean sea level; unknown without a fix", NavframeF64, offsetof(UbxFullNavigationRecord, heightMsl), sizeof(UbxFullNavigationRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalAccuracy", "m", "accuracy of the horizontal position", NavframeF64, offsetof(UbxFullNavigationRecord, horizontalAccuracy), sizeof(UbxFullNavigationRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalAccuracy", "m", "accuracy of the height", NavframeF64, offsetof(UbxFullNavigationRecord, verticalAccuracy), sizeof(UbxFullNavigationRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityNorth", "m/s", "velocity to the north", NavframeF64, offsetof(UbxFullNavigationRecord, velocityNorth), sizeof(UbxFullNavigationRecord::velocityNorth), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityEast", "m/s", "velocity to the east", NavframeF64, offsetof(UbxFullNavigationRecord, velocityEast), sizeof(UbxFullNavigationRecord::velocityEast), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityDown", "m/s", "velocity downwards", NavframeF64, offsetof(UbxFullNavigationRecord, velocityDown), sizeof(UbxFullNavigationRecord::velocityDown), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"groundSpeed", "m/s", "speed over ground", NavframeF64, offsetof(UbxFullNavigationRecord, groundSpeed), sizeof(UbxFullNavigationRecord::groundSpeed), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"motionHeading", "deg", "heading of motion", NavframeF64, offsetof(UbxFullNavigationRecord, motionHeading), sizeof(UbxFullNavigationRecord::motionHeading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedAccuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxFullNavigationRecord, speedAccuracy), sizeof(UbxFullNavigationRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headingAccuracy", "deg", "accuracy of both headings", NavframeF64, offsetof(UbxFullNavigationRecord, headingAccuracy), sizeof(UbxFullNavigationRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"positionDop", "", "position DOP", NavframeF64, offsetof(UbxFullNavigationRecord, positionDop), sizeof(UbxFullNavigationRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"vehicleHeading", "deg", "heading of the vehicle, of motion while headingValid is 0", NavframeF64, offsetof(UbxFullNavigationRecord, vehicleHeading), sizeof(UbxFullNavigationRecord::vehicleHeading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"magDeclination", "deg", "magnetic declination, east positive; unknown without magValid", NavframeF64, offsetof(UbxFullNavigationRecord, magDeclination), sizeof(UbxFullNavigationRecord::magDeclination), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"magAccuracy", "deg", "accuracy of the magnetic declination; unknown without magValid", NavframeF64, offsetof(UbxFullNavigationRecord, magAccuracy), sizeof(UbxFullNavigationRecord::magAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxFullNavigationRecordLayout = LayoutOf<UbxFullNavigationRecord, UbxFullNavigationRecordMembers>("UbxFullNavigationRecord");
+static_assert(CoversEveryByte(UbxFullNavigationRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxFullNavigationRecord> = UbxFullNavigationRecordLayout;
+
+inline constexpr MemberRow UbxHighPrecisionPositionRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxHighPrecisionPositionRecord, tow), sizeof(UbxHighPrecisionPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxHighPrecisionPositionRecord, week), sizeof(UbxHighPrecisionPositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxHighPrecisionPositionRecord, reserved), sizeof(UbxHighPrecisionPositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxHighPrecisionPositionRecord, timeText), sizeof(UbxHighPrecisionPositionRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxHighPrecisionPositionRecord, version), sizeof(UbxHighPrecisionPositionRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"invalidPosition", "", "longitude, latitude and heights are not valid", NavframeU8, offsetof(UbxHighPrecisionPositionRecord, invalidPosition), sizeof(UbxHighPrecisionPositionRecord::invalidPosition), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, longitude), sizeof(UbxHighPrecisionPositionRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, latitude), sizeof(UbxHighPrecisionPositionRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above the ellipsoid; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, height), sizeof(UbxHighPrecisionPositionRecord::height), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightMsl", "m", "above mean sea level; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, heightMsl), sizeof(UbxHighPrecisionPositionRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalAccuracy", "m", "accuracy of the horizontal position", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, horizontalAccuracy), sizeof(UbxHighPrecisionPositionRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalAccuracy", "m", "accuracy of the height", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, verticalAccuracy), sizeof(UbxHighPrecisionPositionRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxHighPrecisionPositionRecordLayout = LayoutOf<UbxHighPrecisionPositionRecord, UbxHighPrecisionPositionRecordMembers>("UbxHighPrecisionPositionRecord");
+static_assert(CoversEveryByte(UbxHighPrecisionPositionRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxHighPrecisionPositionRecord> = UbxHighPrecisionPositionRecordLayout;
+
+inline constexpr MemberRow UbxHighPrecisionEcefRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxHighPrecisionEcefRecord, tow), sizeof(UbxHighPrecisionEcefRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxHighPrecisionEcefRecord, week), sizeof(UbxHighPrecisionEcefRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxHighPrecisionEcefRecord, reserved), sizeof(UbxHighPrecisionEcefRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxHighPrecisionEcefRecord, timeText), sizeof(UbxHighPrecisionEcefRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxHighPrecisionEcefRecord, version), sizeof(UbxHighPrecisionEcefRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"invalidPosition", "", "the coordinates are not valid", NavframeU8, offsetof(UbxHighPrecisionEcefRecord, invalidPosition), sizeof(UbxHighPrecisionEcefRecord::invalidPosition), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "ECEF X; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, x), sizeof(UbxHighPrecisionEcefRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "ECEF Y; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, y), sizeof(UbxHighPrecisionEcefRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "ECEF Z; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, z), sizeof(UbxHighPrecisionEcefRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m", "accuracy of the position", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, accuracy), sizeof(UbxHighPrecisionEcefRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxHighPrecisionEcefRecordLayout = LayoutOf<UbxHighPrecisionEcefRecord, UbxHighPrecisionEcefRecordMembers>("UbxHighPrecisionEcefRecord");
+static_assert(CoversEveryByte(UbxHighPrecisionEcefRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxHighPrecisionEcefRecord> = UbxHighPrecisionEcefRecordLayout;
+
+inline constexpr MemberRow UbxPositionRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxPositionRecord, tow), sizeof(UbxPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxPositionRecord, week), sizeof(UbxPositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxPositionRecord, reserved), sizeof(UbxPositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxPositionRecord, timeText), sizeof(UbxPositionRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(UbxPositionRecord, longitude), sizeof(UbxPositionRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(UbxPositionRecord, latitude), sizeof(UbxPositionRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"height", "m", "above the ellipsoid", NavframeF64, offsetof(UbxPositionRecord, height), sizeof(UbxPositionRecord::height), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heightMsl", "m", "above mean sea level", NavframeF64, offsetof(UbxPositionRecord, heightMsl), sizeof(UbxPositionRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalAccuracy", "m", "accuracy of the horizontal position", NavframeF64, offsetof(UbxPositionRecord, horizontalAccuracy), sizeof(UbxPositionRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalAccuracy", "m", "accuracy of the height", NavframeF64, offsetof(UbxPositionRecord, verticalAccuracy), sizeof(UbxPositionRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxPositionRecordLayout = LayoutOf<UbxPositionRecord, UbxPositionRecordMembers>("UbxPositionRecord");
+static_assert(CoversEveryByte(UbxPositionRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxPositionRecord> = UbxPositionRecordLayout;
+
+inline constexpr MemberRow UbxEcefRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEcefRecord, tow), sizeof(UbxEcefRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEcefRecord, week), sizeof(UbxEcefRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEcefRecord, reserved), sizeof(UbxEcefRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxEcefRecord, timeText), sizeof(UbxEcefRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "ECEF X", NavframeF64, offsetof(UbxEcefRecord, x), sizeof(UbxEcefRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "ECEF Y", NavframeF64, offsetof(UbxEcefRecord, y), sizeof(UbxEcefRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "ECEF Z", NavframeF64, offsetof(UbxEcefRecord, z), sizeof(UbxEcefRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m", "accuracy of the position", NavframeF64, offsetof(UbxEcefRecord, accuracy), sizeof(UbxEcefRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxEcefRecordLayout = LayoutOf<UbxEcefRecord, UbxEcefRecordMembers>("UbxEcefRecord");
+static_assert(CoversEveryByte(UbxEcefRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxEcefRecord> = UbxEcefRecordLayout;
+
+inline constexpr MemberRow UbxVelocityRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxVelocityRecord, tow), sizeof(UbxVelocityRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxVelocityRecord, week), sizeof(UbxVelocityRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxVelocityRecord, reserved), sizeof(UbxVelocityRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxVelocityRecord, timeText), sizeof(UbxVelocityRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityNorth", "m/s", "velocity to the north", NavframeF64, offsetof(UbxVelocityRecord, velocityNorth), sizeof(UbxVelocityRecord::velocityNorth), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityEast", "m/s", "velocity to the east", NavframeF64, offsetof(UbxVelocityRecord, velocityEast), sizeof(UbxVelocityRecord::velocityEast), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityDown", "m/s", "velocity downwards", NavframeF64, offsetof(UbxVelocityRecord, velocityDown), sizeof(UbxVelocityRecord::velocityDown), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speed", "m/s", "speed in three dimensions", NavframeF64, offsetof(UbxVelocityRecord, speed), sizeof(UbxVelocityRecord::speed), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"groundSpeed", "m/s", "speed over ground", NavframeF64, offsetof(UbxVelocityRecord, groundSpeed), sizeof(UbxVelocityRecord::groundSpeed), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"motionHeading", "deg", "heading of motion", NavframeF64, offsetof(UbxVelocityRecord, motionHeading), sizeof(UbxVelocityRecord::motionHeading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedAccuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxVelocityRecord, speedAccuracy), sizeof(UbxVelocityRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxVelocityRecord, headingAccuracy), sizeof(UbxVelocityRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxVelocityRecordLayout = LayoutOf<UbxVelocityRecord, UbxVelocityRecordMembers>("UbxVelocityRecord");
+static_assert(CoversEveryByte(UbxVelocityRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxVelocityRecord> = UbxVelocityRecordLayout;
+
+inline constexpr MemberRow UbxEcefVelocityRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEcefVelocityRecord, tow), sizeof(UbxEcefVelocityRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEcefVelocityRecord, week), sizeof(UbxEcefVelocityRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEcefVelocityRecord, reserved), sizeof(UbxEcefVelocityRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxEcefVelocityRecord, timeText), sizeof(UbxEcefVelocityRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityX", "m/s", "ECEF X", NavframeF64, offsetof(UbxEcefVelocityRecord, velocityX), sizeof(UbxEcefVelocityRecord::velocityX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityY", "m/s", "ECEF Y", NavframeF64, offsetof(UbxEcefVelocityRecord, velocityY), sizeof(UbxEcefVelocityRecord::velocityY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityZ", "m/s", "ECEF Z", NavframeF64, offsetof(UbxEcefVelocityRecord, velocityZ), sizeof(UbxEcefVelocityRecord::velocityZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxEcefVelocityRecord, accuracy), sizeof(UbxEcefVelocityRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxEcefVelocityRecordLayout = LayoutOf<UbxEcefVelocityRecord, UbxEcefVelocityRecordMembers>("UbxEcefVelocityRecord");
+static_assert(CoversEveryByte(UbxEcefVelocityRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxEcefVelocityRecord> = UbxEcefVelocityRecordLayout;
+
+inline constexpr MemberRow UbxDopRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxDopRecord, tow), sizeof(UbxDopRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxDopRecord, week), sizeof(UbxDopRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxDopRecord, reserved), sizeof(UbxDopRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxDopRecord, timeText), sizeof(UbxDopRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"geometricDop", "", "geometric DOP", NavframeF64, offsetof(UbxDopRecord, geometricDop), sizeof(UbxDopRecord::geometricDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"positionDop", "", "position DOP", NavframeF64, offsetof(UbxDopRecord, positionDop), sizeof(UbxDopRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeDop", "", "time DOP", NavframeF64, offsetof(UbxDopRecord, timeDop), sizeof(UbxDopRecord::timeDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalDop", "", "vertical DOP", NavframeF64, offsetof(UbxDopRecord, verticalDop), sizeof(UbxDopRecord::verticalDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalDop", "", "horizontal DOP", NavframeF64, offsetof(UbxDopRecord, horizontalDop), sizeof(UbxDopRecord::horizontalDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"northDop", "", "DOP to the north", NavframeF64, offsetof(UbxDopRecord, northDop), sizeof(UbxDopRecord::northDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eastDop", "", "DOP to the east", NavframeF64, offsetof(UbxDopRecord, eastDop), sizeof(UbxDopRecord::eastDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxDopRecordLayout = LayoutOf<UbxDopRecord, UbxDopRecordMembers>("UbxDopRecord");
+static_assert(CoversEveryByte(UbxDopRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxDopRecord> = UbxDopRecordLayout;
+
+inline constexpr NavframeValueName UbxStatusRecordMapMatchingValues[] = {{0, "none"}, {1, "received but too old"}, {2, "position or heading used"}, {3, "dead reckoning with it"},};
+inline constexpr NavframeValueName UbxStatusRecordPowerSaveStateValues[] = {{0, "acquisition or none"}, {1, "tracking"}, {2, "power optimized tracking"}, {3, "inactive"},};
+inline constexpr NavframeValueName UbxStatusRecordSpoofingValues[] = {{0, "unknown"}, {1, "none"}, {2, "indicated"}, {3, "indicated more than once"},};
+inline constexpr NavframeValueName UbxStatusRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
+inline constexpr MemberRow UbxStatusRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxStatusRecord, tow), sizeof(UbxStatusRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxStatusRecord, week), sizeof(UbxStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxStatusRecord, reserved), sizeof(UbxStatusRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxStatusRecord, timeText), sizeof(UbxStatusRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"fixType", "", "type of the fix", NavframeU8, offsetof(UbxStatusRecord, fixType), sizeof(UbxStatusRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxFixTypeValues, nullptr}, false, 0},
+    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxStatusRecord, fixOk), sizeof(UbxStatusRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxStatusRecord, diffSolution), sizeof(UbxStatusRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"weekValid", "", "the week number is valid", NavframeU8, offsetof(UbxStatusRecord, weekValid), sizeof(UbxStatusRecord::weekValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"towValid", "", "the time of week is valid", NavframeU8, offsetof(UbxStatusRecord, towValid), sizeof(UbxStatusRecord::towValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"correctionsAvailable", "", "differential corrections are available", NavframeU8, offsetof(UbxStatusRecord, correctionsAvailable), sizeof(UbxStatusRecord::correctionsAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierValid", "", "carrierSolution is valid", NavframeU8, offsetof(UbxStatusRecord, carrierValid), sizeof(UbxStatusRecord::carrierValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"mapMatching", "", "map matching", NavframeU8, offsetof(UbxStatusRecord, mapMatching), sizeof(UbxStatusRecord::mapMatching), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxStatusRecordMapMatchingValues, nullptr}, false, 0},
+    {{"powerSaveState", "", "state of power saving", NavframeU8, offsetof(UbxStatusRecord, powerSaveState), sizeof(UbxStatusRecord::powerSaveState), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxStatusRecordPowerSaveStateValues, nullptr}, false, 0},
+    {{"spoofing", "", "detection of spoofing", NavframeU8, offsetof(UbxStatusRecord, spoofing), sizeof(UbxStatusRecord::spoofing), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxStatusRecordSpoofingValues, nullptr}, false, 0},
+    {{"carrierSolution", "", "carrier phase solution", NavframeU8, offsetof(UbxStatusRecord, carrierSolution), sizeof(UbxStatusRecord::carrierSolution), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxStatusRecordCarrierSolutionValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 35, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeToFirstFix", "ms", "time to first fix", NavframeU32, offsetof(UbxStatusRecord, timeToFirstFix), sizeof(UbxStatusRecord::timeToFirstFix), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"sinceStart", "ms", "since the receiver started", NavframeU32, offsetof(UbxStatusRecord, sinceStart), sizeof(UbxStatusRecord::sinceStart), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxStatusRecordLayout = LayoutOf<UbxStatusRecord, UbxStatusRecordMembers>("UbxStatusRecord");
+static_assert(CoversEveryByte(UbxStatusRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxStatusRecord> = UbxStatusRecordLayout;
+
+inline constexpr MemberRow UbxSolutionRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSolutionRecord, tow), sizeof(UbxSolutionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxSolutionRecord, week), sizeof(UbxSolutionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSolutionRecord, reserved), sizeof(UbxSolutionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSolutionRecord, timeText), sizeof(UbxSolutionRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"towFraction", "ns", "to be added to tow, -500000 to 500000", NavframeI32, offsetof(UbxSolutionRecord, towFraction), sizeof(UbxSolutionRecord::towFraction), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"gpsWeek", "", "GPS week", NavframeI16, offsetof(UbxSolutionRecord, gpsWeek), sizeof(UbxSolutionRecord::gpsWeek), 0, -1, NavframeAsSent, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"fixType", "", "type of the fix", NavframeU8, offsetof(UbxSolutionRecord, fixType), sizeof(UbxSolutionRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxFixTypeValues, nullptr}, false, 0},
+    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxSolutionRecord, fixOk), sizeof(UbxSolutionRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxSolutionRecord, diffSolution), sizeof(UbxSolutionRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"weekValid", "", "gpsWeek is valid", NavframeU8, offsetof(UbxSolutionRecord, weekValid), sizeof(UbxSolutionRecord::weekValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"towValid", "", "the time of week is valid", NavframeU8, offsetof(UbxSolutionRecord, towValid), sizeof(UbxSolutionRecord::towValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(UbxSolutionRecord, satellites), sizeof(UbxSolutionRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 36, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "ECEF X", NavframeF64, offsetof(UbxSolutionRecord, x), sizeof(UbxSolutionRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "ECEF Y", NavframeF64, offsetof(UbxSolutionRecord, y), sizeof(UbxSolutionRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "ECEF Z", NavframeF64, offsetof(UbxSolutionRecord, z), sizeof(UbxSolutionRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m", "accuracy of the position", NavframeF64, offsetof(UbxSolutionRecord, accuracy), sizeof(UbxSolutionRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityX", "m/s", "ECEF X", NavframeF64, offsetof(UbxSolutionRecord, velocityX), sizeof(UbxSolutionRecord::velocityX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityY", "m/s", "ECEF Y", NavframeF64, offsetof(UbxSolutionRecord, velocityY), sizeof(UbxSolutionRecord::velocityY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocityZ", "m/s", "ECEF Z", NavframeF64, offsetof(UbxSolutionRecord, velocityZ), sizeof(UbxSolutionRecord::velocityZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedAccuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxSolutionRecord, speedAccuracy), sizeof(UbxSolutionRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"positionDop", "", "position DOP", NavframeF64, offsetof(UbxSolutionRecord, positionDop), sizeof(UbxSolutionRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSolutionRecordLayout = LayoutOf<UbxSolutionRecord, UbxSolutionRecordMembers>("UbxSolutionRecord");
+static_assert(CoversEveryByte(UbxSolutionRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSolutionRecord> = UbxSolutionRecordLayout;
+
+inline constexpr MemberRow UbxClockRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxClockRecord, tow), sizeof(UbxClockRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxClockRecord, week), sizeof(UbxClockRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxClockRecord, reserved), sizeof(UbxClockRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxClockRecord, timeText), sizeof(UbxClockRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"bias", "ns", "bias of the clock", NavframeI32, offsetof(UbxClockRecord, bias), sizeof(UbxClockRecord::bias), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"drift", "ns/s", "drift of the clock", NavframeI32, offsetof(UbxClockRecord, drift), sizeof(UbxClockRecord::drift), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxClockRecord, timeAccuracy), sizeof(UbxClockRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"frequencyAccuracy", "ps/s", "accuracy of the frequency", NavframeU32, offsetof(UbxClockRecord, frequencyAccuracy), sizeof(UbxClockRecord::frequencyAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxClockRecordLayout = LayoutOf<UbxClockRecord, UbxClockRecordMembers>("UbxClockRecord");
+static_assert(CoversEveryByte(UbxClockRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxClockRecord> = UbxClockRecordLayout;
+
+inline constexpr MemberRow UbxCovarianceRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxCovarianceRecord, tow), sizeof(UbxCovarianceRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxCovarianceRecord, week), sizeof(UbxCovarianceRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxCovarianceRecord, reserved), sizeof(UbxCovarianceRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxCovarianceRecord, timeText), sizeof(UbxCovarianceRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxCovarianceRecord, version), sizeof(UbxCovarianceRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"positionValid", "", "the covariances of the position are valid", NavframeU8, offsetof(UbxCovarianceRecord, positionValid), sizeof(UbxCovarianceRecord::positionValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"velocityValid", "", "the covariances of the velocity are valid", NavframeU8, offsetof(UbxCovarianceRecord, velocityValid), sizeof(UbxCovarianceRecord::velocityValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"position", "m2", "of the position: NN, NE, ND, EE, ED, DD (north, east, down)", NavframeF32, offsetof(UbxCovarianceRecord, position), sizeof(UbxCovarianceRecord::position[0]), 6, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocity", "m2/s2", "of the velocity, in the same order", NavframeF32, offsetof(UbxCovarianceRecord, velocity), sizeof(UbxCovarianceRecord::velocity[0]), 6, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxCovarianceRecordLayout = LayoutOf<UbxCovarianceRecord, UbxCovarianceRecordMembers>("UbxCovarianceRecord");
+static_assert(CoversEveryByte(UbxCovarianceRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxCovarianceRecord> = UbxCovarianceRecordLayout;
+
+inline constexpr MemberRow UbxEndOfEpochRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEndOfEpochRecord, tow), sizeof(UbxEndOfEpochRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEndOfEpochRecord, week), sizeof(UbxEndOfEpochRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEndOfEpochRecord, reserved), sizeof(UbxEndOfEpochRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxEndOfEpochRecord, timeText), sizeof(UbxEndOfEpochRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxEndOfEpochRecordLayout = LayoutOf<UbxEndOfEpochRecord, UbxEndOfEpochRecordMembers>("UbxEndOfEpochRecord");
+static_assert(CoversEveryByte(UbxEndOfEpochRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxEndOfEpochRecord> = UbxEndOfEpochRecordLayout;
+
+inline constexpr MemberRow UbxGpsTimeRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxGpsTimeRecord, tow), sizeof(UbxGpsTimeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxGpsTimeRecord, week), sizeof(UbxGpsTimeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxGpsTimeRecord, reserved), sizeof(UbxGpsTimeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxGpsTimeRecord, timeText), sizeof(UbxGpsTimeRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"towFraction", "ns", "to be added to tow, -500000 to 500000", NavframeI32, offsetof(UbxGpsTimeRecord, towFraction), sizeof(UbxGpsTimeRecord::towFraction), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"gpsWeek", "", "GPS week", NavframeI16, offsetof(UbxGpsTimeRecord, gpsWeek), sizeof(UbxGpsTimeRecord::gpsWeek), 0, -1, NavframeAsSent, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"leapSeconds", "s", "GPS time less UTC", NavframeI8, offsetof(UbxGpsTimeRecord, leapSeconds), sizeof(UbxGpsTimeRecord::leapSeconds), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"towValid", "", "the time of week is valid", NavframeU8, offsetof(UbxGpsTimeRecord, towValid), sizeof(UbxGpsTimeRecord::towValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"weekValid", "", "gpsWeek is valid", NavframeU8, offsetof(UbxGpsTimeRecord, weekValid), sizeof(UbxGpsTimeRecord::weekValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"leapValid", "", "leapSeconds is valid", NavframeU8, offsetof(UbxGpsTimeRecord, leapValid), sizeof(UbxGpsTimeRecord::leapValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 34, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxGpsTimeRecord, timeAccuracy), sizeof(UbxGpsTimeRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxGpsTimeRecordLayout = LayoutOf<UbxGpsTimeRecord, UbxGpsTimeRecordMembers>("UbxGpsTimeRecord");
+static_assert(CoversEveryByte(UbxGpsTimeRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxGpsTimeRecord> = UbxGpsTimeRecordLayout;
+
+inline constexpr MemberRow UbxUtcRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxUtcRecord, tow), sizeof(UbxUtcRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxUtcRecord, week), sizeof(UbxUtcRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxUtcRecord, reserved), sizeof(UbxUtcRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxUtcRecord, timeText), sizeof(UbxUtcRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxUtcRecord, timeAccuracy), sizeof(UbxUtcRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"nanoseconds", "ns", "fraction of the second, -10^9 to 10^9", NavframeI32, offsetof(UbxUtcRecord, nanoseconds), sizeof(UbxUtcRecord::nanoseconds), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"year", "", "UTC", NavframeU16, offsetof(UbxUtcRecord, year), sizeof(UbxUtcRecord::year), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"month", "", "1 to 12", NavframeU8, offsetof(UbxUtcRecord, month), sizeof(UbxUtcRecord::month), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"day", "", "1 to 31", NavframeU8, offsetof(UbxUtcRecord, day), sizeof(UbxUtcRecord::day), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"hour", "h", "0 to 23", NavframeU8, offsetof(UbxUtcRecord, hour), sizeof(UbxUtcRecord::hour), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"minute", "min", "0 to 59", NavframeU8, offsetof(UbxUtcRecord, minute), sizeof(UbxUtcRecord::minute), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"second", "s", "0 to 60", NavframeU8, offsetof(UbxUtcRecord, second), sizeof(UbxUtcRecord::second), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"towValid", "", "the time of week is valid", NavframeU8, offsetof(UbxUtcRecord, towValid), sizeof(UbxUtcRecord::towValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"weekValid", "", "the week number is valid", NavframeU8, offsetof(UbxUtcRecord, weekValid), sizeof(UbxUtcRecord::weekValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"utcValid", "", "UTC is valid: the leap seconds are known", NavframeU8, offsetof(UbxUtcRecord, utcValid), sizeof(UbxUtcRecord::utcValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeAuthenticated", "", "the time was checked against a trusted source", NavframeU8, offsetof(UbxUtcRecord, timeAuthenticated), sizeof(UbxUtcRecord::timeAuthenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"utcStandard", "", "whose UTC", NavframeU8, offsetof(UbxUtcRecord, utcStandard), sizeof(UbxUtcRecord::utcStandard), 0, -1, 0, NavframeUnknownValue, 255, 10, UbxUtcStandardValues, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxUtcRecordLayout = LayoutOf<UbxUtcRecord, UbxUtcRecordMembers>("UbxUtcRecord");
+static_assert(CoversEveryByte(UbxUtcRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxUtcRecord> = UbxUtcRecordLayout;
+
+inline constexpr NavframeValueName UbxLeapSecondsRecordCurrentSourceValues[] = {{0, "firmware"}, {1, "difference of GPS and GLONASS"}, {2, "GPS"}, {3, "SBAS"}, {4, "BeiDou"}, {5, "Galileo"}, {6, "aiding"}, {7, "configured"}, {8, "NavIC"}, {255, "unknown"},};
+inline constexpr NavframeValueName UbxLeapSecondsRecordChangeSourceValues[] = {{0, "none"}, {2, "GPS"}, {3, "SBAS"}, {4, "BeiDou"}, {5, "Galileo"}, {6, "GLONASS"}, {7, "NavIC"},};
+inline constexpr NavframeValueName UbxLeapSecondsRecordChangeValues[] = {{-1, "second removed"}, {0, "none"}, {1, "second added"},};
+inline constexpr MemberRow UbxLeapSecondsRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxLeapSecondsRecord, tow), sizeof(UbxLeapSecondsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxLeapSecondsRecord, week), sizeof(UbxLeapSecondsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxLeapSecondsRecord, reserved), sizeof(UbxLeapSecondsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxLeapSecondsRecord, timeText), sizeof(UbxLeapSecondsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxLeapSecondsRecord, version), sizeof(UbxLeapSecondsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"currentSource", "", "source of current", NavframeU8, offsetof(UbxLeapSecondsRecord, currentSource), sizeof(UbxLeapSecondsRecord::currentSource), 0, -1, 0, NavframeUnknownNever, 0, 10, UbxLeapSecondsRecordCurrentSourceValues, nullptr}, false, 0},
+    {{"current", "s", "GPS time less UTC", NavframeI8, offsetof(UbxLeapSecondsRecord, current), sizeof(UbxLeapSecondsRecord::current), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"changeSource", "", "source of the change", NavframeU8, offsetof(UbxLeapSecondsRecord, changeSource), sizeof(UbxLeapSecondsRecord::changeSource), 0, -1, 0, NavframeUnknownValue, 255, 7, UbxLeapSecondsRecordChangeSourceValues, nullptr}, false, 0},
+    {{"change", "s", "the next change", NavframeI8, offsetof(UbxLeapSecondsRecord, change), sizeof(UbxLeapSecondsRecord::change), 0, -1, 0, NavframeUnknownValue, -128, 3, UbxLeapSecondsRecordChangeValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 29, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"untilChange", "s", "until the next change, or since the last one when negative", NavframeI32, offsetof(UbxLeapSecondsRecord, untilChange), sizeof(UbxLeapSecondsRecord::untilChange), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"changeWeek", "", "GPS week of the change", NavframeU16, offsetof(UbxLeapSecondsRecord, changeWeek), sizeof(UbxLeapSecondsRecord::changeWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"changeDay", "", "GPS day of the week of the change, 1 to 7", NavframeU16, offsetof(UbxLeapSecondsRecord, changeDay), sizeof(UbxLeapSecondsRecord::changeDay), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"currentValid", "", "current is valid", NavframeU8, offsetof(UbxLeapSecondsRecord, currentValid), sizeof(UbxLeapSecondsRecord::currentValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"changeValid", "", "untilChange, changeWeek and changeDay are valid", NavframeU8, offsetof(UbxLeapSecondsRecord, changeValid), sizeof(UbxLeapSecondsRecord::changeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 42, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxLeapSecondsRecordLayout = LayoutOf<UbxLeapSecondsRecord, UbxLeapSecondsRecordMembers>("UbxLeapSecondsRecord");
+static_assert(CoversEveryByte(UbxLeapSecondsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxLeapSecondsRecord> = UbxLeapSecondsRecordLayout;
+
+inline constexpr NavframeValueName UbxRelativePositionRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
+inline constexpr MemberRow UbxRelativePositionRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxRelativePositionRecord, tow), sizeof(UbxRelativePositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRelativePositionRecord, week), sizeof(UbxRelativePositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRelativePositionRecord, reserved), sizeof(UbxRelativePositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRelativePositionRecord, timeText), sizeof(UbxRelativePositionRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxRelativePositionRecord, version), sizeof(UbxRelativePositionRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 25, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "of the reference station", NavframeU16, offsetof(UbxRelativePositionRecord, stationId), sizeof(UbxRelativePositionRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"fixOk", "", "within the limits of DOP and accuracy", NavframeU8, offsetof(UbxRelativePositionRecord, fixOk), sizeof(UbxRelativePositionRecord::fixOk), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"diffSolution", "", "differential corrections were applied", NavframeU8, offsetof(UbxRelativePositionRecord, diffSolution), sizeof(UbxRelativePositionRecord::diffSolution), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"relativeValid", "", "the relative position is valid", NavframeU8, offsetof(UbxRelativePositionRecord, relativeValid), sizeof(UbxRelativePositionRecord::relativeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierSolution", "", "carrier phase solution", NavframeU8, offsetof(UbxRelativePositionRecord, carrierSolution), sizeof(UbxRelativePositionRecord::carrierSolution), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxRelativePositionRecordCarrierSolutionValues, nullptr}, false, 0},
+    {{"moving", "", "the receiver works with a moving base", NavframeU8, offsetof(UbxRelativePositionRecord, moving), sizeof(UbxRelativePositionRecord::moving), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"stationMissed", "", "extrapolated: the station's position was missed", NavframeU8, offsetof(UbxRelativePositionRecord, stationMissed), sizeof(UbxRelativePositionRecord::stationMissed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"observationsMissed", "", "extrapolated: the station's observations were missed", NavframeU8, offsetof(UbxRelativePositionRecord, observationsMissed), sizeof(UbxRelativePositionRecord::observationsMissed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"headingValid", "", "heading is valid", NavframeU8, offsetof(UbxRelativePositionRecord, headingValid), sizeof(UbxRelativePositionRecord::headingValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"normalized", "", "the components are those of a vector of length 1", NavframeU8, offsetof(UbxRelativePositionRecord, normalized), sizeof(UbxRelativePositionRecord::normalized), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 37, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"north", "m", "to the north; unknown when not valid", NavframeF64, offsetof(UbxRelativePositionRecord, north), sizeof(UbxRelativePositionRecord::north), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"east", "m", "to the east; unknown when not valid", NavframeF64, offsetof(UbxRelativePositionRecord, east), sizeof(UbxRelativePositionRecord::east), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"down", "m", "downwards; unknown when not valid", NavframeF64, offsetof(UbxRelativePositionRecord, down), sizeof(UbxRelativePositionRecord::down), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"length", "m", "length of the vector; unknown when not valid", NavframeF64, offsetof(UbxRelativePositionRecord, length), sizeof(UbxRelativePositionRecord::length), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heading", "deg", "heading of the vector; unknown when not valid", NavframeF64, offsetof(UbxRelativePositionRecord, heading), sizeof(UbxRelativePositionRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"northAccuracy", "m", "accuracy to the north", NavframeF64, offsetof(UbxRelativePositionRecord, northAccuracy), sizeof(UbxRelativePositionRecord::northAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eastAccuracy", "m", "accuracy to the east", NavframeF64, offsetof(UbxRelativePositionRecord, eastAccuracy), sizeof(UbxRelativePositionRecord::eastAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"downAccuracy", "m", "accuracy downwards", NavframeF64, offsetof(UbxRelativePositionRecord, downAccuracy), sizeof(UbxRelativePositionRecord::downAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"lengthAccuracy", "m", "accuracy of the length", NavframeF64, offsetof(UbxRelativePositionRecord, lengthAccuracy), sizeof(UbxRelativePositionRecord::lengthAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxRelativePositionRecord, headingAccuracy), sizeof(UbxRelativePositionRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxRelativePositionRecordLayout = LayoutOf<UbxRelativePositionRecord, UbxRelativePositionRecordMembers>("UbxRelativePositionRecord");
+static_assert(CoversEveryByte(UbxRelativePositionRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxRelativePositionRecord> = UbxRelativePositionRecordLayout;
+
+inline constexpr MemberRow UbxSurveyInRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSurveyInRecord, tow), sizeof(UbxSurveyInRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSurveyInRecord, week), sizeof(UbxSurveyInRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSurveyInRecord, reserved), sizeof(UbxSurveyInRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSurveyInRecord, timeText), sizeof(UbxSurveyInRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxSurveyInRecord, version), sizeof(UbxSurveyInRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"valid", "", "the mean position is valid", NavframeU8, offsetof(UbxSurveyInRecord, valid), sizeof(UbxSurveyInRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"active", "", "the survey goes on", NavframeU8, offsetof(UbxSurveyInRecord, active), sizeof(UbxSurveyInRecord::active), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"duration", "s", "of the survey", NavframeU32, offsetof(UbxSurveyInRecord, duration), sizeof(UbxSurveyInRecord::duration), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"observations", "", "positions that the mean is made of", NavframeU32, offsetof(UbxSurveyInRecord, observations), sizeof(UbxSurveyInRecord::observations), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 36, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "ECEF X of the mean", NavframeF64, offsetof(UbxSurveyInRecord, x), sizeof(UbxSurveyInRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "ECEF Y of the mean", NavframeF64, offsetof(UbxSurveyInRecord, y), sizeof(UbxSurveyInRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "ECEF Z of the mean", NavframeF64, offsetof(UbxSurveyInRecord, z), sizeof(UbxSurveyInRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m", "accuracy of the mean", NavframeF64, offsetof(UbxSurveyInRecord, accuracy), sizeof(UbxSurveyInRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSurveyInRecordLayout = LayoutOf<UbxSurveyInRecord, UbxSurveyInRecordMembers>("UbxSurveyInRecord");
+static_assert(CoversEveryByte(UbxSurveyInRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSurveyInRecord> = UbxSurveyInRecordLayout;
+
+inline constexpr NavframeValueName UbxFullSatelliteHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
+inline constexpr NavframeValueName UbxFullSatelliteOrbitSourceValues[] = {{0, "none"}, {1, "ephemeris"}, {2, "almanac"}, {3, "offline prediction"}, {4, "autonomous prediction"}, {5, "other"}, {6, "other"}, {7, "other"},};
+inline constexpr MemberRow UbxFullSatelliteMembers[] = {
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxFullSatellite, systemId), sizeof(UbxFullSatellite::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxFullSatellite, satelliteId), sizeof(UbxFullSatellite::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxFullSatellite, cn0), sizeof(UbxFullSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "-90 to 90; unknown with a false elevation", NavframeI8, offsetof(UbxFullSatellite, elevation), sizeof(UbxFullSatellite::elevation), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "0 to 360; unknown with a false elevation", NavframeI16, offsetof(UbxFullSatellite, azimuth), sizeof(UbxFullSatellite::azimuth), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 6, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxFullSatellite, residual), sizeof(UbxFullSatellite::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxFullSatellite, quality), sizeof(UbxFullSatellite::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxQualityValues, nullptr}, false, 0},
+    {{"used", "", "in the solution", NavframeU8, offsetof(UbxFullSatellite, used), sizeof(UbxFullSatellite::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU8, offsetof(UbxFullSatellite, health), sizeof(UbxFullSatellite::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFullSatelliteHealthValues, nullptr}, false, 0},
+    {{"corrected", "", "differential corrections are available", NavframeU8, offsetof(UbxFullSatellite, corrected), sizeof(UbxFullSatellite::corrected), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxFullSatellite, smoothed), sizeof(UbxFullSatellite::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitSource", "", "source of the orbit", NavframeU8, offsetof(UbxFullSatellite, orbitSource), sizeof(UbxFullSatellite::orbitSource), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxFullSatelliteOrbitSourceValues, nullptr}, false, 0},
+    {{"ephemeris", "", "an ephemeris is available", NavframeU8, offsetof(UbxFullSatellite, ephemeris), sizeof(UbxFullSatellite::ephemeris), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"almanac", "", "an almanac is available", NavframeU8, offsetof(UbxFullSatellite, almanac), sizeof(UbxFullSatellite::almanac), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"offlinePrediction", "", "a downloaded orbit prediction is available", NavframeU8, offsetof(UbxFullSatellite, offlinePrediction), sizeof(UbxFullSatellite::offlinePrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"autonomousPrediction", "", "an orbit prediction of the receiver is available", NavframeU8, offsetof(UbxFullSatellite, autonomousPrediction), sizeof(UbxFullSatellite::autonomousPrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"sbasCorrections", "", "SBAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, sbasCorrections), sizeof(UbxFullSatellite::sbasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmCorrections", "", "RTCM corrections were used", NavframeU8, offsetof(UbxFullSatellite, rtcmCorrections), sizeof(UbxFullSatellite::rtcmCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"slasCorrections", "", "QZSS SLAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, slasCorrections), sizeof(UbxFullSatellite::slasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"spartnCorrections", "", "SPARTN corrections were used", NavframeU8, offsetof(UbxFullSatellite, spartnCorrections), sizeof(UbxFullSatellite::spartnCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rangeCorrections", "", "corrections of the pseudorange were used", NavframeU8, offsetof(UbxFullSatellite, rangeCorrections), sizeof(UbxFullSatellite::rangeCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxFullSatellite, carrierCorrections), sizeof(UbxFullSatellite::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxFullSatellite, dopplerCorrections), sizeof(UbxFullSatellite::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"clasCorrections", "", "QZSS CLAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, clasCorrections), sizeof(UbxFullSatellite::clasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"lppCorrections", "", "corrections over LPP were used", NavframeU8, offsetof(UbxFullSatellite, lppCorrections), sizeof(UbxFullSatellite::lppCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"hasCorrections", "", "Galileo HAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, hasCorrections), sizeof(UbxFullSatellite::hasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 36, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxFullSatelliteLayout = LayoutOf<UbxFullSatellite, UbxFullSatelliteMembers>("UbxFullSatellite");
+static_assert(CoversEveryByte(UbxFullSatelliteLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxFullSatellite> = UbxFullSatelliteLayout;
+
+inline constexpr MemberRow UbxFullSatellitesRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFullSatellitesRecord, tow), sizeof(UbxFullSatellitesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxFullSatellitesRecord, week), sizeof(UbxFullSatellitesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFullSatellitesRecord, reserved), sizeof(UbxFullSatellitesRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxFullSatellitesRecord, timeText), sizeof(UbxFullSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxFullSatellitesRecord, version), sizeof(UbxFullSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "satellites", NavframeU8, offsetof(UbxFullSatellitesRecord, count), sizeof(UbxFullSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFullSatellitesRecord, satellites), sizeof(UbxFullSatellitesRecord::satellites[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxFullSatelliteLayout}, false, 0},
+};
+inline constexpr RecordRow UbxFullSatellitesRecordLayout = LayoutOf<UbxFullSatellitesRecord, UbxFullSatellitesRecordMembers>("UbxFullSatellitesRecord");
+static_assert(CoversEveryByte(UbxFullSatellitesRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxFullSatellitesRecord> = UbxFullSatellitesRecordLayout;
+
+inline constexpr NavframeValueName UbxSignalCorrectionSourceValues[] = {{0, "none"}, {1, "SBAS"}, {2, "BeiDou"}, {3, "RTCM 2"}, {4, "RTCM 3 OSR"}, {5, "RTCM 3 SSR"}, {6, "QZSS SLAS"}, {7, "SPARTN"}, {8, "CLAS"}, {9, "LPP OSR"}, {10, "Galileo HAS"},};
+inline constexpr NavframeValueName UbxSignalIonosphereModelValues[] = {{0, "none"}, {1, "Klobuchar of GPS"}, {2, "SBAS"}, {3, "Klobuchar of BeiDou"}, {8, "two frequencies"},};
+inline constexpr NavframeValueName UbxSignalHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
+inline constexpr MemberRow UbxSignalMembers[] = {
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSignal, systemId), sizeof(UbxSignal::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSignal, satelliteId), sizeof(UbxSignal::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"signalId", "", "signal of the system", NavframeU8, offsetof(UbxSignal, signalId), sizeof(UbxSignal::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"frequencySlot", "", "of GLONASS the slot + 7, 0 to 13", NavframeU8, offsetof(UbxSignal, frequencySlot), sizeof(UbxSignal::frequencySlot), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 4, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxSignal, residual), sizeof(UbxSignal::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxSignal, cn0), sizeof(UbxSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxSignal, quality), sizeof(UbxSignal::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxQualityValues, nullptr}, false, 0},
+    {{"correctionSource", "", "where corrections come from", NavframeU8, offsetof(UbxSignal, correctionSource), sizeof(UbxSignal::correctionSource), 0, -1, 0, NavframeUnknownValue, 255, 11, UbxSignalCorrectionSourceValues, nullptr}, false, 0},
+    {{"ionosphereModel", "", "model of the ionosphere", NavframeU8, offsetof(UbxSignal, ionosphereModel), sizeof(UbxSignal::ionosphereModel), 0, -1, 0, NavframeUnknownValue, 255, 5, UbxSignalIonosphereModelValues, nullptr}, false, 0},
+    {{"health", "", "health", NavframeU8, offsetof(UbxSignal, health), sizeof(UbxSignal::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxSignalHealthValues, nullptr}, false, 0},
+    {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxSignal, smoothed), sizeof(UbxSignal::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rangeUsed", "", "the pseudorange was used", NavframeU8, offsetof(UbxSignal, rangeUsed), sizeof(UbxSignal::rangeUsed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierUsed", "", "the carrier range was used", NavframeU8, offsetof(UbxSignal, carrierUsed), sizeof(UbxSignal::carrierUsed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerUsed", "", "the range rate was used", NavframeU8, offsetof(UbxSignal, dopplerUsed), sizeof(UbxSignal::dopplerUsed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rangeCorrections", "", "corrections of the pseudorange were used", NavframeU8, offsetof(UbxSignal, rangeCorrections), sizeof(UbxSignal::rangeCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxSignal, carrierCorrections), sizeof(UbxSignal::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSignal, dopplerCorrections), sizeof(UbxSignal::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"authenticated", "", "the navigation message was authenticated", NavframeU8, offsetof(UbxSignal, authenticated), sizeof(UbxSignal::authenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 29, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSignalLayout = LayoutOf<UbxSignal, UbxSignalMembers>("UbxSignal");
+static_assert(CoversEveryByte(UbxSignalLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSignal> = UbxSignalLayout;
+
+inline constexpr MemberRow UbxSignalsRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSignalsRecord, tow), sizeof(UbxSignalsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSignalsRecord, week), sizeof(UbxSignalsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSignalsRecord, reserved), sizeof(UbxSignalsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSignalsRecord, timeText), sizeof(UbxSignalsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxSignalsRecord, version), sizeof(UbxSignalsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "signals", NavframeU8, offsetof(UbxSignalsRecord, count), sizeof(UbxSignalsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signals", "", "signals in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSignalsRecord, signals), sizeof(UbxSignalsRecord::signals[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSignalLayout}, false, 0},
+};
+inline constexpr RecordRow UbxSignalsRecordLayout = LayoutOf<UbxSignalsRecord, UbxSignalsRecordMembers>("UbxSignalsRecord");
+static_assert(CoversEveryByte(UbxSignalsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSignalsRecord> = UbxSignalsRecordLayout;
+
+inline constexpr NavframeValueName UbxChannelQualityValues[] = {{0, "idle"}, {1, "searching"}, {2, "acquired"}, {3, "detected but unusable"}, {4, "code locked"}, {5, "code and carrier locked"}, {6, "code and carrier locked"}, {7, "code and carrier locked"},};
+inline constexpr MemberRow UbxChannelMembers[] = {
+    {{"channel", "", "number of the channel", NavframeU8, offsetof(UbxChannel, channel), sizeof(UbxChannel::channel), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number over all systems", NavframeU8, offsetof(UbxChannel, satelliteId), sizeof(UbxChannel::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"used", "", "in the solution", NavframeU8, offsetof(UbxChannel, used), sizeof(UbxChannel::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"corrected", "", "differential corrections are available", NavframeU8, offsetof(UbxChannel, corrected), sizeof(UbxChannel::corrected), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitAvailable", "", "an orbit is available", NavframeU8, offsetof(UbxChannel, orbitAvailable), sizeof(UbxChannel::orbitAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitEphemeris", "", "the orbit is of an ephemeris", NavframeU8, offsetof(UbxChannel, orbitEphemeris), sizeof(UbxChannel::orbitEphemeris), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"unhealthy", "", "not to be used", NavframeU8, offsetof(UbxChannel, unhealthy), sizeof(UbxChannel::unhealthy), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitAlmanac", "", "the orbit is of an almanac", NavframeU8, offsetof(UbxChannel, orbitAlmanac), sizeof(UbxChannel::orbitAlmanac), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"orbitPrediction", "", "the orbit is a prediction of the receiver", NavframeU8, offsetof(UbxChannel, orbitPrediction), sizeof(UbxChannel::orbitPrediction), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxChannel, smoothed), sizeof(UbxChannel::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxChannel, quality), sizeof(UbxChannel::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxChannelQualityValues, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxChannel, cn0), sizeof(UbxChannel::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"elevation", "deg", "-90 to 90; unknown with a false elevation", NavframeI8, offsetof(UbxChannel, elevation), sizeof(UbxChannel::elevation), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 13, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"azimuth", "deg", "0 to 360; unknown with a false elevation", NavframeI16, offsetof(UbxChannel, azimuth), sizeof(UbxChannel::azimuth), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxChannel, residual), sizeof(UbxChannel::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxChannelLayout = LayoutOf<UbxChannel, UbxChannelMembers>("UbxChannel");
+static_assert(CoversEveryByte(UbxChannelLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxChannel> = UbxChannelLayout;
+
+inline constexpr MemberRow UbxChannelsRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxChannelsRecord, tow), sizeof(UbxChannelsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxChannelsRecord, week), sizeof(UbxChannelsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxChannelsRecord, reserved), sizeof(UbxChannelsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxChannelsRecord, timeText), sizeof(UbxChannelsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"chipGeneration", "", "generation of the receiver's hardware, 0 to 7", NavframeU8, offsetof(UbxChannelsRecord, chipGeneration), sizeof(UbxChannelsRecord::chipGeneration), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "channels", NavframeU8, offsetof(UbxChannelsRecord, count), sizeof(UbxChannelsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"channels", "", "channels in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxChannelsRecord, channels), sizeof(UbxChannelsRecord::channels[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxChannelLayout}, false, 0},
+};
+inline constexpr RecordRow UbxChannelsRecordLayout = LayoutOf<UbxChannelsRecord, UbxChannelsRecordMembers>("UbxChannelsRecord");
+static_assert(CoversEveryByte(UbxChannelsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxChannelsRecord> = UbxChannelsRecordLayout;
+
+inline constexpr MemberRow UbxSubframeRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxSubframeRecord, tow), sizeof(UbxSubframeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSubframeRecord, week), sizeof(UbxSubframeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSubframeRecord, reserved), sizeof(UbxSubframeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSubframeRecord, timeText), sizeof(UbxSubframeRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxSubframeRecord, version), sizeof(UbxSubframeRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSubframeRecord, systemId), sizeof(UbxSubframeRecord::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSubframeRecord, satelliteId), sizeof(UbxSubframeRecord::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"signalId", "", "signal of the system, 0 of receivers that do not tell it", NavframeU8, offsetof(UbxSubframeRecord, signalId), sizeof(UbxSubframeRecord::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"frequencySlot", "", "of GLONASS the slot + 7, 0 to 13", NavframeU8, offsetof(UbxSubframeRecord, frequencySlot), sizeof(UbxSubframeRecord::frequencySlot), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"channel", "", "tracking channel; unknown of version 1", NavframeU8, offsetof(UbxSubframeRecord, channel), sizeof(UbxSubframeRecord::channel), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "words", NavframeU8, offsetof(UbxSubframeRecord, count), sizeof(UbxSubframeRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"words", "", "words as the receiver arranges them, unknown values behind the last one", NavframeU32, offsetof(UbxSubframeRecord, words), sizeof(UbxSubframeRecord::words[0]), 255, 10, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSubframeRecordLayout = LayoutOf<UbxSubframeRecord, UbxSubframeRecordMembers>("UbxSubframeRecord");
+static_assert(CoversEveryByte(UbxSubframeRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSubframeRecord> = UbxSubframeRecordLayout;
+
+inline constexpr NavframeValueName UbxRtcmInputRecordUsedValues[] = {{0, "not known"}, {1, "not used"}, {2, "used"},};
+inline constexpr MemberRow UbxRtcmInputRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxRtcmInputRecord, tow), sizeof(UbxRtcmInputRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRtcmInputRecord, week), sizeof(UbxRtcmInputRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRtcmInputRecord, reserved), sizeof(UbxRtcmInputRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRtcmInputRecord, timeText), sizeof(UbxRtcmInputRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxRtcmInputRecord, version), sizeof(UbxRtcmInputRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"crcFailed", "", "the message's check failed", NavframeU8, offsetof(UbxRtcmInputRecord, crcFailed), sizeof(UbxRtcmInputRecord::crcFailed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"used", "", "use of the message", NavframeU8, offsetof(UbxRtcmInputRecord, used), sizeof(UbxRtcmInputRecord::used), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxRtcmInputRecordUsedValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"subType", "", "of message 4072", NavframeU16, offsetof(UbxRtcmInputRecord, subType), sizeof(UbxRtcmInputRecord::subType), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "of the reference station", NavframeU16, offsetof(UbxRtcmInputRecord, stationId), sizeof(UbxRtcmInputRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"messageType", "", "RTCM message number", NavframeU16, offsetof(UbxRtcmInputRecord, messageType), sizeof(UbxRtcmInputRecord::messageType), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 34, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxRtcmInputRecordLayout = LayoutOf<UbxRtcmInputRecord, UbxRtcmInputRecordMembers>("UbxRtcmInputRecord");
+static_assert(CoversEveryByte(UbxRtcmInputRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxRtcmInputRecord> = UbxRtcmInputRecordLayout;
+
+inline constexpr NavframeValueName UbxMeasurementMultipathValues[] = {{0, "not measured"}, {1, "low"}, {2, "medium"}, {3, "high"},};
+inline constexpr MemberRow UbxMeasurementMembers[] = {
+    {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxMeasurement, systemId), sizeof(UbxMeasurement::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
+    {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxMeasurement, satelliteId), sizeof(UbxMeasurement::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density, 0 to 63", NavframeU8, offsetof(UbxMeasurement, cn0), sizeof(UbxMeasurement::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"multipath", "", "multipath", NavframeU8, offsetof(UbxMeasurement, multipath), sizeof(UbxMeasurement::multipath), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxMeasurementMultipathValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 4, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerSpeed", "m/s", "Doppler as a speed", NavframeF64, offsetof(UbxMeasurement, dopplerSpeed), sizeof(UbxMeasurement::dopplerSpeed), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"doppler", "Hz", "Doppler", NavframeF64, offsetof(UbxMeasurement, doppler), sizeof(UbxMeasurement::doppler), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"wholeChips", "", "whole code chips of the code phase, 0 to 1022 of GPS", NavframeU16, offsetof(UbxMeasurement, wholeChips), sizeof(UbxMeasurement::wholeChips), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"fractionalChips", "1/1024 chip", "fraction of the code phase, 0 to 1023", NavframeU16, offsetof(UbxMeasurement, fractionalChips), sizeof(UbxMeasurement::fractionalChips), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 28, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"codePhase", "ms", "code phase", NavframeF64, offsetof(UbxMeasurement, codePhase), sizeof(UbxMeasurement::codePhase), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"wholeCodePhase", "ms", "whole milliseconds of the code phase", NavframeU8, offsetof(UbxMeasurement, wholeCodePhase), sizeof(UbxMeasurement::wholeCodePhase), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rangeErrorIndex", "", "deviation of the pseudorange, the receiver's code, 0 to 63", NavframeU8, offsetof(UbxMeasurement, rangeErrorIndex), sizeof(UbxMeasurement::rangeErrorIndex), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 42, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxMeasurementLayout = LayoutOf<UbxMeasurement, UbxMeasurementMembers>("UbxMeasurement");
+static_assert(CoversEveryByte(UbxMeasurementLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxMeasurement> = UbxMeasurementLayout;
+
+inline constexpr NavframeValueName UbxMeasurementsRecordTowSetValues[] = {{0, "not set"}, {1, "set"}, {2, "set"},};
+inline constexpr MemberRow UbxMeasurementsRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxMeasurementsRecord, tow), sizeof(UbxMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxMeasurementsRecord, week), sizeof(UbxMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxMeasurementsRecord, reserved), sizeof(UbxMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxMeasurementsRecord, timeText), sizeof(UbxMeasurementsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxMeasurementsRecord, version), sizeof(UbxMeasurementsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"towSet", "", "time of week", NavframeU8, offsetof(UbxMeasurementsRecord, towSet), sizeof(UbxMeasurementsRecord::towSet), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxMeasurementsRecordTowSetValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsTow", "ms", "GPS time of week of the measurements", NavframeU32, offsetof(UbxMeasurementsRecord, gpsTow), sizeof(UbxMeasurementsRecord::gpsTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"glonassTow", "ms", "the same in GLONASS time", NavframeU32, offsetof(UbxMeasurementsRecord, glonassTow), sizeof(UbxMeasurementsRecord::glonassTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"bdsTow", "ms", "the same in BeiDou time", NavframeU32, offsetof(UbxMeasurementsRecord, bdsTow), sizeof(UbxMeasurementsRecord::bdsTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"qzssTow", "ms", "the same in QZSS time", NavframeU32, offsetof(UbxMeasurementsRecord, qzssTow), sizeof(UbxMeasurementsRecord::qzssTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 44, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gpsAccuracy", "ms", "accuracy of gpsTow", NavframeF64, offsetof(UbxMeasurementsRecord, gpsAccuracy), sizeof(UbxMeasurementsRecord::gpsAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonassAccuracy", "ms", "accuracy of glonassTow", NavframeF64, offsetof(UbxMeasurementsRecord, glonassAccuracy), sizeof(UbxMeasurementsRecord::glonassAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"bdsAccuracy", "ms", "accuracy of bdsTow", NavframeF64, offsetof(UbxMeasurementsRecord, bdsAccuracy), sizeof(UbxMeasurementsRecord::bdsAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"qzssAccuracy", "ms", "accuracy of qzssTow", NavframeF64, offsetof(UbxMeasurementsRecord, qzssAccuracy), sizeof(UbxMeasurementsRecord::qzssAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "measurements", NavframeU8, offsetof(UbxMeasurementsRecord, count), sizeof(UbxMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding2", "", "", NavframePadding, 81, 7, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxMeasurementsRecord, measurements), sizeof(UbxMeasurementsRecord::measurements[0]), 166, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxMeasurementLayout}, false, 0},
+};
+inline constexpr RecordRow UbxMeasurementsRecordLayout = LayoutOf<UbxMeasurementsRecord, UbxMeasurementsRecordMembers>("UbxMeasurementsRecord");
+static_assert(CoversEveryByte(UbxMeasurementsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxMeasurementsRecord> = UbxMeasurementsRecordLayout;
+
+inline constexpr NavframeValueName UbxTimePulseRecordUtcBaseValues[] = {{0, "GNSS"}, {1, "UTC"},};
+inline constexpr NavframeValueName UbxTimePulseRecordRaimValues[] = {{0, "not known"}, {1, "not active"}, {2, "active"},};
+inline constexpr NavframeValueName UbxTimePulseRecordGnssReferenceValues[] = {{0, "GPS"}, {1, "GLONASS"}, {2, "BeiDou"}, {3, "Galileo"}, {4, "NavIC"}, {15, "not known"},};
+inline constexpr MemberRow UbxTimePulseRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxTimePulseRecord, tow), sizeof(UbxTimePulseRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxTimePulseRecord, week), sizeof(UbxTimePulseRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxTimePulseRecord, reserved), sizeof(UbxTimePulseRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxTimePulseRecord, timeText), sizeof(UbxTimePulseRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pulseTow", "ms", "time of week of the pulse, in its time base", NavframeU32, offsetof(UbxTimePulseRecord, pulseTow), sizeof(UbxTimePulseRecord::pulseTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 28, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pulseTowFraction", "ms", "to be added to pulseTow", NavframeF64, offsetof(UbxTimePulseRecord, pulseTowFraction), sizeof(UbxTimePulseRecord::pulseTowFraction), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"quantizationError", "ps", "quantization error of the pulse", NavframeI32, offsetof(UbxTimePulseRecord, quantizationError), sizeof(UbxTimePulseRecord::quantizationError), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+    {{"pulseWeek", "", "week of the pulse, in its time base", NavframeU16, offsetof(UbxTimePulseRecord, pulseWeek), sizeof(UbxTimePulseRecord::pulseWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"utcBase", "", "time base", NavframeU8, offsetof(UbxTimePulseRecord, utcBase), sizeof(UbxTimePulseRecord::utcBase), 0, -1, 0, NavframeUnknownValue, 255, 2, UbxTimePulseRecordUtcBaseValues, nullptr}, false, 0},
+    {{"utcAvailable", "", "UTC is available", NavframeU8, offsetof(UbxTimePulseRecord, utcAvailable), sizeof(UbxTimePulseRecord::utcAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"raim", "", "integrity", NavframeU8, offsetof(UbxTimePulseRecord, raim), sizeof(UbxTimePulseRecord::raim), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxTimePulseRecordRaimValues, nullptr}, false, 0},
+    {{"quantizationInvalid", "", "quantizationError is not valid", NavframeU8, offsetof(UbxTimePulseRecord, quantizationInvalid), sizeof(UbxTimePulseRecord::quantizationInvalid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"notLocked", "", "the pulse does not follow GNSS time", NavframeU8, offsetof(UbxTimePulseRecord, notLocked), sizeof(UbxTimePulseRecord::notLocked), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"gnssReference", "", "system of a GNSS time base", NavframeU8, offsetof(UbxTimePulseRecord, gnssReference), sizeof(UbxTimePulseRecord::gnssReference), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxTimePulseRecordGnssReferenceValues, nullptr}, false, 0},
+    {{"utcStandard", "", "whose UTC", NavframeU8, offsetof(UbxTimePulseRecord, utcStandard), sizeof(UbxTimePulseRecord::utcStandard), 0, -1, 0, NavframeUnknownValue, 255, 10, UbxUtcStandardValues, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 53, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxTimePulseRecordLayout = LayoutOf<UbxTimePulseRecord, UbxTimePulseRecordMembers>("UbxTimePulseRecord");
+static_assert(CoversEveryByte(UbxTimePulseRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxTimePulseRecord> = UbxTimePulseRecordLayout;
+
+inline constexpr NavframeValueName UbxTimeMarkRecordRunningValues[] = {{0, "single"}, {1, "running"},};
+inline constexpr NavframeValueName UbxTimeMarkRecordStoppedValues[] = {{0, "armed"}, {1, "stopped"},};
+inline constexpr NavframeValueName UbxTimeMarkRecordTimeBaseValues[] = {{0, "receiver"}, {1, "GNSS"}, {2, "UTC"},};
+inline constexpr MemberRow UbxTimeMarkRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxTimeMarkRecord, tow), sizeof(UbxTimeMarkRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxTimeMarkRecord, week), sizeof(UbxTimeMarkRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxTimeMarkRecord, reserved), sizeof(UbxTimeMarkRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxTimeMarkRecord, timeText), sizeof(UbxTimeMarkRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"channel", "", "input of the signal", NavframeU8, offsetof(UbxTimeMarkRecord, channel), sizeof(UbxTimeMarkRecord::channel), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"running", "", "mode", NavframeU8, offsetof(UbxTimeMarkRecord, running), sizeof(UbxTimeMarkRecord::running), 0, -1, 0, NavframeUnknownValue, 255, 2, UbxTimeMarkRecordRunningValues, nullptr}, false, 0},
+    {{"stopped", "", "state", NavframeU8, offsetof(UbxTimeMarkRecord, stopped), sizeof(UbxTimeMarkRecord::stopped), 0, -1, 0, NavframeUnknownValue, 255, 2, UbxTimeMarkRecordStoppedValues, nullptr}, false, 0},
+    {{"newFalling", "", "a falling edge was seen", NavframeU8, offsetof(UbxTimeMarkRecord, newFalling), sizeof(UbxTimeMarkRecord::newFalling), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeBase", "", "time base", NavframeU8, offsetof(UbxTimeMarkRecord, timeBase), sizeof(UbxTimeMarkRecord::timeBase), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxTimeMarkRecordTimeBaseValues, nullptr}, false, 0},
+    {{"utcAvailable", "", "UTC is available", NavframeU8, offsetof(UbxTimeMarkRecord, utcAvailable), sizeof(UbxTimeMarkRecord::utcAvailable), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"timeValid", "", "the times are valid", NavframeU8, offsetof(UbxTimeMarkRecord, timeValid), sizeof(UbxTimeMarkRecord::timeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"newRising", "", "a rising edge was seen", NavframeU8, offsetof(UbxTimeMarkRecord, newRising), sizeof(UbxTimeMarkRecord::newRising), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"edges", "", "rising edges so far, modulo 65536", NavframeU16, offsetof(UbxTimeMarkRecord, edges), sizeof(UbxTimeMarkRecord::edges), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"risingWeek", "", "week of the last rising edge", NavframeU16, offsetof(UbxTimeMarkRecord, risingWeek), sizeof(UbxTimeMarkRecord::risingWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"fallingWeek", "", "week of the last falling edge", NavframeU16, offsetof(UbxTimeMarkRecord, fallingWeek), sizeof(UbxTimeMarkRecord::fallingWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 38, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"risingTow", "ms", "time of week of the last rising edge", NavframeU32, offsetof(UbxTimeMarkRecord, risingTow), sizeof(UbxTimeMarkRecord::risingTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"risingNanoseconds", "ns", "to be added to risingTow", NavframeU32, offsetof(UbxTimeMarkRecord, risingNanoseconds), sizeof(UbxTimeMarkRecord::risingNanoseconds), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"fallingTow", "ms", "time of week of the last falling edge", NavframeU32, offsetof(UbxTimeMarkRecord, fallingTow), sizeof(UbxTimeMarkRecord::fallingTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"fallingNanoseconds", "ns", "to be added to fallingTow", NavframeU32, offsetof(UbxTimeMarkRecord, fallingNanoseconds), sizeof(UbxTimeMarkRecord::fallingNanoseconds), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "ns", "accuracy of the times", NavframeU32, offsetof(UbxTimeMarkRecord, accuracy), sizeof(UbxTimeMarkRecord::accuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxTimeMarkRecordLayout = LayoutOf<UbxTimeMarkRecord, UbxTimeMarkRecordMembers>("UbxTimeMarkRecord");
+static_assert(CoversEveryByte(UbxTimeMarkRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxTimeMarkRecord> = UbxTimeMarkRecordLayout;
+
+inline constexpr NavframeValueName UbxSensorStatusCalibrationValues[] = {{0, "not begun"}, {1, "going on"}, {2, "done"}, {3, "done"},};
+inline constexpr NavframeValueName UbxSensorStatusTimingValues[] = {{0, "none"}, {1, "at the first byte received"}, {2, "at an event"}, {3, "sent with the data"},};
+inline constexpr MemberRow UbxSensorStatusMembers[] = {
+    {{"type", "", "kind of the sensor", NavframeU8, offsetof(UbxSensorStatus, type), sizeof(UbxSensorStatus::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
+    {{"used", "", "in the solution", NavframeU8, offsetof(UbxSensorStatus, used), sizeof(UbxSensorStatus::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"ready", "", "set up", NavframeU8, offsetof(UbxSensorStatus, ready), sizeof(UbxSensorStatus::ready), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"calibration", "", "calibration", NavframeU8, offsetof(UbxSensorStatus, calibration), sizeof(UbxSensorStatus::calibration), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxSensorStatusCalibrationValues, nullptr}, false, 0},
+    {{"timing", "", "time of the data", NavframeU8, offsetof(UbxSensorStatus, timing), sizeof(UbxSensorStatus::timing), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxSensorStatusTimingValues, nullptr}, false, 0},
+    {{"rate", "Hz", "rate of the data", NavframeU8, offsetof(UbxSensorStatus, rate), sizeof(UbxSensorStatus::rate), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"badMeasurement", "", "bad measurements were seen", NavframeU8, offsetof(UbxSensorStatus, badMeasurement), sizeof(UbxSensorStatus::badMeasurement), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"badTime", "", "bad times of measurements were seen", NavframeU8, offsetof(UbxSensorStatus, badTime), sizeof(UbxSensorStatus::badTime), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"missing", "", "measurements are missing or late", NavframeU8, offsetof(UbxSensorStatus, missing), sizeof(UbxSensorStatus::missing), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"noisy", "", "measurements are noisy", NavframeU8, offsetof(UbxSensorStatus, noisy), sizeof(UbxSensorStatus::noisy), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSensorStatusLayout = LayoutOf<UbxSensorStatus, UbxSensorStatusMembers>("UbxSensorStatus");
+static_assert(CoversEveryByte(UbxSensorStatusLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorStatus> = UbxSensorStatusLayout;
+
+inline constexpr NavframeValueName UbxFusionStatusRecordWheelTicksValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordMountingValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordInertialValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordInertialSensorsValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordFusionModeValues[] = {{0, "initializing"}, {1, "on"}, {2, "suspended"}, {3, "disabled"},};
+inline constexpr MemberRow UbxFusionStatusRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFusionStatusRecord, tow), sizeof(UbxFusionStatusRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxFusionStatusRecord, week), sizeof(UbxFusionStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFusionStatusRecord, reserved), sizeof(UbxFusionStatusRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxFusionStatusRecord, timeText), sizeof(UbxFusionStatusRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxFusionStatusRecord, version), sizeof(UbxFusionStatusRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"wheelTicks", "", "initialization of the wheel ticks", NavframeU8, offsetof(UbxFusionStatusRecord, wheelTicks), sizeof(UbxFusionStatusRecord::wheelTicks), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordWheelTicksValues, nullptr}, false, 0},
+    {{"mounting", "", "alignment of the mounting", NavframeU8, offsetof(UbxFusionStatusRecord, mounting), sizeof(UbxFusionStatusRecord::mounting), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordMountingValues, nullptr}, false, 0},
+    {{"inertial", "", "initialization of the navigation", NavframeU8, offsetof(UbxFusionStatusRecord, inertial), sizeof(UbxFusionStatusRecord::inertial), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordInertialValues, nullptr}, false, 0},
+    {{"inertialSensors", "", "initialization of the sensors", NavframeU8, offsetof(UbxFusionStatusRecord, inertialSensors), sizeof(UbxFusionStatusRecord::inertialSensors), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordInertialSensorsValues, nullptr}, false, 0},
+    {{"fusionMode", "", "fusion", NavframeU8, offsetof(UbxFusionStatusRecord, fusionMode), sizeof(UbxFusionStatusRecord::fusionMode), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordFusionModeValues, nullptr}, false, 0},
+    {{"count", "", "sensors", NavframeU8, offsetof(UbxFusionStatusRecord, count), sizeof(UbxFusionStatusRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sensors", "", "sensors in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFusionStatusRecord, sensors), sizeof(UbxFusionStatusRecord::sensors[0]), 255, 10, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSensorStatusLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 2581, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxFusionStatusRecordLayout = LayoutOf<UbxFusionStatusRecord, UbxFusionStatusRecordMembers>("UbxFusionStatusRecord");
+static_assert(CoversEveryByte(UbxFusionStatusRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxFusionStatusRecord> = UbxFusionStatusRecordLayout;
+
+inline constexpr MemberRow UbxSensorMeasurementMembers[] = {
+    {{"data", "", "number of 24 bits", NavframeU32, offsetof(UbxSensorMeasurement, data), sizeof(UbxSensorMeasurement::data), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"type", "", "what it measures", NavframeU8, offsetof(UbxSensorMeasurement, type), sizeof(UbxSensorMeasurement::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 5, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxSensorMeasurementLayout = LayoutOf<UbxSensorMeasurement, UbxSensorMeasurementMembers>("UbxSensorMeasurement");
+static_assert(CoversEveryByte(UbxSensorMeasurementLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorMeasurement> = UbxSensorMeasurementLayout;
+
+inline constexpr NavframeValueName UbxSensorMeasurementsRecordTimeMarkSentValues[] = {{0, "none"}, {1, "on input 0"}, {2, "on input 1"},};
+inline constexpr NavframeValueName UbxSensorMeasurementsRecordTimeMarkEdgeValues[] = {{0, "rising"}, {1, "falling"},};
+inline constexpr MemberRow UbxSensorMeasurementsRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxSensorMeasurementsRecord, tow), sizeof(UbxSensorMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSensorMeasurementsRecord, week), sizeof(UbxSensorMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSensorMeasurementsRecord, reserved), sizeof(UbxSensorMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSensorMeasurementsRecord, timeText), sizeof(UbxSensorMeasurementsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sensorTime", "", "time of the measurements, in the sensor's own ticks", NavframeU32, offsetof(UbxSensorMeasurementsRecord, sensorTime), sizeof(UbxSensorMeasurementsRecord::sensorTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"providerId", "", "who sent the data", NavframeU16, offsetof(UbxSensorMeasurementsRecord, providerId), sizeof(UbxSensorMeasurementsRecord::providerId), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"timeMarkSent", "", "time mark", NavframeU8, offsetof(UbxSensorMeasurementsRecord, timeMarkSent), sizeof(UbxSensorMeasurementsRecord::timeMarkSent), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxSensorMeasurementsRecordTimeMarkSentValues, nullptr}, false, 0},
+    {{"timeMarkEdge", "", "edge of the mark", NavframeU8, offsetof(UbxSensorMeasurementsRecord, timeMarkEdge), sizeof(UbxSensorMeasurementsRecord::timeMarkEdge), 0, -1, 0, NavframeUnknownValue, 255, 2, UbxSensorMeasurementsRecordTimeMarkEdgeValues, nullptr}, false, 0},
+    {{"hasCalibration", "", "calibrationTime is there", NavframeU8, offsetof(UbxSensorMeasurementsRecord, hasCalibration), sizeof(UbxSensorMeasurementsRecord::hasCalibration), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 33, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"calibrationTime", "ms", "receiver's time of the measurements", NavframeU32, offsetof(UbxSensorMeasurementsRecord, calibrationTime), sizeof(UbxSensorMeasurementsRecord::calibrationTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "measurements", NavframeU8, offsetof(UbxSensorMeasurementsRecord, count), sizeof(UbxSensorMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding1", "", "", NavframePadding, 41, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSensorMeasurementsRecord, measurements), sizeof(UbxSensorMeasurementsRecord::measurements[0]), 31, 11, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSensorMeasurementLayout}, false, 0},
+};
+inline constexpr RecordRow UbxSensorMeasurementsRecordLayout = LayoutOf<UbxSensorMeasurementsRecord, UbxSensorMeasurementsRecordMembers>("UbxSensorMeasurementsRecord");
+static_assert(CoversEveryByte(UbxSensorMeasurementsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorMeasurementsRecord> = UbxSensorMeasurementsRecordLayout;
+
+inline constexpr MemberRow UbxRawSensorMembers[] = {
+    {{"sensorTime", "", "time of the measurement, in the sensor's own ticks", NavframeU32, offsetof(UbxRawSensor, sensorTime), sizeof(UbxRawSensor::sensorTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"data", "", "number of 24 bits", NavframeU32, offsetof(UbxRawSensor, data), sizeof(UbxRawSensor::data), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"type", "", "what it measures", NavframeU8, offsetof(UbxRawSensor, type), sizeof(UbxRawSensor::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 9, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxRawSensorLayout = LayoutOf<UbxRawSensor, UbxRawSensorMembers>("UbxRawSensor");
+static_assert(CoversEveryByte(UbxRawSensorLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxRawSensor> = UbxRawSensorLayout;
+
+inline constexpr MemberRow UbxRawSensorsRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxRawSensorsRecord, tow), sizeof(UbxRawSensorsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRawSensorsRecord, week), sizeof(UbxRawSensorsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRawSensorsRecord, reserved), sizeof(UbxRawSensorsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRawSensorsRecord, timeText), sizeof(UbxRawSensorsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "measurements", NavframeU16, offsetof(UbxRawSensorsRecord, count), sizeof(UbxRawSensorsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawSensorsRecord, measurements), sizeof(UbxRawSensorsRecord::measurements[0]), 505, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxRawSensorLayout}, false, 0},
+};
+inline constexpr RecordRow UbxRawSensorsRecordLayout = LayoutOf<UbxRawSensorsRecord, UbxRawSensorsRecordMembers>("UbxRawSensorsRecord");
+static_assert(CoversEveryByte(UbxRawSensorsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxRawSensorsRecord> = UbxRawSensorsRecordLayout;
+
+inline constexpr MemberRow UbxInertialRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxInertialRecord, tow), sizeof(UbxInertialRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxInertialRecord, week), sizeof(UbxInertialRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxInertialRecord, reserved), sizeof(UbxInertialRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxInertialRecord, timeText), sizeof(UbxInertialRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxInertialRecord, version), sizeof(UbxInertialRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rateXValid", "", "rateX is valid", NavframeU8, offsetof(UbxInertialRecord, rateXValid), sizeof(UbxInertialRecord::rateXValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rateYValid", "", "rateY is valid", NavframeU8, offsetof(UbxInertialRecord, rateYValid), sizeof(UbxInertialRecord::rateYValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rateZValid", "", "rateZ is valid", NavframeU8, offsetof(UbxInertialRecord, rateZValid), sizeof(UbxInertialRecord::rateZValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationXValid", "", "accelerationX is valid", NavframeU8, offsetof(UbxInertialRecord, accelerationXValid), sizeof(UbxInertialRecord::accelerationXValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationYValid", "", "accelerationY is valid", NavframeU8, offsetof(UbxInertialRecord, accelerationYValid), sizeof(UbxInertialRecord::accelerationYValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationZValid", "", "accelerationZ is valid", NavframeU8, offsetof(UbxInertialRecord, accelerationZValid), sizeof(UbxInertialRecord::accelerationZValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rateX", "deg/s", "angular rate about X", NavframeF64, offsetof(UbxInertialRecord, rateX), sizeof(UbxInertialRecord::rateX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rateY", "deg/s", "angular rate about Y", NavframeF64, offsetof(UbxInertialRecord, rateY), sizeof(UbxInertialRecord::rateY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rateZ", "deg/s", "angular rate about Z", NavframeF64, offsetof(UbxInertialRecord, rateZ), sizeof(UbxInertialRecord::rateZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationX", "m/s2", "acceleration along X, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationX), sizeof(UbxInertialRecord::accelerationX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationY", "m/s2", "acceleration along Y, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationY), sizeof(UbxInertialRecord::accelerationY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accelerationZ", "m/s2", "acceleration along Z, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationZ), sizeof(UbxInertialRecord::accelerationZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxInertialRecordLayout = LayoutOf<UbxInertialRecord, UbxInertialRecordMembers>("UbxInertialRecord");
+static_assert(CoversEveryByte(UbxInertialRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxInertialRecord> = UbxInertialRecordLayout;
+
+inline constexpr NavframeValueName UbxMountingRecordStateValues[] = {{0, "configured"}, {1, "roll and pitch going on"}, {2, "roll pitch and yaw going on"}, {3, "coarse"}, {4, "fine"},};
+inline constexpr MemberRow UbxMountingRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxMountingRecord, tow), sizeof(UbxMountingRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxMountingRecord, week), sizeof(UbxMountingRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxMountingRecord, reserved), sizeof(UbxMountingRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxMountingRecord, timeText), sizeof(UbxMountingRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"version", "", "version of the message", NavframeU8, offsetof(UbxMountingRecord, version), sizeof(UbxMountingRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"automatic", "", "the receiver finds the angles itself", NavframeU8, offsetof(UbxMountingRecord, automatic), sizeof(UbxMountingRecord::automatic), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"state", "", "state", NavframeU8, offsetof(UbxMountingRecord, state), sizeof(UbxMountingRecord::state), 0, -1, 0, NavframeUnknownValue, 255, 5, UbxMountingRecordStateValues, nullptr}, false, 0},
+    {{"tiltError", "", "roll or pitch are in error", NavframeU8, offsetof(UbxMountingRecord, tiltError), sizeof(UbxMountingRecord::tiltError), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"yawError", "", "the yaw is in error", NavframeU8, offsetof(UbxMountingRecord, yawError), sizeof(UbxMountingRecord::yawError), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"angleError", "", "the angles are near a singularity", NavframeU8, offsetof(UbxMountingRecord, angleError), sizeof(UbxMountingRecord::angleError), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"yaw", "deg", "0 to 360", NavframeF64, offsetof(UbxMountingRecord, yaw), sizeof(UbxMountingRecord::yaw), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pitch", "deg", "-90 to 90", NavframeF64, offsetof(UbxMountingRecord, pitch), sizeof(UbxMountingRecord::pitch), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"roll", "deg", "-180 to 180", NavframeF64, offsetof(UbxMountingRecord, roll), sizeof(UbxMountingRecord::roll), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxMountingRecordLayout = LayoutOf<UbxMountingRecord, UbxMountingRecordMembers>("UbxMountingRecord");
+static_assert(CoversEveryByte(UbxMountingRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxMountingRecord> = UbxMountingRecordLayout;
+
+inline constexpr MemberRow UbxVersionRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxVersionRecord, tow), sizeof(UbxVersionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxVersionRecord, week), sizeof(UbxVersionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxVersionRecord, reserved), sizeof(UbxVersionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxVersionRecord, timeText), sizeof(UbxVersionRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"software", "", "version of the software", NavframeText, offsetof(UbxVersionRecord, software), sizeof(UbxVersionRecord::software), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hardware", "", "version of the hardware", NavframeText, offsetof(UbxVersionRecord, hardware), sizeof(UbxVersionRecord::hardware), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "extensions", NavframeU8, offsetof(UbxVersionRecord, count), sizeof(UbxVersionRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"extensions", "", "further texts in the order of the message, unknown values behind the last one", NavframeText, offsetof(UbxVersionRecord, extensions), sizeof(UbxVersionRecord::extensions[0]), 133, 6, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 4190, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxVersionRecordLayout = LayoutOf<UbxVersionRecord, UbxVersionRecordMembers>("UbxVersionRecord");
+static_assert(CoversEveryByte(UbxVersionRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxVersionRecord> = UbxVersionRecordLayout;
+
+inline constexpr NavframeValueName UbxInformationRecordSeverityValues[] = {{0, "error"}, {1, "warning"}, {2, "notice"}, {3, "test"}, {4, "debug"},};
+inline constexpr MemberRow UbxInformationRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxInformationRecord, tow), sizeof(UbxInformationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxInformationRecord, week), sizeof(UbxInformationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxInformationRecord, reserved), sizeof(UbxInformationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxInformationRecord, timeText), sizeof(UbxInformationRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"severity", "", "kind of the text", NavframeU8, offsetof(UbxInformationRecord, severity), sizeof(UbxInformationRecord::severity), 0, -1, 0, NavframeUnknownValue, 255, 5, UbxInformationRecordSeverityValues, nullptr}, false, 0},
+    {{"text", "", "up to the first byte 0 of the message", NavframeText, offsetof(UbxInformationRecord, text), sizeof(UbxInformationRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 4074, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxInformationRecordLayout = LayoutOf<UbxInformationRecord, UbxInformationRecordMembers>("UbxInformationRecord");
+static_assert(CoversEveryByte(UbxInformationRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxInformationRecord> = UbxInformationRecordLayout;
+
+inline constexpr MemberRow UbxAcknowledgeRecordMembers[] = {
+    {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxAcknowledgeRecord, tow), sizeof(UbxAcknowledgeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxAcknowledgeRecord, week), sizeof(UbxAcknowledgeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU16, offsetof(UbxAcknowledgeRecord, reserved), sizeof(UbxAcknowledgeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxAcknowledgeRecord, timeText), sizeof(UbxAcknowledgeRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accepted", "", "the message was taken", NavframeU8, offsetof(UbxAcknowledgeRecord, accepted), sizeof(UbxAcknowledgeRecord::accepted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"messageClass", "", "class of the message", NavframeU8, offsetof(UbxAcknowledgeRecord, messageClass), sizeof(UbxAcknowledgeRecord::messageClass), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"messageId", "", "id of the message", NavframeU8, offsetof(UbxAcknowledgeRecord, messageId), sizeof(UbxAcknowledgeRecord::messageId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow UbxAcknowledgeRecordLayout = LayoutOf<UbxAcknowledgeRecord, UbxAcknowledgeRecordMembers>("UbxAcknowledgeRecord");
+static_assert(CoversEveryByte(UbxAcknowledgeRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<UbxAcknowledgeRecord> = UbxAcknowledgeRecordLayout;
 
 inline constexpr NavframeValueName AsciiLogHeaderPortValues[] = {{0, "any other"}, {1, "COM1"}, {2, "COM2"}, {3, "COM3"}, {4, "THISPORT"}, {5, "XCOM1"}, {6, "XCOM2"}, {7, "XCOM3"}, {8, "USB1"}, {9, "USB2"}, {10, "USB3"}, {11, "COM1_30"}, {12, "ICOM1 to ICOM14"}, {13, "ICOM1 to ICOM14"}, {14, "ICOM1 to ICOM14"}, {15, "ICOM1 to ICOM14"}, {16, "ICOM1 to ICOM14"}, {17, "ICOM1 to ICOM14"}, {18, "ICOM1 to ICOM14"}, {19, "ICOM1 to ICOM14"}, {20, "ICOM1 to ICOM14"}, {21, "ICOM1 to ICOM14"}, {22, "ICOM1 to ICOM14"}, {23, "ICOM1 to ICOM14"}, {24, "ICOM1 to ICOM14"}, {25, "ICOM1 to ICOM14"},};
 inline constexpr NavframeValueName AsciiLogHeaderTimeStatusValues[] = {{20, "UNKNOWN"}, {60, "APPROXIMATE"}, {80, "COARSEADJUSTING"}, {100, "COARSE"}, {120, "COARSESTEERING"}, {130, "FREEWHEELING"}, {140, "FINEADJUSTING"}, {160, "FINE"}, {170, "FINEBACKUPSTEERING"}, {180, "FINESTEERING"}, {200, "SATTIME"}, {201, "LOCAL"},};

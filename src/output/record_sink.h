@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "base/number_text.h"
+#include "navframe/records_ubx_standard.h"
 #include "navframe/stream.h"
 #include "output/decoded_id_set.h"
 
@@ -19,8 +20,12 @@ struct [[nodiscard]] DecodeResult {
 };
 
 // Kinds whose records end alike as a rule: in unknown entries of a list, or in zeros.
-inline constexpr std::uint32_t RecurringKinds[] = {MsgIdBinary55Aa, MsgIdUbxSatellites,
-                                                   MsgIdUbxRawMeasurements};
+inline constexpr std::uint32_t RecurringKinds[] = {
+    MsgIdBinary55Aa,      MsgIdUbxSatellites,     MsgIdUbxRawMeasurements,
+    MsgIdUbxSignals,      MsgIdUbxFullSatellites, MsgIdUbxChannels,
+    MsgIdUbxSubframe,     MsgIdUbxMeasurements,   MsgIdUbxSensorMeasurements,
+    MsgIdUbxFusionStatus, MsgIdUbxRawSensors,     MsgIdUbxVersion,
+    MsgIdUbxInformation};
 
 // Room for a record of these.
 struct RecurringRoom {

@@ -41,7 +41,7 @@ struct FrameDecoders {
   explicit FrameDecoders(RecordSink& sink, const Dialect& differences = LegacyDialect)
       : dialect(differences),
         nmea{sink, time, dialect},
-        ubx{sink, time},
+        ubx{sink, time, dialect},
         binary55Aa{sink},
         rtcm{sink, time, dialect},
         asciiLog{sink, dialect} {}

@@ -20,6 +20,16 @@ std::int64_t LeapSecondsOf(std::uint32_t tow, const UTCTIME& utc, std::int32_t n
   return (tow + WeekMs - ofDay + SecondMs / 2) % DayMs / SecondMs;
 }
 
+// Time of week, fraction and week at the front of a payload. A fraction is below a millisecond.
+void KeepWeekAndTow(const std::uint8_t* p, bool isValid, DecoderClock& clock) {
+  const auto tow = ReadLe<std::uint32_t>(p, 0);
+  const auto week = ReadLe<std::int16_t>(p, 8);
+  if (!isValid || week < 0) return KeepTow(tow, clock);
+  if (tow < WeekMs) {
+    true_clock::SetGpsTime({tow, static_cast<std::uint16_t>(week), 0}, NavframeTimeFromUbx, clock);
+  }
+}
+
 }  // namespace
 
 void KeepNavigationTime(const Payload& payload, DecoderClock& clock) {
@@ -61,6 +71,35 @@ void KeepRawTime(const Payload& payload, DecoderClock& clock) {
   true_clock::SetGpsTime(
       {static_cast<std::uint32_t>(ms), ReadLe<std::uint16_t>(payload.bytes, 8), 0},
       NavframeTimeFromUbx, clock);
+}
+
+void KeepSolutionTime(const Payload& payload, DecoderClock& clock) {
+  constexpr std::uint8_t WeekAndTow = 0x0C;
+  KeepWeekAndTow(payload.bytes, (payload.bytes[11] & WeekAndTow) == WeekAndTow, clock);
+}
+
+void KeepGpsTime(const Payload& payload, DecoderClock& clock) {
+  constexpr std::uint8_t WeekAndTow = 0x03;
+  const std::uint8_t valid = payload.bytes[11];
+  const auto leapSeconds = ReadLe<std::int8_t>(payload.bytes, 10);
+  if (Bits(valid, 2, 1) != 0 && leapSeconds >= 0) clock.setLeap(leapSeconds);
+  KeepWeekAndTow(payload.bytes, (valid & WeekAndTow) == WeekAndTow, clock);
+}
+
+void KeepUtc(const Payload& payload, DecoderClock& clock) {
+  const std::uint8_t* const p = payload.bytes;
+  if (Bits(p[19], 2, 1) == 0) return KeepTow(ReadLe<std::uint32_t>(p, 0), clock);
+  true_clock::SetUtc({.year = ReadLe<std::uint16_t>(p, 12),
+                      .month = p[14],
+                      .day = p[15],
+                      .hour = p[16],
+                      .minute = p[17],
+                      .second = p[18],
+                      .reserved0 = 0,
+                      .millisecond = 0,
+                      .flag = 0,
+                      .reserved1 = 0},
+                     ReadLe<std::int32_t>(p, 8), {}, NavframeTimeFromUbx, clock);
 }
 
 void KeepTow(std::uint32_t tow, DecoderClock& clock) {

@@ -17,6 +17,12 @@ void KeepNavigationTime(const Payload& payload, DecoderClock& clock);
 // satellites: before that both may be its own.
 void KeepRawTime(const Payload& payload, DecoderClock& clock);
 
+// The week and time of week of NAV-SOL and NAV-TIMEGPS, the leap seconds of the latter, and the
+// date and time of day of NAV-TIMEUTC, each as far as it is valid.
+void KeepSolutionTime(const Payload& payload, DecoderClock& clock);
+void KeepGpsTime(const Payload& payload, DecoderClock& clock);
+void KeepUtc(const Payload& payload, DecoderClock& clock);
+
 // A time of week alone. A receiver without a time counts from its start, so it says nothing before
 // the week is known.
 void KeepTow(std::uint32_t tow, DecoderClock& clock);

@@ -3,15 +3,18 @@
 
 #include <cstdint>
 
+#include "base/dialect.h"
 #include "output/record_sink.h"
 #include "time/decoder_clock.h"
+#include "ubx/frame.h"
 
 namespace navframe::ubx {
 
 class UbxDecoder {
  public:
-  // `sink` and `time` must outlive the decoder.
-  UbxDecoder(RecordSink& sink, DecoderClock& time) : sink_(sink), time_(time) {}
+  // `sink`, `time` and `dialect` must outlive the decoder.
+  UbxDecoder(RecordSink& sink, DecoderClock& time, const Dialect& dialect = LegacyDialect)
+      : sink_(sink), time_(time), dialect_(dialect) {}
 
   // Decodes a whole frame of `length` bytes, or does nothing when it is of no known message, of a
   // length that its message does not have, or blocked by the output filter.
@@ -21,8 +24,12 @@ class UbxDecoder {
   void ReportCheckError();
 
  private:
+  template <class Row>
+  DecodeResult DecodeBy(const Row& row, std::uint32_t kind, const Payload& payload);
+
   RecordSink& sink_;
   DecoderClock& time_;
+  const Dialect& dialect_;
 };
 
 }  // namespace navframe::ubx

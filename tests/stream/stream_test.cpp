@@ -60,7 +60,7 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {Vtg, "NMEA GPVTG 38 =1\n  VTG\n"},
       {First(Vtg, 36) + Vtg, "NMEA GPVTG 36 =1\n  VTG\nNMEA GPVTG 38 =1\n  VTG\n"},
       {Unknown, "NMEA GPTXT 27 =0 no kind\n"},
-      {UbxFrame(0x0A, 0x04, Bytes(10)), "UBX 0A04 18 =0 no kind\n"},
+      {UbxFrame(0x0A, 0x09, Bytes(10)), "UBX 0A09 18 =0 no kind\n"},
       {UbxFrame(0x01, 0x07, Bytes(4)), "UBX 0107 12 =0 content\n"},
       {Frame55Aa(Bytes(8)), "55AA 8 15 =0 no kind\n"},
       {Station, "RTCM 3 1005 25 =1\n  STATION\n"},
@@ -230,12 +230,12 @@ TEST(Streams, AQuietLineGivesUpWhatAWholeFrameStandsBehind) {
   EXPECT_EQ(watched.Put(UbxHeader(4000) + Gga(5)), "");
   EXPECT_NE(watched.Idle(), "");
   // A frame that is still coming is waited for.
-  const Bytes slow = UbxFrame(0x0A, 0x04, Bytes(1000));
+  const Bytes slow = UbxFrame(0x0A, 0x09, Bytes(1000));
   for (std::size_t at = 0; at < slow.size(); at += 100) {
     const Bytes piece(slow.begin() + static_cast<std::ptrdiff_t>(at),
                       slow.begin() + static_cast<std::ptrdiff_t>(std::min(at + 100, slow.size())));
     const bool last = at + 100 >= slow.size();
-    EXPECT_EQ(watched.PutIdle(piece), last ? "UBX 0A04 1008 =0 no kind\n" : "") << at;
+    EXPECT_EQ(watched.PutIdle(piece), last ? "UBX 0A09 1008 =0 no kind\n" : "") << at;
   }
   // So is the second sentence of two, but not a line end.
   EXPECT_EQ(watched.PutIdle(Gsv1), "NMEA GPGSV 52 =0\n");
@@ -247,7 +247,7 @@ TEST(Streams, AQuietLineGivesUpWhatAWholeFrameStandsBehind) {
 }
 
 TEST(Streams, AStrongerCheckWins) {
-  const Bytes ubx = UbxFrame(0x0A, 0x04, Bytes(20));
+  const Bytes ubx = UbxFrame(0x0A, 0x09, Bytes(20));
   // A sentence whose checksum lies in the frame that begins in it.
   const std::string checked = Sentence("GPXXX,\xD3\x01\x01xx");
   const Bytes reaching = ToBytes(checked.substr(0, 7)) +
@@ -258,15 +258,15 @@ TEST(Streams, AStrongerCheckWins) {
        "55AA 164 171 =0 no kind\n"
        "55AA rejected stronger 171\nskipped 9\nRTCM 3 25 =0 no kind\nskipped 136\n"},
       {Frame55Aa(ubx + Bytes(136)),
-       "55AA rejected stronger 171\nskipped 5\nUBX 0A04 28 =0 no kind\nskipped 137\n"},
+       "55AA rejected stronger 171\nskipped 5\nUBX 0A09 28 =0 no kind\nskipped 137\n"},
       // The checksum of one is the first byte of the other.
       {Frame55Aa(Bytes{0xCB} + Bytes(7)) + Bytes(Zeros.begin() + 1, Zeros.end()),
        "55AA rejected stronger 15\nskipped 13\nRTCM 3 25 =0 no kind\n"},
-      {UbxFrame(0x0A, 0x04, Zeros + Bytes(3)),
+      {UbxFrame(0x0A, 0x09, Zeros + Bytes(3)),
        "UBX rejected stronger 36\nskipped 5\nRTCM 3 25 =0 no kind\nskipped 5\n"},
       // Neither a weaker one, nor an equal one.
       {RtcmFrame(Bytes(2) + ubx), "RTCM 3 36 =0 no kind\n"},
-      {UbxFrame(0x0A, 0x04, Vtg + ubx), "UBX 0A04 74 =0 no kind\n"},
+      {UbxFrame(0x0A, 0x09, Vtg + ubx), "UBX 0A09 74 =0 no kind\n"},
       {Frame55Aa(Vtg + Bytes(126)), "55AA 164 171 =0 no kind\n"},
       // A head with a stronger check that is none, and one that never comes to its end.
       {Frame55Aa(Damaged(Zeros) + Bytes(139)), "55AA 164 171 =0 no kind\n"},
@@ -327,18 +327,18 @@ struct Counted {
 };
 const Counted Captures[] = {{"nmea-multi-gnss.nmea", 1015, 0, 0, 0, 0},
                             {"nmea-times-whole-seconds.nmea", 151, 0, 0, 56, 0},
-                            {"ubx-nav-pvt-sat.ubx", 0, 2982, 0, 2383, 1},
-                            {"ubx-rawx-sfrbx.ubx", 0, 1200, 0, 1125, 0},
-                            {"ubx-nav-att.ubx", 0, 1621, 0, 1094, 0},
-                            {"ubx-nav-all-with-pl.ubx", 0, 60, 0, 54, 0},
+                            {"ubx-nav-pvt-sat.ubx", 0, 2982, 0, 0, 1},
+                            {"ubx-rawx-sfrbx.ubx", 0, 1200, 0, 0, 0},
+                            {"ubx-nav-att.ubx", 0, 1621, 0, 562, 0},
+                            {"ubx-nav-all-with-pl.ubx", 0, 60, 0, 22, 0},
                             {"rtcm3-msm4-1013.rtcm3", 0, 0, 688, 214, 0},
                             {"rtcm3-msm5.rtcm3", 0, 0, 243, 109, 0},
                             {"rtcm3-msm7.rtcm3", 0, 0, 296, 19, 230},
                             {"rtcm3-one-of-each.rtcm3", 0, 0, 35, 24, 0},
-                            {"mixed-ubx-nmea-rtcm3.bin", 871, 277, 224, 351, 1},
-                            {"mixed-nmea-ubx-rawx.bin", 2620, 1963, 0, 1309, 377},
+                            {"mixed-ubx-nmea-rtcm3.bin", 871, 277, 224, 141, 1},
+                            {"mixed-nmea-ubx-rawx.bin", 2620, 1963, 0, 0, 377},
                             {"damaged-nmea-between-foreign-binary.bin", 2080, 0, 0, 130, 77244},
-                            {"damaged-ubx-checksums.ubx", 0, 25, 0, 24, 532},
+                            {"damaged-ubx-checksums.ubx", 0, 25, 0, 11, 532},
                             {"damaged-nmea-checksums.nmea", 96, 0, 0, 1, 2141}};
 
 TEST(Streams, CapturesAreWhollyAccountedFor) {

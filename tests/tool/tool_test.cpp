@@ -87,7 +87,7 @@ std::string OneOfEach() {
 }
 
 TEST_F(Tool, Options) {
-  constexpr const char* All = "VTG ZDA GGA NAV-PVT STATION 55AA BESTPOS";
+  constexpr const char* All = "VTG ZDA GGA NAV-PVT-WIDE STATION 55AA BESTPOS";
   const struct {
     const char* command;
     int status;
@@ -101,11 +101,11 @@ TEST_F(Tool, Options) {
       {"navframe --chunk 8388609 $IN", 2, "", "8388609"},
       {"navframe --chunk 0 $IN", 2, "", "--chunk"},
       {"navframe --quiet --protocols tagblock,nmea $IN", 0, "VTG ZDA GGA", ""},
-      {"navframe --protocols rtcm,UBX - <$IN", 0, "NAV-PVT STATION", ""},
+      {"navframe --protocols rtcm,UBX - <$IN", 0, "NAV-PVT-WIDE STATION", ""},
       {"navframe --protocols 55aa --protocols log $IN", 0, "55AA BESTPOS", ""},
       {"navframe --protocols nmea,none $IN", 2, "", "none"},
       {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION BESTPOS", ""},
-      {"navframe --quiet --only 102 $IN", 0, "NAV-PVT", ""},
+      {"navframe --quiet --only 102 $IN", 0, "NAV-PVT-WIDE", ""},
       {"navframe --only vtg $IN", 0, "VTG", "malformed"},
       {"navframe --only 102x $IN", 2, "", "no kind of record is called 102x"},
       {"navframe $DIR/none", 1, "", "/none: No such file"},
@@ -139,7 +139,7 @@ TEST_F(Tool, Statistics) {
   const std::string input = OneOfEach() + "??" + OneOfEach() + Sentence("GPTXT,01") +
                             Text(RtcmFrame({0x43, 0x50})) + Text(RtcmFrame({0x4C, 0xE0}));
   EXPECT_THAT(Run("navframe --quiet --stats $IN", input).err,
-              MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT +2\nBESTPOS +2\n"
+              MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT-WIDE +2\nBESTPOS +2\n"
                            "bad content RTCM 3 1077 +1\n"
                            "undecoded NMEA GPTXT +1\nundecoded RTCM 3 1230 +1\n"
                            "NMEA: 7 frames, [0-9]+ bytes, 0 false starts\n"
