@@ -120,9 +120,31 @@ Bytes UbxProtectionLevels(const Epoch& epoch) {
   return UbxFrame(0x01, 0x62, p.Written());
 }
 
+Bytes UbxSignals(const Epoch& epoch) {
+  const std::size_t count = 2 * epoch.satellites.size();
+  LittleEndian p;
+  p.U32(epoch.tow).U8(0).U8(count).Zeros(2);
+  for (std::size_t i = 0; i < count; ++i) {
+    const Satellite& satellite = epoch.satellites[i / 2];
+    p.U8(static_cast<unsigned>(UbxSystems[static_cast<std::size_t>(satellite.system)]));
+    p.U8(static_cast<unsigned>(UbxNumber(satellite))).U8(i % 2 == 0 ? 0 : 3);
+    p.U8(satellite.system == Glonass ? 5 : 0).I16(static_cast<int>(satellite.rate) % 40);
+    p.U8(static_cast<unsigned>(Cn0(satellite))).U8(7).U8(1).U8(2).I16(0x0169).Zeros(4);
+  }
+  return UbxFrame(0x01, 0x43, p.Written());
+}
+
+Bytes UbxGpsTime(const Epoch& epoch) {
+  LittleEndian p;
+  p.U32(epoch.tow).I32(-1234).U16(epoch.week).U8(18).U8(0x07).U32(25);
+  return UbxFrame(0x01, 0x20, p.Written());
+}
+
 Bytes UbxFurther(const Epoch& epoch) {
   Bytes bytes = UbxAttitude(epoch);
   Append(bytes, UbxProtectionLevels(epoch));
+  Append(bytes, UbxSignals(epoch));
+  Append(bytes, UbxGpsTime(epoch));
   return bytes;
 }
 

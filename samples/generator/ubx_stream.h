@@ -18,8 +18,10 @@ Bytes UbxRawMeasurements(const Epoch& epoch);
 // Attitude (0x01 0x05), protection levels (0x01 0x62).
 Bytes UbxAttitude(const Epoch& epoch);
 Bytes UbxProtectionLevels(const Epoch& epoch);
-// One frame of each message that the streams below need not have: attitude, protection levels. The
-// place for a new one.
+// Signals (0x01 0x43), two of each satellite; GPS time (0x01 0x20).
+Bytes UbxSignals(const Epoch& epoch);
+Bytes UbxGpsTime(const Epoch& epoch);
+// One frame of each message that the streams below need not have. The place for a new one.
 Bytes UbxFurther(const Epoch& epoch);
 // A frame of one of the four lengths that are decoded.
 Bytes Binary55Aa(const Epoch& epoch);
