@@ -37,9 +37,11 @@ class SlotSink final : public RecordSink {
 
   std::array<std::unique_ptr<std::uint64_t[]>, Slots> memory_;
   struct OwnRoom {
-    std::unique_ptr<std::uint64_t[]> memory;
+    std::uint32_t offset = 0;  // [B] in ownMemory_
     std::uint32_t written = 0;
   };
+  // One block, so that only the rooms of kinds that come cost memory.
+  std::unique_ptr<std::uint64_t[]> ownMemory_;
   std::array<OwnRoom, std::size(RecurringKinds)> ownRooms_;
   std::array<SlotRecord, Slots> records_;
   std::uint32_t count_ = 0;
