@@ -256,12 +256,45 @@ void ReadField(const std::uint8_t* block, std::uint8_t* record) {
 template <const auto& Rows, std::size_t Index>
 constexpr const FieldRow& RowAt = Rows[Index];
 
+// Whether a row is the next bit of the same field, and its member the next byte.
+constexpr bool GoesOn(const FieldRow& row, const FieldRow& next) {
+  return row.bits == 1 && next.bits == 1 && row.size == 1 && next.size == 1 &&
+         next.offset == row.offset && next.wire == row.wire && next.lowest == row.lowest + 1 &&
+         next.member == row.member + 1 && next.known == nullptr && row.known == nullptr;
+}
+
+// How many rows before or behind one go on like this.
+template <const auto& Rows, std::size_t Index>
+constexpr std::size_t FlagsBefore = [] {
+  std::size_t count = 0;
+  while (count < Index && GoesOn(Rows[Index - count - 1], Rows[Index - count])) ++count;
+  return count;
+}();
+template <const auto& Rows, std::size_t Index>
+constexpr std::size_t FlagsBehind = [] {
+  std::size_t count = 0;
+  while (Index + count + 1 < std::size(Rows) &&
+         GoesOn(Rows[Index + count], Rows[Index + count + 1])) {
+    ++count;
+  }
+  return count;
+}();
+
 // The rows of a payload or block of `length` bytes, at least `Shortest`: those that it ends before
 // are not known.
 template <class Record, const auto& Rows, std::size_t Shortest>
 void ReadFields(const std::uint8_t* block, std::size_t length, std::uint8_t* record) {
   const auto read = [&]<std::size_t Index> {
     constexpr const FieldRow& Row = RowAt<Rows, Index>;
+    constexpr std::size_t AtOnce = 8;  // flags
+    if constexpr (EndOf(Row) <= Shortest && FlagsBefore<Rows, Index> % AtOnce != 0) {
+      return;
+    } else if constexpr (EndOf(Row) <= Shortest && FlagsBehind<Rows, Index> != 0) {
+      constexpr std::size_t Count = std::min(FlagsBehind<Rows, Index> + 1, AtOnce);
+      const std::uint32_t flags = ReadWire<Row.wire>(block + Row.offset) >> Row.lowest;
+      std::memcpy(record + Row.member, FlagsOfByte[flags & 0xFFU].data(), Count);
+      return;
+    }
     bool known = true;
     if constexpr (EndOf(Row) > Shortest) known = length >= EndOf(Row);
     if constexpr (Row.known != nullptr) known = known && Row.known(block);

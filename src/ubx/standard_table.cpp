@@ -213,6 +213,25 @@ constexpr StandardRow Rows[] = {
 };
 static_assert(std::ranges::is_sorted(Rows, {}, &StandardRow::message));
 
+// The first row of each message: looked up for every frame.
+constexpr std::uint8_t NoRow = 255;
+struct Places {
+  std::array<std::uint8_t, 256> classes{};  // by class its place in `firsts`; 0 for none
+  std::array<std::array<std::uint8_t, 256>, 8> firsts{};
+};
+constexpr Places FirstRows = [] {
+  Places places;
+  for (auto& ids : places.firsts) ids.fill(NoRow);
+  std::uint8_t classes = 0;
+  for (std::size_t i = std::size(Rows); i-- > 0;) {
+    std::uint8_t& place = places.classes[Rows[i].message >> 8U];
+    if (place == 0) place = ++classes;
+    places.firsts[place][Rows[i].message & 0xFFU] = static_cast<std::uint8_t>(i);
+  }
+  return places;
+}();
+static_assert(std::size(Rows) < NoRow);
+
 // Whether the payload has the version of a row; `isCut` when it ends before its version.
 bool HasVersion(const StandardRow& row, const Payload& payload, bool& isCut) {
   if (row.versionOffset == NoVersion) return true;
@@ -224,10 +243,10 @@ bool HasVersion(const StandardRow& row, const Payload& payload, bool& isCut) {
 
 StandardAnswer FindStandard(std::uint8_t messageClass, std::uint8_t id, const Payload& payload) {
   const auto message = static_cast<std::uint16_t>(messageClass << 8U | id);
-  const auto* row = std::ranges::lower_bound(Rows, message, {}, &StandardRow::message);
-  StandardAnswer answer{false, nullptr, NavframeNoKind};
-  for (; row != std::end(Rows) && row->message == message; ++row) {
-    answer.isListed = true;
+  const std::uint8_t first = FirstRows.firsts[FirstRows.classes[messageClass]][id];
+  if (first == NoRow) return {false, nullptr, NavframeNoKind};
+  StandardAnswer answer{true, nullptr, NavframeNoKind};
+  for (const auto* row = Rows + first; row != std::end(Rows) && row->message == message; ++row) {
     bool isCut = false;
     const bool isThis = HasVersion(*row, payload, isCut);
     if (isThis && row->takes(payload)) return {true, row, NavframeNoReason};
