@@ -14,14 +14,14 @@ extern "C" {
 /* Values UbxQuality: 0 no signal, 1 searching, 2 acquired, 3 detected but unusable, 4 code locked,
  * 5 to 7 code and carrier locked. */
 
-/* One satellite of UbxFullSatellitesRecord. 40 bytes. */
+/* One satellite of UbxFullSatellitesRecord. 28 bytes. */
 typedef struct UbxFullSatellite {
   uint8_t systemId;    /* satellite system; as sent; values UbxSystem */
   uint8_t satelliteId; /* satellite number; as sent */
   uint8_t cn0;         /* [dB-Hz] carrier-to-noise density */
   int8_t elevation;    /* [deg] -90 to 90; unknown with a false elevation */
   int16_t azimuth;     /* [deg] 0 to 360; unknown with a false elevation */
-  double residual;     /* [m] residual of the pseudorange */
+  int16_t residual;    /* [0.1 m] residual of the pseudorange */
   uint8_t quality;     /* quality of the signal; values UbxQuality */
   uint8_t used;        /* in the solution; flag; unknown 255 */
   uint8_t health;      /* health; values 0 unknown, 1 healthy, 2 unhealthy */
@@ -46,7 +46,7 @@ typedef struct UbxFullSatellite {
   uint8_t hasCorrections;       /* Galileo HAS corrections were used; flag; unknown 255 */
 } UbxFullSatellite;
 
-/* Satellites, NAV-SAT (class 0x01, id 0x35) version 1 of 8 + 12 n bytes. MsgId 66066. 10232
+/* Satellites, NAV-SAT (class 0x01, id 0x35) version 1 of 8 + 12 n bytes. MsgId 66066. 7168
  * bytes. */
 typedef struct UbxFullSatellitesRecord {
   uint32_t tow;                     /* [ms] GPS time of week of the message */
@@ -59,13 +59,13 @@ typedef struct UbxFullSatellitesRecord {
                                        the last one; counted by count */
 } UbxFullSatellitesRecord;
 
-/* One signal of UbxSignalsRecord. 32 bytes. */
+/* One signal of UbxSignalsRecord. 20 bytes. */
 typedef struct UbxSignal {
   uint8_t systemId;         /* satellite system; as sent; values UbxSystem */
   uint8_t satelliteId;      /* satellite number; as sent */
   uint8_t signalId;         /* signal of the system; as sent */
   uint8_t frequencySlot;    /* of GLONASS the slot + 7, 0 to 13; as sent */
-  double residual;          /* [m] residual of the pseudorange */
+  int16_t residual;         /* [0.1 m] residual of the pseudorange */
   uint8_t cn0;              /* [dB-Hz] carrier-to-noise density */
   uint8_t quality;          /* quality of the signal; values UbxQuality */
   uint8_t correctionSource; /* where corrections come from; values 0 none, 1 SBAS, 2 BeiDou, 3 RTCM
@@ -84,7 +84,7 @@ typedef struct UbxSignal {
   uint8_t authenticated;      /* the navigation message was authenticated; flag; unknown 255 */
 } UbxSignal;
 
-/* Signals, NAV-SIG (class 0x01, id 0x43) version 0 of 8 + 16 n bytes. MsgId 66067. 8192 bytes. */
+/* Signals, NAV-SIG (class 0x01, id 0x43) version 0 of 8 + 16 n bytes. MsgId 66067. 5128 bytes. */
 typedef struct UbxSignalsRecord {
   uint32_t tow;           /* [ms] GPS time of week of the message */
   uint16_t week;          /* the decoder's GPS week */
@@ -96,7 +96,7 @@ typedef struct UbxSignalsRecord {
                              one; counted by count */
 } UbxSignalsRecord;
 
-/* One channel of UbxChannelsRecord. 24 bytes. */
+/* One channel of UbxChannelsRecord. 20 bytes. */
 typedef struct UbxChannel {
   uint8_t channel;         /* number of the channel; unknown 255 */
   uint8_t satelliteId;     /* satellite number over all systems; as sent */
@@ -113,10 +113,10 @@ typedef struct UbxChannel {
   uint8_t cn0;      /* [dB-Hz] carrier-to-noise density */
   int8_t elevation; /* [deg] -90 to 90; unknown with a false elevation */
   int16_t azimuth;  /* [deg] 0 to 360; unknown with a false elevation */
-  double residual;  /* [m] residual of the pseudorange */
+  int32_t residual; /* [0.01 m] residual of the pseudorange */
 } UbxChannel;
 
-/* Channels, NAV-SVINFO (class 0x01, id 0x30) of 8 + 12 n bytes. MsgId 66068. 6152 bytes. */
+/* Channels, NAV-SVINFO (class 0x01, id 0x30) of 8 + 12 n bytes. MsgId 66068. 5128 bytes. */
 typedef struct UbxChannelsRecord {
   uint32_t tow;             /* [ms] GPS time of week of the message */
   uint16_t week;            /* the decoder's GPS week */
@@ -201,12 +201,12 @@ typedef struct UbxMeasurementsRecord {
 #ifdef __cplusplus
 } /* extern "C" */
 
-static_assert(sizeof(UbxFullSatellite) == 40);
-static_assert(sizeof(UbxFullSatellitesRecord) == 10232);
-static_assert(sizeof(UbxSignal) == 32);
-static_assert(sizeof(UbxSignalsRecord) == 8192);
-static_assert(sizeof(UbxChannel) == 24);
-static_assert(sizeof(UbxChannelsRecord) == 6152);
+static_assert(sizeof(UbxFullSatellite) == 28);
+static_assert(sizeof(UbxFullSatellitesRecord) == 7168);
+static_assert(sizeof(UbxSignal) == 20);
+static_assert(sizeof(UbxSignalsRecord) == 5128);
+static_assert(sizeof(UbxChannel) == 20);
+static_assert(sizeof(UbxChannelsRecord) == 5128);
 static_assert(sizeof(UbxSubframeRecord) == 1052);
 static_assert(sizeof(UbxRtcmInputRecord) == 36);
 static_assert(sizeof(UbxMeasurement) == 48);

@@ -1260,8 +1260,7 @@ inline constexpr MemberRow UbxFullSatelliteMembers[] = {
     {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxFullSatellite, cn0), sizeof(UbxFullSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"elevation", "deg", "-90 to 90; unknown with a false elevation", NavframeI8, offsetof(UbxFullSatellite, elevation), sizeof(UbxFullSatellite::elevation), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "0 to 360; unknown with a false elevation", NavframeI16, offsetof(UbxFullSatellite, azimuth), sizeof(UbxFullSatellite::azimuth), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
-    {{"padding0", "", "", NavframePadding, 6, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxFullSatellite, residual), sizeof(UbxFullSatellite::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "0.1 m", "residual of the pseudorange", NavframeI16, offsetof(UbxFullSatellite, residual), sizeof(UbxFullSatellite::residual), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
     {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxFullSatellite, quality), sizeof(UbxFullSatellite::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxQualityValues, nullptr}, false, 0},
     {{"used", "", "in the solution", NavframeU8, offsetof(UbxFullSatellite, used), sizeof(UbxFullSatellite::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"health", "", "health", NavframeU8, offsetof(UbxFullSatellite, health), sizeof(UbxFullSatellite::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFullSatelliteHealthValues, nullptr}, false, 0},
@@ -1282,7 +1281,6 @@ inline constexpr MemberRow UbxFullSatelliteMembers[] = {
     {{"clasCorrections", "", "QZSS CLAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, clasCorrections), sizeof(UbxFullSatellite::clasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"lppCorrections", "", "corrections over LPP were used", NavframeU8, offsetof(UbxFullSatellite, lppCorrections), sizeof(UbxFullSatellite::lppCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"hasCorrections", "", "Galileo HAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, hasCorrections), sizeof(UbxFullSatellite::hasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
-    {{"padding1", "", "", NavframePadding, 36, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow UbxFullSatelliteLayout = LayoutOf<UbxFullSatellite, UbxFullSatelliteMembers>("UbxFullSatellite");
 static_assert(CoversEveryByte(UbxFullSatelliteLayout));
@@ -1295,8 +1293,8 @@ inline constexpr MemberRow UbxFullSatellitesRecordMembers[] = {
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxFullSatellitesRecord, timeText), sizeof(UbxFullSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxFullSatellitesRecord, version), sizeof(UbxFullSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites", NavframeU8, offsetof(UbxFullSatellitesRecord, count), sizeof(UbxFullSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFullSatellitesRecord, satellites), sizeof(UbxFullSatellitesRecord::satellites[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxFullSatelliteLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 7166, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow UbxFullSatellitesRecordLayout = LayoutOf<UbxFullSatellitesRecord, UbxFullSatellitesRecordMembers>("UbxFullSatellitesRecord");
 static_assert(CoversEveryByte(UbxFullSatellitesRecordLayout));
@@ -1310,8 +1308,7 @@ inline constexpr MemberRow UbxSignalMembers[] = {
     {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSignal, satelliteId), sizeof(UbxSignal::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"signalId", "", "signal of the system", NavframeU8, offsetof(UbxSignal, signalId), sizeof(UbxSignal::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"frequencySlot", "", "of GLONASS the slot + 7, 0 to 13", NavframeU8, offsetof(UbxSignal, frequencySlot), sizeof(UbxSignal::frequencySlot), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
-    {{"padding0", "", "", NavframePadding, 4, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxSignal, residual), sizeof(UbxSignal::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "0.1 m", "residual of the pseudorange", NavframeI16, offsetof(UbxSignal, residual), sizeof(UbxSignal::residual), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxSignal, cn0), sizeof(UbxSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxSignal, quality), sizeof(UbxSignal::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxQualityValues, nullptr}, false, 0},
     {{"correctionSource", "", "where corrections come from", NavframeU8, offsetof(UbxSignal, correctionSource), sizeof(UbxSignal::correctionSource), 0, -1, 0, NavframeUnknownValue, 255, 11, UbxSignalCorrectionSourceValues, nullptr}, false, 0},
@@ -1325,7 +1322,7 @@ inline constexpr MemberRow UbxSignalMembers[] = {
     {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxSignal, carrierCorrections), sizeof(UbxSignal::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSignal, dopplerCorrections), sizeof(UbxSignal::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"authenticated", "", "the navigation message was authenticated", NavframeU8, offsetof(UbxSignal, authenticated), sizeof(UbxSignal::authenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
-    {{"padding1", "", "", NavframePadding, 29, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 19, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow UbxSignalLayout = LayoutOf<UbxSignal, UbxSignalMembers>("UbxSignal");
 static_assert(CoversEveryByte(UbxSignalLayout));
@@ -1338,8 +1335,8 @@ inline constexpr MemberRow UbxSignalsRecordMembers[] = {
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSignalsRecord, timeText), sizeof(UbxSignalsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxSignalsRecord, version), sizeof(UbxSignalsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "signals", NavframeU8, offsetof(UbxSignalsRecord, count), sizeof(UbxSignalsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signals", "", "signals in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSignalsRecord, signals), sizeof(UbxSignalsRecord::signals[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSignalLayout}, false, 0},
+    {{"padding0", "", "", NavframePadding, 5126, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow UbxSignalsRecordLayout = LayoutOf<UbxSignalsRecord, UbxSignalsRecordMembers>("UbxSignalsRecord");
 static_assert(CoversEveryByte(UbxSignalsRecordLayout));
@@ -1362,7 +1359,7 @@ inline constexpr MemberRow UbxChannelMembers[] = {
     {{"elevation", "deg", "-90 to 90; unknown with a false elevation", NavframeI8, offsetof(UbxChannel, elevation), sizeof(UbxChannel::elevation), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 13, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "0 to 360; unknown with a false elevation", NavframeI16, offsetof(UbxChannel, azimuth), sizeof(UbxChannel::azimuth), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
-    {{"residual", "m", "residual of the pseudorange", NavframeF64, offsetof(UbxChannel, residual), sizeof(UbxChannel::residual), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residual", "0.01 m", "residual of the pseudorange", NavframeI32, offsetof(UbxChannel, residual), sizeof(UbxChannel::residual), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow UbxChannelLayout = LayoutOf<UbxChannel, UbxChannelMembers>("UbxChannel");
 static_assert(CoversEveryByte(UbxChannelLayout));
@@ -1375,7 +1372,7 @@ inline constexpr MemberRow UbxChannelsRecordMembers[] = {
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxChannelsRecord, timeText), sizeof(UbxChannelsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"chipGeneration", "", "generation of the receiver's hardware, 0 to 7", NavframeU8, offsetof(UbxChannelsRecord, chipGeneration), sizeof(UbxChannelsRecord::chipGeneration), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "channels", NavframeU8, offsetof(UbxChannelsRecord, count), sizeof(UbxChannelsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"padding0", "", "", NavframePadding, 26, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"padding0", "", "", NavframePadding, 26, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"channels", "", "channels in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxChannelsRecord, channels), sizeof(UbxChannelsRecord::channels[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxChannelLayout}, false, 0},
 };
 inline constexpr RecordRow UbxChannelsRecordLayout = LayoutOf<UbxChannelsRecord, UbxChannelsRecordMembers>("UbxChannelsRecord");

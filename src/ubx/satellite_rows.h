@@ -35,7 +35,7 @@ inline constexpr auto FullSatellitesBlockRows = std::to_array<FieldRow>({
     F(cn0, 2, U8),
     KnownIf(F(elevation, 3, I8), HasDirection),
     KnownIf(F(azimuth, 4, I16), HasDirection),
-    F(residual, 6, I16, 10),
+    F(residual, 6, I16),
     BitsOf(F(quality, 8, U32), 0, 3),
     BitsOf(F(used, 8, U32), 3),
     BitsOf(F(health, 8, U32), 4, 2),
@@ -73,7 +73,7 @@ inline constexpr auto SignalsBlockRows = std::to_array<FieldRow>({
     F(satelliteId, 1, U8),
     F(signalId, 2, U8),
     F(frequencySlot, 3, U8),
-    F(residual, 4, I16, 10),
+    F(residual, 4, I16),
     F(cn0, 6, U8),
     F(quality, 7, U8),
     F(correctionSource, 8, U8),
@@ -114,7 +114,7 @@ inline constexpr auto ChannelsBlockRows = std::to_array<FieldRow>({
     F(cn0, 4, U8),
     KnownIf(F(elevation, 5, I8), ChannelHasDirection),
     KnownIf(F(azimuth, 6, I16), ChannelHasDirection),
-    F(residual, 8, I32, 100),
+    F(residual, 8, I32),
 });
 #undef F
 using ChannelsList = List<UbxChannel, ChannelsBlocks, ChannelsBlockRows>;

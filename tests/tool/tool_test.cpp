@@ -105,7 +105,7 @@ TEST_F(Tool, Options) {
       {"navframe --protocols 55aa --protocols log $IN", 0, "55AA BESTPOS", ""},
       {"navframe --protocols nmea,none $IN", 2, "", "none"},
       {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION BESTPOS", ""},
-      {"navframe --quiet --only 102 $IN", 0, "NAV-PVT-WIDE", ""},
+      {"navframe --quiet --only 66048 $IN", 0, "NAV-PVT-WIDE", ""},
       {"navframe --only vtg $IN", 0, "VTG", "malformed"},
       {"navframe --only 102x $IN", 2, "", "no kind of record is called 102x"},
       {"navframe $DIR/none", 1, "", "/none: No such file"},
@@ -138,19 +138,20 @@ TEST_F(Tool, ControlCharactersAreNotShown) {
 TEST_F(Tool, Statistics) {
   const std::string input = OneOfEach() + "??" + OneOfEach() + Sentence("GPTXT,01") +
                             Text(RtcmFrame({0x43, 0x50})) + Text(RtcmFrame({0x4C, 0xE0}));
-  EXPECT_THAT(Run("navframe --quiet --stats $IN", input).err,
-              MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT-WIDE +2\nBESTPOS +2\n"
-                           "bad content RTCM 3 1077 +1\n"
-                           "undecoded NMEA GPTXT +1\nundecoded RTCM 3 1230 +1\n"
-                           "NMEA: 7 frames, [0-9]+ bytes, 0 false starts\n"
-                           "NMEA tag block: 2 frames, 22 bytes, 0 false starts\n"
-                           "RTCM 3: 4 frames, [0-9]+ bytes, 0 false starts\n"
-                           "UBX: 2 frames, 200 bytes, 0 false starts\n"
-                           "55AA: 2 frames, [0-9]+ bytes, 0 false starts\n"
-                           "ASCII log: 2 frames, [0-9]+ bytes, 0 false starts\n"
-                           "14 records, 2 malformed sentences, " +
-                           std::to_string(input.size()) +
-                           " bytes, 2 skipped, 0\\.[0-9]+ s, [0-9]+\\.[0-9] MB/s\n"));
+  EXPECT_THAT(
+      Run("navframe --quiet --stats $IN", input).err,
+      MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT-WIDE +2\nBESTPOS +2\n"
+                   "bad content RTCM 3 1077 +1\n"
+                   "undecoded NMEA GPTXT +1\nundecoded RTCM 3 1230 +1\n"
+                   "NMEA: 7 frames, [0-9]+ bytes, 0 false starts\n"
+                   "NMEA tag block: 2 frames, 22 bytes, 0 false starts\n"
+                   "RTCM 3: 4 frames, [0-9]+ bytes, 0 false starts\n"
+                   "UBX: 2 frames, 200 bytes, 0 false starts\n"
+                   "55AA: 2 frames, [0-9]+ bytes, 0 false starts\n"
+                   "ASCII log: 2 frames, [0-9]+ bytes, 0 false starts\n"
+                   "14 records, 2 malformed sentences, " +
+                   std::to_string(input.size()) +
+                   " bytes, 2 skipped, 0\\.[0-9]+ s, [0-9]+\\.[0-9] MB/s\n"));
 }
 
 // Whichever kind a message's content needs.

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
+#include <cstring>
 #include <sstream>
 
 #include "navframe/stream.hpp"
@@ -78,15 +78,14 @@ constexpr Sample Samples[] = {
      "changeWeek=2185 changeDay=7"},
     {0x0130, -1, 4, "6f84d7170200000007210000292d6701c7cfffffff78000001a511000c000000",
      "tow=400000111 channels[0].channel=7 channels[0].satelliteId=33 channels[0].cn0=41 "
-     "channels[0].elevation=45 channels[0].azimuth=359 channels[0].residual=-123.45 "
-     "channels[1].satelliteId=120 channels[1].cn0=1 channels[1].residual=0.12 "
+     "channels[0].elevation=45 channels[0].azimuth=359 channels[0].residual=-12345 "
+     "channels[1].satelliteId=120 channels[1].cn0=1 channels[1].residual=12 "
      "channels[1].channel=255 channels[1].elevation=-128 channels[1].azimuth=-32768 count=2"},
     {0x0135, 4, 5, "6f84d71701020000030e29a6670185ff0000000006ff005b1100040000000000",
      "tow=400000111 version=1 satellites[0].systemId=3 satellites[0].satelliteId=14 "
      "satellites[0].cn0=41 satellites[0].elevation=-90 satellites[0].azimuth=359 "
-     "satellites[0].residual=-12.3 satellites[1].systemId=6 satellites[1].satelliteId=255 "
-     "satellites[1].residual=0.4 satellites[1].elevation=-128 satellites[1].azimuth=-32768 "
-     "count=2"},
+     "satellites[0].residual=-123 satellites[1].systemId=6 satellites[1].satelliteId=255 "
+     "satellites[1].residual=4 satellites[1].elevation=-128 satellites[1].azimuth=-32768 count=2"},
     {0x0136, 4, -1,
      "6f84d717000000000000000000000000000060400000003f0000c0bf00008840000090400000f8400000803e"
      "000000be0000403f0000c03e0000803d00001841",
@@ -112,7 +111,7 @@ constexpr Sample Samples[] = {
     {0x0143, 4, 5,
      "6f84d717000200000000000000000000000000000000000006ff020d85ff2f070a08000000000000",
      "tow=400000111 signals[1].systemId=6 signals[1].satelliteId=255 signals[1].signalId=2 "
-     "signals[1].frequencySlot=13 signals[1].residual=-12.3 signals[1].cn0=47 "
+     "signals[1].frequencySlot=13 signals[1].residual=-123 signals[1].cn0=47 "
      "signals[1].quality=7 signals[1].correctionSource=10 signals[1].ionosphereModel=8 count=2"},
     {0x0161, -1, -1, "6f84d717", "tow=400000111"},
     {0x0213, 6, 4, "060b02070200010004030281feffffff",
@@ -235,6 +234,7 @@ struct Flags {
   std::uint16_t message;
   std::size_t offset;
   const char* names;
+  bool ofFirst = false;  // sample of the message; else of the last
 };
 constexpr Flags AllFlags[] = {
     {0x0103, 5,
@@ -269,6 +269,10 @@ constexpr Flags AllFlags[] = {
     {0x013C, 60,
      "fixOk diffSolution * carrierSolution=1 carrierSolution=2 moving stationMissed "
      "observationsMissed * normalized"},
+    {0x013C, 36,
+     "fixOk diffSolution * carrierSolution=1 carrierSolution=2 moving stationMissed "
+     "observationsMissed",
+     true},
     {0x0143, 18,
      "health=1 health=2 smoothed rangeUsed carrierUsed dopplerUsed rangeCorrections "
      "carrierCorrections dopplerCorrections authenticated"},
@@ -293,12 +297,9 @@ constexpr Flags AllFlags[] = {
 };
 
 TEST(UbxStandard, EveryBitIsAFlag) {
-  for (const auto& [message, offset, names] : AllFlags) {
-    const auto* const sample =
-        std::find_if(std::rbegin(Samples), std::rend(Samples),
-                     [id = message](const Sample& of) { return of.message == id; })
-            .
-            operator->();
+  for (const auto& [message, offset, names, ofFirst] : AllFlags) {
+    const auto* sample = std::ranges::find(Samples, message, &Sample::message);
+    while (!ofFirst && sample + 1 != std::end(Samples) && sample[1].message == message) ++sample;
     Bytes payload = FromHex(sample->payload);
     const auto flip = [&payload, at = offset](unsigned bit) {
       payload[at + bit / 8] = static_cast<std::uint8_t>(payload[at + bit / 8] ^ 1U << bit % 8);
@@ -372,8 +373,8 @@ TEST(UbxStandard, ListsEndBehindTheirLastElement) {
   Stream stream;
   const auto take = [&](const Item& item) {
     if (const auto* const record = item.as<UbxSignalsRecord>()) {
-      EXPECT_EQ(record->signals[0].residual, 25.7);
-      EXPECT_NE(std::isnan(record->signals[251].residual), record->count == 252);
+      EXPECT_EQ(record->signals[0].residual, 257);
+      EXPECT_EQ(record->signals[251].residual, record->count == 252 ? 257 : INT16_MIN);
       EXPECT_EQ(record->signals[254].cn0, 255);
       counts.push_back(record->count);
     } else if (const auto* const text = item.as<UbxInformationRecord>()) {
