@@ -37,7 +37,9 @@ struct FieldRow {
   bool onesAreNone = false;       // all bits set stand for an unknown number
   std::uint16_t fine = 0;         // where an I8 is that goes on with the number; 0 for none
   std::int32_t finesOfOne = 100;  // how many of its steps one of the number's is
-  // Whether the member is known, by the payload or the block; null where it is always.
+  // Whether the member is known, by the payload or the block; null where it is always. Constant
+  // expressions ask the flag: of a function they do not tell whether it is null, with sanitizers.
+  bool isConditional = false;
   bool (*known)(const std::uint8_t* at) = nullptr;
 };
 
@@ -79,6 +81,7 @@ consteval FieldRow OnesAreNone(FieldRow row) {
 }
 
 consteval FieldRow KnownIf(FieldRow row, bool (*known)(const std::uint8_t* at)) {
+  row.isConditional = true;
   row.known = known;
   return row;
 }
@@ -92,22 +95,30 @@ struct ListRow {
   std::uint16_t room;    // elements
   std::uint16_t countMember;
   std::uint8_t countSize;  // bytes of the member; 0 for a list that no member counts
-  // How many there should be; null where the length alone tells.
+  // How many there should be, where not the length alone tells.
+  bool isCounted = false;
   std::uint32_t (*count)(const std::uint8_t* payload) = nullptr;
 };
 
 template <class Array>
-consteval ListRow ListOf(std::size_t member, std::uint16_t offset, std::uint16_t length,
-                         std::size_t countMember, std::uint8_t countSize,
-                         std::uint32_t (*count)(const std::uint8_t* payload) = nullptr) {
+constexpr ListRow ListOf(std::size_t member, std::uint16_t offset, std::uint16_t length,
+                         std::size_t countMember, std::uint8_t countSize) {
   return {offset,
           length,
           static_cast<std::uint16_t>(member),
           sizeof(std::remove_extent_t<Array>),
           std::extent_v<Array>,
           static_cast<std::uint16_t>(countMember),
-          countSize,
-          count};
+          countSize};
+}
+template <class Array>
+constexpr ListRow ListOf(std::size_t member, std::uint16_t offset, std::uint16_t length,
+                         std::size_t countMember, std::uint8_t countSize,
+                         std::uint32_t (*count)(const std::uint8_t* payload)) {
+  ListRow row = ListOf<Array>(member, offset, length, countMember, countSize);
+  row.isCounted = true;
+  row.count = count;
+  return row;
 }
 
 // A list and the rows of its elements.
@@ -254,13 +265,13 @@ void ReadField(const std::uint8_t* block, std::uint8_t* record) {
 }
 
 template <const auto& Rows, std::size_t Index>
-constexpr const FieldRow& RowAt = Rows[Index];
+inline constexpr FieldRow RowAt = Rows[Index];
 
 // Whether a row is the next bit of the same field, and its member the next byte.
 constexpr bool GoesOn(const FieldRow& row, const FieldRow& next) {
   return row.bits == 1 && next.bits == 1 && row.size == 1 && next.size == 1 &&
          next.offset == row.offset && next.wire == row.wire && next.lowest == row.lowest + 1 &&
-         next.member == row.member + 1 && next.known == nullptr && row.known == nullptr;
+         next.member == row.member + 1 && !next.isConditional && !row.isConditional;
 }
 
 // How many rows before or behind one go on like this.
@@ -280,35 +291,34 @@ constexpr std::size_t FlagsBehind = [] {
   return count;
 }();
 
-// The rows of a payload or block of `length` bytes, at least `Shortest`: those that it ends before
-// are not known.
+// A row of a payload or block of `length` bytes, at least `Shortest`. The row is not known when it
+// reaches behind them. Flags that go on are written with the first of up to eight.
+template <class Record, const auto& Rows, std::size_t Shortest, std::size_t Index>
+void ReadRow(const std::uint8_t* block, std::size_t length, std::uint8_t* record) {
+  constexpr std::size_t AtOnce = 8;
+  constexpr const FieldRow& Row = RowAt<Rows, Index>;
+  constexpr bool IsThere = EndOf(Row) <= Shortest;
+  if constexpr (IsThere && FlagsBefore<Rows, Index> % AtOnce != 0) {
+    return;
+  } else if constexpr (IsThere && FlagsBehind<Rows, Index> != 0) {
+    constexpr std::size_t Count = std::min(FlagsBehind<Rows, Index> + 1, AtOnce);
+    const std::uint32_t flags = ReadWire<Row.wire>(block + Row.offset) >> Row.lowest;
+    std::memcpy(record + Row.member, FlagsOfByte[flags & 0xFFU].data(), Count);
+  } else if constexpr (IsThere && !Row.isConditional) {
+    ReadField<RowAt<Rows, Index>>(block, record);
+  } else {
+    bool known = length >= EndOf(Row);
+    if constexpr (Row.isConditional) known = known && Row.known(block);
+    if (known) return ReadField<RowAt<Rows, Index>>(block, record);
+    std::memcpy(record + Row.member, catalogue::UnknownBytes<Record>.data() + Row.member,
+                std::size_t{Row.size} * Row.count);
+  }
+}
+
 template <class Record, const auto& Rows, std::size_t Shortest>
 void ReadFields(const std::uint8_t* block, std::size_t length, std::uint8_t* record) {
-  const auto read = [&]<std::size_t Index> {
-    constexpr const FieldRow& Row = RowAt<Rows, Index>;
-    constexpr std::size_t AtOnce = 8;  // flags
-    if constexpr (EndOf(Row) <= Shortest && FlagsBefore<Rows, Index> % AtOnce != 0) {
-      return;
-    } else if constexpr (EndOf(Row) <= Shortest && FlagsBehind<Rows, Index> != 0) {
-      constexpr std::size_t Count = std::min(FlagsBehind<Rows, Index> + 1, AtOnce);
-      const std::uint32_t flags = ReadWire<Row.wire>(block + Row.offset) >> Row.lowest;
-      std::memcpy(record + Row.member, FlagsOfByte[flags & 0xFFU].data(), Count);
-      return;
-    }
-    bool known = true;
-    if constexpr (EndOf(Row) > Shortest) known = length >= EndOf(Row);
-    if constexpr (Row.known != nullptr) known = known && Row.known(block);
-    if constexpr (Row.known != nullptr || EndOf(Row) > Shortest) {
-      if (!known) {
-        std::memcpy(record + Row.member, catalogue::UnknownBytes<Record>.data() + Row.member,
-                    std::size_t{Row.size} * Row.count);
-        return;
-      }
-    }
-    ReadField<Row>(block, record);
-  };
   [&]<std::size_t... Index>(std::index_sequence<Index...>) {
-    (read.template operator()<Index>(), ...);
+    (ReadRow<Record, Rows, Shortest, Index>(block, length, record), ...);
   }
   (std::make_index_sequence<std::size(Rows)>());
 }
@@ -321,7 +331,8 @@ void ReadList(const Payload& payload, Record& record, std::uint32_t& written) {
   using Element = typename List::Element;
   auto* const bytes = reinterpret_cast<std::uint8_t*>(&record);
   const std::size_t held = payload.Entries(Row.offset, Row.length);
-  const std::size_t count = Row.count == nullptr ? held : Row.count(payload.bytes);
+  std::size_t count = held;
+  if constexpr (Row.isCounted) count = Row.count(payload.bytes);
   if constexpr (Row.countSize == 1) bytes[Row.countMember] = static_cast<std::uint8_t>(count);
   if constexpr (Row.countSize == 2) {
     const auto wide = static_cast<std::uint16_t>(count);

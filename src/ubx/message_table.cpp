@@ -7,6 +7,7 @@
 #include "navframe/records.h"
 #include "ubx/field_rows.h"
 #include "ubx/messages.h"
+#include "ubx/solution_rows.h"
 #include "ubx/time_keeping.h"
 
 namespace navframe::ubx {
@@ -47,55 +48,17 @@ constexpr MessageRow Fixed(std::uint8_t messageClass, std::uint8_t id, std::uint
       messageClass, id, Exactly(HeaderLength + PayloadLength + ChecksumLength), msgId);
 }
 
-using enum Wire;
-
-// Member, offset in the payload, number sent, divisor.
-#define A(...) NAVFRAME_UBX_FIELD(UbxAttitudeRecord, __VA_ARGS__)
-constexpr double AnglePerDegree = 1e5;
-constexpr auto Attitude = std::to_array<FieldRow>({
-    A(version, 4, U8),
-    A(roll, 8, I32, AnglePerDegree),
-    A(pitch, 12, I32, AnglePerDegree),
-    A(heading, 16, I32, AnglePerDegree),
-    A(rollAccuracy, 20, U32, AnglePerDegree),
-    A(pitchAccuracy, 24, U32, AnglePerDegree),
-    A(headingAccuracy, 28, U32, AnglePerDegree),
-});
-#undef A
-
-#define P(...) NAVFRAME_UBX_FIELD(UbxProtectionLevelsRecord, __VA_ARGS__)
-constexpr auto ProtectionLevels = std::to_array<FieldRow>({
-    P(version, 0, U8),
-    P(riskCoefficient, 1, U8),
-    P(riskExponent, 2, I8),
-    P(positionValid, 3, U8),
-    P(positionFrame, 4, U8),
-    P(velocityValid, 5, U8),
-    P(velocityFrame, 6, U8),
-    P(timeValid, 7, U8),
-    P(positionInvalidReason, 8, U8),
-    P(velocityInvalidReason, 9, U8),
-    P(timeInvalidReason, 10, U8),
-    P(positionLevels, 16, U32),
-    P(velocityLevels, 28, U32),
-    P(positionOrientation, 40, U16),
-    P(velocityOrientation, 42, U16),
-    P(timeLevel, 44, U32),
-    P(reservedAtEnd, 48, U32),
-});
-#undef P
-
 // Class, id, length of the frame where it is not that of rows, kind.
 constexpr MessageRow Messages[] = {
-    Fixed<UbxProtectionLevelsRecord, ProtectionLevels, 52, 12>(0x01, 0x62,
-                                                               MsgIdUbxProtectionLevels),
+    Fixed<UbxProtectionLevelsRecord, ProtectionLevelsRows, 52, 12>(0x01, 0x62,
+                                                                   MsgIdUbxProtectionLevels),
     Row<UbxNavigationRecord, DecodeNavigation, KeepNavigationTime>(0x01, 0x07, Exactly(100),
                                                                    MsgIdUbxNavigation),
     Row<UbxSatellitesRecord, DecodeSatellites, KeepTowAt<0>>(0x01, 0x35, AtLeast(15),
                                                              MsgIdUbxSatellites),
     Row<UbxRawMeasurementsRecord, DecodeRawMeasurements, KeepRawTime>(0x02, 0x15, AtLeast(0),
                                                                       MsgIdUbxRawMeasurements),
-    Fixed<UbxAttitudeRecord, Attitude, 32>(0x01, 0x05, MsgIdUbxAttitude),
+    Fixed<UbxAttitudeRecord, AttitudeRows, 32>(0x01, 0x05, MsgIdUbxAttitude),
 };
 
 }  // namespace

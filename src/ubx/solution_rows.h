@@ -312,4 +312,39 @@ inline constexpr auto SurveyInRows = std::to_array<FieldRow>({
 });
 #undef F
 
+// Of the kinds that the exports make too.
+#define F(...) NAVFRAME_UBX_FIELD(UbxAttitudeRecord, __VA_ARGS__)
+inline constexpr auto AttitudeRows = std::to_array<FieldRow>({
+    F(version, 4, U8),
+    F(roll, 8, I32, 1e5),
+    F(pitch, 12, I32, 1e5),
+    F(heading, 16, I32, 1e5),
+    F(rollAccuracy, 20, U32, 1e5),
+    F(pitchAccuracy, 24, U32, 1e5),
+    F(headingAccuracy, 28, U32, 1e5),
+});
+#undef F
+
+#define F(...) NAVFRAME_UBX_FIELD(UbxProtectionLevelsRecord, __VA_ARGS__)
+inline constexpr auto ProtectionLevelsRows = std::to_array<FieldRow>({
+    F(version, 0, U8),
+    F(riskCoefficient, 1, U8),
+    F(riskExponent, 2, I8),
+    F(positionValid, 3, U8),
+    F(positionFrame, 4, U8),
+    F(velocityValid, 5, U8),
+    F(velocityFrame, 6, U8),
+    F(timeValid, 7, U8),
+    F(positionInvalidReason, 8, U8),
+    F(velocityInvalidReason, 9, U8),
+    F(timeInvalidReason, 10, U8),
+    F(positionLevels, 16, U32),
+    F(velocityLevels, 28, U32),
+    F(positionOrientation, 40, U16),
+    F(velocityOrientation, 42, U16),
+    F(timeLevel, 44, U32),
+    F(reservedAtEnd, 48, U32),
+});
+#undef F
+
 }  // namespace navframe::ubx

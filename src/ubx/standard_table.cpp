@@ -6,6 +6,7 @@
 #include <iterator>
 #include <type_traits>
 
+#include "navframe/navframe.h"
 #include "ubx/device_rows.h"
 #include "ubx/field_rows.h"
 #include "ubx/satellite_rows.h"
@@ -22,6 +23,12 @@ struct Version {
   std::uint16_t offset = NoVersion;
   std::uint8_t number = 0;
 };
+
+constexpr LengthRule AnyLength = {0, 0xFFFFFFFF};  // `takes` judges
+constexpr std::uint8_t ClassOf(std::uint16_t message) {
+  return static_cast<std::uint8_t>(message >> 8U);
+}
+constexpr std::uint8_t IdOf(std::uint16_t message) { return static_cast<std::uint8_t>(message); }
 
 constexpr void LeaveTime(const Payload&, DecoderClock&) {}
 
@@ -46,18 +53,15 @@ template <class Record, const auto& Rows, std::size_t TowOffset, auto KeepTime,
 constexpr StandardRow Fixed(std::uint16_t message, Version version, std::uint32_t kind) {
   static_assert(PayloadRead(Rows) <= std::max({Length, LongerLengths...}));
   static_assert(TowOffset == NoTow || TowOffset + 4 <= Length);
-  return {message,
+  return {{ClassOf(message), IdOf(message), AnyLength, kind, sizeof(Record), false,
+           [](const Payload& payload, DecoderClock& time, const RecurringRoom& room) {
+             DecodeFields<Record, Rows, TowOffset, Length>(payload, time,
+                                                           *static_cast<Record*>(room.payload));
+           },
+           KeepTime},
           version.offset,
           version.number,
-          IsOneOf<Length, LongerLengths...>,
-          kind,
-          sizeof(Record),
-          false,
-          [](const Payload& payload, DecoderClock& time, const RecurringRoom& room) {
-            DecodeFields<Record, Rows, TowOffset, Length>(payload, time,
-                                                          *static_cast<Record*>(room.payload));
-          },
-          KeepTime};
+          IsOneOf<Length, LongerLengths...>};
 }
 
 // The same of all members.
@@ -70,39 +74,38 @@ constexpr StandardRow Whole(std::uint16_t message, std::uint32_t kind, Version v
 
 constexpr void LeaveRecord(const Payload&, void*) {}
 
-// Whether the payload ends with the last block that it counts, or up to `Behind` bytes later.
+// Whether the payload ends with the last block that it counts.
 template <class List>
 bool HoldsList(const Payload& payload) {
   constexpr const ListRow& Row = List::Row;
   if (payload.length < Row.offset) return false;
   const std::size_t blocks = payload.length - Row.offset;
-  if (Row.count == nullptr) return blocks % Row.length == 0 && blocks / Row.length <= Row.room;
-  return blocks == std::size_t{Row.count(payload.bytes)} * Row.length;
+  if constexpr (Row.isCounted) {
+    return blocks == std::size_t{Row.count(payload.bytes)} * Row.length;
+  } else {
+    return blocks % Row.length == 0 && blocks / Row.length <= Row.room;
+  }
 }
 
-// A message with a list. `Finish` writes what rows do not tell.
+// A message with a list, of which its count tells no more than `Most`. `Finish` writes what rows do
+// not tell.
 template <class Record, const auto& Rows, class List, std::size_t TowOffset = 0,
-          auto Takes = HoldsList<List>, auto Finish = LeaveRecord>
+          std::size_t Most = 255, auto Takes = HoldsList<List>, auto Finish = LeaveRecord>
 constexpr StandardRow Listed(std::uint16_t message, std::uint32_t kind, Version version = {}) {
   constexpr const ListRow& Row = List::Row;
   static_assert(PayloadRead(Rows) <= Row.offset && PayloadRead(List::Rows) <= Row.length);
-  static_assert(Row.room >= std::min<std::size_t>(
-                                255, (LongestPayload - Row.offset) / std::size_t{Row.length}) ||
-                Row.count == SensorCount);
-  return {message,
+  static_assert(Row.room >= Most || Row.room >= (LongestPayload - Row.offset) / Row.length);
+  return {{ClassOf(message), IdOf(message), AnyLength, kind, sizeof(Record), true,
+           [](const Payload& payload, DecoderClock& time, const RecurringRoom& room) {
+             auto& record = *static_cast<Record*>(room.payload);
+             DecodeFields<Record, Rows, TowOffset, Row.offset, List>(payload, time, record);
+             ReadList<Record, List>(payload, record, *room.written);
+             Finish(payload, &record);
+           },
+           KeepUsual<TowOffset>},
           version.offset,
           version.number,
-          Takes,
-          kind,
-          sizeof(Record),
-          true,
-          [](const Payload& payload, DecoderClock& time, const RecurringRoom& room) {
-            auto& record = *static_cast<Record*>(room.payload);
-            DecodeFields<Record, Rows, TowOffset, Row.offset, List>(payload, time, record);
-            ReadList<Record, List>(payload, record, *room.written);
-            Finish(payload, &record);
-          },
-          KeepUsual<TowOffset>};
+          Takes};
 }
 
 // ESF-MEAS may have one more time behind its data.
@@ -147,15 +150,11 @@ template <std::uint8_t Severity>
 constexpr StandardRow Information() {
   constexpr std::uint16_t Class = 0x0400;
   return {
-      Class + Severity,
+      {ClassOf(Class), Severity, AnyLength, MsgIdUbxInformation, sizeof(UbxInformationRecord), true,
+       DecodeInformation<Severity>, LeaveTime},
       NoVersion,
       0,
-      [](const Payload& payload) { return payload.length < sizeof(UbxInformationRecord::text); },
-      MsgIdUbxInformation,
-      sizeof(UbxInformationRecord),
-      true,
-      DecodeInformation<Severity>,
-      LeaveTime};
+      [](const Payload& payload) { return payload.length < sizeof(UbxInformationRecord::text); }};
 }
 
 // Class and id, kind, version. In the order of class and id.
@@ -164,6 +163,7 @@ constexpr StandardRow Rows[] = {
     Whole<UbxPositionRecord, PositionRows, 28>(0x0102, MsgIdUbxPosition),
     Whole<UbxStatusRecord, StatusRows, 16>(0x0103, MsgIdUbxStatus),
     Whole<UbxDopRecord, DopRows, 18>(0x0104, MsgIdUbxDop),
+    Whole<UbxAttitudeRecord, AttitudeRows, 32>(0x0105, MsgIdUbxAttitude, {4, 0}),
     Whole<UbxSolutionRecord, SolutionRows, 52, 0, KeepSolutionTime>(0x0106, MsgIdUbxSolution),
     Whole<UbxFullNavigationRecord, FullNavigationRows, 84, 0, KeepNavigationTime, 92>(
         0x0107, MsgIdUbxFullNavigation),
@@ -188,6 +188,8 @@ constexpr StandardRow Rows[] = {
                                                                   {0, 1}),
     Listed<UbxSignalsRecord, SignalsRows, SignalsList>(0x0143, MsgIdUbxSignals, {4, 0}),
     Whole<UbxEndOfEpochRecord, NoRows, 4>(0x0161, MsgIdUbxEndOfEpoch),
+    Whole<UbxProtectionLevelsRecord, ProtectionLevelsRows, 52, 12>(0x0162, MsgIdUbxProtectionLevels,
+                                                                   {0, 1}),
     Listed<UbxSubframeRecord, Subframe1Rows, SubframeList, NoTow>(0x0213, MsgIdUbxSubframe, {6, 1}),
     Listed<UbxSubframeRecord, SubframeRows, SubframeList, NoTow>(0x0213, MsgIdUbxSubframe, {6, 2}),
     Listed<UbxMeasurementsRecord, MeasurementsRows, MeasurementsList, NoTow>(
@@ -203,7 +205,7 @@ constexpr StandardRow Rows[] = {
     Listed<UbxVersionRecord, VersionRows, VersionList, NoTow>(0x0A04, MsgIdUbxVersion),
     Whole<UbxTimePulseRecord, TimePulseRows, 16, NoTow>(0x0D01, MsgIdUbxTimePulse),
     Whole<UbxTimeMarkRecord, TimeMarkRows, 28, NoTow>(0x0D03, MsgIdUbxTimeMark),
-    Listed<UbxSensorMeasurementsRecord, SensorMeasurementsRows, SensorMeasurementsList, NoTow,
+    Listed<UbxSensorMeasurementsRecord, SensorMeasurementsRows, SensorMeasurementsList, NoTow, 31,
            HoldsSensorData, TakeCalibrationTime>(0x1002, MsgIdUbxSensorMeasurements),
     Listed<UbxRawSensorsRecord, NoRows, RawSensorsList, NoTow>(0x1003, MsgIdUbxRawSensors),
     Listed<UbxFusionStatusRecord, FusionStatusRows, FusionStatusList>(0x1010, MsgIdUbxFusionStatus,
@@ -211,7 +213,9 @@ constexpr StandardRow Rows[] = {
     Whole<UbxMountingRecord, MountingRows, 16>(0x1014, MsgIdUbxMounting, {4, 1}),
     Whole<UbxInertialRecord, InertialRows, 36, 8>(0x1015, MsgIdUbxInertial, {0, 1}),
 };
-static_assert(std::ranges::is_sorted(Rows, {}, &StandardRow::message));
+static_assert(std::ranges::is_sorted(Rows, {}, [](const StandardRow& row) {
+  return row.messageClass << 8U | row.id;
+}));
 
 // The first row of each message: looked up for every frame.
 constexpr std::uint8_t NoRow = 255;
@@ -224,9 +228,9 @@ constexpr Places FirstRows = [] {
   for (auto& ids : places.firsts) ids.fill(NoRow);
   std::uint8_t classes = 0;
   for (std::size_t i = std::size(Rows); i-- > 0;) {
-    std::uint8_t& place = places.classes[Rows[i].message >> 8U];
+    std::uint8_t& place = places.classes[Rows[i].messageClass];
     if (place == 0) place = ++classes;
-    places.firsts[place][Rows[i].message & 0xFFU] = static_cast<std::uint8_t>(i);
+    places.firsts[place][Rows[i].id] = static_cast<std::uint8_t>(i);
   }
   return places;
 }();
@@ -242,11 +246,11 @@ bool HasVersion(const StandardRow& row, const Payload& payload, bool& isCut) {
 }  // namespace
 
 StandardAnswer FindStandard(std::uint8_t messageClass, std::uint8_t id, const Payload& payload) {
-  const auto message = static_cast<std::uint16_t>(messageClass << 8U | id);
   const std::uint8_t first = FirstRows.firsts[FirstRows.classes[messageClass]][id];
   if (first == NoRow) return {false, nullptr, NavframeNoKind};
   StandardAnswer answer{true, nullptr, NavframeNoKind};
-  for (const auto* row = Rows + first; row != std::end(Rows) && row->message == message; ++row) {
+  for (const auto* row = Rows + first;
+       row != std::end(Rows) && row->messageClass == messageClass && row->id == id; ++row) {
     bool isCut = false;
     const bool isThis = HasVersion(*row, payload, isCut);
     if (isThis && row->takes(payload)) return {true, row, NavframeNoReason};

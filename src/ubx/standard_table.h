@@ -10,17 +10,11 @@
 namespace navframe::ubx {
 
 // A message of one version, or of all lengths that have no version.
-struct StandardRow {
-  std::uint16_t message;        // class * 256 + id
+struct StandardRow : MessageRow {
   std::uint16_t versionOffset;  // in the payload; NoVersion
   std::uint8_t version;
   // Whether the payload has a length of the message, and the one that its count asks for.
   bool (*takes)(const Payload& payload);
-  std::uint32_t kind;
-  std::uint32_t recordSize;
-  bool recurs;  // one of RecurringKinds
-  MessageDecoder decode;
-  void (*keepTime)(const Payload& payload, DecoderClock& clock);
 };
 
 struct StandardAnswer {

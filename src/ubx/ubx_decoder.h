@@ -6,7 +6,6 @@
 #include "base/dialect.h"
 #include "output/record_sink.h"
 #include "time/decoder_clock.h"
-#include "ubx/frame.h"
 
 namespace navframe::ubx {
 
@@ -24,9 +23,6 @@ class UbxDecoder {
   void ReportCheckError();
 
  private:
-  template <class Row>
-  DecodeResult DecodeBy(const Row& row, std::uint32_t kind, const Payload& payload);
-
   RecordSink& sink_;
   DecoderClock& time_;
   const Dialect& dialect_;

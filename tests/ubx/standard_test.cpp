@@ -31,6 +31,9 @@ constexpr Sample Samples[] = {
     {0x0104, -1, -1, "6f84d717a700910053007b004d003d000f27",
      "tow=400000111 geometricDop=1.67 positionDop=1.45 timeDop=0.83 verticalDop=1.23 "
      "horizontalDop=0.77 northDop=0.61 eastDop=99.99"},
+    {0x0105, 4, -1, "6f84d71700000000b817feff59da4400ff50250291d0030003000000ffffffff",
+     "tow=400000111 roll=-1.25 pitch=45.12345 heading=359.99999 rollAccuracy=2.50001 "
+     "pitchAccuracy=3e-05 headingAccuracy=42949.67295"},
     {0x0106, -1, -1,
      "6f84d717c01dfeffef070300b21a6ce787d61200b103111d630100002efbffff37020000a7ffffff29000000"
      "9100000b00000000",
@@ -114,6 +117,11 @@ constexpr Sample Samples[] = {
      "signals[1].frequencySlot=13 signals[1].residual=-123 signals[1].cn0=47 "
      "signals[1].quality=7 signals[1].correctionSource=10 signals[1].ionosphereModel=8 count=2"},
     {0x0161, -1, -1, "6f84d717", "tow=400000111"},
+    {0x0162, 0, -1,
+     "0105f90102000000000000006f84d71769100000000000000000000000000000000000000000000000002923"
+     "2500000000000000",
+     "version=1 riskCoefficient=5 riskExponent=-7 positionValid=1 positionFrame=2 tow=400000111 "
+     "positionLevels[0]=4201 velocityOrientation=9001 timeLevel=37"},
     {0x0213, 6, 4, "060b02070200010004030281feffffff",
      "systemId=6 satelliteId=11 signalId=2 frequencySlot=7 version=1 words[0]=2164392708 "
      "words[1]=4294967294 channel=255 count=2"},
@@ -204,7 +212,7 @@ std::vector<std::string> Said(std::uint16_t message, const Bytes& payload) {
   const ubx::StandardRow* const row = Find(message, payload).row;
   if (row == nullptr) return {"no record"};
   const Bytes record = DecodedOver(0, message, payload);
-  const NavframeKind* const kind = navframe_kind(row->kind, SourceStream);
+  const NavframeKind* const kind = navframe_kind(row->msgId, SourceStream);
   EXPECT_EQ(record.size(), kind->size);
   // What stands behind the last element of a list is unknown: another test.
   std::vector<std::string> members =
