@@ -304,31 +304,65 @@ constexpr Flags AllFlags[] = {
      "rateXValid rateYValid rateZValid accelerationXValid accelerationYValid accelerationZValid"},
 };
 
+Bytes SampleOf(std::uint16_t message, bool first) {
+  const auto* sample = std::ranges::find(Samples, message, &Sample::message);
+  while (!first && sample + 1 != std::end(Samples) && sample[1].message == message) ++sample;
+  return FromHex(sample->payload);
+}
+
+// What a payload says more with these bits the other way round.
+std::vector<std::string> More(std::uint16_t message, Bytes payload, std::size_t at, unsigned bits) {
+  const std::vector<std::string> without = Said(message, payload);
+  payload[at] = static_cast<std::uint8_t>(payload[at] ^ bits);
+  std::vector<std::string> more;
+  std::ranges::set_difference(Said(message, payload), without, std::back_inserter(more));
+  return more;
+}
+
 TEST(UbxStandard, EveryBitIsAFlag) {
   for (const auto& [message, offset, names, ofFirst] : AllFlags) {
-    const auto* sample = std::ranges::find(Samples, message, &Sample::message);
-    while (!ofFirst && sample + 1 != std::end(Samples) && sample[1].message == message) ++sample;
-    Bytes payload = FromHex(sample->payload);
-    const auto flip = [&payload, at = offset](unsigned bit) {
-      payload[at + bit / 8] = static_cast<std::uint8_t>(payload[at + bit / 8] ^ 1U << bit % 8);
-    };
+    const Bytes payload = SampleOf(message, ofFirst);
     std::istringstream in(names);
     std::string name;
     for (unsigned bit = 0; in >> name; ++bit) {
       if (name == "*") continue;
-      const std::vector<std::string> without = Said(message, payload);
-      flip(bit);
-      std::vector<std::string> with = Said(message, payload), more;
-      flip(bit);
-      std::ranges::set_difference(with, without, std::back_inserter(more));
-      if (!more.empty()) {  // of the first element of a list, the name of its member
-        const std::size_t dot = more[0].find("].");
-        if (dot != std::string::npos) more[0].erase(0, dot + 2);
+      std::vector<std::string> more = More(message, payload, offset + bit / 8, 1U << bit % 8);
+      for (std::string& member : more) {  // of an element of a list, the name of its member
+        const std::size_t dot = member.find("].");
+        if (dot != member.npos) member.erase(0, dot + 2);
       }
       std::vector<std::string> expected;
       if (name != "-") expected.push_back(name + (name.find('=') == name.npos ? "=1" : ""));
       EXPECT_EQ(more, expected) << std::hex << message << " " << offset << " " << bit;
     }
+  }
+}
+
+TEST(UbxStandard, WhatIsNotValidIsUnknown) {
+  const struct {
+    std::uint16_t message;
+    std::size_t at;
+    unsigned bits;
+    std::vector<std::string> more;
+    bool ofFirst = false;
+  } rows[] = {
+      {0x0107, 20, 3, {"height=-nan", "heightMsl=-nan", "latitude=-nan", "longitude=-nan"}},
+      {0x0107,
+       78,
+       1,
+       {"height=-nan", "heightMsl=-nan", "invalidPosition=1", "latitude=-nan", "longitude=-nan"}},
+      {0x0107, 11, 8, {"magAccuracy=-nan", "magDeclination=-nan"}},
+      {0x0113, 23, 1, {"invalidPosition=1", "x=-nan", "y=-nan", "z=-nan"}},
+      {0x0114,
+       3,
+       1,
+       {"height=-nan", "heightMsl=-nan", "invalidPosition=1", "latitude=-nan", "longitude=-nan"}},
+      {0x013C, 36, 4, {"down=-nan", "east=-nan", "north=-nan"}, true},
+      {0x013C, 60, 4, {"down=-nan", "east=-nan", "length=-nan", "north=-nan"}},
+      {0x013C, 61, 1, {"heading=-nan"}},
+  };
+  for (const auto& [message, at, bits, more, ofFirst] : rows) {
+    EXPECT_EQ(More(message, SampleOf(message, ofFirst), at, bits), more) << std::hex << message;
   }
 }
 
