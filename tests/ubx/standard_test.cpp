@@ -96,9 +96,9 @@ constexpr Sample Samples[] = {
      "position[4]=4.5 position[5]=7.75 velocity[0]=0.25 velocity[1]=-0.125 velocity[2]=0.75 "
      "velocity[3]=0.375 velocity[4]=0.0625 velocity[5]=9.5"},
     {0x013B, 0, -1,
-     "000000006f84d7178051010021e7ab168af41cffcaf5661e1a9d6300393000007f51010001010000",
-     "tow=400000111 duration=86400 accuracy=1.2345 observations=86399 valid=1 active=1 "
-     "x=3803645.7726 y=-148796.0699 z=5100640.7499"},
+     "000000006f84d7178051010021e7ab168af41cffcaf5661e1a9d6300393000007f51010000010000",
+     "tow=400000111 duration=86400 accuracy=1.2345 observations=86399 active=1 x=3803645.7726 "
+     "y=-148796.0699 z=5100640.7499"},
     {0x013C, 0, -1,
      "0000d2046f84d717c7cfffffa05b0000f978fffff762070065000000660000006700000004000000",
      "stationId=1234 tow=400000111 northAccuracy=0.0101 eastAccuracy=0.0102 downAccuracy=0.0103 "
@@ -144,7 +144,7 @@ constexpr Sample Samples[] = {
     {0x0500, -1, -1, "068a", "messageClass=6 messageId=138"},
     {0x0501, -1, -1, "068a", "messageClass=6 messageId=138 accepted=1"},
     {0x0A04, -1, -1,
-     "4558545f434f52455f312e30305f28613062316332295f6f665f335f33303030313930303030000046575645"
+     "4558545f434f52455f312e30305f28613062316332295f6f665f335f33303030313930303030005846575645"
      "523d58000000000000000000000000000000000000000000000050524f545645523d32372e33310000000000"
      "000000000000000000000000",
      "software=EXT_CORE_1.00_(a0b1c2)_of_3_30 hardware=00190000 extensions[0]=FWVER=X "
@@ -292,6 +292,7 @@ constexpr Flags AllFlags[] = {
      "utcStandard=8"},
     {0x0D03, 1,
      "running stopped newFalling timeBase=1 timeBase=2 utcAvailable timeValid newRising"},
+    {0x1002, 4, "timeMarkSent=1 timeMarkSent=2 timeMarkEdge"},
     {0x1010, 5,
      "wheelTicks=1 wheelTicks=2 mounting=1 mounting=2 mounting=4 inertial=1 inertial=2 - "
      "inertialSensors=1 inertialSensors=2"},
