@@ -100,9 +100,11 @@ typedef struct NavframeKind {
   uint32_t id;          /* GnssMessage::id */
   uint32_t source;      /* GnssMessage::source: a RecordSource */
   const char* name;     /* the standard's or the receiver's, such as "GGA", "NAV-PVT", "MSM-GPS" */
-  const char* protocol; /* "NMEA", "RTCM 3", "UBX", "55AA", "ASCII log" or "navframe" */
+  const char* protocol; /* "NMEA", "RTCM 3", "UBX", "55AA", "ASCII log", "navframe", or
+                           "RTCM 3 and UBX" */
   const char* message;  /* what it comes from, as the protocol writes it: "GGA", "1005",
-                           "1074-1077", "4074-11", "01-07", "BESTPOSA"; "" when nothing does */
+                           "1074-1077", "4074-11", "01-07", "BESTPOSA"; parted by ", " where it comes
+                           from  several; "" when nothing does */
   const char* description; /* its content, one phrase */
   uint32_t size; /* of the payload, bytes: that of the record or more; bytes behind it are 0 */
   const NavframeRecord* record;

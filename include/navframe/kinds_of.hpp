@@ -97,6 +97,7 @@ template <> struct KindsOf<UbxMountingRecord> { static constexpr KindId Ids[] = 
 template <> struct KindsOf<UbxVersionRecord> { static constexpr KindId Ids[] = {{MsgIdUbxVersion, SourceStream}}; };
 template <> struct KindsOf<UbxInformationRecord> { static constexpr KindId Ids[] = {{MsgIdUbxInformation, SourceStream}}; };
 template <> struct KindsOf<UbxAcknowledgeRecord> { static constexpr KindId Ids[] = {{MsgIdUbxAcknowledge, SourceStream}}; };
+template <> struct KindsOf<ObservationsRecord> { static constexpr KindId Ids[] = {{MsgIdObservations, SourceStream}}; };
 template <> struct KindsOf<PositionLogRecord> { static constexpr KindId Ids[] = {{LogIdBestPosition, SourceAsciiLog}, {LogIdPseudorangePosition, SourceAsciiLog}, {LogIdMatchedPosition, SourceAsciiLog}, {LogIdPosition6006, SourceAsciiLog}}; };
 template <> struct KindsOf<VelocityLogRecord> { static constexpr KindId Ids[] = {{LogIdBestVelocity, SourceAsciiLog}, {LogIdPseudorangeVelocity, SourceAsciiLog}}; };
 template <> struct KindsOf<DopLogRecord> { static constexpr KindId Ids[] = {{LogIdPseudorangeDop, SourceAsciiLog}, {LogIdPseudorangeDop2, SourceAsciiLog}}; };

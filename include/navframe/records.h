@@ -35,6 +35,7 @@
 #include "navframe/records_asciilog.h"
 #include "navframe/records_asciilog_orbits.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_observations.h"
 #include "navframe/records_proprietary.h"
 #include "navframe/records_rtcm.h"
 #include "navframe/records_sensors.h"

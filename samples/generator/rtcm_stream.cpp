@@ -90,6 +90,28 @@ void PutHeader(const Epoch& epoch, const SystemMessages& messages, Msm msm, bool
   }
 }
 
+// 1004 or 1012, observations of two carriers before there were MSM.
+BitWriter RtkObservations(const Epoch& epoch, System system) {
+  const bool glonass = system == Glonass;
+  const double modulus = (glonass ? 2 : 1) * MetresPerMs;
+  const auto seen = Seen(epoch, system);
+  BitWriter bits;
+  bits.Put(glonass ? 1012 : 1004, 12).Put(120, 12);
+  bits.Put(EpochField(epoch, system) & (glonass ? 0x7FFFFFF : 0x3FFFFFFF), glonass ? 27 : 30);
+  bits.Put(0, 1).Put(seen.size(), 5).Put(0, 4);
+  for (const Satellite& satellite : seen) {
+    const auto whole = static_cast<std::uint64_t>(satellite.range / modulus);
+    const double rest = satellite.range - static_cast<double>(whole) * modulus;
+    const auto strength = static_cast<std::uint64_t>(satellite.elevation / 4 + 26) * 4;
+    bits.Put(static_cast<std::uint64_t>(satellite.number), 6).Put(0, 1);
+    if (glonass) bits.Put(static_cast<std::uint64_t>(satellite.number) % 14, 5);
+    bits.Put(static_cast<std::uint64_t>(std::llround(rest / 0.02)), glonass ? 25 : 24);
+    bits.Signed(-1200, 20).Put(100, 7).Put(whole, glonass ? 7 : 8).Put(strength, 8);
+    bits.Put(0, 2).Signed(150, 14).Signed(2400, 20).Put(99, 7).Put(strength - 12, 8);
+  }
+  return bits;
+}
+
 }  // namespace
 
 Bytes RtcmFrame(const Bytes& payload) {
@@ -198,6 +220,7 @@ Bytes RtcmFurther(const Epoch& epoch) {
   send(timed(longFamily(243)).Put(3, 8).Put(1, 4));
   for (const unsigned subType : {249U, 251U, 253U}) send(longFamily(subType));
   for (const unsigned subType : {254U, 255U}) send(timed(longFamily(subType)));
+  for (const System system : {Gps, Glonass}) send(RtkObservations(epoch, system));
   return bytes;
 }
 

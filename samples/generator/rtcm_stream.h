@@ -18,11 +18,11 @@ enum class Msm { Msm4 = 4, Msm5 = 5, Msm6 = 6, Msm7 = 7 };
 Bytes RtcmObservations(const Epoch& epoch, System system, Msm msm, bool last);
 
 // One frame of each message that RtcmEpoch has not, with the epoch's time where the message has
-// one: the sub-types of 910, 999 and 4074. The place for a new one.
+// one: the sub-types of 910, 999 and 4074, 1004 and 1012. The place for a new one.
 Bytes RtcmFurther(const Epoch& epoch);
 
 // One epoch: GPS, GLONASS, Galileo, QZSS and BeiDou, every tenth with 1005 and 1013. (GLONASS as
-// MSM7 whatever the kind: the others are not decoded.)
+// MSM7 whatever the kind: the exports do not decode the others.)
 Bytes RtcmEpoch(const Epoch& epoch, Msm msm);
 
 // The first `epochs` seconds of the drive.

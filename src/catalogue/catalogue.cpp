@@ -19,14 +19,24 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 // "1074-1077" has 1075, and "4074-11" itself alone: a range has numbers of the same length.
-bool NamesMessage(std::string_view message, std::string_view name) {
-  if (message.empty() || name.empty()) return false;
+bool NamesOneOf(std::string_view message, std::string_view name) {
   if (EqualIgnoringCase(message, name)) return true;
   const std::size_t dash = message.find('-');
   if (dash != name.size() || message.size() != 2 * dash + 1) return false;
   constexpr std::size_t ShortestNumber = 4;
   return dash >= ShortestNumber && std::ranges::all_of(name, IsDigit) &&
          name >= message.substr(0, dash) && name <= message.substr(dash + 1);
+}
+
+bool NamesMessage(std::string_view messages, std::string_view name) {
+  constexpr std::string_view Between = ", ";
+  if (messages.empty() || name.empty()) return false;
+  for (;;) {
+    const std::size_t end = messages.find(Between);
+    if (NamesOneOf(messages.substr(0, end), name)) return true;
+    if (end == messages.npos) return false;
+    messages.remove_prefix(end + Between.size());
+  }
 }
 
 }  // namespace

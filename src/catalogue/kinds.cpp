@@ -38,6 +38,13 @@ constexpr KindRow Binary(std::uint32_t id, const char* name, const char* message
                          const char* content) {
   return Row<Record>(SourceStream, "55AA", id, name, message, text, content, sizeof(Record));
 }
+// Of several protocols.
+template <class Record>
+constexpr KindRow Gnss(std::uint32_t id, const char* name, const char* message, TextForm text,
+                       const char* content) {
+  return Row<Record>(SourceStream, "RTCM 3 and UBX", id, name, message, text, content,
+                     sizeof(Record));
+}
 // The payloads of some logs reach beyond what is known of them.
 template <class Record>
 constexpr KindRow AsciiLog(std::uint32_t id, const char* name, const char* message, TextForm text,
@@ -219,6 +226,10 @@ constexpr KindRow Rows[] = {
         "a text"),
     Ubx<UbxAcknowledgeRecord>(MsgIdUbxAcknowledge, "ACK", "05", TextForm::None,
         "whether a message was taken"),
+    Gnss<ObservationsRecord>(MsgIdObservations, "OBSERVATIONS",
+        "1001-1004, 1009-1012, 1074-1077, 1084-1087, 1094-1097, 1104-1107, 1114-1117, 1124-1127, "
+        "1134-1137, 02-15", TextForm::None,
+        "observations of all systems: pseudorange, phase, Doppler, lock and C/N0 of each signal"),
 
     AsciiLog<GpsEphemerisLogRecord>(LogIdGpsEphemeris, "GPSEPHEM", "GPSEPHEMA", TextForm::None,
         "GPS ephemeris"),

@@ -25,6 +25,10 @@ inline constexpr NavframeValueName UbxQualityValues[] = {{0, "no signal"}, {1, "
 
 inline constexpr NavframeValueName UbxSensorTypeValues[] = {{0, "none"}, {5, "gyroscope Z"}, {6, "wheel ticks front left"}, {7, "wheel ticks front right"}, {8, "wheel ticks rear left"}, {9, "wheel ticks rear right"}, {10, "single tick"}, {11, "speed"}, {12, "temperature of gyroscope"}, {13, "gyroscope Y"}, {14, "gyroscope X"}, {16, "accelerometer X"}, {17, "accelerometer Y"}, {18, "accelerometer Z"},};
 
+inline constexpr NavframeValueName ObservedSystemValues[] = {{1, "GPS"}, {2, "GLONASS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"}, {6, "NavIC"}, {7, "SBAS"},};
+
+inline constexpr NavframeValueName SmoothingIntervalValues[] = {{0, "none"}, {1, "below 30 s"}, {2, "30 to 60 s"}, {3, "1 to 2 min"}, {4, "2 to 4 min"}, {5, "4 to 8 min"}, {6, "above 8 min"}, {7, "unlimited"},};
+
 inline constexpr NavframeValueName SolutionStatusValues[] = {{0, "SOL_COMPUTED or not known"}, {1, "INSUFFICIENT_OBS"}, {2, "NO_CONVERGENCE"}, {3, "SINGULARITY"}, {4, "COV_TRACE"}, {5, "TEST_DIST"}, {6, "COLD_START"}, {7, "V_H_LIMIT"}, {8, "VARIANCE"}, {9, "RESIDUALS"}, {10, "DELTA_POS"}, {11, "NEGATIVE_VAR"}, {13, "INTEGRITY_WARNING"}, {18, "PENDING"}, {19, "INVALID_FIX"}, {20, "UNAUTHORIZED"}, {21, "ANTENNA_WARNING"},};
 
 inline constexpr NavframeValueName SolutionTypeValues[] = {{0, "NONE or not known"}, {1, "FIXEDPOS"}, {2, "FIXEDHEIGHT"}, {8, "DOPPLER_VELOCITY"}, {16, "SINGLE"}, {17, "PSRDIFF"}, {18, "SBAS"}, {19, "PROPAGATED"}, {20, "OMNISTAR"}, {32, "L1_FLOAT"}, {33, "IONOFREE_FLOAT"}, {34, "NARROW_FLOAT"}, {48, "L1_INT"}, {49, "WIDE_INT"}, {50, "NARROW_INT"}, {51, "RTK_DIRECT_INS"}, {52, "INS"}, {53, "INS_PSRSP"}, {54, "INS_PSRDIFF"}, {55, "INS_RTKFLOAT"}, {56, "INS_RTKFIXED"}, {64, "OMNISTAR_HP"}, {65, "OMNISTAR_XP"}, {66, "CDGPS"}, {68, "PPP_CONVERGING"}, {69, "PPP"}, {77, "PPP_BASIC_CONVERGING"}, {78, "PPP_BASIC"},};
@@ -1703,6 +1707,60 @@ inline constexpr MemberRow UbxAcknowledgeRecordMembers[] = {
 inline constexpr RecordRow UbxAcknowledgeRecordLayout = LayoutOf<UbxAcknowledgeRecord, UbxAcknowledgeRecordMembers>("UbxAcknowledgeRecord");
 static_assert(CoversEveryByte(UbxAcknowledgeRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxAcknowledgeRecord> = UbxAcknowledgeRecordLayout;
+
+inline constexpr MemberRow ObservationMembers[] = {
+    {{"system", "", "satellite system", NavframeU8, offsetof(Observation, system), sizeof(Observation::system), 0, -1, 0, NavframeUnknownValue, 255, 7, ObservedSystemValues, nullptr}, false, 0},
+    {{"satellite", "", "number within the system, as RINEX counts them but for SBAS: 1 to 63, of SBAS 120 to 158", NavframeU8, offsetof(Observation, satellite), sizeof(Observation::satellite), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"signal", "", "the message's number of the signal: MSM signal id, UBX signal id, code indicator of 1001 to 1012", NavframeU8, offsetof(Observation, signal), sizeof(Observation::signal), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"channel", "", "frequency channel of GLONASS, -7 to 13", NavframeI8, offsetof(Observation, channel), sizeof(Observation::channel), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"code", "", "band and attribute of the signal in RINEX 3: \"1C\"; empty for one that is not listed", NavframeText, offsetof(Observation, code), sizeof(Observation::code), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"frequency", "Hz", "of the carrier; unknown for a signal that is not listed, and for GLONASS while the channel is", NavframeF64, offsetof(Observation, frequency), sizeof(Observation::frequency), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorange", "m", "pseudorange, see rangeModulus of the record", NavframeF64, offsetof(Observation, pseudorange), sizeof(Observation::pseudorange), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhase", "cycles", "phase of the carrier, of its true frequency; unknown while that is", NavframeF64, offsetof(Observation, carrierPhase), sizeof(Observation::carrierPhase), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"phaseRange", "m", "the same phase as a range; RTCM 3 tells it while the frequency is not known, too", NavframeF64, offsetof(Observation, phaseRange), sizeof(Observation::phaseRange), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"doppler", "Hz", "Doppler, positive for approaching satellites; unknown while the frequency is, but in UBX", NavframeF64, offsetof(Observation, doppler), sizeof(Observation::doppler), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rangeRate", "m/s", "the same as the rate of the phase range", NavframeF64, offsetof(Observation, rangeRate), sizeof(Observation::rangeRate), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density, with its fraction", NavframeF32, offsetof(Observation, cn0), sizeof(Observation::cn0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"pseudorangeDeviation", "m", "standard deviation of the pseudorange (UBX)", NavframeF32, offsetof(Observation, pseudorangeDeviation), sizeof(Observation::pseudorangeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"carrierPhaseDeviation", "cycles", "standard deviation of the carrier phase (UBX)", NavframeF32, offsetof(Observation, carrierPhaseDeviation), sizeof(Observation::carrierPhaseDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dopplerDeviation", "Hz", "standard deviation of the Doppler (UBX)", NavframeF32, offsetof(Observation, dopplerDeviation), sizeof(Observation::dopplerDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"lockTime", "ms", "continuous lock of the phase, at least; the longest that the message can tell stands for longer ones: 524288 of MSM4 and MSM5, 67108864 of MSM6 and MSM7, 937000 of 1001 to 1012, 64500 of RXM-RAWX", NavframeU32, offsetof(Observation, lockTime), sizeof(Observation::lockTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"lossOfLock", "", "lock was lost, or may have been, since the last phase of this signal; 255 with the first one and without a phase", NavframeU8, offsetof(Observation, lossOfLock), sizeof(Observation::lossOfLock), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"halfCycleAmbiguity", "", "the phase may be off by half a cycle", NavframeU8, offsetof(Observation, halfCycleAmbiguity), sizeof(Observation::halfCycleAmbiguity), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"halfCycleSubtracted", "", "half a cycle was subtracted from the phase (UBX)", NavframeU8, offsetof(Observation, halfCycleSubtracted), sizeof(Observation::halfCycleSubtracted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(Observation, reserved), sizeof(Observation::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow ObservationLayout = LayoutOf<Observation, ObservationMembers>("Observation");
+static_assert(CoversEveryByte(ObservationLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<Observation> = ObservationLayout;
+
+inline constexpr NavframeValueName ObservationsRecordProtocolValues[] = {{4, "RTCM 3"}, {8, "UBX"},};
+inline constexpr NavframeValueName ObservationsRecordClockSteeringValues[] = {{0, "none"}, {1, "applied"}, {2, "unknown"}, {3, "reserved"},};
+inline constexpr NavframeValueName ObservationsRecordExternalClockValues[] = {{0, "internal"}, {1, "external and locked"}, {2, "external and not locked"}, {3, "unknown"},};
+inline constexpr MemberRow ObservationsRecordMembers[] = {
+    {{"tow", "s", "GPS time of week, the receiver's; epochs of BeiDou and GLONASS are converted, the latter by the leap seconds in use", NavframeF64, offsetof(ObservationsRecord, tow), sizeof(ObservationsRecord::tow), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rangeModulus", "m", "pseudoranges and phase ranges are known but for multiples of this (of 1001, 1003, 1009 and 1011); 0 when they are whole", NavframeF64, offsetof(ObservationsRecord, rangeModulus), sizeof(ObservationsRecord::rangeModulus), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week: the receiver's (UBX), the stream's (RTCM 3)", NavframeU16, offsetof(ObservationsRecord, week), sizeof(ObservationsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"message", "", "RTCM 3 message number, UBX class * 256 + id", NavframeU16, offsetof(ObservationsRecord, message), sizeof(ObservationsRecord::message), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station of RTCM 3, 0 to 4095", NavframeU16, offsetof(ObservationsRecord, stationId), sizeof(ObservationsRecord::stationId), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"protocol", "", "protocol of the message", NavframeU8, offsetof(ObservationsRecord, protocol), sizeof(ObservationsRecord::protocol), 0, -1, 0, NavframeUnknownNever, 0, 2, ObservationsRecordProtocolValues, nullptr}, false, 0},
+    {{"version", "", "version of the message (UBX)", NavframeU8, offsetof(ObservationsRecord, version), sizeof(ObservationsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"epochComplete", "", "the last message of its epoch", NavframeU8, offsetof(ObservationsRecord, epochComplete), sizeof(ObservationsRecord::epochComplete), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"stationIssue", "", "issue of the station's data (MSM), 0 to 7", NavframeU8, offsetof(ObservationsRecord, stationIssue), sizeof(ObservationsRecord::stationIssue), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"clockSteering", "", "steering of the station's clock (MSM)", NavframeU8, offsetof(ObservationsRecord, clockSteering), sizeof(ObservationsRecord::clockSteering), 0, -1, 0, NavframeUnknownValue, 255, 4, ObservationsRecordClockSteeringValues, nullptr}, false, 0},
+    {{"externalClock", "", "clock of the station (MSM)", NavframeU8, offsetof(ObservationsRecord, externalClock), sizeof(ObservationsRecord::externalClock), 0, -1, 0, NavframeUnknownValue, 255, 4, ObservationsRecordExternalClockValues, nullptr}, false, 0},
+    {{"clockReset", "", "the receiver's clock was reset (UBX)", NavframeU8, offsetof(ObservationsRecord, clockReset), sizeof(ObservationsRecord::clockReset), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"divergenceFree", "", "divergence-free smoothing (RTCM 3)", NavframeU8, offsetof(ObservationsRecord, divergenceFree), sizeof(ObservationsRecord::divergenceFree), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"smoothing", "", "smoothing of the pseudoranges (RTCM 3)", NavframeU8, offsetof(ObservationsRecord, smoothing), sizeof(ObservationsRecord::smoothing), 0, -1, 0, NavframeUnknownValue, 255, 8, SmoothingIntervalValues, nullptr}, false, 0},
+    {{"leapSeconds", "s", "GPS time less UTC (UBX)", NavframeI8, offsetof(ObservationsRecord, leapSeconds), sizeof(ObservationsRecord::leapSeconds), 0, -1, NavframeAsSent, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"leapKnown", "", "leapSeconds was received, not assumed (UBX)", NavframeU8, offsetof(ObservationsRecord, leapKnown), sizeof(ObservationsRecord::leapKnown), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"count", "", "observations, 0 to 255", NavframeU8, offsetof(ObservationsRecord, count), sizeof(ObservationsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(ObservationsRecord, reserved), sizeof(ObservationsRecord::reserved[0]), 6, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"observations", "", "in the order of the message, unknown values behind the last one", NavframeNested, offsetof(ObservationsRecord, observations), sizeof(ObservationsRecord::observations[0]), 255, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &ObservationLayout}, false, 0},
+};
+inline constexpr RecordRow ObservationsRecordLayout = LayoutOf<ObservationsRecord, ObservationsRecordMembers>("ObservationsRecord");
+static_assert(CoversEveryByte(ObservationsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<ObservationsRecord> = ObservationsRecordLayout;
 
 inline constexpr NavframeValueName AsciiLogHeaderPortValues[] = {{0, "any other"}, {1, "COM1"}, {2, "COM2"}, {3, "COM3"}, {4, "THISPORT"}, {5, "XCOM1"}, {6, "XCOM2"}, {7, "XCOM3"}, {8, "USB1"}, {9, "USB2"}, {10, "USB3"}, {11, "COM1_30"}, {12, "ICOM1 to ICOM14"}, {13, "ICOM1 to ICOM14"}, {14, "ICOM1 to ICOM14"}, {15, "ICOM1 to ICOM14"}, {16, "ICOM1 to ICOM14"}, {17, "ICOM1 to ICOM14"}, {18, "ICOM1 to ICOM14"}, {19, "ICOM1 to ICOM14"}, {20, "ICOM1 to ICOM14"}, {21, "ICOM1 to ICOM14"}, {22, "ICOM1 to ICOM14"}, {23, "ICOM1 to ICOM14"}, {24, "ICOM1 to ICOM14"}, {25, "ICOM1 to ICOM14"},};
 inline constexpr NavframeValueName AsciiLogHeaderTimeStatusValues[] = {{20, "UNKNOWN"}, {60, "APPROXIMATE"}, {80, "COARSEADJUSTING"}, {100, "COARSE"}, {120, "COARSESTEERING"}, {130, "FREEWHEELING"}, {140, "FINEADJUSTING"}, {160, "FINE"}, {170, "FINEBACKUPSTEERING"}, {180, "FINESTEERING"}, {200, "SATTIME"}, {201, "LOCAL"},};

@@ -63,4 +63,15 @@ void MakeUnknown(Record& record) {
   if constexpr (requires { record.text.c_str(); }) new (&record.text) RecordText();
 }
 
+// Writes the unknown values of a record from `offset` on, as far as other ones stand there: up to
+// `written`, which becomes `offset`.
+template <class Record>
+void MakeUnknownFrom(std::size_t offset, std::uint32_t& written, Record& record) {
+  if (offset < written) {
+    std::memcpy(reinterpret_cast<std::uint8_t*>(&record) + offset,
+                UnknownBytes<Record>.data() + offset, written - offset);
+  }
+  written = static_cast<std::uint32_t>(offset);
+}
+
 }  // namespace navframe::catalogue

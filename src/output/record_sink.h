@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "base/number_text.h"
+#include "navframe/records_observations.h"
 #include "navframe/records_ubx_standard.h"
 #include "navframe/stream.h"
 #include "output/decoded_id_set.h"
@@ -25,7 +26,7 @@ inline constexpr std::uint32_t RecurringKinds[] = {
     MsgIdUbxSignals,      MsgIdUbxFullSatellites, MsgIdUbxChannels,
     MsgIdUbxSubframe,     MsgIdUbxMeasurements,   MsgIdUbxSensorMeasurements,
     MsgIdUbxFusionStatus, MsgIdUbxRawSensors,     MsgIdUbxVersion,
-    MsgIdUbxInformation};
+    MsgIdUbxInformation,  MsgIdObservations};
 
 // Room for a record of these.
 struct RecurringRoom {

@@ -60,8 +60,8 @@ void ReadSatellites(const MsmCells& cells, MsmSatellites& satellites) {
         static_cast<std::uint32_t>(UnsignedBits(cells.bytes, rangeMsBit, Layout.rangeMsBits));
     const auto modulo =
         static_cast<std::int32_t>(UnsignedBits(cells.bytes, moduloBit, Layout.rangeModuloBits));
-    // A range of 0 ms counts as none, whatever its fraction.
-    satellite.rangeValid = ms != 0 && ms != NoRangeMs;
+    // In the exports a range of 0 ms counts as none, whatever its fraction.
+    satellite.rangeValid = (Layout.rangeOfZeroMs || ms != 0) && ms != NoRangeMs;
     const double range = ms * MetresPerMs + modulo * (RangeModuloScale * MetresPerMs);
     satellite.range = satellite.rangeValid ? range : 0;
     satellite.rate = 0;
@@ -188,6 +188,20 @@ void WriteObservation(const RawCell& cell, const MsmSatellite& satellite, const 
   out.reserved = 0;
 }
 
+// Calls `write` with the number, the fields, the satellite's place and the signal's of each cell,
+// of which there must be one.
+template <const MsmLayout& Layout, class Write>
+[[gnu::always_inline]] inline void ForEachCell(const MsmCells& cells, const Write& write) {
+  const CellColumns<Layout> columns(cells);
+  const CellPlace places(cells.header.signalCount);
+  std::uint64_t mask = cells.header.cellMask;
+  for (std::uint32_t i = 0; i < cells.header.cellCount; ++i) {
+    const std::uint32_t place = TakeTopBit(mask);
+    const std::uint32_t satellite = places.Satellite(place);
+    write(i, columns.Read(i), satellite, places.Signal(place, satellite));
+  }
+}
+
 // Writes every byte of as many observations as there are cells.
 template <const MsmLayout& Layout>
 void DecodeCells(const MsmCells& cells, MsmObservation* observations) {
@@ -196,20 +210,18 @@ void DecodeCells(const MsmCells& cells, MsmObservation* observations) {
   MsmSignals signals;
   ReadSatellites<Layout>(cells, satellites);
   ReadSignals(cells, signals);
-
-  const CellColumns<Layout> columns(cells);
-  const CellPlace places(cells.header.signalCount);
   // No lock time exceeds this one, so that none does without an interval.
   const std::uint32_t intervalMs =
       cells.intervalMs > 0 ? static_cast<std::uint32_t>(cells.intervalMs) : UINT32_MAX;
-  std::uint64_t mask = cells.header.cellMask;
-  for (std::uint32_t i = 0; i < cells.header.cellCount; ++i) {
-    const std::uint32_t place = TakeTopBit(mask);
-    const std::uint32_t satellite = places.Satellite(place);
-    WriteObservation<Layout>(columns.Read(i), satellites[satellite],
-                             signals[places.Signal(place, satellite)], intervalMs, observations[i]);
-    observations[i].system = static_cast<std::uint8_t>(cells.system);
-  }
+  const auto system = static_cast<std::uint8_t>(cells.system);
+  // What is captured by value need not be read again behind every store.
+  ForEachCell<Layout>(cells,
+                      [=, &satellites, &signals](std::uint32_t i, const RawCell& cell,
+                                                 std::uint32_t satellite, std::uint32_t signal) {
+                        WriteObservation<Layout>(cell, satellites[satellite], signals[signal],
+                                                 intervalMs, observations[i]);
+                        observations[i].system = system;
+                      });
 }
 
 }  // namespace navframe::rtcm

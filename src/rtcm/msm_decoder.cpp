@@ -58,15 +58,6 @@ void ClearUnused(MsmRecord& record, std::uint32_t used) {
   }
 }
 
-// The epoch of a true clock, which becomes its time.
-void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock) {
-  if (system == MsmSystem::Glonass) {
-    const GlonassTime time = ReadGlonassTime(frame);
-    header.epochTime = true_clock::TowOfGlonass(time.day, time.ofDay, clock);
-  }
-  true_clock::SetTow(header.epochTime, NavframeTimeFromRtcm, clock);
-}
-
 void StampTime(MsmRecord& record, const Services& services) {
   DecoderClock& time = services.time;
   if (time.isTrue) {
@@ -80,6 +71,14 @@ void StampTime(MsmRecord& record, const Services& services) {
 }
 
 }  // namespace
+
+void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock) {
+  if (system == MsmSystem::Glonass) {
+    const GlonassTime time = ReadGlonassTime(frame);
+    header.epochTime = true_clock::TowOfGlonass(time.day, time.ofDay, clock);
+  }
+  true_clock::SetTow(header.epochTime, NavframeTimeFromRtcm, clock);
+}
 
 DecodeResult MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Services& services) {
   const MsmRow* const row = RowOf(number);

@@ -33,6 +33,9 @@ class EpochInterval {
   std::int32_t interval_ = 0;
 };
 
+// Makes the epoch one of a true clock, and its time.
+void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock);
+
 class MsmDecoder {
  public:
   // Decodes message `number`, sets the clock to its epoch and pushes its record. A number that is

@@ -5,13 +5,18 @@
 namespace navframe::rtcm {
 namespace {
 
-// Places in the frame. What stands between the multiple-message bit and the masks (issue of the
-// data station, clock steering, external clock, smoothing) is not used.
+// Places in the frame.
+constexpr std::uint32_t StationBit = 36;
 constexpr std::uint32_t EpochBit = 48;
 constexpr std::uint32_t EpochBits = 30;
 constexpr std::uint32_t GlonassDayBits = 3;
 constexpr std::uint32_t GlonassTimeBits = 27;
 constexpr std::uint32_t MultipleMessageBit = 78;
+constexpr std::uint32_t StationIssueBit = 79;
+constexpr std::uint32_t ClockSteeringBit = 89;  // behind 7 reserved bits
+constexpr std::uint32_t ExternalClockBit = 91;
+constexpr std::uint32_t DivergenceFreeBit = 93;
+constexpr std::uint32_t SmoothingBit = 94;
 constexpr std::uint32_t SatelliteMaskBit = 97;
 constexpr std::uint32_t SignalMaskBit = 161;
 constexpr std::uint32_t CellMaskBit = 193;
@@ -51,6 +56,22 @@ constexpr std::uint64_t TopBits(std::uint64_t bits, std::uint32_t count) {
 }  // namespace
 
 GlonassTime ReadGlonassTime(const Frame& frame) { return GlonassTimeOf(frame.bytes); }
+
+MsmStation ReadMsmStation(const Frame& frame) {
+  // One load; each field ends where the next one named begins.
+  const std::uint64_t bits =
+      UnsignedBits(frame.bytes, StationIssueBit, SatelliteMaskBit - StationIssueBit);
+  const auto field = [bits](std::uint32_t bit, std::uint32_t width) {
+    return static_cast<std::uint8_t>(bits >> (SatelliteMaskBit - bit - width) &
+                                     ((1U << width) - 1));
+  };
+  return {static_cast<std::uint16_t>(UnsignedBits(frame.bytes, StationBit, 12)),
+          field(StationIssueBit, 3),
+          field(ClockSteeringBit, 2),
+          field(ExternalClockBit, 2),
+          field(DivergenceFreeBit, 1),
+          field(SmoothingBit, 3)};
+}
 
 std::optional<MsmHeader> ReadMsmHeader(const Frame& frame, MsmSystem system) {
   if (frame.EndBit() < CellMaskBit) return std::nullopt;

@@ -33,4 +33,15 @@ struct GlonassTime {
 };
 GlonassTime ReadGlonassTime(const Frame& frame);
 
+// What MsmRecord has no room for: fields of the message, as sent.
+struct MsmStation {
+  std::uint16_t id;
+  std::uint8_t issue;
+  std::uint8_t clockSteering;
+  std::uint8_t externalClock;
+  std::uint8_t divergenceFree;
+  std::uint8_t smoothing;
+};
+MsmStation ReadMsmStation(const Frame& frame);
+
 }  // namespace navframe::rtcm

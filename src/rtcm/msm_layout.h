@@ -27,7 +27,8 @@ struct MsmLayout {
   double phaseScale;        // ms
   std::int32_t noPseudorange;
   std::int32_t noPhase;
-  std::uint32_t cn0Shift;  // fraction bits of the C/N0
+  std::uint32_t cn0Shift;      // fraction bits of the C/N0
+  bool rangeOfZeroMs = false;  // is one; MsmRecord has none then
 
   constexpr bool HasRate() const { return fineRateBits != 0; }
   constexpr std::uint32_t SatelliteBits() const {

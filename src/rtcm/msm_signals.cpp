@@ -3,7 +3,7 @@
 namespace navframe::rtcm {
 namespace {
 
-using enum MsmSystem;
+using enum observations::System;
 
 // Signals firstId to lastId of a system, Hz.
 struct FrequencyRow {

@@ -4,12 +4,14 @@
 #include <array>
 #include <cstdint>
 
+#include "observations/signals.h"
+
 namespace navframe::rtcm {
 
-// The codes of MsmRecord::system.
-enum class MsmSystem : std::uint8_t { Gps = 1, Glonass = 2, Galileo = 3, BeiDou = 4, Qzss = 5 };
+// The codes of MsmRecord::system, of which it has those of GPS to QZSS.
+using MsmSystem = observations::System;
 
-// Hz by signal id, 1 to 32; 0 for a signal without a frequency.
+// Of MsmRecord: Hz by signal id, 1 to 32; 0 for a signal without a frequency.
 using FrequencyTable = std::array<double, 33>;
 
 const FrequencyTable& FrequenciesOf(MsmSystem system);

@@ -1,8 +1,12 @@
 // From a checked frame to a record.
 #pragma once
 
+#include <memory>
+#include <optional>
+
 #include "rtcm/bits.h"
 #include "rtcm/msm_decoder.h"
+#include "rtcm/observation_decoder.h"
 #include "rtcm/services.h"
 
 namespace navframe::rtcm {
@@ -17,8 +21,11 @@ class RtcmDecoder {
   DecodeResult Decode(const Frame& frame);
 
  private:
+  std::optional<DecodeResult> DecodeObservations(std::uint32_t number, const Frame& frame);
+
   Services services_;
   MsmDecoder msm_;
+  std::unique_ptr<ObservationHistory> observed_;  // from when on it is in use
 };
 
 }  // namespace navframe::rtcm

@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 #include "base/read_le.h"
 #include "time/time_of_day.h"
+#include "ubx/deviations.h"
 #include "ubx/messages.h"
 #include "ubx/record_head.h"
 
@@ -12,24 +12,6 @@ namespace {
 
 constexpr std::size_t EntriesOffset = 16;
 constexpr std::size_t EntryLength = 32;
-
-// Deviations by the low four bits of their wire byte.
-using Deviations = std::array<float, 16>;
-constexpr Deviations PowersOfTwo(double unit) {
-  Deviations deviations{};
-  for (unsigned n = 0; n < deviations.size(); ++n) {
-    deviations[n] = static_cast<float>(unit * static_cast<double>(1U << n));
-  }
-  return deviations;
-}
-constexpr Deviations Multiples(double unit) {
-  Deviations deviations{};
-  for (unsigned n = 0; n < deviations.size(); ++n) deviations[n] = static_cast<float>(unit * n);
-  return deviations;
-}
-constexpr Deviations PseudorangeDeviations = PowersOfTwo(0.01);  // metres
-constexpr Deviations PhaseDeviations = Multiples(0.004);         // cycles
-constexpr Deviations DopplerDeviations = PowersOfTwo(0.002);     // Hz
 
 // A time of week in seconds, in ms; unknown when it is no time of a week, a NaN among them.
 std::uint32_t RoundedTow(double seconds) {
@@ -69,9 +51,9 @@ void DecodeMeasurement(const std::uint8_t* entry, UbxRawMeasurement& measurement
   measurement.frequencySlot = entry[23];
   measurement.lockTime = ReadLe<std::uint16_t>(entry, 24);
   measurement.cn0 = entry[26];
-  measurement.pseudorangeDeviation = PseudorangeDeviations[Bits(entry[27], 0, 4)];
-  measurement.carrierPhaseDeviation = PhaseDeviations[Bits(entry[28], 0, 4)];
-  measurement.dopplerDeviation = DopplerDeviations[Bits(entry[29], 0, 4)];
+  measurement.pseudorangeDeviation = PseudorangeDeviations[entry[27]];
+  measurement.carrierPhaseDeviation = PhaseDeviations[entry[28]];
+  measurement.dopplerDeviation = DopplerDeviations[entry[29]];
   WriteFlags<4>(entry[30], offsetof(UbxRawMeasurement, pseudorangeValid), measurement);
   std::memset(measurement.reserved, 0, sizeof(measurement.reserved));
 }

@@ -28,16 +28,7 @@ void WriteHead(std::uint32_t tow, std::uint16_t week, const TimeManager& time, R
   CopyText(record.timeText, time.timeText);
 }
 
-// Writes the unknown values of a record from `offset` on, as far as they are not there: see
-// RecurringRoom.
-template <class Record>
-void MakeUnknownFrom(std::size_t offset, std::uint32_t& written, Record& record) {
-  if (offset < written) {
-    std::memcpy(reinterpret_cast<std::uint8_t*>(&record) + offset,
-                catalogue::UnknownBytes<Record>.data() + offset, written - offset);
-  }
-  written = static_cast<std::uint32_t>(offset);
-}
+using catalogue::MakeUnknownFrom;
 
 // The bits of a byte as flags, the lowest first.
 inline constexpr auto FlagsOfByte = [] {

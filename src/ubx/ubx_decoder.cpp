@@ -17,6 +17,9 @@ DecodeResult UbxDecoder::Decode(const std::uint8_t* frame, std::uint32_t length)
   const Payload payload = {frame + HeaderLength, length - HeaderLength - ChecksumLength};
   const MessageRow* row = nullptr;
   if (dialect_.standardRecords) {
+    if (frame[ClassOffset] == RawClass && frame[IdOffset] == RawId) {
+      return observed_.Decode(payload, time_, sink_);
+    }
     const StandardAnswer answer = FindStandard(frame[ClassOffset], frame[IdOffset], payload);
     if (answer.isListed && answer.row == nullptr) return {answer.reason};
     row = answer.row;

@@ -6,6 +6,7 @@
 #include "base/dialect.h"
 #include "output/record_sink.h"
 #include "time/decoder_clock.h"
+#include "ubx/raw_observations.h"
 
 namespace navframe::ubx {
 
@@ -26,6 +27,7 @@ class UbxDecoder {
   RecordSink& sink_;
   DecoderClock& time_;
   const Dialect& dialect_;
+  RawObservations observed_;
 };
 
 }  // namespace navframe::ubx

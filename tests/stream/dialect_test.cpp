@@ -387,8 +387,8 @@ TEST(Dialects, FramesThatOneOfThemDoesNotTake) {
   };
   for (const int count : {126, 150, 255}) {
     const Bytes raw = Rawx(count, true) + Gga("");
-    expect(raw, "RXM-RAWX GGA ", count > 126 ? "GGA " : "RXM-RAWX GGA ");
-    EXPECT_EQ(Records(NavframeStandard, raw)[0].As<UbxRawMeasurementsRecord>().count, count);
+    expect(raw, "OBSERVATIONS GGA ", count > 126 ? "GGA " : "RXM-RAWX GGA ");
+    EXPECT_EQ(Records(NavframeStandard, raw)[0].As<ObservationsRecord>().count, count);
   }
   Bytes longOther = UbxFrame(0x02, 0x13, Bytes(4049));
   EXPECT_EQ(Host(NavframeStandard).Items(longOther)[0].reason, NavframeBadLength);
