@@ -122,6 +122,10 @@ NAVFRAME_API const NavframeKind* navframe_kind(uint32_t id, uint32_t source);
  * first whose message it is ("1005", "1077", "01-07"). NULL for none, and for NULL. */
 NAVFRAME_API const NavframeKind* navframe_kind_named(const char* name);
 
+/* Whether this is the name of the kind, or of a message that it comes from: 1 or 0. Some messages
+ * are of two kinds, that of the exports and that of streams. */
+NAVFRAME_API int navframe_kind_has_name(const NavframeKind* kind, const char* name);
+
 /* The member of a record with this name, in exactly these letters; NULL for none. */
 NAVFRAME_API const NavframeMember* navframe_member(const NavframeRecord* record, const char* name);
 

@@ -241,6 +241,12 @@ NAVFRAME_API const char* navframe_status_text(int status);
 NAVFRAME_API const char* navframe_reason_text(uint32_t reason);
 NAVFRAME_API const char* navframe_protocol_name(uint32_t protocol);
 
+/* What the message of a frame, or of the frame that a record comes from, is called, whether a
+ * record is made of it or not: "GPS ephemeris" (RTCM 3), "NAV-ODO" (UBX), "waypoint location"
+ * (NMEA). The class alone ("MGA") of a UBX message without a name, "proprietary" of what the maker
+ * of a receiver has defined. "" when it has none, and for NULL; never NULL. */
+NAVFRAME_API const char* navframe_message_name(const NavframeItem* item);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif

@@ -4,6 +4,8 @@
 #include <memory>
 #include <new>
 
+#include "base/text.h"
+#include "catalogue/message_names.h"
 #include "navframe/stream.h"
 #include "stream/stream_decoder.h"
 
@@ -200,6 +202,20 @@ const char* navframe_reason_text(uint32_t reason) {
       "a field cannot be converted",
   };
   return reason < std::size(Texts) ? Texts[reason] : "no reason of this library";
+}
+
+const char* navframe_message_name(const NavframeItem* item) {
+  if (item == nullptr || item->length == 0) return "";
+  switch (item->protocol) {
+    case NavframeNmea:
+      return navframe::catalogue::NmeaMessageName(navframe::TextOf(item->address));
+    case NavframeRtcm3:
+      return navframe::catalogue::RtcmMessageName(item->message);
+    case NavframeUbx:
+      return navframe::catalogue::UbxMessageName(item->message);
+    default:
+      return "";
+  }
 }
 
 const char* navframe_protocol_name(uint32_t protocol) {

@@ -65,6 +65,11 @@ const NavframeKind* navframe_kind_named(const char* name) {
   return nullptr;
 }
 
+int navframe_kind_has_name(const NavframeKind* kind, const char* name) {
+  if (kind == nullptr || name == nullptr) return 0;
+  return EqualIgnoringCase(kind->name, name) || NamesMessage(kind->message, name) ? 1 : 0;
+}
+
 const NavframeMember* navframe_member(const NavframeRecord* record, const char* name) {
   if (record == nullptr || name == nullptr) return nullptr;
   for (const NavframeMember* const member : MembersOf(*record)) {

@@ -158,6 +158,17 @@ constexpr KindRow Rows[] = {
     Nmea<WideGsvRecord>(MsgIdWideGsv, "GSV-WIDE", "GSV", TextForm::None,
         "satellites in view of a whole cycle that GSV has no room for"),
 
+    Rtcm<StationAntennaPointRecord>(StationIdAntennaPoint, "STATION-ARP", "1005-1006",
+        TextForm::None, "antenna reference point of a reference station, in metres"),
+    Rtcm<StationEquipmentRecord>(StationIdAntenna, "STATION-ANTENNA", "1007-1008", TextForm::None,
+        "antenna of a reference station"),
+    Rtcm<StationEquipmentRecord>(StationIdReceiver, "STATION-RECEIVER", "1033", TextForm::None,
+        "antenna and receiver of a reference station"),
+    Rtcm<StationGlonassBiasesRecord>(StationIdGlonassBiases, "STATION-GLO-BIASES", "1230",
+        TextForm::None, "biases between GLONASS code and phase"),
+    Rtcm<StationTextRecord>(StationIdText, "STATION-TEXT", "1029", TextForm::None,
+        "a text for people"),
+
     Ubx<UbxFullNavigationRecord>(MsgIdUbxFullNavigation, "NAV-PVT-WIDE", "01-07", TextForm::None,
         "time, position, velocity, accuracies: all of the message"),
     Ubx<UbxHighPrecisionPositionRecord>(MsgIdUbxHighPrecisionPosition, "NAV-HPPOSLLH", "01-14", TextForm::None,
@@ -226,10 +237,24 @@ constexpr KindRow Rows[] = {
         "a text"),
     Ubx<UbxAcknowledgeRecord>(MsgIdUbxAcknowledge, "ACK", "05", TextForm::None,
         "whether a message was taken"),
+
     Gnss<ObservationsRecord>(MsgIdObservations, "OBSERVATIONS",
         "1001-1004, 1009-1012, 1074-1077, 1084-1087, 1094-1097, 1104-1107, 1114-1117, 1124-1127, "
         "1134-1137, 02-15", TextForm::None,
         "observations of all systems: pseudorange, phase, Doppler, lock and C/N0 of each signal"),
+
+    Rtcm<KeplerEphemerisRecord>(EphemerisIdGps, "EPH-GPS", "1019", TextForm::None,
+        "GPS ephemeris and clock"),
+    Rtcm<GlonassEphemerisRecord>(EphemerisIdGlonass, "EPH-GLO", "1020", TextForm::None,
+        "GLONASS ephemeris and clock"),
+    Rtcm<KeplerEphemerisRecord>(EphemerisIdGalileo, "EPH-GAL", "1045-1046", TextForm::None,
+        "Galileo ephemeris and clock"),
+    Rtcm<KeplerEphemerisRecord>(EphemerisIdBeiDou, "EPH-BDS", "1042", TextForm::None,
+        "BeiDou ephemeris and clock"),
+    Rtcm<KeplerEphemerisRecord>(EphemerisIdQzss, "EPH-QZS", "1044", TextForm::None,
+        "QZSS ephemeris and clock"),
+    Rtcm<KeplerEphemerisRecord>(EphemerisIdNavIc, "EPH-NAV", "1041", TextForm::None,
+        "NavIC ephemeris and clock"),
 
     AsciiLog<GpsEphemerisLogRecord>(LogIdGpsEphemeris, "GPSEPHEM", "GPSEPHEMA", TextForm::None,
         "GPS ephemeris"),

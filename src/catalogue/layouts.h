@@ -29,6 +29,10 @@ inline constexpr NavframeValueName ObservedSystemValues[] = {{1, "GPS"}, {2, "GL
 
 inline constexpr NavframeValueName SmoothingIntervalValues[] = {{0, "none"}, {1, "below 30 s"}, {2, "30 to 60 s"}, {3, "1 to 2 min"}, {4, "2 to 4 min"}, {5, "4 to 8 min"}, {6, "above 8 min"}, {7, "unlimited"},};
 
+inline constexpr NavframeValueName EphemerisSystemValues[] = {{1, "GPS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"}, {7, "NavIC"},};
+
+inline constexpr NavframeValueName EphemerisMessageValues[] = {{1, "LNAV"}, {2, "F/NAV"}, {3, "I/NAV"}, {4, "D1"}, {5, "D2"}, {6, "NavIC SPS"},};
+
 inline constexpr NavframeValueName SolutionStatusValues[] = {{0, "SOL_COMPUTED or not known"}, {1, "INSUFFICIENT_OBS"}, {2, "NO_CONVERGENCE"}, {3, "SINGULARITY"}, {4, "COV_TRACE"}, {5, "TEST_DIST"}, {6, "COLD_START"}, {7, "V_H_LIMIT"}, {8, "VARIANCE"}, {9, "RESIDUALS"}, {10, "DELTA_POS"}, {11, "NEGATIVE_VAR"}, {13, "INTEGRITY_WARNING"}, {18, "PENDING"}, {19, "INVALID_FIX"}, {20, "UNAUTHORIZED"}, {21, "ANTENNA_WARNING"},};
 
 inline constexpr NavframeValueName SolutionTypeValues[] = {{0, "NONE or not known"}, {1, "FIXEDPOS"}, {2, "FIXEDHEIGHT"}, {8, "DOPPLER_VELOCITY"}, {16, "SINGLE"}, {17, "PSRDIFF"}, {18, "SBAS"}, {19, "PROPAGATED"}, {20, "OMNISTAR"}, {32, "L1_FLOAT"}, {33, "IONOFREE_FLOAT"}, {34, "NARROW_FLOAT"}, {48, "L1_INT"}, {49, "WIDE_INT"}, {50, "NARROW_INT"}, {51, "RTK_DIRECT_INS"}, {52, "INS"}, {53, "INS_PSRSP"}, {54, "INS_PSRDIFF"}, {55, "INS_RTKFLOAT"}, {56, "INS_RTKFIXED"}, {64, "OMNISTAR_HP"}, {65, "OMNISTAR_XP"}, {66, "CDGPS"}, {68, "PPP_CONVERGING"}, {69, "PPP"}, {77, "PPP_BASIC_CONVERGING"}, {78, "PPP_BASIC"},};
@@ -1761,6 +1765,163 @@ inline constexpr MemberRow ObservationsRecordMembers[] = {
 inline constexpr RecordRow ObservationsRecordLayout = LayoutOf<ObservationsRecord, ObservationsRecordMembers>("ObservationsRecord");
 static_assert(CoversEveryByte(ObservationsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ObservationsRecord> = ObservationsRecordLayout;
+
+inline constexpr NavframeValueName StationAntennaPointRecordQuarterCycleValues[] = {{1, "aligned"}, {2, "a quarter of a cycle apart"}, {3, "reserved"},};
+inline constexpr MemberRow StationAntennaPointRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationAntennaPointRecord, tow), sizeof(StationAntennaPointRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationAntennaPointRecord, week), sizeof(StationAntennaPointRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationAntennaPointRecord, stationId), sizeof(StationAntennaPointRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmMessage", "", "number of the message, 1005 or 1006", NavframeU16, offsetof(StationAntennaPointRecord, rtcmMessage), sizeof(StationAntennaPointRecord::rtcmMessage), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"itrfYear", "", "ITRF realization year, 0 before it was defined", NavframeU8, offsetof(StationAntennaPointRecord, itrfYear), sizeof(StationAntennaPointRecord::itrfYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gps", "", "the station serves GPS", NavframeU8, offsetof(StationAntennaPointRecord, gps), sizeof(StationAntennaPointRecord::gps), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"glonass", "", "the station serves GLONASS", NavframeU8, offsetof(StationAntennaPointRecord, glonass), sizeof(StationAntennaPointRecord::glonass), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"galileo", "", "the station serves Galileo", NavframeU8, offsetof(StationAntennaPointRecord, galileo), sizeof(StationAntennaPointRecord::galileo), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"referenceStation", "", "a computed (virtual) station, not a physical one", NavframeU8, offsetof(StationAntennaPointRecord, referenceStation), sizeof(StationAntennaPointRecord::referenceStation), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"oneOscillator", "", "all measurements are of one oscillator", NavframeU8, offsetof(StationAntennaPointRecord, oneOscillator), sizeof(StationAntennaPointRecord::oneOscillator), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"quarterCycle", "", "phases of the same frequency", NavframeU8, offsetof(StationAntennaPointRecord, quarterCycle), sizeof(StationAntennaPointRecord::quarterCycle), 0, -1, 0, NavframeUnknownValue, 0, 3, StationAntennaPointRecordQuarterCycleValues, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(StationAntennaPointRecord, reserved), sizeof(StationAntennaPointRecord::reserved[0]), 7, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"x", "m", "ECEF X", NavframeF64, offsetof(StationAntennaPointRecord, x), sizeof(StationAntennaPointRecord::x), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"y", "m", "ECEF Y", NavframeF64, offsetof(StationAntennaPointRecord, y), sizeof(StationAntennaPointRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"z", "m", "ECEF Z", NavframeF64, offsetof(StationAntennaPointRecord, z), sizeof(StationAntennaPointRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"antennaHeight", "m", "of the reference point above the marker; unknown in 1005", NavframeF64, offsetof(StationAntennaPointRecord, antennaHeight), sizeof(StationAntennaPointRecord::antennaHeight), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow StationAntennaPointRecordLayout = LayoutOf<StationAntennaPointRecord, StationAntennaPointRecordMembers>("StationAntennaPointRecord");
+static_assert(CoversEveryByte(StationAntennaPointRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<StationAntennaPointRecord> = StationAntennaPointRecordLayout;
+
+inline constexpr MemberRow StationEquipmentRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationEquipmentRecord, tow), sizeof(StationEquipmentRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationEquipmentRecord, week), sizeof(StationEquipmentRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationEquipmentRecord, stationId), sizeof(StationEquipmentRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmMessage", "", "number of the message: 1007, 1008 or 1033", NavframeU16, offsetof(StationEquipmentRecord, rtcmMessage), sizeof(StationEquipmentRecord::rtcmMessage), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"setupId", "", "0 standard model of the antenna, else one of the service", NavframeU8, offsetof(StationEquipmentRecord, setupId), sizeof(StationEquipmentRecord::setupId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(StationEquipmentRecord, reserved), sizeof(StationEquipmentRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"antenna", "", "descriptor of the antenna, with its radome", NavframeText, offsetof(StationEquipmentRecord, antenna), sizeof(StationEquipmentRecord::antenna), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"antennaSerial", "", "serial number of the antenna", NavframeText, offsetof(StationEquipmentRecord, antennaSerial), sizeof(StationEquipmentRecord::antennaSerial), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"receiver", "", "type of the receiver", NavframeText, offsetof(StationEquipmentRecord, receiver), sizeof(StationEquipmentRecord::receiver), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"firmware", "", "version of its firmware", NavframeText, offsetof(StationEquipmentRecord, firmware), sizeof(StationEquipmentRecord::firmware), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"receiverSerial", "", "serial number of the receiver", NavframeText, offsetof(StationEquipmentRecord, receiverSerial), sizeof(StationEquipmentRecord::receiverSerial), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow StationEquipmentRecordLayout = LayoutOf<StationEquipmentRecord, StationEquipmentRecordMembers>("StationEquipmentRecord");
+static_assert(CoversEveryByte(StationEquipmentRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<StationEquipmentRecord> = StationEquipmentRecordLayout;
+
+inline constexpr MemberRow StationGlonassBiasesRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationGlonassBiasesRecord, tow), sizeof(StationGlonassBiasesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationGlonassBiasesRecord, week), sizeof(StationGlonassBiasesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationGlonassBiasesRecord, stationId), sizeof(StationGlonassBiasesRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"aligned", "", "the measurements are aligned with these biases already", NavframeU8, offsetof(StationGlonassBiasesRecord, aligned), sizeof(StationGlonassBiasesRecord::aligned), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(StationGlonassBiasesRecord, reserved), sizeof(StationGlonassBiasesRecord::reserved[0]), 7, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"l1Ca", "m", "bias of L1 C/A", NavframeF64, offsetof(StationGlonassBiasesRecord, l1Ca), sizeof(StationGlonassBiasesRecord::l1Ca), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"l1P", "m", "bias of L1 P", NavframeF64, offsetof(StationGlonassBiasesRecord, l1P), sizeof(StationGlonassBiasesRecord::l1P), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"l2Ca", "m", "bias of L2 C/A", NavframeF64, offsetof(StationGlonassBiasesRecord, l2Ca), sizeof(StationGlonassBiasesRecord::l2Ca), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"l2P", "m", "bias of L2 P", NavframeF64, offsetof(StationGlonassBiasesRecord, l2P), sizeof(StationGlonassBiasesRecord::l2P), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow StationGlonassBiasesRecordLayout = LayoutOf<StationGlonassBiasesRecord, StationGlonassBiasesRecordMembers>("StationGlonassBiasesRecord");
+static_assert(CoversEveryByte(StationGlonassBiasesRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<StationGlonassBiasesRecord> = StationGlonassBiasesRecordLayout;
+
+inline constexpr MemberRow StationTextRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationTextRecord, tow), sizeof(StationTextRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationTextRecord, week), sizeof(StationTextRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationTextRecord, stationId), sizeof(StationTextRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"secondsOfDay", "s", "of the day, UTC", NavframeU32, offsetof(StationTextRecord, secondsOfDay), sizeof(StationTextRecord::secondsOfDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"modifiedJulianDay", "d", "modified Julian day", NavframeU16, offsetof(StationTextRecord, modifiedJulianDay), sizeof(StationTextRecord::modifiedJulianDay), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"characters", "", "characters of the text", NavframeU8, offsetof(StationTextRecord, characters), sizeof(StationTextRecord::characters), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"length", "B", "of the text", NavframeU8, offsetof(StationTextRecord, length), sizeof(StationTextRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"text", "", "UTF-8", NavframeText, offsetof(StationTextRecord, text), sizeof(StationTextRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow StationTextRecordLayout = LayoutOf<StationTextRecord, StationTextRecordMembers>("StationTextRecord");
+static_assert(CoversEveryByte(StationTextRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<StationTextRecord> = StationTextRecordLayout;
+
+inline constexpr MemberRow KeplerEphemerisRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(KeplerEphemerisRecord, tow), sizeof(KeplerEphemerisRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(KeplerEphemerisRecord, week), sizeof(KeplerEphemerisRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"system", "", "satellite system", NavframeU8, offsetof(KeplerEphemerisRecord, system), sizeof(KeplerEphemerisRecord::system), 0, -1, 0, NavframeUnknownValue, 255, 5, EphemerisSystemValues, nullptr}, false, 0},
+    {{"satellite", "", "number in its system: PRN, of QZSS PRN less 192", NavframeU8, offsetof(KeplerEphemerisRecord, satellite), sizeof(KeplerEphemerisRecord::satellite), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmMessage", "", "number of the RTCM message; 0 from another source", NavframeU16, offsetof(KeplerEphemerisRecord, rtcmMessage), sizeof(KeplerEphemerisRecord::rtcmMessage), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"navigationMessage", "", "what the satellite sent", NavframeU8, offsetof(KeplerEphemerisRecord, navigationMessage), sizeof(KeplerEphemerisRecord::navigationMessage), 0, -1, 0, NavframeUnknownValue, 255, 6, EphemerisMessageValues, nullptr}, false, 0},
+    {{"accuracyIndex", "", "URA, of Galileo SISA", NavframeU8, offsetof(KeplerEphemerisRecord, accuracyIndex), sizeof(KeplerEphemerisRecord::accuracyIndex), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"issueOfData", "", "IODE, of BeiDou AODE, of Galileo IODnav, of NavIC IODEC", NavframeU16, offsetof(KeplerEphemerisRecord, issueOfData), sizeof(KeplerEphemerisRecord::issueOfData), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"issueOfClock", "", "IODC, of BeiDou AODC", NavframeU16, offsetof(KeplerEphemerisRecord, issueOfClock), sizeof(KeplerEphemerisRecord::issueOfClock), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"broadcastWeek", "", "week of the system, as far as the message counts", NavframeU16, offsetof(KeplerEphemerisRecord, broadcastWeek), sizeof(KeplerEphemerisRecord::broadcastWeek), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"toeWeek", "", "week of toe; unknown when the date of the stream is needed and not known", NavframeU16, offsetof(KeplerEphemerisRecord, toeWeek), sizeof(KeplerEphemerisRecord::toeWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"tocWeek", "", "week of toc, likewise", NavframeU16, offsetof(KeplerEphemerisRecord, tocWeek), sizeof(KeplerEphemerisRecord::tocWeek), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "as RINEX puts it, 0 healthy: of GPS and QZSS the 6 bits of the message, of BeiDou SatH1, of NavIC 2 for L5 and 1 for S; of Galileo bits 0 to 2 E1, 3 to 5 E5a, 6 to 8 E5b, of each dataInvalid and 2 * signalHealth, 0 for signals that the message has not", NavframeU16, offsetof(KeplerEphemerisRecord, health), sizeof(KeplerEphemerisRecord::health), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"signalHealth", "", "of Galileo E1, E5a, E5b", NavframeU8, offsetof(KeplerEphemerisRecord, signalHealth), sizeof(KeplerEphemerisRecord::signalHealth[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"dataInvalid", "", "of Galileo E1, E5a, E5b: without guarantee", NavframeU8, offsetof(KeplerEphemerisRecord, dataInvalid), sizeof(KeplerEphemerisRecord::dataInvalid[0]), 3, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"codesOnL2", "", "of GPS and QZSS", NavframeU8, offsetof(KeplerEphemerisRecord, codesOnL2), sizeof(KeplerEphemerisRecord::codesOnL2), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"l2pDataFlag", "", "of GPS, no data on L2 P", NavframeU8, offsetof(KeplerEphemerisRecord, l2pDataFlag), sizeof(KeplerEphemerisRecord::l2pDataFlag), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"fitInterval", "", "of GPS fitted to more than 4 h, of QZSS 2 h", NavframeU8, offsetof(KeplerEphemerisRecord, fitInterval), sizeof(KeplerEphemerisRecord::fitInterval), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(KeplerEphemerisRecord, reserved), sizeof(KeplerEphemerisRecord::reserved[0]), 7, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracy", "m", "of the orbit and clock, nominal, by accuracyIndex; unknown where it says none", NavframeF64, offsetof(KeplerEphemerisRecord, accuracy), sizeof(KeplerEphemerisRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"transmissionTime", "s", "of the week, start of subframe 1; of Galileo that of word 5 or page 1", NavframeF64, offsetof(KeplerEphemerisRecord, transmissionTime), sizeof(KeplerEphemerisRecord::transmissionTime), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"toc", "s", "reference time of the clock, of its week", NavframeF64, offsetof(KeplerEphemerisRecord, toc), sizeof(KeplerEphemerisRecord::toc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af0", "s", "clock bias", NavframeF64, offsetof(KeplerEphemerisRecord, af0), sizeof(KeplerEphemerisRecord::af0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af1", "s/s", "clock drift", NavframeF64, offsetof(KeplerEphemerisRecord, af1), sizeof(KeplerEphemerisRecord::af1), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"af2", "s/s^2", "clock drift rate", NavframeF64, offsetof(KeplerEphemerisRecord, af2), sizeof(KeplerEphemerisRecord::af2), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"toe", "s", "reference time of the ephemeris, of its week", NavframeF64, offsetof(KeplerEphemerisRecord, toe), sizeof(KeplerEphemerisRecord::toe), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"sqrtSemiMajorAxis", "m^0.5", "square root of the semi-major axis", NavframeF64, offsetof(KeplerEphemerisRecord, sqrtSemiMajorAxis), sizeof(KeplerEphemerisRecord::sqrtSemiMajorAxis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"eccentricity", "", "eccentricity", NavframeF64, offsetof(KeplerEphemerisRecord, eccentricity), sizeof(KeplerEphemerisRecord::eccentricity), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"m0", "rad", "mean anomaly at toe", NavframeF64, offsetof(KeplerEphemerisRecord, m0), sizeof(KeplerEphemerisRecord::m0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"deltaN", "rad/s", "difference of the mean motion", NavframeF64, offsetof(KeplerEphemerisRecord, deltaN), sizeof(KeplerEphemerisRecord::deltaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega", "rad", "argument of perigee", NavframeF64, offsetof(KeplerEphemerisRecord, omega), sizeof(KeplerEphemerisRecord::omega), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omega0", "rad", "longitude of the ascending node at the start of the week", NavframeF64, offsetof(KeplerEphemerisRecord, omega0), sizeof(KeplerEphemerisRecord::omega0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"omegaDot", "rad/s", "rate of the right ascension", NavframeF64, offsetof(KeplerEphemerisRecord, omegaDot), sizeof(KeplerEphemerisRecord::omegaDot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"i0", "rad", "inclination at toe", NavframeF64, offsetof(KeplerEphemerisRecord, i0), sizeof(KeplerEphemerisRecord::i0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"idot", "rad/s", "rate of the inclination", NavframeF64, offsetof(KeplerEphemerisRecord, idot), sizeof(KeplerEphemerisRecord::idot), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cuc", "rad", "cosine correction of the argument of latitude", NavframeF64, offsetof(KeplerEphemerisRecord, cuc), sizeof(KeplerEphemerisRecord::cuc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cus", "rad", "sine correction of the argument of latitude", NavframeF64, offsetof(KeplerEphemerisRecord, cus), sizeof(KeplerEphemerisRecord::cus), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crc", "m", "cosine correction of the radius", NavframeF64, offsetof(KeplerEphemerisRecord, crc), sizeof(KeplerEphemerisRecord::crc), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"crs", "m", "sine correction of the radius", NavframeF64, offsetof(KeplerEphemerisRecord, crs), sizeof(KeplerEphemerisRecord::crs), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(KeplerEphemerisRecord, cic), sizeof(KeplerEphemerisRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(KeplerEphemerisRecord, cis), sizeof(KeplerEphemerisRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"groupDelay", "s", "of GPS, QZSS and NavIC TGD; of Galileo BGD E5a/E1 and E5b/E1; of BeiDou TGD1 and TGD2", NavframeF64, offsetof(KeplerEphemerisRecord, groupDelay), sizeof(KeplerEphemerisRecord::groupDelay[0]), 2, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow KeplerEphemerisRecordLayout = LayoutOf<KeplerEphemerisRecord, KeplerEphemerisRecordMembers>("KeplerEphemerisRecord");
+static_assert(CoversEveryByte(KeplerEphemerisRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<KeplerEphemerisRecord> = KeplerEphemerisRecordLayout;
+
+inline constexpr NavframeValueName GlonassEphemerisRecordSatelliteTypeValues[] = {{0, "GLONASS"}, {1, "GLONASS-M"}, {2, "GLONASS-K"},};
+inline constexpr MemberRow GlonassEphemerisRecordMembers[] = {
+    {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(GlonassEphemerisRecord, tow), sizeof(GlonassEphemerisRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(GlonassEphemerisRecord, week), sizeof(GlonassEphemerisRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"satellite", "", "slot number", NavframeU8, offsetof(GlonassEphemerisRecord, satellite), sizeof(GlonassEphemerisRecord::satellite), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"channel", "", "frequency channel, -7 to 6", NavframeI8, offsetof(GlonassEphemerisRecord, channel), sizeof(GlonassEphemerisRecord::channel), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"rtcmMessage", "", "number of the RTCM message; 0 from another source", NavframeU16, offsetof(GlonassEphemerisRecord, rtcmMessage), sizeof(GlonassEphemerisRecord::rtcmMessage), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"nt", "d", "day of the four-year interval, 1 to 1461", NavframeU16, offsetof(GlonassEphemerisRecord, nt), sizeof(GlonassEphemerisRecord::nt), 0, -1, NavframeAsSent, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reference", "", "tb as GPS time, with the leap seconds of the stream", NavframeNested, offsetof(GlonassEphemerisRecord, reference), sizeof(GlonassEphemerisRecord::reference), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"referenceUtc", "", "tb as UTC", NavframeNested, offsetof(GlonassEphemerisRecord, referenceUtc), sizeof(GlonassEphemerisRecord::referenceUtc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"tb", "s", "reference time, of the day of GLONASS time (UTC plus 3 h)", NavframeU32, offsetof(GlonassEphemerisRecord, tb), sizeof(GlonassEphemerisRecord::tb), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"frameTime", "s", "tk, start of the frame, of the day of GLONASS time", NavframeU32, offsetof(GlonassEphemerisRecord, frameTime), sizeof(GlonassEphemerisRecord::frameTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"n4", "", "four-year interval, 1 from 1996 on", NavframeU8, offsetof(GlonassEphemerisRecord, n4), sizeof(GlonassEphemerisRecord::n4), 0, -1, NavframeAsSent, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
+    {{"health", "", "Bn, 3 bits; of 1020 the first of them, 4 or 0", NavframeU8, offsetof(GlonassEphemerisRecord, health), sizeof(GlonassEphemerisRecord::health), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"unhealthy", "", "the first bit of Bn: the satellite cannot be used", NavframeU8, offsetof(GlonassEphemerisRecord, unhealthy), sizeof(GlonassEphemerisRecord::unhealthy), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"lnThird", "", "ln of string 3: the satellite cannot be used", NavframeU8, offsetof(GlonassEphemerisRecord, lnThird), sizeof(GlonassEphemerisRecord::lnThird), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"lnFifth", "", "ln of string 5", NavframeU8, offsetof(GlonassEphemerisRecord, lnFifth), sizeof(GlonassEphemerisRecord::lnFifth), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"almanacHealth", "", "Cn of the almanac: can be used", NavframeU8, offsetof(GlonassEphemerisRecord, almanacHealth), sizeof(GlonassEphemerisRecord::almanacHealth), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"age", "d", "En, age of the data", NavframeU8, offsetof(GlonassEphemerisRecord, age), sizeof(GlonassEphemerisRecord::age), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"accuracyIndex", "", "FT, predicted accuracy", NavframeU8, offsetof(GlonassEphemerisRecord, accuracyIndex), sizeof(GlonassEphemerisRecord::accuracyIndex), 0, -1, NavframeAsSent, NavframeUnknownValue, 15, 0, nullptr, nullptr}, false, 0},
+    {{"satelliteType", "", "M", NavframeU8, offsetof(GlonassEphemerisRecord, satelliteType), sizeof(GlonassEphemerisRecord::satelliteType), 0, -1, 0, NavframeUnknownValue, 255, 3, GlonassEphemerisRecordSatelliteTypeValues, nullptr}, false, 0},
+    {{"p", "", "P, where the corrections come from", NavframeU8, offsetof(GlonassEphemerisRecord, p), sizeof(GlonassEphemerisRecord::p), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"p1", "", "P1, interval of tb: 0, 30, 45 or 60 min", NavframeU8, offsetof(GlonassEphemerisRecord, p1), sizeof(GlonassEphemerisRecord::p1), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"p2", "", "P2, tb is an odd number of 15 min", NavframeU8, offsetof(GlonassEphemerisRecord, p2), sizeof(GlonassEphemerisRecord::p2), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"p3", "", "P3, five satellites in the almanac of the frame", NavframeU8, offsetof(GlonassEphemerisRecord, p3), sizeof(GlonassEphemerisRecord::p3), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"p4", "", "P4, the frame has new ephemerides", NavframeU8, offsetof(GlonassEphemerisRecord, p4), sizeof(GlonassEphemerisRecord::p4), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"na", "d", "day of the four-year interval of tauC", NavframeU16, offsetof(GlonassEphemerisRecord, na), sizeof(GlonassEphemerisRecord::na), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"position", "m", "position", NavframeF64, offsetof(GlonassEphemerisRecord, position), sizeof(GlonassEphemerisRecord::position[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"velocity", "m/s", "velocity", NavframeF64, offsetof(GlonassEphemerisRecord, velocity), sizeof(GlonassEphemerisRecord::velocity[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"acceleration", "m/s^2", "acceleration by sun and moon", NavframeF64, offsetof(GlonassEphemerisRecord, acceleration), sizeof(GlonassEphemerisRecord::acceleration[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tauN", "s", "clock correction, system time less satellite time", NavframeF64, offsetof(GlonassEphemerisRecord, tauN), sizeof(GlonassEphemerisRecord::tauN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"gammaN", "s/s", "relative deviation of the carrier frequency", NavframeF64, offsetof(GlonassEphemerisRecord, gammaN), sizeof(GlonassEphemerisRecord::gammaN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"deltaTauN", "s", "delay of L2 against L1", NavframeF64, offsetof(GlonassEphemerisRecord, deltaTauN), sizeof(GlonassEphemerisRecord::deltaTauN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tauC", "s", "correction of system time to UTC(SU), as in the message", NavframeF64, offsetof(GlonassEphemerisRecord, tauC), sizeof(GlonassEphemerisRecord::tauC), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"tauGps", "s", "correction of system time to GPS time, as in the message", NavframeF64, offsetof(GlonassEphemerisRecord, tauGps), sizeof(GlonassEphemerisRecord::tauGps), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow GlonassEphemerisRecordLayout = LayoutOf<GlonassEphemerisRecord, GlonassEphemerisRecordMembers>("GlonassEphemerisRecord");
+static_assert(CoversEveryByte(GlonassEphemerisRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<GlonassEphemerisRecord> = GlonassEphemerisRecordLayout;
 
 inline constexpr NavframeValueName AsciiLogHeaderPortValues[] = {{0, "any other"}, {1, "COM1"}, {2, "COM2"}, {3, "COM3"}, {4, "THISPORT"}, {5, "XCOM1"}, {6, "XCOM2"}, {7, "XCOM3"}, {8, "USB1"}, {9, "USB2"}, {10, "USB3"}, {11, "COM1_30"}, {12, "ICOM1 to ICOM14"}, {13, "ICOM1 to ICOM14"}, {14, "ICOM1 to ICOM14"}, {15, "ICOM1 to ICOM14"}, {16, "ICOM1 to ICOM14"}, {17, "ICOM1 to ICOM14"}, {18, "ICOM1 to ICOM14"}, {19, "ICOM1 to ICOM14"}, {20, "ICOM1 to ICOM14"}, {21, "ICOM1 to ICOM14"}, {22, "ICOM1 to ICOM14"}, {23, "ICOM1 to ICOM14"}, {24, "ICOM1 to ICOM14"}, {25, "ICOM1 to ICOM14"},};
 inline constexpr NavframeValueName AsciiLogHeaderTimeStatusValues[] = {{20, "UNKNOWN"}, {60, "APPROXIMATE"}, {80, "COARSEADJUSTING"}, {100, "COARSE"}, {120, "COARSESTEERING"}, {130, "FREEWHEELING"}, {140, "FINEADJUSTING"}, {160, "FINE"}, {170, "FINEBACKUPSTEERING"}, {180, "FINESTEERING"}, {200, "SATTIME"}, {201, "LOCAL"},};

@@ -1,24 +1,12 @@
 // Bit fields of a frame, by absolute position: bit 0 is the most significant bit of byte 0.
 #pragma once
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+
+#include "base/big_endian.h"
 
 namespace navframe::rtcm {
-
-// Compilers turn this into one load and one byte swap.
-inline std::uint64_t LoadBigEndian64(const std::uint8_t* bytes) {
-  std::uint64_t value;
-  std::memcpy(&value, bytes, sizeof value);
-  if constexpr (std::endian::native == std::endian::little) {
-    value = (value & 0x00000000FFFFFFFF) << 32 | value >> 32;
-    value = (value & 0x0000FFFF0000FFFF) << 16 | (value >> 16 & 0x0000FFFF0000FFFF);
-    value = (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
-  }
-  return value;
-}
 
 // What starts at `bit`, moved to the top of 64 bits. At least 57 bits of it are the frame's. Loads
 // up to 8 bytes behind the field, which every frame's memory allows.

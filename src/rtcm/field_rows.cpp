@@ -1,8 +1,5 @@
 #include "rtcm/field_rows.h"
 
-#include <bit>
-#include <cstring>
-
 namespace navframe::rtcm {
 namespace {
 
@@ -16,30 +13,6 @@ std::uint64_t RawBits(const std::uint8_t* bytes, std::uint32_t bit, const FieldR
   return UnsignedBits(bytes, bit, row.bits);
 }
 
-double Value(std::uint64_t raw, const FieldRow& row) {
-  switch (row.wire) {
-    case Wire::Unsigned:
-      return static_cast<double>(raw);
-    case Wire::TwosComplement:
-      return static_cast<double>(static_cast<std::int64_t>(raw));
-    case Wire::SignMagnitude:
-      break;
-  }
-  const std::uint64_t sign = std::uint64_t{1} << (row.bits - 1);
-  const auto magnitude = static_cast<double>(raw & (sign - 1));
-  return (raw & sign) != 0 ? -magnitude : magnitude;
-}
-
-void Store(std::uint64_t raw, const FieldRow& row, std::uint8_t* member) {
-  if (row.isDouble) {
-    const double value = Value(raw, row) * row.scale + row.offset;
-    std::memcpy(member, &value, sizeof value);
-    return;
-  }
-  const std::size_t skipped = std::endian::native == std::endian::big ? sizeof raw - row.size : 0;
-  std::memcpy(member, reinterpret_cast<const std::uint8_t*>(&raw) + skipped, row.size);
-}
-
 }  // namespace
 
 std::uint32_t ReadFields(const Frame& frame, std::uint32_t bit, std::span<const FieldRow> rows,
@@ -49,7 +22,7 @@ std::uint32_t ReadFields(const Frame& frame, std::uint32_t bit, std::span<const 
     for (std::uint32_t i = 0; i < row.count; ++i, bit += row.bits, member += row.size) {
       if (row.size == 0 || !frame.Has(bit, row.bits)) continue;
       const std::uint64_t raw = RawBits(frame.bytes, bit, row);
-      if (raw != row.absent) Store(raw, row, member);
+      if (raw != row.absent) StoreField(raw, row, member);
     }
   }
   return bit;

@@ -47,6 +47,14 @@ constexpr auto Announcement =
 #undef A
 static_assert(BitLength(Announcement) == 29);
 
+bool HoldsAnnouncements(const Frame& frame) {
+  constexpr std::uint32_t Fixed = BitLength(SystemParameters);
+  constexpr std::uint32_t CountBit = FirstFieldBit + 45;
+  if (!frame.Has(FirstFieldBit, Fixed)) return false;
+  const auto count = static_cast<std::uint32_t>(UnsignedBits(frame.bytes, CountBit, 5));
+  return frame.Has(FirstFieldBit, Fixed + count * BitLength(Announcement));
+}
+
 void DecodeAnnouncements(const Frame& frame, std::uint32_t bit, SystemParametersRecord& record) {
   for (std::uint32_t i = 0; i < record.count; ++i) {  // 5 bits: at most the 31 there are
     bit = ReadFields(frame, bit, Announcement, &record.announcements[i]);
@@ -73,6 +81,7 @@ struct StationRow {
   // Reads what no row of fields tells, from `bit` on, where they end; null for nothing.
   void (*rest)(const Frame& frame, std::uint32_t bit, void* record) = nullptr;
   void (*keepTime)(const void* record, DecoderClock& clock) = nullptr;  // moves a true clock
+  bool (*isWhole)(const Frame& frame) = nullptr;                        // asked by streams alone
 };
 
 // Adds to a row what follows from the type of its record.
@@ -98,7 +107,8 @@ constexpr StationRow StationRows[] = {
     With<SystemParametersRecord, DecodeAnnouncements>({.number = 1013,
                                                        .msgId = MsgIdSystemParameters,
                                                        .fields = SystemParameters,
-                                                       .keepTime = KeepSystemTime}),
+                                                       .keepTime = KeepSystemTime,
+                                                       .isWhole = HoldsAnnouncements}),
 };
 
 // Unlike everywhere else the filter is asked before the kind counts as decoded.
@@ -117,13 +127,17 @@ void Decode(const StationRow& row, const Frame& frame, Services& services) {
 
 }  // namespace
 
-bool DecodeStation(std::uint32_t number, const Frame& frame, Services& services) {
+std::optional<DecodeResult> DecodeStation(std::uint32_t number, const Frame& frame,
+                                          Services& services) {
   for (const StationRow& row : StationRows) {
     if (row.number != number) continue;
+    if (services.dialect.standardRecords && row.isWhole != nullptr && !row.isWhole(frame)) {
+      return DecodeResult{NavframeBadContent};
+    }
     Decode(row, frame, services);
-    return true;
+    return DecodeResult{};
   }
-  return false;
+  return std::nullopt;
 }
 
 }  // namespace navframe::rtcm

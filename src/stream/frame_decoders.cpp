@@ -3,8 +3,19 @@
 #include "asciilog/log_table.h"
 #include "catalogue/kinds.h"
 #include "time/true_clock.h"
+#include "ubx/subframes.h"
 
 namespace navframe::protocols {
+
+DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {
+  const bool collects = decoders.dialect.standardRecords && ubx::IsSubframe(frame);
+  if (collects) decoders.subframes.MakeRoom();  // in front of all that cannot be done twice
+  const DecodeResult result = decoders.ubx.Decode(frame, length);
+  if (collects && result.reason == NavframeNoReason) {
+    if (const auto subframe = ubx::SubframeOf(frame, length)) decoders.subframes.Take(*subframe);
+  }
+  return result;
+}
 
 DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {
   const std::uint32_t log = asciilog::LogOf(frame, length);

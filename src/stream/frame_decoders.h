@@ -8,6 +8,7 @@
 #include "asciilog/line_framer.h"
 #include "base/characters.h"
 #include "base/dialect.h"
+#include "ephemeris/collector.h"
 #include "frame55aa/frame_decoder.h"
 #include "frame55aa/frame_framer.h"
 #include "framing/framing.h"
@@ -44,6 +45,7 @@ struct FrameDecoders {
         ubx{sink, time, dialect},
         binary55Aa{sink},
         rtcm{sink, time, dialect},
+        subframes{sink, time},
         asciiLog{sink, dialect} {}
   FrameDecoders(const FrameDecoders&) = delete;
   FrameDecoders& operator=(const FrameDecoders&) = delete;
@@ -55,6 +57,7 @@ struct FrameDecoders {
   ubx::UbxDecoder ubx;
   frame55aa::FrameDecoder binary55Aa;
   rtcm::RtcmDecoder rtcm;
+  ephemeris::SubframeCollector subframes;
   asciilog::AsciiLogDecoder asciiLog;
 };
 
@@ -114,10 +117,7 @@ inline DecodeResult DecodeRtcm(FrameDecoders& decoders, const std::uint8_t* fram
                                std::uint32_t length) {
   return decoders.rtcm.Decode({frame, length});
 }
-inline DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame,
-                              std::uint32_t length) {
-  return decoders.ubx.Decode(frame, length);
-}
+DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length);
 inline DecodeResult Decode55Aa(FrameDecoders& decoders, const std::uint8_t* frame,
                                std::uint32_t length) {
   constexpr std::uint32_t Around = frame55aa::HeaderLength + frame55aa::ChecksumLength;

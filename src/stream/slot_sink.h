@@ -15,7 +15,8 @@ struct SlotRecord {
   const void* payload;
 };
 
-// A frame gives two records at most: the satellites in view that it ends, and its own. Their memory
+// A frame gives two records at most: its own, and the satellites in view that it ends or the
+// ephemeris that it completes. Their memory
 // is there from the start, so that no decoder stops half-way for the want of it.
 class SlotSink final : public RecordSink {
  public:

@@ -255,15 +255,23 @@ void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay,
              source, clock);
 }
 
+std::optional<std::int64_t> NearestWeek(std::int64_t week, std::int64_t rollover,
+                                        const DecoderClock& clock) {
+  constexpr std::int64_t GpsRollover = 1024;
+  if (KnowsWeek(clock)) return Nearest(week, clock.gpsTime.week, rollover);
+  if (rollover <= GpsRollover) return std::nullopt;
+  return week;
+}
+
 void SetEphemerisWeek(std::int64_t week, std::int64_t rollover, NavframeTimeSource source,
                       DecoderClock& clock) {
-  constexpr std::int64_t GpsRollover = 1024;
-  if (clock.weekFrom == WeekFrom::Date || (!KnowsWeek(clock) && rollover <= GpsRollover)) return;
-  const std::int64_t known = clock.gpsTime.week;
-  if (KnowsWeek(clock)) week = Nearest(week, known, rollover);
+  if (clock.weekFrom == WeekFrom::Date) return;
+  const auto nearest = NearestWeek(week, rollover, clock);
+  if (!nearest) return;
   // Ephemerides are sent on behind the end of their week, but not ahead of it.
-  const bool isLate = clock.weekFrom == WeekFrom::Ephemeris && week == known - 1;
-  if (isLate || !PutWeek(week, WeekFrom::Ephemeris, clock)) return;
+  const bool isLate =
+      clock.weekFrom == WeekFrom::Ephemeris && *nearest == std::int64_t{clock.gpsTime.week} - 1;
+  if (isLate || !PutWeek(*nearest, WeekFrom::Ephemeris, clock)) return;
   clock.source = source;
   if (KnowsTow(clock)) PutUtcOfGps(clock);
 }
@@ -279,11 +287,23 @@ std::uint32_t TowOfGlonass(std::uint32_t day, std::uint32_t ofDay, const Decoder
   return static_cast<std::uint32_t>(Modulo(tow, WeekMs));
 }
 
-std::int64_t WeekOfGlonass(std::int64_t interval, std::int64_t day, std::int64_t secondOfDay) {
+UTCTIME UtcOf(std::int64_t second) {
+  const std::int64_t ms = second * SecondMs + GpsEpochDay * DayMs;
+  UTCTIME utc{};
+  PutDate(ms / DayMs, utc);
+  PutTimeOfDay(ms % DayMs, utc);
+  utc.flag = 1;
+  return utc;
+}
+
+std::int64_t DayOfGlonass(std::int64_t interval, std::int64_t day) {
   constexpr std::int64_t FirstInterval = DayOf(1996, 1, 1) - GpsEpochDay;
   constexpr std::int64_t IntervalDays = 4 * 365 + 1;
-  const std::int64_t days = FirstInterval + (interval - 1) * IntervalDays + day - 1;
-  return (days * DayMs + secondOfDay * SecondMs - GlonassAheadMs) / WeekMs;
+  return FirstInterval + (interval - 1) * IntervalDays + day - 1;
+}
+
+std::int64_t WeekOfGlonass(std::int64_t interval, std::int64_t day, std::int64_t secondOfDay) {
+  return (DayOfGlonass(interval, day) * DayMs + secondOfDay * SecondMs - GlonassAheadMs) / WeekMs;
 }
 
 }  // namespace navframe::true_clock

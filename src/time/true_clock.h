@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "time/decoder_clock.h"
@@ -43,9 +44,20 @@ void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay,
 void SetEphemerisWeek(std::int64_t week, std::int64_t rollover, NavframeTimeSource source,
                       DecoderClock& clock);
 
+// The GPS week of which multiples of `rollover` are missing that comes nearest to the clock's.
+// Nothing when that is not known, unless more than 1024 weeks tell it alone.
+std::optional<std::int64_t> NearestWeek(std::int64_t week, std::int64_t rollover,
+                                        const DecoderClock& clock);
+
 // The GPS time of week of a day of the week and the milliseconds of that day in GLONASS time. Of
 // day 7, an unknown one, the time that comes nearest to the clock's; unknown when that is.
 std::uint32_t TowOfGlonass(std::uint32_t day, std::uint32_t ofDay, const DecoderClock& clock);
+
+// Date and time of day of a second from the GPS epoch, UTC.
+UTCTIME UtcOf(std::int64_t second);
+
+// The day from the GPS epoch of a day of a four-year interval of GLONASS, both counted from 1.
+std::int64_t DayOfGlonass(std::int64_t interval, std::int64_t day);
 
 // The GPS week of a day of a four-year interval of GLONASS, both counted from 1, and the seconds of
 // that day.

@@ -3,7 +3,7 @@
 
 # The folders of src/, by layer. A folder includes its own headers, the public ones and those of
 # layers below; folders of one layer do not know each other.
-set(layers "base" "catalogue" "framing,output,time" "observations" "nmea,rtcm,ubx,frame55aa,asciilog,render" "stream" "api")
+set(layers "base" "catalogue" "framing,output,time" "observations,ephemeris" "nmea,rtcm,ubx,frame55aa,asciilog,render" "stream" "api")
 
 set(folders)
 set(rank 0)

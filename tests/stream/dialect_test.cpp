@@ -240,7 +240,7 @@ Bytes Ephemeris(unsigned number, int before, unsigned week, int bits) {
   writer.Put(number, 12);
   for (int i = 0; i < before; ++i) writer.Put(1, 1);
   writer.Put(week, bits);
-  for (int i = before + bits; i < 480; ++i) writer.Put(0, 1);
+  for (int i = before + bits; i < 500; ++i) writer.Put(0, 1);
   return RtcmFrame(writer);
 }
 // 1020: the day of a four-year interval.

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstring>
 
 #include "generator/mixed_stream.h"
 #include "support/asciilog.h"
@@ -63,7 +64,7 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {UbxFrame(0x0A, 0x09, Bytes(10)), "UBX 0A09 18 =0 no kind\n"},
       {UbxFrame(0x01, 0x07, Bytes(4)), "UBX 0107 12 =0 content\n"},
       {Frame55Aa(Bytes(8)), "55AA 8 15 =0 no kind\n"},
-      {Station, "RTCM 3 1005 25 =1\n  STATION\n"},
+      {Station, "RTCM 3 1005 25 =1\n  STATION-ARP\n"},
       {RtcmFrame(BitWriter().Put(4074, 12).Put(77, 12)), "RTCM 3 4074-77 9 =0 no kind\n"},
       {RtcmFrame(BitWriter().Put(910, 12).Put(33, 8)), "RTCM 3 910-33 9 =0 content\n"},
       {Bytes{0xD3, 0x00, 0x00, 0x47, 0xEA, 0x4B}, "RTCM 3 6 =0 no kind\n"},
@@ -71,7 +72,7 @@ TEST(Streams, SpansTellWhatTheyAre) {
       {ToBytes(Log("#VERSIONA,1")), "ASCII log VERSIONA 22 =0 no kind\n"},
       {ToBytes("\\g:1*6C\\") + Vtg,
        "NMEA tag block 8 =0\nNMEA GPVTG 38 =1 \\g:1*6C\n  VTG \\g:1*6C\n"},
-      {ToBytes("\\g:1*6C\\") + Station, "NMEA tag block 8 =0\nRTCM 3 1005 25 =1\n  STATION\n"},
+      {ToBytes("\\g:1*6C\\") + Station, "NMEA tag block 8 =0\nRTCM 3 1005 25 =1\n  STATION-ARP\n"},
       {ToBytes("\\g:1*6C\\\n") + Vtg, "NMEA tag block 8 =0\nskipped 1\nNMEA GPVTG 38 =1\n  VTG\n"},
       // Satellites in view belong to the sentence that closed them, or to the end.
       {Gsv1 + Gsv2 + Vtg, "NMEA GPGSV 52 =0\nNMEA GPGSV 31 =0\nNMEA GPVTG 38 =2\n  GSV\n  VTG\n"},
@@ -204,7 +205,7 @@ TEST(Streams, AFlushEndsTheInput) {
   EXPECT_EQ(watched.stream.put(Vtg), 0U) << "what the flush lets out comes first";
   EXPECT_EQ(watched.Flush(),
             "UBX rejected cut 108\nskipped 5\nNMEA GPVTG 38 =1\n  VTG\n"
-            "RTCM 3 1005 25 =1\n  STATION\n");
+            "RTCM 3 1005 25 =1\n  STATION-ARP\n");
   EXPECT_EQ(watched.Flush(), "");
   // Nothing reaches over it: no head, no tag block, no cycle, no line end.
   EXPECT_EQ(watched.PutFlush(First(Zeros, 10)), "RTCM 3 rejected cut 25\nskipped 9\n");
@@ -331,11 +332,11 @@ const Counted Captures[] = {{"nmea-multi-gnss.nmea", 1015, 0, 0, 0, 0},
                             {"ubx-rawx-sfrbx.ubx", 0, 1200, 0, 0, 0},
                             {"ubx-nav-att.ubx", 0, 1621, 0, 562, 0},
                             {"ubx-nav-all-with-pl.ubx", 0, 60, 0, 22, 0},
-                            {"rtcm3-msm4-1013.rtcm3", 0, 0, 688, 61, 0},
-                            {"rtcm3-msm5.rtcm3", 0, 0, 243, 42, 0},
-                            {"rtcm3-msm7.rtcm3", 0, 0, 296, 19, 230},
-                            {"rtcm3-one-of-each.rtcm3", 0, 0, 35, 11, 0},
-                            {"mixed-ubx-nmea-rtcm3.bin", 871, 277, 224, 111, 1},
+                            {"rtcm3-msm4-1013.rtcm3", 0, 0, 688, 0, 0},
+                            {"rtcm3-msm5.rtcm3", 0, 0, 243, 0, 0},
+                            {"rtcm3-msm7.rtcm3", 0, 0, 296, 0, 230},
+                            {"rtcm3-one-of-each.rtcm3", 0, 0, 35, 0, 0},
+                            {"mixed-ubx-nmea-rtcm3.bin", 871, 277, 224, 7, 1},
                             {"mixed-nmea-ubx-rawx.bin", 2620, 1963, 0, 0, 377},
                             {"damaged-nmea-between-foreign-binary.bin", 2080, 0, 0, 130, 77244},
                             {"damaged-ubx-checksums.ubx", 0, 25, 0, 11, 532},
@@ -366,6 +367,45 @@ TEST(Streams, CapturesAreWhollyAccountedFor) {
                 outside)
           << name;
     }
+  }
+}
+
+TEST(Streams, MessagesHaveNames) {
+  const struct {
+    std::uint32_t protocol, message;
+    const char* address;
+    const char* name;
+  } rows[] = {{NavframeRtcm3, 1019, "", "GPS ephemeris"},
+              {NavframeRtcm3, 1137, "", "NavIC MSM7"},
+              {NavframeRtcm3, 1261, "", "SSR BeiDou orbit and clock corrections"},
+              {NavframeRtcm3, 1028, "", ""},
+              {NavframeRtcm3, 4001, "", "proprietary"},
+              {NavframeUbx, 0x0109, "", "NAV-ODO"},
+              {NavframeUbx, 0x2800, "", "HNR-PVT"},
+              {NavframeUbx, 0x13FF, "", "MGA"},
+              {NavframeUbx, 0xAA00, "", ""},
+              {NavframeNmea, 0, "GPAAM", "waypoint arrival alarm"},
+              {NavframeNmea, 0, "GNZTG", "time to destination waypoint"},
+              {NavframeNmea, 0, "CCGPQ", "query"},
+              {NavframeNmea, 0, "PXYZ,ZTG", "proprietary"},
+              {NavframeNmea, 0, "ZTG", ""},
+              {NavframeAsciiLog, 1019, "BESTPOSA", ""}};
+  for (const auto& row : rows) {
+    NavframeItem item{};
+    item.protocol = row.protocol;
+    item.length = 8;
+    item.message = row.message;
+    std::strcpy(item.address, row.address);
+    EXPECT_STREQ(navframe_message_name(&item), row.name) << row.message << row.address;
+  }
+  EXPECT_STREQ(navframe_message_name(nullptr), "");
+  for (const Counted& capture : Captures) {
+    NAVFRAME_CAPTURE_OR_SKIP(bytes, capture.capture);
+    StreamOptions options;
+    options.items = NavframeItemUndecoded;
+    Stream(options).feed(bytes, [](const Item& item) {
+      EXPECT_STRNE(navframe_message_name(&item.raw()), "") << item.message() << item.address();
+    });
   }
 }
 

@@ -87,7 +87,7 @@ std::string OneOfEach() {
 }
 
 TEST_F(Tool, Options) {
-  constexpr const char* All = "VTG ZDA GGA NAV-PVT-WIDE STATION 55AA BESTPOS";
+  constexpr const char* All = "VTG ZDA GGA NAV-PVT-WIDE STATION-ARP 55AA BESTPOS";
   const struct {
     const char* command;
     int status;
@@ -101,10 +101,10 @@ TEST_F(Tool, Options) {
       {"navframe --chunk 8388609 $IN", 2, "", "8388609"},
       {"navframe --chunk 0 $IN", 2, "", "--chunk"},
       {"navframe --quiet --protocols tagblock,nmea $IN", 0, "VTG ZDA GGA", ""},
-      {"navframe --protocols rtcm,UBX - <$IN", 0, "NAV-PVT-WIDE STATION", ""},
+      {"navframe --protocols rtcm,UBX - <$IN", 0, "NAV-PVT-WIDE STATION-ARP", ""},
       {"navframe --protocols 55aa --protocols log $IN", 0, "55AA BESTPOS", ""},
       {"navframe --protocols nmea,none $IN", 2, "", "none"},
-      {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION BESTPOS", ""},
+      {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION-ARP BESTPOS", ""},
       {"navframe --quiet --only 66048 $IN", 0, "NAV-PVT-WIDE", ""},
       {"navframe --only vtg $IN", 0, "VTG", "malformed"},
       {"navframe --only 102x $IN", 2, "", "no kind of record is called 102x"},
@@ -136,13 +136,14 @@ TEST_F(Tool, ControlCharactersAreNotShown) {
 }
 
 TEST_F(Tool, Statistics) {
-  const std::string input = OneOfEach() + "??" + OneOfEach() + Sentence("GPTXT,01") +
-                            Text(RtcmFrame({0x43, 0x50})) + Text(RtcmFrame({0x4C, 0xE0}));
+  const std::string input = OneOfEach() + "??" + OneOfEach() + Sentence("GPWPL,01") +
+                            Text(RtcmFrame({0x43, 0x50})) + Text(RtcmFrame({0x42, 0x10}));
   EXPECT_THAT(
       Run("navframe --quiet --stats $IN", input).err,
-      MatchesRegex("GGA +2\nVTG +2\nZDA +2\nSTATION +2\n55AA +2\nNAV-PVT-WIDE +2\nBESTPOS +2\n"
-                   "bad content RTCM 3 1077 +1\n"
-                   "undecoded NMEA GPTXT +1\nundecoded RTCM 3 1230 +1\n"
+      MatchesRegex("GGA +2\nVTG +2\nZDA +2\n55AA +2\nSTATION-ARP +2\nNAV-PVT-WIDE +2\nBESTPOS +2\n"
+                   "bad content RTCM 3 1077 GPS MSM7 +1\n"
+                   "undecoded NMEA GPWPL waypoint location +1\n"
+                   "undecoded RTCM 3 1057 SSR GPS orbit corrections +1\n"
                    "NMEA: 7 frames, [0-9]+ bytes, 0 false starts\n"
                    "NMEA tag block: 2 frames, 22 bytes, 0 false starts\n"
                    "RTCM 3: 4 frames, [0-9]+ bytes, 0 false starts\n"

@@ -82,7 +82,7 @@ class Progress {
   int last_ = -1;
 };
 
-// "UBX 01-07", "RTCM 3 4074-11", "NMEA GPTXT".
+// "UBX 01-09 NAV-ODO", "RTCM 3 4074-11 proprietary", "NMEA GPWPL waypoint location".
 std::string MessageName(const NavframeItem& item) {
   std::string name = navframe_protocol_name(item.protocol);
   std::array<char, 32> number{};
@@ -97,7 +97,9 @@ std::string MessageName(const NavframeItem& item) {
   } else {
     std::snprintf(number.data(), number.size(), " %u", item.message);
   }
-  return name + number.data();
+  name += number.data();
+  const std::string message = navframe_message_name(&item);
+  return message.empty() ? name : name + ' ' + message;
 }
 
 void PrintMalformed(const NavframeItem& item) {

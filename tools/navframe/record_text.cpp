@@ -1,7 +1,5 @@
 #include "record_text.h"
 
-#include <strings.h>
-
 #include <array>
 #include <charconv>
 
@@ -109,10 +107,9 @@ class Lines {
 
 std::vector<const NavframeKind*> KindsNamed(const std::string& text) {
   std::vector<const NavframeKind*> kinds;
-  const NavframeKind* const named = navframe_kind_named(text.c_str());
   for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
     const NavframeKind* const kind = navframe_kind_at(i);
-    if (kind == named || strcasecmp(kind->message, text.c_str()) == 0) kinds.push_back(kind);
+    if (navframe_kind_has_name(kind, text.c_str()) != 0) kinds.push_back(kind);
   }
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);

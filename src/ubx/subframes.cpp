@@ -1,0 +1,38 @@
+#include "ubx/subframes.h"
+
+#include "base/read_le.h"
+#include "ubx/frame.h"
+
+namespace navframe::ubx {
+
+bool IsSubframe(const std::uint8_t* frame) {
+  constexpr std::uint8_t Class = 0x02;
+  constexpr std::uint8_t Id = 0x13;
+  return frame[ClassOffset] == Class && frame[IdOffset] == Id;
+}
+
+std::optional<ephemeris::Subframe> SubframeOf(const std::uint8_t* frame, std::uint32_t length) {
+  constexpr std::uint32_t WordsOffset = 8;
+  constexpr std::uint32_t WordLength = 4;
+  constexpr int FirstChannel = -7;
+  const std::uint8_t* const payload = frame + HeaderLength;
+  const std::uint32_t payloadLength = length - HeaderLength - ChecksumLength;
+  if (payloadLength < WordsOffset) return std::nullopt;
+  ephemeris::Subframe subframe{};
+  subframe.count = payload[4];
+  const std::uint8_t version = payload[6];
+  if (subframe.count > subframe.words.size() || version < 1 || version > 2 ||
+      payloadLength != WordsOffset + subframe.count * WordLength) {
+    return std::nullopt;
+  }
+  subframe.system = static_cast<ephemeris::SubframeSystem>(payload[0]);
+  subframe.satellite = payload[1];
+  subframe.signal = version > 1 ? payload[2] : std::uint8_t{0};
+  subframe.channel = static_cast<std::int8_t>(payload[3] + FirstChannel);
+  for (std::uint32_t i = 0; i < subframe.count; ++i) {
+    subframe.words[i] = ReadLe<std::uint32_t>(payload, WordsOffset + i * WordLength);
+  }
+  return subframe;
+}
+
+}  // namespace navframe::ubx
