@@ -81,6 +81,7 @@ template <> struct KindsOf<UbxUtcRecord> { static constexpr KindId Ids[] = {{Msg
 template <> struct KindsOf<UbxLeapSecondsRecord> { static constexpr KindId Ids[] = {{MsgIdUbxLeapSeconds, SourceStream}}; };
 template <> struct KindsOf<UbxRelativePositionRecord> { static constexpr KindId Ids[] = {{MsgIdUbxRelativePosition, SourceStream}}; };
 template <> struct KindsOf<UbxSurveyInRecord> { static constexpr KindId Ids[] = {{MsgIdUbxSurveyIn, SourceStream}}; };
+template <> struct KindsOf<UbxVehicleNavigationRecord> { static constexpr KindId Ids[] = {{MsgIdUbxVehicleNavigation, SourceStream}}; };
 template <> struct KindsOf<UbxFullSatellitesRecord> { static constexpr KindId Ids[] = {{MsgIdUbxFullSatellites, SourceStream}}; };
 template <> struct KindsOf<UbxSignalsRecord> { static constexpr KindId Ids[] = {{MsgIdUbxSignals, SourceStream}}; };
 template <> struct KindsOf<UbxChannelsRecord> { static constexpr KindId Ids[] = {{MsgIdUbxChannels, SourceStream}}; };

@@ -51,7 +51,8 @@ enum {
   MsgIdUbxMounting = 0x1021E,
   MsgIdUbxVersion = 0x1021F,
   MsgIdUbxInformation = 0x10220,
-  MsgIdUbxAcknowledge = 0x10221
+  MsgIdUbxAcknowledge = 0x10221,
+  MsgIdUbxVehicleNavigation = 0x10222
 };
 
 /* Values UbxFixType: 0 none, 1 dead reckoning, 2 two-dimensional, 3 three-dimensional, 4 GNSS and
@@ -411,6 +412,62 @@ typedef struct UbxSurveyInRecord {
   double accuracy;       /* [m] accuracy of the mean */
 } UbxSurveyInRecord;
 
+/* Navigation solution of a vehicle and its attitude, NAV-PVAT (class 0x01, id 0x17) version 0 of
+ * 116 bytes. There is no fix while fixType is 0. MsgId 66082. 240 bytes. */
+typedef struct UbxVehicleNavigationRecord {
+  uint32_t tow;               /* [ms] GPS time of week of the message */
+  uint16_t week;              /* the decoder's GPS week, after it has taken this message's time */
+  uint16_t reserved;          /* reserved */
+  char timeText[16];          /* the decoder's time of day when the message was decoded */
+  uint16_t year;              /* UTC; as sent */
+  uint8_t month;              /* 1 to 12; as sent */
+  uint8_t day;                /* 1 to 31; as sent */
+  uint8_t hour;               /* [h] 0 to 23; as sent */
+  uint8_t minute;             /* [min] 0 to 59; as sent */
+  uint8_t second;             /* [s] 0 to 60; as sent */
+  uint8_t version;            /* version of the message */
+  uint8_t dateValid;          /* the date is valid; flag; unknown 255 */
+  uint8_t timeValid;          /* the time of day is valid; flag; unknown 255 */
+  uint8_t fullyResolved;      /* no uncertainty of whole seconds is left; flag; unknown 255 */
+  uint8_t magValid;           /* the magnetic declination is valid; flag; unknown 255 */
+  uint32_t timeAccuracy;      /* [ns] accuracy of the time */
+  int32_t nanoseconds;        /* [ns] fraction of the second, -10^9 to 10^9 */
+  uint8_t fixType;            /* type of the fix; values UbxFixType */
+  uint8_t fixOk;              /* within the limits of DOP and accuracy; flag; unknown 255 */
+  uint8_t diffSolution;       /* differential corrections were applied; flag; unknown 255 */
+  uint8_t rollValid;          /* roll is valid; flag; unknown 255 */
+  uint8_t pitchValid;         /* pitch is valid; flag; unknown 255 */
+  uint8_t headingValid;       /* vehicleHeading is valid; flag; unknown 255 */
+  uint8_t carrierSolution;    /* carrier phase solution; values 0 none, 1 float, 2 fixed */
+  uint8_t confirmedAvailable; /* the confirmations below are available; flag; unknown 255 */
+  uint8_t confirmedDate;      /* the date was confirmed; flag; unknown 255 */
+  uint8_t confirmedTime;      /* the time of day was confirmed; flag; unknown 255 */
+  uint8_t satellites;         /* satellites used in the solution */
+  double longitude;           /* [deg] east positive; unknown without a fix */
+  double latitude;            /* [deg] north positive; unknown without a fix */
+  double height;              /* [m] above the ellipsoid; unknown without a fix */
+  double heightMsl;           /* [m] above mean sea level; unknown without a fix */
+  double horizontalAccuracy;  /* [m] accuracy of the horizontal position */
+  double verticalAccuracy;    /* [m] accuracy of the height */
+  double velocityNorth;       /* [m/s] velocity to the north */
+  double velocityEast;        /* [m/s] velocity to the east */
+  double velocityDown;        /* [m/s] velocity downwards */
+  double groundSpeed;         /* [m/s] speed over ground */
+  double speedAccuracy;       /* [m/s] accuracy of the speed */
+  double roll;                /* [deg] roll of the vehicle; unknown without rollValid */
+  double pitch;               /* [deg] pitch of the vehicle; unknown without pitchValid */
+  double vehicleHeading;      /* [deg] heading of the vehicle; unknown without headingValid */
+  double motionHeading;       /* [deg] heading of motion */
+  double rollAccuracy;        /* [deg] accuracy of the roll; unknown without rollValid */
+  double pitchAccuracy;       /* [deg] accuracy of the pitch; unknown without pitchValid */
+  double headingAccuracy;     /* [deg] accuracy of both headings */
+  double magDeclination; /* [deg] magnetic declination, east positive; unknown without magValid */
+  double magAccuracy;    /* [deg] accuracy of the magnetic declination; unknown without magValid */
+  double ellipseOrientation; /* [deg] of the error ellipse's larger axis, from north */
+  double ellipseMajor;       /* [m] larger half axis of the horizontal error ellipse */
+  double ellipseMinor;       /* [m] smaller half axis of the horizontal error ellipse */
+} UbxVehicleNavigationRecord;
+
 #ifdef __cplusplus
 } /* extern "C" */
 
@@ -432,6 +489,7 @@ static_assert(sizeof(UbxUtcRecord) == 44);
 static_assert(sizeof(UbxLeapSecondsRecord) == 44);
 static_assert(sizeof(UbxRelativePositionRecord) == 120);
 static_assert(sizeof(UbxSurveyInRecord) == 72);
+static_assert(sizeof(UbxVehicleNavigationRecord) == 240);
 
 } /* namespace navframe */
 #endif

@@ -237,6 +237,8 @@ constexpr KindRow Rows[] = {
         "a text"),
     Ubx<UbxAcknowledgeRecord>(MsgIdUbxAcknowledge, "ACK", "05", TextForm::None,
         "whether a message was taken"),
+    Ubx<UbxVehicleNavigationRecord>(MsgIdUbxVehicleNavigation, "NAV-PVAT", "01-17", TextForm::None,
+        "navigation solution and attitude of a vehicle"),
 
     Gnss<ObservationsRecord>(MsgIdObservations, "OBSERVATIONS",
         "1001-1004, 1009-1012, 1074-1077, 1084-1087, 1094-1097, 1104-1107, 1114-1117, 1124-1127, "

@@ -20,6 +20,12 @@ constexpr bool RelativeValid0(const std::uint8_t* p) { return (p[36] & 4U) != 0;
 constexpr bool RelativeValid1(const std::uint8_t* p) { return (p[60] & 4U) != 0; }
 constexpr bool RelativeHeadingValid(const std::uint8_t* p) { return (p[61] & 1U) != 0; }
 
+constexpr bool VehicleHasFix(const std::uint8_t* p) { return p[24] != 0; }
+template <unsigned Offset, unsigned Bit>
+constexpr bool IsSet(const std::uint8_t* p) {
+  return (p[Offset] >> Bit & 1U) != 0;
+}
+
 // Of messages whose head or list is all.
 inline constexpr std::array<FieldRow, 0> NoRows = {};
 
@@ -69,6 +75,58 @@ inline constexpr auto FullNavigationRows = std::to_array<FieldRow>({
     F(vehicleHeading, 84, I32, 1e5),
     KnownIf(F(magDeclination, 88, I16, 100), HasDeclination),
     KnownIf(F(magAccuracy, 90, U16, 100), HasDeclination),
+});
+#undef F
+
+#define F(...) NAVFRAME_UBX_FIELD(UbxVehicleNavigationRecord, __VA_ARGS__)
+inline constexpr auto VehicleNavigationRows = std::to_array<FieldRow>({
+    F(version, 4, U8),
+    BitsOf(F(dateValid, 5, U8), 0),
+    BitsOf(F(timeValid, 5, U8), 1),
+    BitsOf(F(fullyResolved, 5, U8), 2),
+    BitsOf(F(magValid, 5, U8), 3),
+    F(year, 6, U16),
+    F(month, 8, U8),
+    F(day, 9, U8),
+    F(hour, 10, U8),
+    F(minute, 11, U8),
+    F(second, 12, U8),
+    F(timeAccuracy, 16, U32),
+    F(nanoseconds, 20, I32),
+    F(fixType, 24, U8),
+    BitsOf(F(fixOk, 25, U8), 0),
+    BitsOf(F(diffSolution, 25, U8), 1),
+    BitsOf(F(rollValid, 25, U8), 3),
+    BitsOf(F(pitchValid, 25, U8), 4),
+    BitsOf(F(headingValid, 25, U8), 5),
+    BitsOf(F(carrierSolution, 25, U8), 6, 2),
+    BitsOf(F(confirmedAvailable, 26, U8), 5),
+    BitsOf(F(confirmedDate, 26, U8), 6),
+    BitsOf(F(confirmedTime, 26, U8), 7),
+    F(satellites, 27, U8),
+    KnownIf(F(longitude, 28, I32, 1e7), VehicleHasFix),
+    KnownIf(F(latitude, 32, I32, 1e7), VehicleHasFix),
+    KnownIf(F(height, 36, I32, 1e3), VehicleHasFix),
+    KnownIf(F(heightMsl, 40, I32, 1e3), VehicleHasFix),
+    OnesAreNone(F(horizontalAccuracy, 44, U32, 1e3)),
+    OnesAreNone(F(verticalAccuracy, 48, U32, 1e3)),
+    F(velocityNorth, 52, I32, 1e3),
+    F(velocityEast, 56, I32, 1e3),
+    F(velocityDown, 60, I32, 1e3),
+    F(groundSpeed, 64, I32, 1e3),
+    OnesAreNone(F(speedAccuracy, 68, U32, 1e3)),
+    KnownIf(F(roll, 72, I32, 1e5), IsSet<25, 3>),
+    KnownIf(F(pitch, 76, I32, 1e5), IsSet<25, 4>),
+    KnownIf(F(vehicleHeading, 80, I32, 1e5), IsSet<25, 5>),
+    F(motionHeading, 84, I32, 1e5),
+    KnownIf(OnesAreNone(F(rollAccuracy, 88, U16, 100)), IsSet<25, 3>),
+    KnownIf(OnesAreNone(F(pitchAccuracy, 90, U16, 100)), IsSet<25, 4>),
+    OnesAreNone(F(headingAccuracy, 92, U16, 100)),
+    KnownIf(F(magDeclination, 94, I16, 100), IsSet<5, 3>),
+    KnownIf(F(magAccuracy, 96, U16, 100), IsSet<5, 3>),
+    F(ellipseOrientation, 98, U16, 100),
+    OnesAreNone(F(ellipseMajor, 100, U32, 1e3)),
+    OnesAreNone(F(ellipseMinor, 104, U32, 1e3)),
 });
 #undef F
 

@@ -173,6 +173,8 @@ constexpr StandardRow Rows[] = {
         0x0113, MsgIdUbxHighPrecisionEcef, {0, 0}),
     Whole<UbxHighPrecisionPositionRecord, HighPrecisionPositionRows, 36, 4>(
         0x0114, MsgIdUbxHighPrecisionPosition, {0, 0}),
+    Whole<UbxVehicleNavigationRecord, VehicleNavigationRows, 116, 0, KeepVehicleTime>(
+        0x0117, MsgIdUbxVehicleNavigation, {4, 0}),
     Whole<UbxGpsTimeRecord, GpsTimeRows, 16, 0, KeepGpsTime>(0x0120, MsgIdUbxGpsTime),
     Whole<UbxUtcRecord, UtcRows, 20, 0, KeepUtc>(0x0121, MsgIdUbxUtc),
     Whole<UbxClockRecord, ClockRows, 20>(0x0122, MsgIdUbxClock),

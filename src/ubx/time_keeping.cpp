@@ -20,6 +20,35 @@ std::int64_t LeapSecondsOf(std::uint32_t tow, const UTCTIME& utc, std::int32_t n
   return (tow + WeekMs - ofDay + SecondMs / 2) % DayMs / SecondMs;
 }
 
+// Date and time from the year on at `at`, as far as the flags call them valid.
+void KeepDateAndTime(const std::uint8_t* p, std::uint8_t valid, std::size_t at,
+                     std::size_t nanosecondsAt, DecoderClock& clock) {
+  const bool dateValid = Bits(valid, 0, 1) != 0;
+  const bool timeValid = Bits(valid, 1, 1) != 0;
+  const bool fullyResolved = Bits(valid, 2, 1) != 0;
+  const UTCTIME utc = {.year = dateValid ? ReadLe<std::uint16_t>(p, at) : Unknown<std::uint16_t>(),
+                       .month = p[at + 2],
+                       .day = p[at + 3],
+                       .hour = timeValid ? p[at + 4] : Unknown<std::uint8_t>(),
+                       .minute = p[at + 5],
+                       .second = p[at + 6],
+                       .reserved0 = 0,
+                       .millisecond = 0,
+                       .flag = 0,
+                       .reserved1 = 0};
+  const auto tow = ReadLe<std::uint32_t>(p, 0);
+  const auto nanoseconds = ReadLe<std::int32_t>(p, nanosecondsAt);
+  // Both times in one message tell how many leap seconds there are.
+  constexpr std::int64_t Plausible = 60;
+  if (dateValid && timeValid && fullyResolved && tow < WeekMs) {
+    const std::int64_t leapSeconds = LeapSecondsOf(tow, utc, nanoseconds);
+    if (leapSeconds > 0 && leapSeconds < Plausible) {
+      true_clock::SetLeapSeconds(static_cast<std::int32_t>(leapSeconds), clock);
+    }
+  }
+  true_clock::SetUtc(utc, nanoseconds, {}, NavframeTimeFromUbx, clock);
+}
+
 // Time of week, fraction and week at the front of a payload. A fraction is below a millisecond.
 void KeepWeekAndTow(const std::uint8_t* p, bool isValid, DecoderClock& clock) {
   const auto tow = ReadLe<std::uint32_t>(p, 0);
@@ -33,32 +62,11 @@ void KeepWeekAndTow(const std::uint8_t* p, bool isValid, DecoderClock& clock) {
 }  // namespace
 
 void KeepNavigationTime(const Payload& payload, DecoderClock& clock) {
-  const std::uint8_t* const p = payload.bytes;
-  const std::uint8_t valid = p[11];
-  const bool dateValid = Bits(valid, 0, 1) != 0;
-  const bool timeValid = Bits(valid, 1, 1) != 0;
-  const bool fullyResolved = Bits(valid, 2, 1) != 0;
-  const UTCTIME utc = {.year = dateValid ? ReadLe<std::uint16_t>(p, 4) : Unknown<std::uint16_t>(),
-                       .month = p[6],
-                       .day = p[7],
-                       .hour = timeValid ? p[8] : Unknown<std::uint8_t>(),
-                       .minute = p[9],
-                       .second = p[10],
-                       .reserved0 = 0,
-                       .millisecond = 0,
-                       .flag = 0,
-                       .reserved1 = 0};
-  const auto tow = ReadLe<std::uint32_t>(p, 0);
-  const auto nanoseconds = ReadLe<std::int32_t>(p, 16);
-  // Both times in one message tell how many leap seconds there are.
-  constexpr std::int64_t Plausible = 60;
-  if (dateValid && timeValid && fullyResolved && tow < WeekMs) {
-    const std::int64_t leapSeconds = LeapSecondsOf(tow, utc, nanoseconds);
-    if (leapSeconds > 0 && leapSeconds < Plausible) {
-      true_clock::SetLeapSeconds(static_cast<std::int32_t>(leapSeconds), clock);
-    }
-  }
-  true_clock::SetUtc(utc, nanoseconds, {}, NavframeTimeFromUbx, clock);
+  KeepDateAndTime(payload.bytes, payload.bytes[11], 4, 16, clock);
+}
+
+void KeepVehicleTime(const Payload& payload, DecoderClock& clock) {
+  KeepDateAndTime(payload.bytes, payload.bytes[5], 6, 20, clock);
 }
 
 void KeepRawTime(const Payload& payload, DecoderClock& clock) {

@@ -10,8 +10,9 @@
 
 namespace navframe::ubx {
 
-// Date and time as far as they are valid.
+// Date and time of NAV-PVT and NAV-PVAT as far as they are valid.
 void KeepNavigationTime(const Payload& payload, DecoderClock& clock);
+void KeepVehicleTime(const Payload& payload, DecoderClock& clock);
 
 // The week and time of week of raw measurements, once the receiver has its leap seconds from the
 // satellites: before that both may be its own.

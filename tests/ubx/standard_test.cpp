@@ -69,6 +69,18 @@ constexpr Sample Samples[] = {
     {0x0114, 0, -1, "000000006f84d717042baafeadeddb1f64510100ff6bffffff6304f7f0680000636d0000",
      "tow=400000111 horizontalAccuracy=2.6864 verticalAccuracy=2.8003 longitude=-2.240230001 "
      "latitude=53.450692599 height=86.3724 heightMsl=-37.8899"},
+    {0x0117, 4, -1,
+     "6f84d7170008ef070506070809000000b10400004f9721c50338001d2dfd69b6870eaf1cdd058700c7cfffff"
+     "a10f0000a20f00003dedffff541400001beaffff76170000971a00008157edfe59da4400ff5025024e61bc00"
+     "d2042909800d2efbff001f43a2060000ffffffff0102030400000000",
+     "tow=400000111 year=2031 month=5 day=6 hour=7 minute=8 second=9 magValid=1 timeAccuracy=1201 "
+     "nanoseconds=-987654321 fixType=3 rollValid=1 pitchValid=1 headingValid=1 satellites=29 "
+     "longitude=-123.4567891 latitude=48.1234567 height=8848.861 heightMsl=-12.345 "
+     "horizontalAccuracy=4.001 verticalAccuracy=4.002 velocityNorth=-4.803 velocityEast=5.204 "
+     "velocityDown=-5.605 groundSpeed=6.006 speedAccuracy=6.807 roll=-179.99999 pitch=45.12345 "
+     "vehicleHeading=359.99999 motionHeading=123.45678 rollAccuracy=12.34 pitchAccuracy=23.45 "
+     "headingAccuracy=34.56 magDeclination=-12.34 magAccuracy=2.55 ellipseOrientation=171.83 "
+     "ellipseMajor=1.698 ellipseMinor=-nan"},
     {0x0120, -1, -1, "6f84d717c01dfeffef0712001d000000",
      "tow=400000111 towFraction=-123456 gpsWeek=2031 leapSeconds=18 timeAccuracy=29"},
     {0x0121, -1, -1, "6f84d7171d000000eb32a4f8ef07050607083c00",
@@ -258,6 +270,10 @@ constexpr Flags AllFlags[] = {
     {0x0107, 78,
      "* correctionAge=1 correctionAge=2 correctionAge=4 correctionAge=8 - - - - - - - - "
      "timeAuthenticated fixAuthenticated -"},
+    {0x0117, 5, "dateValid timeValid fullyResolved * - - - -"},
+    {0x0117, 25,
+     "fixOk diffSolution - * * * carrierSolution=1 carrierSolution=2 - - - - - confirmedAvailable "
+     "confirmedDate confirmedTime"},
     {0x0120, 11, "towValid weekValid leapValid"},
     {0x0121, 19,
      "towValid weekValid utcValid timeAuthenticated utcStandard=1 utcStandard=2 utcStandard=4 "
@@ -358,6 +374,11 @@ TEST(UbxStandard, WhatIsNotValidIsUnknown) {
        3,
        1,
        {"height=-nan", "heightMsl=-nan", "invalidPosition=1", "latitude=-nan", "longitude=-nan"}},
+      {0x0117, 24, 3, {"height=-nan", "heightMsl=-nan", "latitude=-nan", "longitude=-nan"}},
+      {0x0117, 5, 8, {"magAccuracy=-nan", "magDeclination=-nan"}},
+      {0x0117, 25, 8, {"roll=-nan", "rollAccuracy=-nan"}},
+      {0x0117, 25, 16, {"pitch=-nan", "pitchAccuracy=-nan"}},
+      {0x0117, 25, 32, {"vehicleHeading=-nan"}},
       {0x013C, 36, 4, {"down=-nan", "east=-nan", "north=-nan"}, true},
       {0x013C, 60, 4, {"down=-nan", "east=-nan", "length=-nan", "north=-nan"}},
       {0x013C, 61, 1, {"heading=-nan"}},
@@ -451,6 +472,11 @@ TEST(UbxStandard, TimesMoveTheClock) {
                                  .U8(18, 2)
                                  .U32(8, 3'000'000)
                                  .U8(19, 4));
+  // The same time of day, with 20 leap seconds by its time of week.
+  const Bytes vehicle = UbxFrame(
+      0x01, 0x17,
+      Payload(116).U32(0, 82'000).U8(5, 7).U16(6, 2024).U8(8, 7).U8(9, 28).U8(11, 1).U8(12, 2).U32(
+          20, 4'000'000));
   std::string seen;
   Stream stream;
   const auto take = [&seen](const Item& item) {
@@ -458,11 +484,11 @@ TEST(UbxStandard, TimesMoveTheClock) {
     seen += std::to_string(time.week) + ":" + std::to_string(time.tow) + " " +
             std::to_string(time.leapSeconds) + "\n";
   };
-  stream.feed(noWeek + gps + solution + endOfEpoch + unset + utc, take);
+  stream.feed(noWeek + gps + solution + endOfEpoch + unset + utc + vehicle, take);
   stream.finish(take);
   EXPECT_EQ(seen,
             "65535:4294967295 18\n2300:5000 17\n2301:6000 17\n2301:7000 17\n2301:8000 17\n"
-            "2325:79003 17\n");
+            "2325:79003 17\n2325:82004 20\n");
 }
 
 }  // namespace
