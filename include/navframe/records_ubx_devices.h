@@ -86,8 +86,10 @@ typedef struct UbxFusionStatusRecord {
   uint8_t version;         /* version of the message */
   uint8_t wheelTicks;      /* initialization of the wheel ticks; values 0 off, 1 going on, 2 done */
   uint8_t mounting;        /* alignment of the mounting; values 0 off, 1 going on, 2 done, 3 done */
-  uint8_t inertial;        /* initialization of the navigation; values 0 off, 1 going on, 2 done */
-  uint8_t inertialSensors; /* initialization of the sensors; values 0 off, 1 going on, 2 done */
+  uint8_t inertial;        /* initialization of the navigation; values 0 off, 1 going on, 2 done, 3
+                              done */
+  uint8_t inertialSensors; /* initialization of the sensors; values 0 off, 1 going on, 2 done, 3
+                              done */
   uint8_t fusionMode;      /* fusion; values 0 initializing, 1 on, 2 suspended, 3 disabled */
   uint8_t count;           /* sensors; unknown never */
   UbxSensorStatus sensors[255]; /* sensors in the order of the message, unknown values behind the

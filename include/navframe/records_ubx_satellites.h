@@ -69,8 +69,8 @@ typedef struct UbxSignal {
   uint8_t cn0;              /* [dB-Hz] carrier-to-noise density */
   uint8_t quality;          /* quality of the signal; values UbxQuality */
   uint8_t correctionSource; /* where corrections come from; values 0 none, 1 SBAS, 2 BeiDou, 3 RTCM
-                               2, 4 RTCM 3 OSR, 5 RTCM 3 SSR, 6 QZSS SLAS, 7 SPARTN, 8 CLAS, 9 LPP
-                               OSR, 10 Galileo HAS */
+                               2, 4 RTCM 3 OSR, 5 RTCM 3 SSR, 6 QZSS SLAS, 7 SPARTN, 8 CLAS, 9 CLAS,
+                               10 LPP OSR, 11 LPP SSR, 12 Galileo HAS */
   uint8_t ionosphereModel;  /* model of the ionosphere; values 0 none, 1 Klobuchar of GPS, 2 SBAS, 3
                                Klobuchar of BeiDou, 8 two frequencies */
   uint8_t health;           /* health; values 0 unknown, 1 healthy, 2 unhealthy */

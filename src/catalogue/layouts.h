@@ -1367,7 +1367,7 @@ inline constexpr RecordRow UbxFullSatellitesRecordLayout = LayoutOf<UbxFullSatel
 static_assert(CoversEveryByte(UbxFullSatellitesRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<UbxFullSatellitesRecord> = UbxFullSatellitesRecordLayout;
 
-inline constexpr NavframeValueName UbxSignalCorrectionSourceValues[] = {{0, "none"}, {1, "SBAS"}, {2, "BeiDou"}, {3, "RTCM 2"}, {4, "RTCM 3 OSR"}, {5, "RTCM 3 SSR"}, {6, "QZSS SLAS"}, {7, "SPARTN"}, {8, "CLAS"}, {9, "LPP OSR"}, {10, "Galileo HAS"},};
+inline constexpr NavframeValueName UbxSignalCorrectionSourceValues[] = {{0, "none"}, {1, "SBAS"}, {2, "BeiDou"}, {3, "RTCM 2"}, {4, "RTCM 3 OSR"}, {5, "RTCM 3 SSR"}, {6, "QZSS SLAS"}, {7, "SPARTN"}, {8, "CLAS"}, {9, "CLAS"}, {10, "LPP OSR"}, {11, "LPP SSR"}, {12, "Galileo HAS"},};
 inline constexpr NavframeValueName UbxSignalIonosphereModelValues[] = {{0, "none"}, {1, "Klobuchar of GPS"}, {2, "SBAS"}, {3, "Klobuchar of BeiDou"}, {8, "two frequencies"},};
 inline constexpr NavframeValueName UbxSignalHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
 inline constexpr MemberRow UbxSignalMembers[] = {
@@ -1378,7 +1378,7 @@ inline constexpr MemberRow UbxSignalMembers[] = {
     {{"residual", "0.1 m", "residual of the pseudorange", NavframeI16, offsetof(UbxSignal, residual), sizeof(UbxSignal::residual), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxSignal, cn0), sizeof(UbxSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"quality", "", "quality of the signal", NavframeU8, offsetof(UbxSignal, quality), sizeof(UbxSignal::quality), 0, -1, 0, NavframeUnknownValue, 255, 8, UbxQualityValues, nullptr}, false, 0},
-    {{"correctionSource", "", "where corrections come from", NavframeU8, offsetof(UbxSignal, correctionSource), sizeof(UbxSignal::correctionSource), 0, -1, 0, NavframeUnknownValue, 255, 11, UbxSignalCorrectionSourceValues, nullptr}, false, 0},
+    {{"correctionSource", "", "where corrections come from", NavframeU8, offsetof(UbxSignal, correctionSource), sizeof(UbxSignal::correctionSource), 0, -1, 0, NavframeUnknownValue, 255, 13, UbxSignalCorrectionSourceValues, nullptr}, false, 0},
     {{"ionosphereModel", "", "model of the ionosphere", NavframeU8, offsetof(UbxSignal, ionosphereModel), sizeof(UbxSignal::ionosphereModel), 0, -1, 0, NavframeUnknownValue, 255, 5, UbxSignalIonosphereModelValues, nullptr}, false, 0},
     {{"health", "", "health", NavframeU8, offsetof(UbxSignal, health), sizeof(UbxSignal::health), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxSignalHealthValues, nullptr}, false, 0},
     {{"smoothed", "", "carrier smoothed pseudorange", NavframeU8, offsetof(UbxSignal, smoothed), sizeof(UbxSignal::smoothed), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1607,8 +1607,8 @@ template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorStatus> = U
 
 inline constexpr NavframeValueName UbxFusionStatusRecordWheelTicksValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordMountingValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
-inline constexpr NavframeValueName UbxFusionStatusRecordInertialValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
-inline constexpr NavframeValueName UbxFusionStatusRecordInertialSensorsValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordInertialValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
+inline constexpr NavframeValueName UbxFusionStatusRecordInertialSensorsValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordFusionModeValues[] = {{0, "initializing"}, {1, "on"}, {2, "suspended"}, {3, "disabled"},};
 inline constexpr MemberRow UbxFusionStatusRecordMembers[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFusionStatusRecord, tow), sizeof(UbxFusionStatusRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
@@ -1618,8 +1618,8 @@ inline constexpr MemberRow UbxFusionStatusRecordMembers[] = {
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxFusionStatusRecord, version), sizeof(UbxFusionStatusRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"wheelTicks", "", "initialization of the wheel ticks", NavframeU8, offsetof(UbxFusionStatusRecord, wheelTicks), sizeof(UbxFusionStatusRecord::wheelTicks), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordWheelTicksValues, nullptr}, false, 0},
     {{"mounting", "", "alignment of the mounting", NavframeU8, offsetof(UbxFusionStatusRecord, mounting), sizeof(UbxFusionStatusRecord::mounting), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordMountingValues, nullptr}, false, 0},
-    {{"inertial", "", "initialization of the navigation", NavframeU8, offsetof(UbxFusionStatusRecord, inertial), sizeof(UbxFusionStatusRecord::inertial), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordInertialValues, nullptr}, false, 0},
-    {{"inertialSensors", "", "initialization of the sensors", NavframeU8, offsetof(UbxFusionStatusRecord, inertialSensors), sizeof(UbxFusionStatusRecord::inertialSensors), 0, -1, 0, NavframeUnknownValue, 255, 3, UbxFusionStatusRecordInertialSensorsValues, nullptr}, false, 0},
+    {{"inertial", "", "initialization of the navigation", NavframeU8, offsetof(UbxFusionStatusRecord, inertial), sizeof(UbxFusionStatusRecord::inertial), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordInertialValues, nullptr}, false, 0},
+    {{"inertialSensors", "", "initialization of the sensors", NavframeU8, offsetof(UbxFusionStatusRecord, inertialSensors), sizeof(UbxFusionStatusRecord::inertialSensors), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordInertialSensorsValues, nullptr}, false, 0},
     {{"fusionMode", "", "fusion", NavframeU8, offsetof(UbxFusionStatusRecord, fusionMode), sizeof(UbxFusionStatusRecord::fusionMode), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordFusionModeValues, nullptr}, false, 0},
     {{"count", "", "sensors", NavframeU8, offsetof(UbxFusionStatusRecord, count), sizeof(UbxFusionStatusRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"sensors", "", "sensors in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFusionStatusRecord, sensors), sizeof(UbxFusionStatusRecord::sensors[0]), 255, 10, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSensorStatusLayout}, false, 0},

@@ -2,7 +2,9 @@
 // public interface descriptions.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "navframe/records.h"
@@ -13,9 +15,15 @@ namespace navframe::ubx {
 using enum Wire;
 
 // What a payload says of the number of its blocks.
-inline std::uint32_t FusionSensors(const std::uint8_t* payload) { return payload[15]; }
-inline std::uint32_t SensorCount(const std::uint8_t* payload) {
-  return ReadLe<std::uint16_t>(payload, 4) >> 11U;
+inline std::size_t FusionSensors(const Payload& payload) { return payload.bytes[15]; }
+// Of ESF-MEAS the length alone tells it where the count is left 0, which receivers may do; one more
+// time may stand behind the data.
+constexpr std::size_t SensorWord = 4;
+inline std::size_t CalibrationTimes(const Payload& payload) { return payload.bytes[4] >> 3U & 1U; }
+inline std::size_t SensorCount(const Payload& payload) {
+  const std::size_t told = ReadLe<std::uint16_t>(payload.bytes, 4) >> 11U;
+  const std::size_t words = payload.Entries(8, SensorWord);
+  return told != 0 ? told : words - std::min(words, CalibrationTimes(payload));
 }
 
 #define F(...) NAVFRAME_UBX_FIELD(UbxTimePulseRecord, __VA_ARGS__)
@@ -60,7 +68,7 @@ inline constexpr auto FusionStatusRows = std::to_array<FieldRow>({
     F(version, 4, U8),
     BitsOf(F(wheelTicks, 5, U8), 0, 2),
     BitsOf(F(mounting, 5, U8), 2, 3),
-    BitsOf(F(inertial, 5, U8), 5, 2),
+    BitsOf(F(inertial, 5, U8), 5, 3),
     BitsOf(F(inertialSensors, 6, U8), 0, 2),
     F(fusionMode, 12, U8),
 });
@@ -93,7 +101,7 @@ inline constexpr auto SensorMeasurementsRows = std::to_array<FieldRow>({
 });
 #undef F
 inline constexpr ListRow SensorMeasurementsBlocks =
-    NAVFRAME_UBX_LIST(UbxSensorMeasurementsRecord, measurements, 8, 4, count, SensorCount);
+    NAVFRAME_UBX_LIST(UbxSensorMeasurementsRecord, measurements, 8, SensorWord, count, SensorCount);
 #define F(...) NAVFRAME_UBX_FIELD(UbxSensorMeasurement, __VA_ARGS__)
 inline constexpr auto SensorMeasurementsBlockRows = std::to_array<FieldRow>({
     BitsOf(F(data, 0, U32), 0, 24),

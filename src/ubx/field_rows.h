@@ -97,7 +97,7 @@ struct ListRow {
   std::uint8_t countSize;  // bytes of the member; 0 for a list that no member counts
   // How many there should be, where not the length alone tells.
   bool isCounted = false;
-  std::uint32_t (*count)(const std::uint8_t* payload) = nullptr;
+  std::size_t (*count)(const Payload& payload) = nullptr;
 };
 
 template <class Array>
@@ -114,7 +114,7 @@ constexpr ListRow ListOf(std::size_t member, std::uint16_t offset, std::uint16_t
 template <class Array>
 constexpr ListRow ListOf(std::size_t member, std::uint16_t offset, std::uint16_t length,
                          std::size_t countMember, std::uint8_t countSize,
-                         std::uint32_t (*count)(const std::uint8_t* payload)) {
+                         std::size_t (*count)(const Payload& payload)) {
   ListRow row = ListOf<Array>(member, offset, length, countMember, countSize);
   row.isCounted = true;
   row.count = count;
@@ -332,7 +332,7 @@ void ReadList(const Payload& payload, Record& record, std::uint32_t& written) {
   auto* const bytes = reinterpret_cast<std::uint8_t*>(&record);
   const std::size_t held = payload.Entries(Row.offset, Row.length);
   std::size_t count = held;
-  if constexpr (Row.isCounted) count = Row.count(payload.bytes);
+  if constexpr (Row.isCounted) count = Row.count(payload);
   if constexpr (Row.countSize == 1) bytes[Row.countMember] = static_cast<std::uint8_t>(count);
   if constexpr (Row.countSize == 2) {
     const auto wide = static_cast<std::uint16_t>(count);

@@ -13,8 +13,8 @@ using enum Wire;
 
 // What a payload says of the number of its blocks.
 template <std::size_t Offset>
-constexpr std::uint32_t ByteAt(const std::uint8_t* payload) {
-  return payload[Offset];
+constexpr std::size_t ByteAt(const Payload& payload) {
+  return payload.bytes[Offset];
 }
 
 constexpr bool IsElevation(std::uint8_t sent) { return sent <= 90 || sent >= 256 - 90; }

@@ -81,7 +81,7 @@ bool HoldsList(const Payload& payload) {
   if (payload.length < Row.offset) return false;
   const std::size_t blocks = payload.length - Row.offset;
   if constexpr (Row.isCounted) {
-    return blocks == std::size_t{Row.count(payload.bytes)} * Row.length;
+    return blocks == Row.count(payload) * Row.length;
   } else {
     return blocks % Row.length == 0 && blocks / Row.length <= Row.room;
   }
@@ -108,18 +108,17 @@ constexpr StandardRow Listed(std::uint16_t message, std::uint32_t kind, Version 
           Takes};
 }
 
-// ESF-MEAS may have one more time behind its data.
-constexpr std::uint8_t HasCalibrationTime = 1U << 3;
 bool HoldsSensorData(const Payload& payload) {
   constexpr const ListRow& Row = SensorMeasurementsList::Row;
   if (payload.length < Row.offset) return false;
-  const std::uint32_t behind = (payload.bytes[4] & HasCalibrationTime) != 0 ? 4 : 0;
-  return payload.length == Row.offset + SensorCount(payload.bytes) * Row.length + behind;
+  const std::size_t count = SensorCount(payload);
+  return count <= Row.room &&
+         payload.length - Row.offset == (count + CalibrationTimes(payload)) * SensorWord;
 }
 void TakeCalibrationTime(const Payload& payload, void* record) {
-  if ((payload.bytes[4] & HasCalibrationTime) == 0) return;
+  if (CalibrationTimes(payload) == 0) return;
   static_cast<UbxSensorMeasurementsRecord*>(record)->calibrationTime =
-      ReadLe<std::uint32_t>(payload.bytes, payload.length - 4);
+      ReadLe<std::uint32_t>(payload.bytes, payload.length - SensorWord);
 }
 
 // What the id tells, and not the payload.

@@ -310,7 +310,8 @@ constexpr Flags AllFlags[] = {
      "running stopped newFalling timeBase=1 timeBase=2 utcAvailable timeValid newRising"},
     {0x1002, 4, "timeMarkSent=1 timeMarkSent=2 timeMarkEdge"},
     {0x1010, 5,
-     "wheelTicks=1 wheelTicks=2 mounting=1 mounting=2 mounting=4 inertial=1 inertial=2 - "
+     "wheelTicks=1 wheelTicks=2 mounting=1 mounting=2 mounting=4 inertial=1 inertial=2 "
+     "inertial=4 "
      "inertialSensors=1 inertialSensors=2"},
     {0x1010, 16,
      "type=1 type=2 type=4 type=8 type=16 type=32 used ready calibration=1 calibration=2 "
@@ -422,6 +423,11 @@ TEST(UbxStandard, NothingIsTakenThatLies) {
     }
   }
   EXPECT_EQ(Find(0x0404, Bytes(4049)).reason, NavframeBadContent);
+  // A count of sensor data may be left 0.
+  EXPECT_EQ(Said(0x1002, FromHex("15cd5b07080001026400000b06120f00")),
+            Said(0x1002, FromHex("15cd5b07080801026400000b06120f00")));
+  EXPECT_NE(Find(0x1002, Bytes(8 + 4 * 31)).row, nullptr);
+  EXPECT_EQ(Find(0x1002, Bytes(8 + 4 * 32)).reason, NavframeBadContent);
   EXPECT_FALSE(Find(0x0215, Bytes(16)).isListed) << "raw measurements have a kind of their own";
 }
 
