@@ -98,13 +98,13 @@ typedef struct AsciiLogHeader {
                              COARSEADJUSTING, 100 COARSE, 120 COARSESTEERING, 130 FREEWHEELING, 140
                              FINEADJUSTING, 160 FINE, 170 FINEBACKUPSTEERING, 180 FINESTEERING, 200
                              SATTIME, 201 LOCAL */
-  uint16_t week; /* week, modulo 65536: of GPS in the long form, in the short form of the system
-                    that the line's time reference word names, GPS or BDS, which is not kept
-                    here (BDS counts its weeks from GPS week 1356, and its time of week is 14 s
-                    behind that of GPS) */
+  uint16_t week; /* GPS week, modulo 65536, also where the short form counts by BDS (from GPS week
+                    1356 on and 14 s behind GPS); as the line has it where its time reference word
+                    is another, where milliseconds is no time of a week, and from a decoder without
+                    a stream */
   int32_t milliseconds;    /* [ms] time of that week: in the long form rounded, in the short form
-                              as the line has it, modulo 2^32; unknown INT32_MIN; see
-                              docs/compatibility.md, Short headers */
+                              modulo 2^32; unknown INT32_MIN; see docs/compatibility.md, Short
+                              headers */
   uint32_t receiverStatus; /* status word; from a decoder without a stream its hexadecimal digits
                               read as a decimal number; as sent; see docs/compatibility.md,
                               receiverStatus */

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <span>
 
 #include "asciilog/crc32.h"
@@ -95,6 +96,30 @@ bool ReadShortHeader(std::string_view line, LogHeader& header) {
   return true;
 }
 
+// Week and time of week by GPS; nothing without a known reference, or of what is no time of a week.
+std::optional<GPSTIME> CountedByGps(const LogHeader& header) {
+  constexpr std::int64_t FirstBdsWeek = 1356;
+  constexpr std::int64_t BdsBehindMs = 14'000;
+  const AsciiLogHeader& image = header.image;
+  if (header.timeReference == TimeReference::Unknown || image.milliseconds < 0 ||
+      image.milliseconds >= WeekMs) {
+    return std::nullopt;
+  }
+  std::int64_t ms = image.week * WeekMs + image.milliseconds;
+  if (header.timeReference == TimeReference::Bds) ms += FirstBdsWeek * WeekMs + BdsBehindMs;
+  if (ms / WeekMs > std::numeric_limits<std::uint16_t>::max()) return std::nullopt;
+  return GPSTIME{static_cast<std::uint32_t>(ms % WeekMs), static_cast<std::uint16_t>(ms / WeekMs),
+                 0};
+}
+
+void CountByGps(LogHeader& header) {
+  const auto time = CountedByGps(header);
+  if (!time) return;
+  header.timeReference = TimeReference::Gps;
+  header.image.week = time->week;
+  header.image.milliseconds = static_cast<std::int32_t>(time->tow);
+}
+
 }  // namespace
 
 std::optional<LogLine> LogLine::Of(std::string_view text) {
@@ -127,24 +152,16 @@ std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
   header.image.messageId = static_cast<std::uint16_t>(identifier);
   const bool read = form == HeaderForm::Long ? ReadLongHeader(line, dialect, header)
                                              : ReadShortHeader(line, header);
-  return read ? std::optional(header) : std::nullopt;
+  if (!read) return std::nullopt;
+  if (dialect.standardRecords) CountByGps(header);
+  return header;
 }
 
 std::optional<GPSTIME> GpsTimeOf(const LogHeader& header) {
   constexpr std::uint8_t Coarse = 100;
   constexpr std::uint8_t SatTime = 200;
-  constexpr std::int64_t FirstBdsWeek = 1356;
-  constexpr std::int64_t BdsBehindMs = 14'000;
-  const AsciiLogHeader& image = header.image;
-  const bool isSet = image.timeStatus >= Coarse && image.timeStatus <= SatTime;
-  if (!isSet || header.timeReference == TimeReference::Unknown || image.milliseconds < 0 ||
-      image.milliseconds >= WeekMs) {
-    return std::nullopt;
-  }
-  std::int64_t ms = image.week * WeekMs + image.milliseconds;
-  if (header.timeReference == TimeReference::Bds) ms += FirstBdsWeek * WeekMs + BdsBehindMs;
-  return GPSTIME{static_cast<std::uint32_t>(ms % WeekMs), static_cast<std::uint16_t>(ms / WeekMs),
-                 0};
+  const std::uint8_t status = header.image.timeStatus;
+  return status >= Coarse && status <= SatTime ? CountedByGps(header) : std::nullopt;
 }
 
 }  // namespace navframe::asciilog

@@ -31,12 +31,14 @@ struct LogLine {
 struct LogHeader {
   AsciiLogHeader image;  // what begins a record
   // What image.week and image.milliseconds count from. The image has no place for it, so that a
-  // record does not tell a BDS week of a short header from a GPS week; a long one has GPS weeks.
+  // record of a decoder without a stream does not tell a BDS week of a short header from a GPS
+  // week; a long one has GPS weeks.
   TimeReference timeReference;
 };
 
 // Reads the header of a line in the long or the short form. Nothing when the line does not have
-// exactly the nine fields of the form.
+// exactly the nine fields of the form. Streams in the Standard dialect have BDS weeks and times as
+// GPS ones.
 std::optional<LogHeader> ReadHeader(HeaderForm form, std::string_view line,
                                     std::uint32_t identifier,
                                     const Dialect& dialect = LegacyDialect);

@@ -421,6 +421,33 @@ TEST(Dialects, LogsAndTagBlocks) {
   EXPECT_STREQ(tagged[2].tagBlock, "s:a*28");
 }
 
+// BDS week 0 is GPS week 1356, and BDS time 14 s behind.
+TEST(Dialects, LogsCountTheirWeeksByGps) {
+  const struct {
+    const char* line;
+    int week, milliseconds;
+    const char* clock;
+  } rows[] = {
+      {"#OBSVMA,41.5,GPS,FINE,2405,604790000,0,0,18,38;*fd860f03", 2405, 604790000,
+       "log 2405:604790000 2026-02-14 23:59:32.000"},
+      {"#OBSVMA,41.5,BDS,FINE,1049,604790000,0,0,18,38;*f059660c", 2406, 4000,
+       "log 2406:4000 2026-02-14 23:59:46.000"},
+      // The clock stays where the receiver's is not set, or what it counts from is not known.
+      {"#OBSVMA,41.5,BDS2,UNKNOWN,1049,5000,0,0,18,38;*c33f4798", 2405, 19000, nullptr},
+      {"#OBSVMA,41.5,LOCAL,FINE,1049,5000,0,0,18,38;*4a845020", 1049, 5000, nullptr},
+      {"#OBSVMA,41.5,BDS,FINE,1049,604800000,0,0,18,38;*eba05b07", 1049, 604800000, nullptr},
+      {"#OBSVMA,41.5,BDS,FINE,65000,5000,0,0,18,38;*1fba4979", 65000, 5000, nullptr},
+  };
+  Host host(NavframeStandard);
+  std::string clock;
+  for (const auto& [line, week, milliseconds, shown] : rows) {
+    const auto header = host.Items(ToBytes(line)).at(1).As<HeaderLogRecord>().header;
+    EXPECT_EQ(Values(header.week, header.milliseconds), Values(week, milliseconds)) << line;
+    if (shown != nullptr) clock = shown;
+    EXPECT_EQ(host.Time(), clock) << line;
+  }
+}
+
 std::vector<std::string> Split(const std::string& text, char at) {
   std::vector<std::string> parts;
   std::istringstream in(text);
