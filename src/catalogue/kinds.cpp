@@ -322,15 +322,22 @@ constexpr KindRow Rows[] = {
 };
 // clang-format on
 
-// Places of the kinds of streams, whose ids are small; nothing else is as frequent.
-constexpr std::uint32_t SmallIds = 256;
-constexpr auto SmallPlaces = [] {
-  std::array<const KindRow*, SmallIds> places{};
+// Places of the kinds of streams, by ids from `First` on: nothing else is looked up as often.
+template <std::uint32_t First, std::uint32_t Count>
+constexpr auto Places = [] {
+  std::array<const KindRow*, Count> places{};
   for (const KindRow& row : Rows) {
-    if (row.kind.source == SourceStream && row.kind.id < SmallIds) places[row.kind.id] = &row;
+    const std::uint32_t place = row.kind.id - First;
+    if (row.kind.source == SourceStream && place < Count) places[place] = &row;
   }
   return places;
 }();
+constexpr std::uint32_t SmallIds = 256;
+constexpr std::uint32_t StreamOnlyIds = 1024;
+static_assert(std::ranges::all_of(Rows, [](const KindRow& row) {
+  return row.kind.source != SourceStream || row.kind.id < SmallIds ||
+         row.kind.id - FirstStreamOnlyId < StreamOnlyIds;
+}));
 
 constexpr auto Order(const KindRow& row) { return std::tuple(row.kind.source, row.kind.id); }
 static_assert(std::ranges::is_sorted(Rows, std::less{}, Order));
@@ -340,7 +347,11 @@ static_assert(std::ranges::is_sorted(Rows, std::less{}, Order));
 std::span<const KindRow> KindRows() { return Rows; }
 
 const KindRow* FindKind(std::uint32_t id, std::uint32_t source) {
-  if (source == SourceStream && id < SmallIds) return SmallPlaces[id];
+  if (source == SourceStream) {
+    if (id < SmallIds) return Places<0, SmallIds>[id];
+    const std::uint32_t place = id - FirstStreamOnlyId;
+    return place < StreamOnlyIds ? Places<FirstStreamOnlyId, StreamOnlyIds>[place] : nullptr;
+  }
   const auto* const row = std::ranges::lower_bound(Rows, std::tuple(source, id), {}, Order);
   return row != std::end(Rows) && Order(*row) == std::tuple(source, id) ? row : nullptr;
 }

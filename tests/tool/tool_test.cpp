@@ -106,6 +106,8 @@ TEST_F(Tool, Options) {
       {"navframe --protocols nmea,none $IN", 2, "", "none"},
       {"navframe --quiet --only vtg,1005 --only BESTPOS $IN", 0, "VTG STATION-ARP BESTPOS", ""},
       {"navframe --quiet --only 66048 $IN", 0, "NAV-PVT-WIDE", ""},
+      {"navframe --quiet --only 01-07 --only 1006 $IN", 0, "NAV-PVT-WIDE STATION-ARP", ""},
+      {"navframe --quiet --only nav-pvt,STATION $IN", 0, "NAV-PVT-WIDE STATION-ARP", ""},
       {"navframe --only vtg $IN", 0, "VTG", "malformed"},
       {"navframe --only 102x $IN", 2, "", "no kind of record is called 102x"},
       {"navframe $DIR/none", 1, "", "/none: No such file"},
@@ -162,6 +164,14 @@ TEST_F(Tool, OnlyTakesAllKindsOfAMessage) {
   EXPECT_EQ(Kinds(Run("navframe --only gsv $IN", input).out), "GSV GSV GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --only GSV-WIDE $IN", input).out), "GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --only 4 $IN", input).out), "GSV GSV");
+  const sample::Epoch epoch = sample::Drive().Next();
+  const std::string observed =
+      Text(RtcmObservations(epoch, sample::Gps, sample::Msm::Msm7, true)) + OneOfEach();
+  for (const char* name : {"1077", "msm-gps", "1001", "02-15", "OBSERVATIONS"}) {
+    EXPECT_THAT(Kinds(Run("navframe --quiet --only " + std::string(name) + " $IN", observed).out),
+                MatchesRegex("OBSERVATIONS( OBSERVATIONS)+"))
+        << name;
+  }
 }
 
 // 5 MB: a hundred thousand sentences and garbage.

@@ -106,10 +106,18 @@ class Lines {
 }  // namespace
 
 std::vector<const NavframeKind*> KindsNamed(const std::string& text) {
+  // A kind that the exports know stands for its message, of which streams may make another.
+  constexpr std::uint32_t FirstOfStreams = 0x10000;
+  const NavframeKind* const first = navframe_kind_named(text.c_str());
+  const char* const message =
+      first != nullptr && first->id < FirstOfStreams ? first->message : nullptr;
   std::vector<const NavframeKind*> kinds;
   for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
     const NavframeKind* const kind = navframe_kind_at(i);
-    if (navframe_kind_has_name(kind, text.c_str()) != 0) kinds.push_back(kind);
+    if (navframe_kind_has_name(kind, text.c_str()) != 0 ||
+        navframe_kind_has_name(kind, message) != 0) {
+      kinds.push_back(kind);
+    }
   }
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
