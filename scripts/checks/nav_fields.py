@@ -78,7 +78,9 @@ def _fields_of_glonass(record):
 
 def fields_of(item):
     system = satellites.satellite_of_ephemeris(item)[0]
-    return _fields_of_glonass(item.record) if system == "R" else _fields_of_kepler(item.record, system)
+    if system == "R":
+        return _fields_of_glonass(item.record)
+    return _fields_of_kepler(item.record, system)
 
 
 def _is_equal(mine, theirs):
@@ -87,7 +89,8 @@ def _is_equal(mine, theirs):
         return False
     if mine == theirs:
         return True
-    return abs(mine - theirs) <= 0.5001 * 10.0 ** (math.floor(math.log10(abs(mine) or 1e-300)) - 11)
+    digits = math.floor(math.log10(abs(mine) or 1e-300)) - 11
+    return abs(mine - theirs) <= 0.5001 * 10.0 ** digits
 
 
 def differences(mine, moment, rows, system):
