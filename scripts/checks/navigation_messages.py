@@ -1,6 +1,6 @@
 """Writes what satellites send: the fields of an RTCM 3 ephemeris as RXM-SFRBX frames with parts of
-navigation messages. Layouts are lists of (field, bits); a field in pieces is (field, bits, bits that
-follow in a later piece). A number is a fixed value, None reserved."""
+navigation messages. Layouts are lists of (field, bits); a field in pieces is (field, bits, bits
+that follow in a later piece). A number is a fixed value, None reserved."""
 
 # Messages of RTCM 3 behind their number.
 _ORBIT = [("crs", 16), ("dn", 16), ("m0", 32), ("cuc", 16), ("e", 32), ("cus", 16), ("a", 32),

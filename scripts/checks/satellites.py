@@ -28,9 +28,3 @@ def read(path):
         elif item.kind.startswith("EPH-"):
             orbits.append(item)
     return observed, orbits
-
-
-def frames_of(path, protocol):
-    """All whole frames of one protocol."""
-    return [item.bytes for item in streams.items(path.read_bytes(), streams.FRAME)
-            if item.protocol == protocol]
