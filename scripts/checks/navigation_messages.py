@@ -7,7 +7,8 @@ _ORBIT = [("crs", 16), ("dn", 16), ("m0", 32), ("cuc", 16), ("e", 32), ("cus", 1
           ("toe", 16), ("cic", 16), ("node", 32), ("cis", 16), ("i0", 32), ("crc", 16), ("w", 32),
           ("noded", 24)]
 _GALILEO = [("sat", 6), ("week", 12), ("iod", 10), ("acc", 8), ("idot", 14), ("toc", 14),
-            ("af2", 6), ("af1", 21), ("af0", 31)] + [(n, 14 if n == "toe" else b) for n, b in _ORBIT]
+            ("af2", 6), ("af1", 21), ("af0", 31)]
+_GALILEO += [(name, 14 if name == "toe" else bits) for name, bits in _ORBIT]
 _BEIDOU_BITS = {"toe": 17, **dict.fromkeys(("crs", "cuc", "cus", "cic", "cis", "crc"), 18)}
 RTCM = {
     1019: [("sat", 6), ("week", 10), ("acc", 4), ("codes", 2), ("idot", 14), ("iod", 8),
@@ -15,7 +16,7 @@ RTCM = {
           [("tgd", 8), ("health", 6), ("l2p", 1), ("fit", 1)],
     1042: [("sat", 6), ("week", 13), ("acc", 4), ("idot", 14), ("iod", 5), ("toc", 17), ("af2", 11),
            ("af1", 22), ("af0", 24), ("iodc", 5)] +
-          [(n, _BEIDOU_BITS.get(n, b)) for n, b in _ORBIT] +
+          [(name, _BEIDOU_BITS.get(name, bits)) for name, bits in _ORBIT] +
           [("tgd", 10), ("tgd2", 10), ("health", 1)],
     1045: _GALILEO + [("tgd", 10), ("h5a", 2), ("d5a", 1)],
     1046: _GALILEO + [("tgd", 10), ("tgd2", 10), ("h5b", 2), ("d5b", 1), ("h1", 2), ("d1", 1)],
