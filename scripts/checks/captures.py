@@ -4,6 +4,8 @@ import os
 import sys
 from pathlib import Path
 
+import streams
+
 
 def captures():
     """Paths of all captures, from the folder that the environment variable names."""
@@ -13,4 +15,6 @@ def captures():
     found = sorted(path for path in Path(folder).glob("*") if path.suffix != ".md")
     if not found:
         sys.exit(f"There are no captures in {folder} (NAVFRAME_CAPTURES).")
+    if not streams.LIBRARY.exists():
+        sys.exit(f"There is no {streams.LIBRARY}: build the preset release first.")
     return found
