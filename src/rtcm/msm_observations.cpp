@@ -94,11 +94,12 @@ template <const MsmLayout& Layout>
 void WriteLock(const RawCell& cell, std::uint32_t moment, observations::SignalLock& lock,
                Observation& out) {
   constexpr bool Coarse = Layout.lockBits == Msm4.lockBits;
-  constexpr std::uint32_t Longest = Coarse ? LockTime4(15) : LockTime10(704);
-  out.lockTime = Coarse ? LockTime4(cell.lock) : LockTime10(cell.lock);
-  out.lossOfLock = moment == 0 || IsUnknown(out.phaseRange)
+  constexpr std::uint32_t Last = Coarse ? 15 : 704;  // those behind it are reserved
+  constexpr auto TimeOf = Coarse ? LockTime4 : LockTime10;
+  out.lockTime = cell.lock <= Last ? TimeOf(cell.lock) : Unknown<std::uint32_t>();
+  out.lossOfLock = moment == 0 || IsUnknown(out.phaseRange) || IsUnknown(out.lockTime)
                        ? Unknown<std::uint8_t>()
-                       : lock.Note(moment, out.lockTime, Longest);
+                       : lock.Note(moment, out.lockTime, TimeOf(Last));
 }
 
 template <const MsmLayout& Layout>

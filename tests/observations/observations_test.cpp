@@ -225,13 +225,14 @@ TEST(Observations, LossOfLock) {
     int loss;
   };
   constexpr std::int64_t None = -8388608;
-  const Step steps[] = {{604'799'900, 5, 0, 255},   // the first one
-                        {604'799'950, 55, 0, 0},    // older than the step
-                        {0, 30, 0, 1},              // younger
-                        {20, 20, 0, 0},             // just as old
-                        {40, 40, None, 255},        // no phase
-                        {80, 50, 0, 1},             // younger than the last phase
-                        {200'000'000, 704, 0, 0}};  // the longest may be any older one
+  const Step steps[] = {{604'799'900, 5, 0, 255},     // the first one
+                        {604'799'950, 55, 0, 0},      // older than the step
+                        {0, 30, 0, 1},                // younger
+                        {20, 20, 0, 0},               // just as old
+                        {40, 40, None, 255},          // no phase
+                        {80, 50, 0, 1},               // younger than the last phase
+                        {200'000'000, 704, 0, 0},     // the longest may be any older one
+                        {200'000'050, 705, 0, 255}};  // reserved
   Observer observer;
   for (const Step& step : steps) {
     const msm::Message message{.epoch = step.epoch, .cells = {{0, step.phase, step.lock}}};
