@@ -3,6 +3,7 @@
 #include <array>
 #include <bit>
 
+#include "base/unknown.h"
 #include "catalogue/unknown_records.h"
 #include "ephemeris/delivery.h"
 #include "ephemeris/page_rows.h"
@@ -127,8 +128,9 @@ std::optional<KeplerEphemerisRecord> TakeLnav(const Subframe& subframe, LnavAsse
   constexpr std::uint64_t WeekCounts = 604'800 / 6;
   record.transmissionTime =
       static_cast<double>((assembly.TimeOf(0) + WeekCounts - 1) % WeekCounts * 6);
-  record.system = static_cast<std::uint8_t>(subframe.system == SubframeSystem::Qzss ? System::Qzss
-                                                                                    : System::Gps);
+  const bool isQzss = subframe.system == SubframeSystem::Qzss;
+  record.system = static_cast<std::uint8_t>(isQzss ? System::Qzss : System::Gps);
+  if (isQzss) record.l2pDataFlag = Unknown<std::uint8_t>();  // there is no L2 P; always set
   record.satellite = subframe.satellite;
   record.rtcmMessage = 0;
   record.navigationMessage = static_cast<std::uint8_t>(Message::Lnav);
