@@ -73,9 +73,12 @@ void StampTime(MsmRecord& record, const Services& services) {
 }  // namespace
 
 void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock) {
+  constexpr std::uint32_t WeekMs = 604'800'000;
   if (system == MsmSystem::Glonass) {
     const GlonassTime time = ReadGlonassTime(frame);
     header.epochTime = true_clock::TowOfGlonass(time.day, time.ofDay, clock);
+  } else if (ReadEpoch(frame) >= WeekMs) {  // which BeiDou's conversion takes for the next week's
+    header.epochTime = Unknown<std::uint32_t>();
   }
   true_clock::SetTow(header.epochTime, NavframeTimeFromRtcm, clock);
 }

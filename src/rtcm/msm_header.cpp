@@ -33,6 +33,10 @@ GlonassTime GlonassTimeOf(const std::uint8_t* bytes) {
       static_cast<std::uint32_t>(UnsignedBits(bytes, EpochBit + GlonassDayBits, GlonassTimeBits))};
 }
 
+std::uint32_t SentEpochOf(const std::uint8_t* bytes) {
+  return static_cast<std::uint32_t>(UnsignedBits(bytes, EpochBit, EpochBits));
+}
+
 std::uint32_t EpochOf(const std::uint8_t* bytes, MsmSystem system) {
   if (system == MsmSystem::Glonass) {
     const GlonassTime time = GlonassTimeOf(bytes);
@@ -41,7 +45,7 @@ std::uint32_t EpochOf(const std::uint8_t* bytes, MsmSystem system) {
         static_cast<std::int32_t>(time.ofDay);
     return static_cast<std::uint32_t>(epoch < 0 ? epoch + WeekMs : epoch);
   }
-  auto epoch = static_cast<std::int32_t>(UnsignedBits(bytes, EpochBit, EpochBits));
+  auto epoch = static_cast<std::int32_t>(SentEpochOf(bytes));
   if (system == MsmSystem::BeiDou) {
     epoch += BeiDouToGpsMs;
     if (epoch >= WeekMs) epoch -= WeekMs;
@@ -56,6 +60,8 @@ constexpr std::uint64_t TopBits(std::uint64_t bits, std::uint32_t count) {
 }  // namespace
 
 GlonassTime ReadGlonassTime(const Frame& frame) { return GlonassTimeOf(frame.bytes); }
+
+std::uint32_t ReadEpoch(const Frame& frame) { return SentEpochOf(frame.bytes); }
 
 MsmStation ReadMsmStation(const Frame& frame) {
   // One load; each field ends where the next one named begins.

@@ -33,6 +33,9 @@ struct GlonassTime {
 };
 GlonassTime ReadGlonassTime(const Frame& frame);
 
+// The epoch of a header as sent, of all others than GLONASS: ms of the week of its system.
+std::uint32_t ReadEpoch(const Frame& frame);
+
 // What MsmRecord has no room for: fields of the message, as sent.
 struct MsmStation {
   std::uint16_t id;

@@ -146,7 +146,7 @@ TEST(Observations, HeadOfMsm) {
                    record.divergenceFree, record.smoothing, record.leapSeconds, record.leapKnown),
             Values(114.5, 65535, 4, 255, 0, 5, 1, 2, 1, 6, -128, 255));
   // Times of no week.
-  for (const std::uint32_t number : {1077U, 1097U, 1137U}) {
+  for (const std::uint32_t number : {1077U, 1097U, 1127U, 1137U}) {
     EXPECT_TRUE(std::isnan(
         Observer().Only(msm::Message{.number = number, .epoch = 604'800'000}.Frame()).tow));
   }
