@@ -44,15 +44,20 @@ std::uint16_t WeekMember(std::int64_t week) {
                                                       : static_cast<std::uint16_t>(week);
 }
 
-// Messages have the week of their transmission, or that of toe: near the end of a week these
-// differ. The nearer to now of them is meant; without a time of now that of the message.
+// Satellites send the week of their transmission. RTCM has that one, or that of toe: near the end
+// of a week these differ. The nearer to now of them is meant; without a time of now that of the
+// message.
 void PutWeeks(const SystemRow& system, const DecoderClock& clock, KeplerEphemerisRecord& record) {
   const auto sent =
       true_clock::NearestWeek(system.firstWeek + record.broadcastWeek, system.weeks, clock);
   if (!sent || IsUnknown(record.toe)) return;
   std::int64_t week = *sent;
   const std::int64_t now = clock.gpsTime.week;
-  if (!IsUnknown(clock.gpsTime.week) && !IsUnknown(clock.gpsTime.tow) && std::abs(week - now) < 2) {
+  if (!IsUnknown(record.transmissionTime)) {
+    week =
+        WeekNearest(record.toe, static_cast<double>(week * WeekSeconds) + record.transmissionTime);
+  } else if (!IsUnknown(clock.gpsTime.week) && !IsUnknown(clock.gpsTime.tow) &&
+             std::abs(week - now) < 2) {
     constexpr double Ms = 1000;
     week = WeekNearest(record.toe, static_cast<double>(now * WeekSeconds) + clock.gpsTime.tow / Ms);
   }
