@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/unknown.h"
+#include "catalogue/unknown_records.h"
 #include "time/true_clock.h"
 
 namespace navframe::ephemeris {
@@ -108,6 +109,21 @@ std::optional<std::int64_t> MomentOf(const GlonassEphemerisRecord& record,
   return std::llround(days) * DaySeconds + ofDay;
 }
 
+// The first satellites do not send what GLONASS-M ones do: messages may have anything in its place.
+void ForgetWhatOnlyGlonassMSends(GlonassEphemerisRecord& record) {
+  GlonassEphemerisRecord unknown;
+  catalogue::MakeUnknown(unknown);
+  record.p = unknown.p;
+  record.lnThird = unknown.lnThird;
+  record.deltaTauN = unknown.deltaTauN;
+  record.p4 = unknown.p4;
+  record.accuracyIndex = unknown.accuracyIndex;
+  record.nt = unknown.nt;
+  record.n4 = unknown.n4;
+  record.tauGps = unknown.tauGps;
+  record.lnFifth = unknown.lnFifth;
+}
+
 template <class Record>
 void Push(std::uint32_t kind, Record& record, RecordSink& sink, const DecoderClock& clock) {
   record.tow = clock.gpsTime.tow;
@@ -122,6 +138,14 @@ Message BeiDouMessage(std::uint8_t satellite) {
   constexpr std::uint8_t LastOfFirstGeo = 5;
   constexpr std::uint8_t FirstOfSecondGeo = 59;
   return satellite <= LastOfFirstGeo || satellite >= FirstOfSecondGeo ? Message::D2 : Message::D1;
+}
+
+void NoteWeek(const GlonassEphemerisRecord& record, NavframeTimeSource source,
+              DecoderClock& clock) {
+  constexpr std::int64_t AllWeeks = 65536;
+  if (record.n4 == 0 || record.nt == 0) return;
+  true_clock::SetEphemerisWeek(true_clock::WeekOfGlonass(record.n4, record.nt, record.tb), AllWeeks,
+                               source, clock);
 }
 
 void Deliver(KeplerEphemerisRecord& record, NavframeTimeSource source, RecordSink& sink,
@@ -139,11 +163,8 @@ void Deliver(KeplerEphemerisRecord& record, NavframeTimeSource source, RecordSin
 
 void Deliver(GlonassEphemerisRecord& record, NavframeTimeSource source, RecordSink& sink,
              DecoderClock& clock) {
-  constexpr std::int64_t AllWeeks = 65536;
-  if (record.n4 != 0 && record.nt != 0) {  // which the first satellites did not send
-    true_clock::SetEphemerisWeek(true_clock::WeekOfGlonass(record.n4, record.nt, record.tb),
-                                 AllWeeks, source, clock);
-  }
+  NoteWeek(record, source, clock);
+  if (record.satelliteType == 0) ForgetWhatOnlyGlonassMSends(record);
   if (const auto moment = MomentOf(record, clock)) {
     record.referenceUtc = true_clock::UtcOf(*moment);
     const std::int64_t gps = *moment + clock.leapSeconds;

@@ -22,6 +22,10 @@ inline void PutFrameTime(std::uint32_t sent, GlonassEphemerisRecord& record) {
   record.frameTime = (sent >> 7) * 3600 + (sent >> 1 & 63U) * 60 + (sent & 1U) * 30;
 }
 
+// A clock without a date learns the week, also from a day that the message does not vouch for:
+// better that one than none.
+void NoteWeek(const GlonassEphemerisRecord& record, NavframeTimeSource source, DecoderClock& clock);
+
 // Adds what follows from the fields that were read (weeks, accuracy, health, dates), and pushes the
 // record. A clock without a date learns the week.
 void Deliver(KeplerEphemerisRecord& record, NavframeTimeSource source, RecordSink& sink,

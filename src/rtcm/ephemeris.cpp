@@ -203,7 +203,7 @@ struct GlonassMessage {
   std::uint8_t channel;     // from -7 on
   std::uint8_t quarterHour;
   std::uint8_t almanacHealthAvailable;
-  std::uint8_t additionalData;  // all from `na` on is set, though N4 may be in any case
+  std::uint8_t additionalData;  // all from `na` on is set
 };
 constexpr double Kilo = 1000;
 constexpr auto Glonass = std::to_array<FieldRow>({
@@ -303,8 +303,10 @@ DecodeResult DecodeGlonass(const Frame& frame, Services& services) {
   record.health = static_cast<std::uint8_t>(record.unhealthy * 4);
   if (message.almanacHealthAvailable == 0) record.almanacHealth = Unknown<std::uint8_t>();
   if (message.additionalData == 0) {
+    ephemeris::NoteWeek(record, NavframeTimeFromRtcm, services.time);
     record.na = Unknown<std::uint16_t>();
     record.tauC = Unknown<double>();
+    record.n4 = 0;
     record.tauGps = Unknown<double>();
     record.lnFifth = Unknown<std::uint8_t>();
   }

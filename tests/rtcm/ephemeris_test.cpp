@@ -169,11 +169,18 @@ TEST(RtcmEphemeris, WeeksOfTheReferenceTimesAreNearestToTheTimeOfTheStream) {
   }
 }
 
-// Some stations leave the interval or the day out.
+// Some stations leave the interval or the day out. Satellites before GLONASS-M have neither, and
+// without additional data there is no interval, whatever stands in their place.
 TEST(RtcmEphemeris, GlonassTimesWithoutADayAreNearestToTheTimeOfTheStream) {
-  for (const auto& [quarterHour, utc] :
-       {std::pair{60, "31 12:0"}, {0, "31 21:0"}, {13, "31 0:15"}}) {
+  const struct {
+    unsigned quarterHour, day, type, additional, interval;
+    const char* utc;
+  } rows[] = {
+      {60, 0, 1, 1, 7, "31 12:0"}, {0, 1000, 0, 1, 7, "31 21:0"}, {13, 1000, 1, 0, 7, "31 0:15"}};
+  for (const auto& [quarterHour, day, type, additional, interval, utc] : rows) {
     BitWriter message = BitWriter().Put(1020, 12).Put(0, 29).Put(quarterHour, 7);
+    for (int i = 0; i < 4; ++i) message.Put(0, 55);
+    message.Put(day, 11).Put(type, 2).Put(additional, 1).Put(0, 43).Put(interval, 5);
     while (message.Written().size() < 45) message.Put(0, 8);
     const std::string members = Ephemerides(Noon() + RtcmFrame(message));
     const std::string wanted = utc;
