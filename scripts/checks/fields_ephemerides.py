@@ -354,7 +354,10 @@ def _sent_by_satellite(name, navigation, layouts, frames, satellites=None):
     def make(rng):
         one = Set(rng, name)
         one.satellite = rng.choice(satellites or one.system.satellites)
-        data, expected = b"".join(frames(one)), one.expected(names, navigation)
+        several, expected = list(frames(one)), one.expected(names, navigation)
+        if name != "BeiDou":  # whose parts follow one another; others begin anywhere
+            rng.shuffle(several)
+        data = b"".join(several)
         expected["transmissionTime"] = Scaled(one.tow, 1)
         if rng.random() < 0.7:
             return one.date() + data, expected
