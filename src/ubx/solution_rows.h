@@ -74,7 +74,7 @@ inline constexpr auto FullNavigationRows = std::to_array<FieldRow>({
     F(positionDop, 76, U16, 100),
     F(vehicleHeading, 84, I32, 1e5),
     KnownIf(F(magDeclination, 88, I16, 100), HasDeclination),
-    KnownIf(F(magAccuracy, 90, U16, 100), HasDeclination),
+    OnesAreNone(KnownIf(F(magAccuracy, 90, U16, 100), HasDeclination)),
 });
 #undef F
 
