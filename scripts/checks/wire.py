@@ -5,7 +5,8 @@ Knows how frames are sealed and nothing of the library: what a message holds sta
 
 - `MESSAGES`, a list of `Message`: `make(rng)` answers the bytes of a random message and what is
   expected of the record that comes of it: member names (nested records as dictionaries, lists as
-  lists of all elements in use) to a plain value (None unknown, number, text), `Scaled` or `Clock`;
+  lists of all elements in use) to a plain value (None unknown, number, text), `Scaled`, `Single`
+  or `Clock`;
 - `NOT_HELD`, {name of a message: [(field, why)]}: what is sent and no member holds.
 """
 
@@ -16,6 +17,9 @@ Message = namedtuple("Message", "name kind make")
 
 # raw * step, as exactly as `step` needs.
 Scaled = namedtuple("Scaled", "raw step")
+
+# A number of 32 bits with a fraction, which JSON has in no more digits than it takes.
+Single = namedtuple("Single", "value")
 
 
 class _Clock:
