@@ -37,7 +37,7 @@ typedef struct Observation {
                           GLONASS while the channel is */
   double pseudorange;  /* [m] pseudorange, see rangeModulus of the record */
   double carrierPhase; /* [cycles] phase of the carrier, of its true frequency; unknown while that
-                          is */
+                          is, but in UBX */
   double phaseRange;   /* [m] the same phase as a range; RTCM 3 tells it while the frequency is not
                           known, too */
   double doppler;      /* [Hz] Doppler, positive for approaching satellites; unknown while the

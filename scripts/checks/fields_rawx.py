@@ -1,21 +1,20 @@
 """Random RXM-RAWX and the observations that are to come of them, for scripts/compare-fields."""
 
+import math
 import struct
-from collections import namedtuple
 
 from fields_ubx import draw, draw_float
 from wire import Message, Scaled, ubx_frame
 
 LIGHT_SPEED = 299792458.0
-
-Signal = namedtuple("Signal", "code frequency")
+UNLISTED = (None, math.nan)
 
 # gnssId: (ObservedSystem, satellites, {sigId: code of RINEX and MHz}).
 _L1, _L2, _L5, _E5B, _E6 = 1575.42, 1227.60, 1176.45, 1207.14, 1278.75
 _B1I, _B3I = 1561.098, 1268.52
 SYSTEMS = {
-    0: (1, range(1, 33), {0: ("1C", _L1), 3: ("2L", _L2), 4: ("2S", _L2), 6: ("5I", _L5),
-                          7: ("5Q", _L5)}),
+    0: (1, range(1, 33), {0: ("1C", _L1), 2: UNLISTED, 3: ("2L", _L2), 4: ("2S", _L2),
+                          6: ("5I", _L5), 7: ("5Q", _L5)}),
     1: (7, range(120, 159), {0: ("1C", _L1)}),
     2: (3, range(1, 37), {0: ("1C", _L1), 1: ("1B", _L1), 3: ("5I", _L5), 4: ("5Q", _L5),
                           5: ("7I", _E5B), 6: ("7Q", _E5B), 8: ("6B", _E6), 9: ("6C", _E6),
@@ -23,6 +22,7 @@ SYSTEMS = {
     3: (4, range(1, 64), {0: ("2I", _B1I), 1: ("2I", _B1I), 2: ("7I", _E5B), 3: ("7I", _E5B),
                           4: ("6I", _B3I), 10: ("6I", _B3I), 5: ("1P", _L1), 6: ("1D", _L1),
                           7: ("5P", _L5), 8: ("5D", _L5)}),
+    4: (None, range(173, 183), {0: UNLISTED}),
     5: (5, range(1, 11), {0: ("1C", _L1), 1: ("1Z", _L1), 4: ("2S", _L2), 5: ("2L", _L2),
                           8: ("5I", _L5), 9: ("5Q", _L5), 12: ("1E", _L1)}),
     6: (2, range(1, 33), {0: ("1C", 1602.0), 2: ("2C", 1246.0)}),
@@ -36,9 +36,9 @@ OF_STATIONS = dict.fromkeys(("stationId", "stationIssue", "clockSteering", "exte
                              "divergenceFree", "smoothing"))
 
 
-def _micro(value):
-    """A number that is computed, to its last bits."""
-    return Scaled(value * 1e6, 1e-6)
+def _computed(value, step=1e-6):
+    """A number that is made of others, which may not be known."""
+    return None if math.isnan(value) else Scaled(value / step, step)
 
 
 def _signals(rng):
@@ -68,11 +68,11 @@ def _block(rng, gnss, satellite, signal):
     return data, {
         "system": system, "satellite": satellite, "signal": signal,
         "channel": slot - 7 if gnss == GLONASS else None, "code": code,
-        "frequency": Scaled(round(megahertz * 1e6), 1),
+        "frequency": _computed(megahertz * 1e6),
         "pseudorange": pseudorange if has_range else None,
         "carrierPhase": phase if has_phase else None,
-        "phaseRange": _micro(phase * wave) if has_phase else None,
-        "doppler": doppler, "rangeRate": _micro(-doppler * wave), "cn0": cn0,
+        "phaseRange": _computed(phase * wave) if has_phase else None,
+        "doppler": doppler, "rangeRate": _computed(-doppler * wave), "cn0": cn0,
         "pseudorangeDeviation": Scaled(1, 0.01 * 2 ** deviations[0]),
         "carrierPhaseDeviation": None if deviations[1] == 15 else Scaled(deviations[1], 0.004),
         "dopplerDeviation": Scaled(1, 0.002 * 2 ** deviations[2]),
@@ -96,4 +96,5 @@ def _raw(rng):
 
 
 MESSAGES = [Message("RXM-RAWX", "OBSERVATIONS", _raw)]
-NOT_HELD = {"RXM-RAWX": [("freqId", "of other systems than GLONASS, for which it means nothing")]}
+NOT_HELD = {"RXM-RAWX": [("freqId", "of other systems than GLONASS, for which it means nothing"),
+                         ("gnssId", "of systems that ObservedSystem does not have (IMES)")]}
