@@ -52,7 +52,7 @@ SatelliteInView* SatellitesInView::Entry(int systemId, int number) {
 
 bool SatellitesInView::AddSignalTo(SatelliteInView& entry, std::uint8_t signalId,
                                    const GsvBlock& block) {
-  if (block.hasElevation) entry.elevation = block.elevation;
+  if (block.hasElevation) entry.elevation = static_cast<std::uint16_t>(block.elevation);
   if (block.hasAzimuth) entry.azimuth = block.azimuth;
   if (entry.signalCount >= MostSignals) return false;
   SatelliteSignal& signal = entry.signals[entry.signalCount++];

@@ -22,7 +22,7 @@ struct GsvBlock {
   bool hasAzimuth;
   std::uint8_t cn0;
   int number;
-  std::uint16_t elevation;
+  int elevation;  // all bits of 16 set when it is not known, as azimuth
   std::uint16_t azimuth;
 };
 

@@ -11,8 +11,9 @@
 namespace navframe::nmea {
 namespace {
 
-std::int16_t Elevation(std::uint16_t elevation) {
-  return IsUnknown(elevation) ? std::int16_t{INT16_MIN} : static_cast<std::int16_t>(elevation);
+std::int16_t Elevation(int elevation) {
+  return elevation == Unknown<std::uint16_t>() ? std::int16_t{INT16_MIN}
+                                               : static_cast<std::int16_t>(elevation);
 }
 
 }  // namespace

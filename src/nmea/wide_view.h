@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 
+#include "base/unknown.h"
 #include "navframe/records.h"
 #include "nmea/satellites_in_view.h"
 
@@ -50,10 +51,11 @@ class WideView {
 
   // 255 stands for an unknown one.
   static constexpr bool FitsNarrow(int number) { return static_cast<unsigned>(number) < 255; }
-  // Elevations are 16 bits without a sign there, of which the highest is that of the unknown one.
+  // Elevations are 16 bits without a sign there.
   static constexpr bool FitsNarrow(const GsvBlock& block) {
     return (!block.numbered || FitsNarrow(block.number)) &&
-           static_cast<std::uint16_t>(block.elevation + 1) <= 0x8000;
+           (static_cast<unsigned>(block.elevation) < 0x8000 ||
+            block.elevation == Unknown<std::uint16_t>());
   }
 
   void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);

@@ -184,7 +184,7 @@ TEST(Dialects, AllSatellitesInView) {
          "GSV-WIDE 1/3[1:46 5:40 6:41 7:42 ] ", "GSV 1/3[1:46 5:40 6:41 ] ");
   expect({"GPGSA,A,3,03,301,,,,,,,,,,,1.8,1.0,1.4", "GPGSV,1,1,02,03,41,050,46,301,60,317,49,1"},
          "GSV-WIDE 1/3[1:46 ]used 1/301[1:49 ]used ", "GSV 1/3[1:46 ]used 1/45[1:49 ]used ");
-  expect({"GPGSV,1,1,01,03,-5,050,46,1"}, "GSV-WIDE 1/3[1:46 ] ", "GSV 1/3[1:46 ] ");
+  expect({"GPGSV,1,1,01,03,-1,050,46,1"}, "GSV-WIDE 1/3[1:46 ] ", "GSV 1/3[1:46 ] ");
 
   // Of 97 satellites, the last one with a number or without, the exports keep that one.
   for (const char* last : {"GPGSV,1,1,01,97,,,46,1", "GLGSV,1,1,01,,,,46,1"}) {
