@@ -251,7 +251,7 @@ int zoneMinutes 0 59
 NOT_HELD["ZDA"] = [("zoneHours", "sign (modulo 256), and -1 not at all")]
 
 
-# --- Proprietary sentences, in the order of the records' members ------------------------------------
+# --- Proprietary sentences, in the order of the records' members ----------------------------------
 
 _SOLUTION = """
 int solutionStatus -1 2000000000
@@ -296,6 +296,23 @@ int levels[] -128 127
 
 _SIX = "double values[] -1000 1000\n" * 6
 sentence("IMURAW", "time timeText\ntext text[] 7\ntext text[] 7\n" + _SIX, TAG, ())
+sentence("IMUVEH", "time timeText\ntext text[] 7\ntext text[] 7\n" + _SIX, TAG, (),
+         lambda expected: expected.update(utc=dict.fromkeys(UTC_PARTS) | {"flag": 0}))
+NOT_HELD["IMUVEH"] = [("time", "but as text")]
+sentence("INSPVA", """
+date dateText
+time timeText
+double latitude -90 90
+double longitude -180 180
+double height -500 40000
+double velocity[] -1000 1000
+double velocity[] -1000 1000
+double velocity[] -1000 1000
+single attitude[] -360 360
+single attitude[] -360 360
+single attitude[] -360 360
+""", TAG, (), lambda expected: expected.update(timeText=(expected["timeText"] or "")[:10] or None))
+NOT_HELD["INSPVA"].append(("time", "decimals behind milliseconds"))
 sentence("NAVATT", "time timeText\n" + _SIX, TAG, ())
 for _name in ("GYOACC", "GYOACC-V"):
     sentence(_name, "time timeText\n" + "double gyro[] -1000 1000\n" * 3 +

@@ -25,7 +25,7 @@ SYSTEMS = {
     4: (None, range(173, 183), {0: UNLISTED}),
     5: (5, range(1, 11), {0: ("1C", _L1), 1: ("1Z", _L1), 4: ("2S", _L2), 5: ("2L", _L2),
                           8: ("5I", _L5), 9: ("5Q", _L5), 12: ("1E", _L1)}),
-    6: (2, range(1, 33), {0: ("1C", 1602.0), 2: ("2C", 1246.0)}),
+    6: (2, (*range(1, 33), 255), {0: ("1C", 1602.0), 2: ("2C", 1246.0)}),
     7: (6, range(1, 15), {0: ("5A", _L5)}),
 }
 GLONASS = 6
@@ -42,16 +42,17 @@ def _computed(value, step=1e-6):
 
 
 def _signals(rng):
-    """Each once: of a repeated one it could be told whether lock was lost."""
+    """Each once, with its slot: of a repeated one it could be told whether lock was lost."""
     all_of = [(gnss, satellite, signal) for gnss, (_, satellites, signals) in SYSTEMS.items()
               for satellite in satellites for signal in signals]
-    return rng.sample(all_of, rng.choice((0, 1, 2, 8, 30, 255 if rng.random() < 0.1 else 5)))
+    some = rng.sample(all_of, rng.choice((0, 1, 2, 8, 30, 255 if rng.random() < 0.1 else 5)))
+    return [(*signal, rng.randrange(14) if signal[0] == GLONASS else draw(rng, 8))
+            for signal in some]
 
 
-def _block(rng, gnss, satellite, signal):
+def _block(rng, gnss, satellite, signal, slot):
     system, _, signals = SYSTEMS[gnss]
     code, megahertz = signals[signal]
-    slot = rng.randrange(14) if gnss == GLONASS else draw(rng, 8)
     if gnss == GLONASS:
         megahertz += (slot - 7) * SPACING[signal]
     wave = LIGHT_SPEED / (megahertz * 1e6)
@@ -66,7 +67,7 @@ def _block(rng, gnss, satellite, signal):
                        state | spare[3])
     has_range, has_phase, half_known, half_subtracted = (state >> bit & 1 for bit in range(4))
     return data, {
-        "system": system, "satellite": satellite, "signal": signal,
+        "system": system, "satellite": None if satellite == 255 else satellite, "signal": signal,
         "channel": slot - 7 if gnss == GLONASS else None, "code": code,
         "frequency": _computed(megahertz * 1e6),
         "pseudorange": pseudorange if has_range else None,
@@ -80,10 +81,11 @@ def _block(rng, gnss, satellite, signal):
         "halfCycleSubtracted": half_subtracted}
 
 
-def _raw(rng):
-    tow = rng.choice((0.0, 604799.999999, rng.uniform(0, 604800)))
+def _raw(rng, tow=None, signals=None):
+    tow = rng.choice((0.0, 604799.999999, rng.uniform(0, 604800))) if tow is None else tow
     week, leap, state, version = draw(rng, 16), draw(rng, 8), draw(rng, 8), rng.randrange(2)
-    blocks = [_block(rng, *signal) for signal in _signals(rng)]
+    signals = _signals(rng) if signals is None else signals
+    blocks = [_block(rng, *signal) for signal in signals]
     payload = struct.pack("<dHBBBBxx", tow, week, leap, len(blocks), state, version)
     payload += b"".join(data for data, _ in blocks)
     leap_seconds = leap - 256 if leap > 127 else leap
@@ -95,6 +97,19 @@ def _raw(rng):
         "observations": [observation for _, observation in blocks]}
 
 
-MESSAGES = [Message("RXM-RAWX", "OBSERVATIONS", _raw)]
+def _raw_again(rng):
+    """Two epochs: lock was lost where its time is shorter than what has passed."""
+    signals = _signals(rng)[:40]
+    start, passed = rng.randrange(604800000), rng.choice((50, 1000, 64500, 64501, 200000))
+    first, before = _raw(rng, start / 1000, signals)
+    second, expected = _raw(rng, (start + passed) % 604800000 / 1000, signals)
+    for old, new in zip(before["observations"], expected["observations"]):
+        if None not in (old["carrierPhase"], new["carrierPhase"]):
+            new["lossOfLock"] = int(new["lockTime"] < min(passed, 64500))
+    return first + second, expected
+
+
+MESSAGES = [Message("RXM-RAWX", "OBSERVATIONS", _raw),
+            Message("RXM-RAWX again", "OBSERVATIONS", _raw_again)]
 NOT_HELD = {"RXM-RAWX": [("freqId", "of other systems than GLONASS, for which it means nothing"),
                          ("gnssId", "of systems that ObservedSystem does not have (IMES)")]}

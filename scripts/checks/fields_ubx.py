@@ -1,9 +1,10 @@
 """Random UBX messages and what their records are to hold, for scripts/compare-fields.
 
-A message is a table in the order of its payload, a line a field: type, name, member, and the unit of
-the number in that of the member, if it is not the same. Types are those of the interface
-descriptions (U4, I2, X1, R8, ...), besides A2 and A4, accuracies of which all bits set stand for not
-known, and R<n>, n reserved bytes. Lines with a dot have bits of the field above them. Of members:
+A message is a table in the order of its payload, a line a field: type, name, member, and the unit
+of the number in that of the member, if it is not the same. Types are those of the interface
+descriptions (U4, I2, X1, R8, ...), besides A2 and A4, accuracies of which all bits set stand for
+not known, and R<n>, n reserved bytes. Lines with a dot have bits of the field above them. Of
+members:
 
     name    a whole number; all bits set, or the most negative one, stand for not known
     name*   a whole number of which every value is one
@@ -115,7 +116,7 @@ def _count(rng, most):
 
 def ubx(name, number, kind, head, judge=None, given=None, block="", member="", counter="", most=0,
         judge_block=None):
-    """A message of a head and, if it has a list, blocks that fill `member`, counted by `counter`."""
+    """A message of a head and perhaps blocks that fill `member`, as many as `counter` tells."""
     rows, block_rows = _table(head, name), _table(block, name)
     given = dict(given or {})
 
@@ -145,7 +146,7 @@ def _unknown_unless(condition, *members):
 
 
 def _joined(step, fine, *triples):
-    """Numbers sent in two parts: member, coarse part, fine one, `fine` of which are a coarse one."""
+    """Numbers sent in two parts: member, coarse part, finer part in `fine`-ths of it."""
     def judge(expected, wire):
         for member, coarse, rest in triples:
             expected[member] = Scaled(wire[coarse] * fine + wire[rest], step)
