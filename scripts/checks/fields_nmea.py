@@ -6,7 +6,7 @@ asks for. Types:
     time [text]             hhmmss with any decimals, or none, into utc; its text into the member
     date text               ddmmyy into utc, its text into the member
     lat, lon                two fields, the angle and the letter of the hemisphere
-    int low high [modulo]   a whole number, kept modulo that
+    int low high            a whole number
     single, double low high a number with decimals
     hex low high            a whole number of one or two hexadecimal digits
     letter A=1 ...          what letters stand for
@@ -92,8 +92,6 @@ def _number(rng, expected, kind, member, words):
     value = rng.choice((low, high, rng.randint(low, high)))
     if kind == "hex":
         return [f"{value:X}"], value
-    if len(words) > 2:
-        return [f"{value:02}"], value % int(words[2])
     return [str(value)], None if value == -1 else value
 
 
@@ -130,11 +128,11 @@ def _field(rng, expected, words):
     return text
 
 
-def sentence(formatter, table, fixed=(), talkers=TALKERS, judge=None):
-    """`fixed` is what the record has besides, or has instead."""
+def sentence(formatter, table, fixed=(), talkers=TALKERS, judge=None, kind=None, to=MESSAGES):
+    """`fixed` is what the record has besides, or has instead; a member `talker` is the talker."""
     lines = [line.split() for line in table.strip().splitlines()]
     singles = [words[1].removesuffix("[]") for words in lines if words[0] == "single"]
-    held_not = NOT_HELD.setdefault(formatter, [])
+    held_not = NOT_HELD.setdefault(kind or formatter, [])
     if singles:
         held_not.append((", ".join(dict.fromkeys(singles)),
                          "digits behind those of a 32-bit float (about seven)"))
@@ -148,10 +146,12 @@ def sentence(formatter, table, fixed=(), talkers=TALKERS, judge=None):
         expected.update(dict(fixed), gpsTime=Clock)
         if judge:
             judge(expected)
-        address = (rng.choice(talkers) if talkers else "") + formatter
-        return nmea_sentence(",".join([address] + fields)), expected
+        talker = rng.choice(talkers) if talkers else ""
+        if "talker" in expected:
+            expected["talker"] = talker
+        return nmea_sentence(",".join([talker + formatter] + fields)), expected
 
-    MESSAGES.append(Message(formatter, formatter, make))
+    to.append(Message(kind or formatter, kind or formatter, make))
 
 
 TAG = {"tag": 0}
@@ -232,23 +232,16 @@ letter mode N=0 A=1 D=2 E=6
 """, CLOCK_TEXT)
 
 
-def _zone(expected):
-    """One hour west of Greenwich is not known: 255 of 8 bits."""
-    if expected["zoneHours"] == 255:
-        expected["zoneHours"] = None
-
-
+# In zones of Greenwich and east of it.
 sentence("ZDA", """
 time timeText
 int day 1 28
 int month 1 12
 int year 1980 2079
-int zoneHours -13 13 256
+int zoneHours 0 13
 int zoneMinutes 0 59
-""", TAG, judge=lambda expected: (
-    _utc(expected).update({part: expected.pop(part) for part in ("day", "month", "year")}),
-    _zone(expected)))
-NOT_HELD["ZDA"] = [("zoneHours", "sign (modulo 256), and -1 not at all")]
+""", TAG, judge=lambda expected: _utc(expected).update(
+    {part: expected.pop(part) for part in ("day", "month", "year")}))
 
 
 # --- Proprietary sentences, in the order of the records' members ----------------------------------
