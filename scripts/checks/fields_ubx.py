@@ -775,7 +775,7 @@ U1 version version
 X1 initStatus1
 .0-1 wtInitStatus wheelTicks
 .2-4 mntAlgStatus mounting
-.5-6 insInitStatus inertial
+.5-7 insInitStatus inertial
 X1 initStatus2
 .0-1 imuInitStatus inertialSensors
 R5
