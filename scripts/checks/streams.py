@@ -56,7 +56,9 @@ def _load():
             ("navframe_flush", c.c_int, [c.c_void_p]),
             ("navframe_json", c.c_size_t,
              [c.POINTER(_Kind), c.c_void_p, c.c_char_p, c.c_size_t]),
-            ("navframe_message_name", c.c_char_p, [c.POINTER(_Item)])):
+            ("navframe_message_name", c.c_char_p, [c.POINTER(_Item)]),
+            ("navframe_kind_count", c.c_uint32, []),
+            ("navframe_kind_at", c.POINTER(_Kind), [c.c_uint32])):
         function = getattr(library, name)
         function.restype, function.argtypes = answer, arguments
     return library
@@ -101,3 +103,10 @@ def items(data, wanted=RECORD | UNDECODED, start_week=0, protocols=0):
         yield from _taken(library, stream, item, room)
     finally:
         library.navframe_close(stream)
+
+
+def kinds():
+    """The names of all kinds that some message gives."""
+    library = _load()
+    every = (library.navframe_kind_at(i).contents for i in range(library.navframe_kind_count()))
+    return [kind.name.decode() for kind in every if kind.message]
