@@ -1,5 +1,5 @@
 /* Payload records of ASCII logs about orbits, ionosphere and UTC. See records_asciilog.h for the
- * conventions. C99 and C++. */
+ * conventions. C99 and C++. Unknown values here: none. */
 #ifndef NAVFRAME_RECORDS_ASCIILOG_ORBITS_H
 #define NAVFRAME_RECORDS_ASCIILOG_ORBITS_H
 
