@@ -90,3 +90,13 @@ def rtcm_frame(payload):
         raise ValueError(f"{len(payload)} bytes do not fit a frame")
     frame = b"\xd3" + len(payload).to_bytes(2, "big") + payload
     return frame + _crc24q(frame).to_bytes(3, "big")
+
+
+def log_line(text):
+    """An ASCII log; `text` is what stands between "#" and "*"."""
+    crc = 0
+    for byte in text.encode("latin-1"):
+        crc ^= byte
+        for _ in range(8):
+            crc = crc >> 1 ^ (0xEDB88320 if crc & 1 else 0)
+    return f"#{text}*{crc:08x}\r\n".encode("latin-1")
