@@ -22,6 +22,8 @@ ci_packages=(
   "valgrind:command valgrind"
   "clang:command clang++"
   "libclang-rt-dev:fuzzer_runtime"
+  "python3:command python3"
+  "rtklib:command convbin"
 )
 
 have_command() { command -v "$1" >/dev/null; }

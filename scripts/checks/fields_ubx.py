@@ -229,6 +229,67 @@ A2 magAcc magAccuracy 0.01
 """, _all(_pvt_position, _unknown_unless(["validMag"], "magDeclination", "magAccuracy")))
 ubx("NAV-PVT-84", 0x0107, "NAV-PVT-WIDE", _PVT, _short_pvt)
 
+ubx("NAV-PVAT", 0x0117, "NAV-PVAT", """
+U4 iTOW tow
+U1 version version
+X1 valid
+.0 validDate dateValid
+.1 validTime timeValid
+.2 fullyResolved fullyResolved
+.3 validMag magValid
+U2 year year
+U1 month month
+U1 day day
+U1 hour hour
+U1 min minute
+U1 sec second
+R3
+U4 tAcc timeAccuracy
+I4 nano nanoseconds
+U1 fixType fixType
+X1 flags
+.0 gnssFixOK fixOk
+.1 diffSoln diffSolution
+.3 vehRollValid rollValid
+.4 vehPitchValid pitchValid
+.5 vehHeadingValid headingValid
+.6-7 carrSoln carrierSolution
+X1 flags2
+.5 confirmedAvai confirmedAvailable
+.6 confirmedDate confirmedDate
+.7 confirmedTime confirmedTime
+U1 numSV satellites
+I4 lon longitude 1e-7
+I4 lat latitude 1e-7
+I4 height height 1e-3
+I4 hMSL heightMsl 1e-3
+A4 hAcc horizontalAccuracy 1e-3
+A4 vAcc verticalAccuracy 1e-3
+I4 velN velocityNorth 1e-3
+I4 velE velocityEast 1e-3
+I4 velD velocityDown 1e-3
+I4 gSpeed groundSpeed 1e-3
+A4 sAcc speedAccuracy 1e-3
+I4 vehRoll roll 1e-5
+I4 vehPitch pitch 1e-5
+I4 vehHeading vehicleHeading 1e-5
+I4 motHeading motionHeading 1e-5
+A2 accRoll rollAccuracy 0.01
+A2 accPitch pitchAccuracy 0.01
+A2 accHeading headingAccuracy 0.01
+I2 magDec magDeclination 0.01
+A2 magAcc magAccuracy 0.01
+U2 errEllipseOrient ellipseOrientation 0.01
+A4 errEllipseMajor ellipseMajor 1e-3
+A4 errEllipseMinor ellipseMinor 1e-3
+R8
+""", _all(lambda expected, wire: wire["fixType"] or expected.update(
+    longitude=None, latitude=None, height=None, heightMsl=None),
+          _unknown_unless(["vehRollValid"], "roll", "rollAccuracy"),
+          _unknown_unless(["vehPitchValid"], "pitch", "pitchAccuracy"),
+          _unknown_unless(["vehHeadingValid"], "vehicleHeading"),
+          _unknown_unless(["validMag"], "magDeclination", "magAccuracy")), {"version": 0})
+
 ubx("NAV-HPPOSLLH", 0x0114, "NAV-HPPOSLLH", """
 U1 version version
 R2

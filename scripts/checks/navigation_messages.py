@@ -202,12 +202,15 @@ MESSAGES = {1019: (0, 0, LNAV, _lnav_words), 1046: (2, 1, INAV, _inav_words),
             1020: (6, 0, STRINGS, _string_words)}
 
 
-def subframes(fields, number):
-    """RXM-SFRBX frames that say what the message says."""
+def subframes(fields, number, second):
+    """RXM-SFRBX frames that say what the message says, sent from a second of the GPS week on."""
     system, signal, parts, words = MESSAGES[number]
     if number == 1042 and (fields["sat"] <= 5 or fields["sat"] >= 59):
         signal, parts = 1, D2
-    step = 3 if parts is D2 else 6 if parts is D1 else 0  # s; the time of others is not compared
+    # Of LNAV in units of 6 s; of BeiDou in its own time, one behind the other; of I/NAV and F/NAV
+    # the same second in all parts will do.
+    start = {1019: second // 6, 1042: max(second - 14, 0)}.get(number, second)
+    step = 3 if parts is D2 else 6 if parts is D1 else 1 if parts is LNAV else 0
     return b"".join(_sfrbx(system, fields["sat"], signal, fields.get("freq", 0),
-                           words(_bits(part, {**fields, "time": step * i})))
+                           words(_bits(part, {**fields, "time": start + step * i})))
                     for i, part in enumerate(parts))

@@ -123,7 +123,7 @@ inline constexpr auto VehicleNavigationRows = std::to_array<FieldRow>({
     KnownIf(OnesAreNone(F(pitchAccuracy, 90, U16, 100)), IsSet<25, 4>),
     OnesAreNone(F(headingAccuracy, 92, U16, 100)),
     KnownIf(F(magDeclination, 94, I16, 100), IsSet<5, 3>),
-    KnownIf(F(magAccuracy, 96, U16, 100), IsSet<5, 3>),
+    OnesAreNone(KnownIf(F(magAccuracy, 96, U16, 100), IsSet<5, 3>)),
     F(ellipseOrientation, 98, U16, 100),
     OnesAreNone(F(ellipseMajor, 100, U32, 1e3)),
     OnesAreNone(F(ellipseMinor, 104, U32, 1e3)),
