@@ -36,6 +36,7 @@
 #include "navframe/records_asciilog_orbits.h"
 #include "navframe/records_ephemerides.h"
 #include "navframe/records_nmea.h"
+#include "navframe/records_nmea_standard.h"
 #include "navframe/records_observations.h"
 #include "navframe/records_proprietary.h"
 #include "navframe/records_rtcm.h"

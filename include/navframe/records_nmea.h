@@ -14,6 +14,9 @@ namespace navframe {
 extern "C" {
 #endif
 
+/* Values NmeaMode: 0 no fix, 1 autonomous, 2 differential, 3 precise, 4 RTK fixed, 5 RTK float,
+ * 6 estimated, 7 manual, 8 simulated. */
+
 /* GGA, fix data. MsgId 1 and 21. */
 typedef struct GgaRecord {
   uint8_t tag;        /* the sentence stood behind a tag block, which is never the case; flag */
@@ -38,8 +41,7 @@ typedef struct RmcRecord {
   char timeText[17]; /* time field; as sent */
   char dateText[8];  /* date field, ddmmyy; as sent */
   uint8_t status;    /* state of the receiver; values 0 warning, 1 valid */
-  uint8_t mode;      /* positioning mode; values 0 no fix, 1 autonomous, 2 differential, 4 RTK
-                        fixed, 5 RTK float, 6 estimated; see docs/compatibility.md, Modes */
+  uint8_t mode;      /* positioning mode; values NmeaMode; see docs/compatibility.md, Modes */
   double longitude;  /* [deg] east positive */
   double latitude;   /* [deg] north positive */
   float speedKnots;  /* [kn] speed over ground */
@@ -55,7 +57,8 @@ typedef struct GsaRecord {
   uint32_t systemId;     /* system of the satellites; values NmeaSystem; see
                             docs/compatibility.md, GSA system */
   char timeText[17];     /* the decoder's time of day */
-  uint8_t selectionMode; /* choice between two and three dimensions; values 1 automatic */
+  uint8_t selectionMode; /* choice between two and three dimensions; values 0 manual (streams in
+                            the Standard dialect alone), 1 automatic */
   uint8_t fixType;       /* dimensions of the fix; preset 1; values 1 none, 2 two-dimensional,
                             3 three-dimensional */
   GPSTIME gpsTime;       /* the decoder's GPS time when the sentence was decoded */
@@ -102,26 +105,35 @@ typedef struct GsvRecord {
 /* Kinds that streams alone make. */
 enum { MsgIdWideGsv = 0x10000 };
 
-/* One satellite of a WideGsvRecord. 106 bytes. */
+/* One signal of a WideSatelliteInView. */
+typedef struct WideSatelliteSignal {
+  uint8_t signalId;    /* NMEA signal id, 0 when the sentence has none */
+  uint8_t reserved[3]; /* reserved */
+  float cn0;           /* [dB-Hz] carrier-to-noise density */
+} WideSatelliteSignal;
+
+/* One satellite of a WideGsvRecord. 140 bytes. */
 typedef struct WideSatelliteInView {
-  uint16_t number;             /* satellite number; as sent */
-  uint16_t azimuth;            /* [deg] from true north */
-  int16_t elevation;           /* [deg] above the horizon, negative below it; unknown INT16_MIN */
-  uint8_t systemId;            /* system of the satellite; values NmeaSystem */
-  uint8_t used;                /* a GSA sentence listed the satellite; flag; see
-                                  docs/compatibility.md, Used satellites */
-  uint8_t signalCount;         /* signals, 0 to 16; unknown never */
-  uint8_t reserved;            /* reserved */
-  SatelliteSignal signals[16]; /* signals in the order of their sentences; counted by signalCount */
+  uint16_t number;     /* satellite number; as sent */
+  uint16_t azimuth;    /* [deg] from true north */
+  int16_t elevation;   /* [deg] above the horizon, negative below it; unknown INT16_MIN */
+  uint8_t systemId;    /* system of the satellite; values NmeaSystem */
+  uint8_t used;        /* a GSA sentence listed the satellite; flag; see
+                          docs/compatibility.md, Used satellites */
+  uint8_t signalCount; /* signals, 0 to 16; unknown never */
+  uint8_t reserved[3]; /* reserved */
+  WideSatelliteSignal signals[16]; /* signals in the order of their sentences; counted by
+                                      signalCount */
 } WideSatelliteInView;
 
 /* GSV, satellites in view of one whole cycle of sentences, in place of a GsvRecord that has no room
- * for them: more than 96 of them, more than three signals of one, a number above 254, or an
- * elevation below the horizon. Streams in the Standard dialect alone make it. MsgId 65536. */
+ * for them: more than 96 of them, more than three signals of one, a number above 254, an
+ * elevation below the horizon, or decimals of a C/N0. Streams in the Standard dialect alone make
+ * it. MsgId 65536. */
 typedef struct WideGsvRecord {
   GPSTIME gpsTime;         /* the decoder's GPS time when the cycle's sentences arrived */
   char timeText[19];       /* the decoder's time of day when the cycle's sentences arrived */
-  uint8_t reserved;        /* reserved */
+  uint8_t reserved[3];     /* reserved */
   uint16_t satelliteCount; /* satellites, 0 to 256; unknown never */
   WideSatelliteInView satellites[256]; /* satellites in order of appearance; counted by
                                           satelliteCount */
@@ -136,8 +148,7 @@ typedef struct GllRecord {
   double longitude;  /* [deg] east positive */
   double latitude;   /* [deg] north positive */
   uint8_t status;    /* state of the data; values 0 invalid, 1 valid */
-  uint8_t mode;      /* positioning mode; values 0 no fix, 1 autonomous, 2 differential,
-                        6 estimated */
+  uint8_t mode;      /* positioning mode; values NmeaMode; see docs/compatibility.md, Modes */
 } GllRecord;
 
 /* GST, pseudorange error statistics. MsgId 6 and 26. */
@@ -180,8 +191,7 @@ typedef struct VtgRecord {
   float courseMagnetic; /* [deg] course over ground from magnetic north */
   float speedKnots;     /* [kn] speed over ground */
   float speedKmh;       /* [km/h] speed over ground */
-  uint8_t mode;         /* positioning mode; values 0 no fix, 1 autonomous, 2 differential,
-                           6 estimated */
+  uint8_t mode;         /* positioning mode; values NmeaMode; see docs/compatibility.md, Modes */
 } VtgRecord;
 
 /* ZDA, date and time. MsgId 9 and 29. */
@@ -204,7 +214,7 @@ static_assert(sizeof(RmcRecord) == 80 && offsetof(RmcRecord, longitude) == 32);
 static_assert(sizeof(GsaRecord) == 64 && offsetof(GsaRecord, pdop) == 36);
 static_assert(sizeof(SatelliteSignal) == 6 && sizeof(SatelliteInView) == 26);
 static_assert(sizeof(GsvRecord) == 2528 && offsetof(GsvRecord, satellites) == 30);
-static_assert(sizeof(WideSatelliteInView) == 106 && sizeof(WideGsvRecord) == 27168);
+static_assert(sizeof(WideSatelliteInView) == 140 && sizeof(WideGsvRecord) == 35872);
 static_assert(sizeof(GllRecord) == 64 && offsetof(GllRecord, longitude) == 40);
 static_assert(sizeof(GstRecord) == 68 && offsetof(GstRecord, rangeRms) == 40);
 static_assert(sizeof(GbsRecord) == 68 && offsetof(GbsRecord, latitudeError) == 40);

@@ -56,6 +56,27 @@ std::string FurtherSentences(const Epoch& epoch) {
   return text;
 }
 
+// Those of which streams alone make records, and what the exports' records have no room for.
+std::string StandardSentences(const Epoch& epoch) {
+  const std::string time = TimeField(epoch);
+  const std::string position = "4722.5840,N,00832.8560,E";
+  std::string text;
+  text += Sentence("GPRMC," + time + ",A," + position + Format(",11.5,84.2,%02d0326", epoch.day));
+  text += Sentence("GNGNS," + time + "," + position + ",RRANNN,17,0.7,431.2034,48.0412,1.5,0120,S");
+  text += Sentence("GPTHS,84.21,A");
+  text += Sentence("HEHDT,84.21,T");
+  text += Sentence("TIROT,-35.6,A");
+  text += Sentence("GNTXT,01,01,02,ANTSTATUS=OK^2C 21^B0C");
+  text += Sentence("GPDTM,999,CH,0.08,S,0.07,E,-47.7,W84");
+  text += Sentence("GNGRS," + time + ",1,0.5,-0.25,1.75,,,,,,,,,,1,8");
+  text += Sentence("GNGFA," + time + ",3.2,4.8,0.61,0.42,31.5,1.1,5.0,SVV");
+  text += Sentence("GNGBS," + time + ",0.5,0.5,1.1,03,0.0125,-2.5,0.75,4,5");
+  text += Sentence("GNGSA,A,3,301,303,,,,,,,,,,,1.05,0.64,0.83,3");
+  text += Sentence("GAGSV,1,1,02,301,63,111,44.25,303,12,301,37.5,7");
+  text += Sentence("GPZDA," + time + Format(",%02d,03,2026,-05,-30", epoch.day));
+  return text;
+}
+
 }  // namespace
 
 Bytes MixedStream() {
@@ -74,7 +95,7 @@ Bytes MixedStream() {
       Append(bytes, UbxFurther(epoch));
       Append(bytes, WithWrongChecksum(UbxAttitude(epoch)));
     }
-    if (msm == Msm::Msm5) Append(bytes, FurtherSentences(epoch));
+    if (msm == Msm::Msm5) Append(bytes, FurtherSentences(epoch) + StandardSentences(epoch));
     if (msm == Msm::Msm6) Append(bytes, RtcmFurther(epoch));
     Append(bytes, Binary55Aa(epoch));
   }

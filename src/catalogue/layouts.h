@@ -9,7 +9,11 @@
 
 namespace navframe::catalogue {
 
+inline constexpr NavframeValueName NmeaModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {3, "precise"}, {4, "RTK fixed"}, {5, "RTK float"}, {6, "estimated"}, {7, "manual"}, {8, "simulated"},};
+
 inline constexpr NavframeValueName NmeaSystemValues[] = {{1, "GPS"}, {2, "GLONASS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"}, {6, "NavIC"}, {15, "mixed"},};
+
+inline constexpr NavframeValueName NmeaStateValues[] = {{0, "not valid"}, {1, "safe"}, {2, "caution"}, {3, "unsafe"},};
 
 inline constexpr NavframeValueName MsmSystemValues[] = {{1, "GPS"}, {2, "GLONASS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"},};
 
@@ -101,13 +105,12 @@ static_assert(CoversEveryByte(GgaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GgaRecord> = GgaRecordLayout;
 
 inline constexpr NavframeValueName RmcRecordStatusValues[] = {{0, "warning"}, {1, "valid"},};
-inline constexpr NavframeValueName RmcRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {4, "RTK fixed"}, {5, "RTK float"}, {6, "estimated"},};
 inline constexpr MemberRow RmcRecordMembers[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(RmcRecord, tag), sizeof(RmcRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(RmcRecord, timeText), sizeof(RmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(RmcRecord, dateText), sizeof(RmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the receiver", NavframeU8, offsetof(RmcRecord, status), sizeof(RmcRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, RmcRecordStatusValues, nullptr}, false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(RmcRecord, mode), sizeof(RmcRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 6, RmcRecordModeValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(RmcRecord, mode), sizeof(RmcRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 28, 4, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitude", "deg", "east positive", NavframeF64, offsetof(RmcRecord, longitude), sizeof(RmcRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(RmcRecord, latitude), sizeof(RmcRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -122,14 +125,14 @@ inline constexpr RecordRow RmcRecordLayout = LayoutOf<RmcRecord, RmcRecordMember
 static_assert(CoversEveryByte(RmcRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<RmcRecord> = RmcRecordLayout;
 
-inline constexpr NavframeValueName GsaRecordSelectionModeValues[] = {{1, "automatic"},};
+inline constexpr NavframeValueName GsaRecordSelectionModeValues[] = {{0, "manual (streams in the Standard dialect alone)"}, {1, "automatic"},};
 inline constexpr NavframeValueName GsaRecordFixTypeValues[] = {{1, "none"}, {2, "two-dimensional"}, {3, "three-dimensional"},};
 inline constexpr MemberRow GsaRecordMembers[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GsaRecord, tag), sizeof(GsaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 1, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"systemId", "", "system of the satellites", NavframeU32, offsetof(GsaRecord, systemId), sizeof(GsaRecord::systemId), 0, -1, 0, NavframeUnknownValue, 4294967295, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GsaRecord, timeText), sizeof(GsaRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(GsaRecord, selectionMode), sizeof(GsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 1, GsaRecordSelectionModeValues, nullptr}, false, 0},
+    {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(GsaRecord, selectionMode), sizeof(GsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 2, GsaRecordSelectionModeValues, nullptr}, false, 0},
     {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(GsaRecord, fixType), sizeof(GsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, GsaRecordFixTypeValues, nullptr}, true, 1},
     {{"padding1", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GsaRecord, gpsTime), sizeof(GsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
@@ -179,6 +182,15 @@ inline constexpr RecordRow GsvRecordLayout = LayoutOf<GsvRecord, GsvRecordMember
 static_assert(CoversEveryByte(GsvRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GsvRecord> = GsvRecordLayout;
 
+inline constexpr MemberRow WideSatelliteSignalMembers[] = {
+    {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(WideSatelliteSignal, signalId), sizeof(WideSatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteSignal, reserved), sizeof(WideSatelliteSignal::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeF32, offsetof(WideSatelliteSignal, cn0), sizeof(WideSatelliteSignal::cn0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideSatelliteSignalLayout = LayoutOf<WideSatelliteSignal, WideSatelliteSignalMembers>("WideSatelliteSignal");
+static_assert(CoversEveryByte(WideSatelliteSignalLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideSatelliteSignal> = WideSatelliteSignalLayout;
+
 inline constexpr MemberRow WideSatelliteInViewMembers[] = {
     {{"number", "", "satellite number", NavframeU16, offsetof(WideSatelliteInView, number), sizeof(WideSatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "from true north", NavframeU16, offsetof(WideSatelliteInView, azimuth), sizeof(WideSatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
@@ -186,8 +198,8 @@ inline constexpr MemberRow WideSatelliteInViewMembers[] = {
     {{"systemId", "", "system of the satellite", NavframeU8, offsetof(WideSatelliteInView, systemId), sizeof(WideSatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(WideSatelliteInView, used), sizeof(WideSatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signalCount", "", "signals, 0 to 16", NavframeU8, offsetof(WideSatelliteInView, signalCount), sizeof(WideSatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteSignalLayout}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteSignalLayout}, false, 0},
 };
 inline constexpr RecordRow WideSatelliteInViewLayout = LayoutOf<WideSatelliteInView, WideSatelliteInViewMembers>("WideSatelliteInView");
 static_assert(CoversEveryByte(WideSatelliteInViewLayout));
@@ -196,17 +208,15 @@ template <> inline constexpr const NavframeRecord& RecordOf<WideSatelliteInView>
 inline constexpr MemberRow WideGsvRecordMembers[] = {
     {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(WideGsvRecord, gpsTime), sizeof(WideGsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
     {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(WideGsvRecord, timeText), sizeof(WideGsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(WideGsvRecord, reserved), sizeof(WideGsvRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideGsvRecord, reserved), sizeof(WideGsvRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satelliteCount", "", "satellites, 0 to 256", NavframeU16, offsetof(WideGsvRecord, satelliteCount), sizeof(WideGsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satellites", "", "satellites in order of appearance", NavframeNested, offsetof(WideGsvRecord, satellites), sizeof(WideGsvRecord::satellites[0]), 256, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteInViewLayout}, false, 0},
-    {{"padding0", "", "", NavframePadding, 27166, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow WideGsvRecordLayout = LayoutOf<WideGsvRecord, WideGsvRecordMembers>("WideGsvRecord");
 static_assert(CoversEveryByte(WideGsvRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<WideGsvRecord> = WideGsvRecordLayout;
 
 inline constexpr NavframeValueName GllRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
-inline constexpr NavframeValueName GllRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {6, "estimated"},};
 inline constexpr MemberRow GllRecordMembers[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GllRecord, tag), sizeof(GllRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 1, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -217,7 +227,7 @@ inline constexpr MemberRow GllRecordMembers[] = {
     {{"longitude", "deg", "east positive", NavframeF64, offsetof(GllRecord, longitude), sizeof(GllRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(GllRecord, latitude), sizeof(GllRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the data", NavframeU8, offsetof(GllRecord, status), sizeof(GllRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, GllRecordStatusValues, nullptr}, false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(GllRecord, mode), sizeof(GllRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, GllRecordModeValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(GllRecord, mode), sizeof(GllRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow GllRecordLayout = LayoutOf<GllRecord, GllRecordMembers>("GllRecord");
@@ -262,7 +272,6 @@ inline constexpr RecordRow GbsRecordLayout = LayoutOf<GbsRecord, GbsRecordMember
 static_assert(CoversEveryByte(GbsRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<GbsRecord> = GbsRecordLayout;
 
-inline constexpr NavframeValueName VtgRecordModeValues[] = {{0, "no fix"}, {1, "autonomous"}, {2, "differential"}, {6, "estimated"},};
 inline constexpr MemberRow VtgRecordMembers[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(VtgRecord, tag), sizeof(VtgRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(VtgRecord, timeText), sizeof(VtgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
@@ -272,7 +281,7 @@ inline constexpr MemberRow VtgRecordMembers[] = {
     {{"courseMagnetic", "deg", "course over ground from magnetic north", NavframeF32, offsetof(VtgRecord, courseMagnetic), sizeof(VtgRecord::courseMagnetic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKnots), sizeof(VtgRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedKmh", "km/h", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKmh), sizeof(VtgRecord::speedKmh), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
-    {{"mode", "", "positioning mode", NavframeU8, offsetof(VtgRecord, mode), sizeof(VtgRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 4, VtgRecordModeValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(VtgRecord, mode), sizeof(VtgRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 45, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow VtgRecordLayout = LayoutOf<VtgRecord, VtgRecordMembers>("VtgRecord");
@@ -292,6 +301,199 @@ inline constexpr MemberRow ZdaRecordMembers[] = {
 inline constexpr RecordRow ZdaRecordLayout = LayoutOf<ZdaRecord, ZdaRecordMembers>("ZdaRecord");
 static_assert(CoversEveryByte(ZdaRecordLayout));
 template <> inline constexpr const NavframeRecord& RecordOf<ZdaRecord> = ZdaRecordLayout;
+
+inline constexpr NavframeValueName WideRmcRecordStatusValues[] = {{0, "warning"}, {1, "valid"},};
+inline constexpr MemberRow WideRmcRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideRmcRecord, gpsTime), sizeof(WideRmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideRmcRecord, utc), sizeof(WideRmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(WideRmcRecord, timeText), sizeof(WideRmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(WideRmcRecord, dateText), sizeof(WideRmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state of the receiver", NavframeU8, offsetof(WideRmcRecord, status), sizeof(WideRmcRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, WideRmcRecordStatusValues, nullptr}, false, 0},
+    {{"mode", "", "positioning mode", NavframeU8, offsetof(WideRmcRecord, mode), sizeof(WideRmcRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
+    {{"navigationalState", "", "whether to rely on the position", NavframeU8, offsetof(WideRmcRecord, navigationalState), sizeof(WideRmcRecord::navigationalState), 0, -1, 0, NavframeUnknownValue, 255, 4, NmeaStateValues, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(WideRmcRecord, longitude), sizeof(WideRmcRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(WideRmcRecord, latitude), sizeof(WideRmcRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(WideRmcRecord, speedKnots), sizeof(WideRmcRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"course", "deg", "course over ground, true", NavframeF32, offsetof(WideRmcRecord, course), sizeof(WideRmcRecord::course), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"magneticVariation", "deg", "of magnetic north from true north, east positive", NavframeF64, offsetof(WideRmcRecord, magneticVariation), sizeof(WideRmcRecord::magneticVariation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideRmcRecordLayout = LayoutOf<WideRmcRecord, WideRmcRecordMembers>("WideRmcRecord");
+static_assert(CoversEveryByte(WideRmcRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideRmcRecord> = WideRmcRecordLayout;
+
+inline constexpr NavframeValueName WideGsaRecordSelectionModeValues[] = {{0, "manual"}, {1, "automatic"},};
+inline constexpr NavframeValueName WideGsaRecordFixTypeValues[] = {{1, "none"}, {2, "two-dimensional"}, {3, "three-dimensional"},};
+inline constexpr MemberRow WideGsaRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGsaRecord, gpsTime), sizeof(WideGsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(WideGsaRecord, timeText), sizeof(WideGsaRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(WideGsaRecord, selectionMode), sizeof(WideGsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 2, WideGsaRecordSelectionModeValues, nullptr}, false, 0},
+    {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(WideGsaRecord, fixType), sizeof(WideGsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, WideGsaRecordFixTypeValues, nullptr}, true, 1},
+    {{"usedCount", "", "satellites in use, 0 to 12", NavframeU8, offsetof(WideGsaRecord, usedCount), sizeof(WideGsaRecord::usedCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of the satellites", NavframeU32, offsetof(WideGsaRecord, systemId), sizeof(WideGsaRecord::systemId), 0, -1, 0, NavframeUnknownValue, 4294967295, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(WideGsaRecord, pdop), sizeof(WideGsaRecord::pdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(WideGsaRecord, hdop), sizeof(WideGsaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"vdop", "", "vertical dilution of precision", NavframeF32, offsetof(WideGsaRecord, vdop), sizeof(WideGsaRecord::vdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"usedSatellites", "", "satellite numbers", NavframeU16, offsetof(WideGsaRecord, usedSatellites), sizeof(WideGsaRecord::usedSatellites[0]), 12, 4, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideGsaRecordLayout = LayoutOf<WideGsaRecord, WideGsaRecordMembers>("WideGsaRecord");
+static_assert(CoversEveryByte(WideGsaRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideGsaRecord> = WideGsaRecordLayout;
+
+inline constexpr MemberRow WideGbsRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGbsRecord, gpsTime), sizeof(WideGbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(WideGbsRecord, utc), sizeof(WideGbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(WideGbsRecord, timeText), sizeof(WideGbsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"systemId", "", "system of the failed satellite", NavframeU8, offsetof(WideGbsRecord, systemId), sizeof(WideGbsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(WideGbsRecord, signalId), sizeof(WideGbsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideGbsRecord, reserved), sizeof(WideGbsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"failedSatellite", "", "number of the most likely failed satellite", NavframeU32, offsetof(WideGbsRecord, failedSatellite), sizeof(WideGbsRecord::failedSatellite), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+    {{"latitudeError", "m", "expected error of the latitude", NavframeF32, offsetof(WideGbsRecord, latitudeError), sizeof(WideGbsRecord::latitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeError", "m", "expected error of the longitude", NavframeF32, offsetof(WideGbsRecord, longitudeError), sizeof(WideGbsRecord::longitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitudeError", "m", "expected error of the altitude", NavframeF32, offsetof(WideGbsRecord, altitudeError), sizeof(WideGbsRecord::altitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"missedDetection", "", "probability that the failure of that satellite is missed", NavframeF32, offsetof(WideGbsRecord, missedDetection), sizeof(WideGbsRecord::missedDetection), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"bias", "m", "estimated range bias of that satellite", NavframeF32, offsetof(WideGbsRecord, bias), sizeof(WideGbsRecord::bias), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"biasDeviation", "m", "standard deviation of the bias", NavframeF32, offsetof(WideGbsRecord, biasDeviation), sizeof(WideGbsRecord::biasDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideGbsRecordLayout = LayoutOf<WideGbsRecord, WideGbsRecordMembers>("WideGbsRecord");
+static_assert(CoversEveryByte(WideGbsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideGbsRecord> = WideGbsRecordLayout;
+
+inline constexpr MemberRow WideZdaRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideZdaRecord, gpsTime), sizeof(WideZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideZdaRecord, utc), sizeof(WideZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(WideZdaRecord, timeText), sizeof(WideZdaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"zoneHours", "h", "local zone", NavframeI8, offsetof(WideZdaRecord, zoneHours), sizeof(WideZdaRecord::zoneHours), 0, -1, NavframeAsSent, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"zoneMinutes", "min", "local zone", NavframeI8, offsetof(WideZdaRecord, zoneMinutes), sizeof(WideZdaRecord::zoneMinutes), 0, -1, NavframeAsSent, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideZdaRecord, reserved), sizeof(WideZdaRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow WideZdaRecordLayout = LayoutOf<WideZdaRecord, WideZdaRecordMembers>("WideZdaRecord");
+static_assert(CoversEveryByte(WideZdaRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<WideZdaRecord> = WideZdaRecordLayout;
+
+inline constexpr MemberRow GnsRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GnsRecord, gpsTime), sizeof(GnsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GnsRecord, utc), sizeof(GnsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GnsRecord, timeText), sizeof(GnsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(GnsRecord, talker), sizeof(GnsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitude", "deg", "east positive", NavframeF64, offsetof(GnsRecord, longitude), sizeof(GnsRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitude", "deg", "north positive", NavframeF64, offsetof(GnsRecord, latitude), sizeof(GnsRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitude", "m", "above mean sea level", NavframeF64, offsetof(GnsRecord, altitude), sizeof(GnsRecord::altitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"geoidSeparation", "m", "geoid above the ellipsoid", NavframeF64, offsetof(GnsRecord, geoidSeparation), sizeof(GnsRecord::geoidSeparation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GnsRecord, hdop), sizeof(GnsRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"correctionAge", "s", "age of differential data", NavframeF32, offsetof(GnsRecord, correctionAge), sizeof(GnsRecord::correctionAge), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"stationId", "", "differential reference station", NavframeU16, offsetof(GnsRecord, stationId), sizeof(GnsRecord::stationId), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+    {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(GnsRecord, satellites), sizeof(GnsRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"navigationalState", "", "whether to rely on the position", NavframeU8, offsetof(GnsRecord, navigationalState), sizeof(GnsRecord::navigationalState), 0, -1, 0, NavframeUnknownValue, 255, 4, NmeaStateValues, nullptr}, false, 0},
+    {{"modeCount", "", "systems that the sentence has a mode of, 0 to 8", NavframeU8, offsetof(GnsRecord, modeCount), sizeof(GnsRecord::modeCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"modes", "", "positioning mode of GPS, GLONASS, Galileo, BeiDou, QZSS and NavIC, in this order", NavframeU8, offsetof(GnsRecord, modes), sizeof(GnsRecord::modes[0]), 8, 13, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(GnsRecord, reserved), sizeof(GnsRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow GnsRecordLayout = LayoutOf<GnsRecord, GnsRecordMembers>("GnsRecord");
+static_assert(CoversEveryByte(GnsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<GnsRecord> = GnsRecordLayout;
+
+inline constexpr NavframeValueName ThsRecordModeValues[] = {{0, "not valid"}, {1, "autonomous"}, {6, "estimated"}, {7, "manual"}, {8, "simulated"},};
+inline constexpr MemberRow ThsRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(ThsRecord, gpsTime), sizeof(ThsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(ThsRecord, timeText), sizeof(ThsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(ThsRecord, talker), sizeof(ThsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"mode", "", "how the heading was found", NavframeU8, offsetof(ThsRecord, mode), sizeof(ThsRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 5, ThsRecordModeValues, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(ThsRecord, reserved), sizeof(ThsRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heading", "deg", "from true north", NavframeF64, offsetof(ThsRecord, heading), sizeof(ThsRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow ThsRecordLayout = LayoutOf<ThsRecord, ThsRecordMembers>("ThsRecord");
+static_assert(CoversEveryByte(ThsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<ThsRecord> = ThsRecordLayout;
+
+inline constexpr MemberRow HdtRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(HdtRecord, gpsTime), sizeof(HdtRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(HdtRecord, timeText), sizeof(HdtRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(HdtRecord, talker), sizeof(HdtRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(HdtRecord, reserved), sizeof(HdtRecord::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"heading", "deg", "from true north", NavframeF64, offsetof(HdtRecord, heading), sizeof(HdtRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow HdtRecordLayout = LayoutOf<HdtRecord, HdtRecordMembers>("HdtRecord");
+static_assert(CoversEveryByte(HdtRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<HdtRecord> = HdtRecordLayout;
+
+inline constexpr NavframeValueName RotRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
+inline constexpr MemberRow RotRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(RotRecord, gpsTime), sizeof(RotRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(RotRecord, timeText), sizeof(RotRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(RotRecord, talker), sizeof(RotRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"status", "", "state of the data", NavframeU8, offsetof(RotRecord, status), sizeof(RotRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, RotRecordStatusValues, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(RotRecord, reserved), sizeof(RotRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"rate", "deg/min", "negative when the bow turns to port", NavframeF64, offsetof(RotRecord, rate), sizeof(RotRecord::rate), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow RotRecordLayout = LayoutOf<RotRecord, RotRecordMembers>("RotRecord");
+static_assert(CoversEveryByte(RotRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<RotRecord> = RotRecordLayout;
+
+inline constexpr MemberRow TextRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(TextRecord, gpsTime), sizeof(TextRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(TextRecord, timeText), sizeof(TextRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(TextRecord, talker), sizeof(TextRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"total", "", "sentences of the text", NavframeU8, offsetof(TextRecord, total), sizeof(TextRecord::total), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"number", "", "number of this sentence, from 1 on", NavframeU8, offsetof(TextRecord, number), sizeof(TextRecord::number), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"identifier", "", "what kind of text it is, by the talker", NavframeU8, offsetof(TextRecord, identifier), sizeof(TextRecord::identifier), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"length", "B", "of the text", NavframeU8, offsetof(TextRecord, length), sizeof(TextRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"text", "", "ISO 8859-1; characters that were sent as ^ and two digits are decoded", NavframeText, offsetof(TextRecord, text), sizeof(TextRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow TextRecordLayout = LayoutOf<TextRecord, TextRecordMembers>("TextRecord");
+static_assert(CoversEveryByte(TextRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<TextRecord> = TextRecordLayout;
+
+inline constexpr MemberRow DtmRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(DtmRecord, gpsTime), sizeof(DtmRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"timeText", "", "the stream's time of day", NavframeText, offsetof(DtmRecord, timeText), sizeof(DtmRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(DtmRecord, talker), sizeof(DtmRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"datum", "", "datum of the positions: W84, W72, S85, P90, 999 (user defined) or a code of the hydrographic tables", NavframeText, offsetof(DtmRecord, datum), sizeof(DtmRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"subdivision", "", "subdivision of the datum", NavframeText, offsetof(DtmRecord, subdivision), sizeof(DtmRecord::subdivision), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reference", "", "datum that the offsets are from", NavframeText, offsetof(DtmRecord, reference), sizeof(DtmRecord::reference), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(DtmRecord, reserved), sizeof(DtmRecord::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"latitudeOffset", "min", "of arc, north positive", NavframeF64, offsetof(DtmRecord, latitudeOffset), sizeof(DtmRecord::latitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"longitudeOffset", "min", "of arc, east positive", NavframeF64, offsetof(DtmRecord, longitudeOffset), sizeof(DtmRecord::longitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitudeOffset", "m", "of the altitude", NavframeF64, offsetof(DtmRecord, altitudeOffset), sizeof(DtmRecord::altitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow DtmRecordLayout = LayoutOf<DtmRecord, DtmRecordMembers>("DtmRecord");
+static_assert(CoversEveryByte(DtmRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<DtmRecord> = DtmRecordLayout;
+
+inline constexpr NavframeValueName GrsRecordRecomputedValues[] = {{0, "used in the position"}, {1, "recomputed from it"},};
+inline constexpr MemberRow GrsRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GrsRecord, gpsTime), sizeof(GrsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GrsRecord, utc), sizeof(GrsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GrsRecord, timeText), sizeof(GrsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(GrsRecord, talker), sizeof(GrsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"recomputed", "", "what the residuals belong to", NavframeU8, offsetof(GrsRecord, recomputed), sizeof(GrsRecord::recomputed), 0, -1, 0, NavframeUnknownValue, 255, 2, GrsRecordRecomputedValues, nullptr}, false, 0},
+    {{"systemId", "", "system of the satellites", NavframeU8, offsetof(GrsRecord, systemId), sizeof(GrsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
+    {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(GrsRecord, signalId), sizeof(GrsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(GrsRecord, reserved), sizeof(GrsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"residuals", "m", "in the order of the satellites of GSA", NavframeF32, offsetof(GrsRecord, residuals), sizeof(GrsRecord::residuals[0]), 12, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow GrsRecordLayout = LayoutOf<GrsRecord, GrsRecordMembers>("GrsRecord");
+static_assert(CoversEveryByte(GrsRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<GrsRecord> = GrsRecordLayout;
+
+inline constexpr MemberRow GfaRecordMembers[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GfaRecord, gpsTime), sizeof(GfaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GfaRecord, utc), sizeof(GfaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"timeText", "", "time field", NavframeText, offsetof(GfaRecord, timeText), sizeof(GfaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"talker", "", "talker", NavframeText, offsetof(GfaRecord, talker), sizeof(GfaRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+    {{"horizontalProtection", "m", "horizontal protection level", NavframeF32, offsetof(GfaRecord, horizontalProtection), sizeof(GfaRecord::horizontalProtection), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"verticalProtection", "m", "vertical protection level", NavframeF32, offsetof(GfaRecord, verticalProtection), sizeof(GfaRecord::verticalProtection), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseSemiMajor", "m", "standard deviation along the major axis of the error ellipse", NavframeF32, offsetof(GfaRecord, ellipseSemiMajor), sizeof(GfaRecord::ellipseSemiMajor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseSemiMinor", "m", "standard deviation along the minor axis", NavframeF32, offsetof(GfaRecord, ellipseSemiMinor), sizeof(GfaRecord::ellipseSemiMinor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"ellipseOrientation", "deg", "of the semi-major axis, from true north", NavframeF32, offsetof(GfaRecord, ellipseOrientation), sizeof(GfaRecord::ellipseOrientation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"altitudeDeviation", "m", "standard deviation of the altitude", NavframeF32, offsetof(GfaRecord, altitudeDeviation), sizeof(GfaRecord::altitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"selectedAccuracy", "m", "accuracy level that was selected", NavframeF32, offsetof(GfaRecord, selectedAccuracy), sizeof(GfaRecord::selectedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"integrityCount", "", "states that the sentence has, 0 to 8", NavframeU8, offsetof(GfaRecord, integrityCount), sizeof(GfaRecord::integrityCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"integrity", "", "integrity by RAIM, SBAS and Galileo, in this order", NavframeU8, offsetof(GfaRecord, integrity), sizeof(GfaRecord::integrity[0]), 8, 11, 0, NavframeUnknownValue, 255, 4, NmeaStateValues, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(GfaRecord, reserved), sizeof(GfaRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+};
+inline constexpr RecordRow GfaRecordLayout = LayoutOf<GfaRecord, GfaRecordMembers>("GfaRecord");
+static_assert(CoversEveryByte(GfaRecordLayout));
+template <> inline constexpr const NavframeRecord& RecordOf<GfaRecord> = GfaRecordLayout;
 
 inline constexpr MemberRow NavPosRecordMembers[] = {
     {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavPosRecord, gpsTime), sizeof(NavPosRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},

@@ -25,6 +25,22 @@ Number<int> TimePart(std::string_view field, std::size_t position) {
   return ToInt(field.substr(position, 2));
 }
 
+// The value of a hexadecimal digit, -1 for another character.
+int HexDigit(char c) {
+  if (IsDigit(c)) return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
+}
+
+bool ValueOf(std::span<const LetterRow> rows, char letter, std::uint8_t& member) {
+  for (const LetterRow& row : rows) {
+    if (row.letter != letter) continue;
+    member = row.value;
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
@@ -88,17 +104,78 @@ void FieldReader::Date(std::size_t index, UTCTIME& utc) {
   utc.year = static_cast<std::uint16_t>(parts[2] + (isPast ? 1900 : 2000));
 }
 
+std::optional<bool> FieldReader::IsPositive(std::size_t index, Hemispheres letters) {
+  const std::string_view field = fields_[index];
+  const char letter = field.size() == 1 ? field[0] : '\0';
+  const bool positive = letter == letters.positive;
+  if (dialect_.needsHemisphere && !positive && letter != letters.negative) {
+    if (!field.empty()) Note(index, NumberFault::NoInt);
+    return std::nullopt;
+  }
+  return positive;
+}
+
+void FieldReader::Directed(std::size_t index, Hemispheres letters, double& member) {
+  double value;
+  const std::string_view field = fields_[index];
+  if (field.empty()) return;
+  const std::optional<bool> positive = IsPositive(index + 1, letters);
+  if (positive && Take(index, ToDouble(field), value)) member = *positive ? value : -value;
+}
+
+void FieldReader::Digit(std::size_t index, std::uint8_t& member) {
+  const std::string_view field = fields_[index];
+  if (field.size() == 1 && HexDigit(field[0]) > 9) {
+    member = static_cast<std::uint8_t>(HexDigit(field[0]));
+  } else {
+    Int(index, member);
+  }
+}
+
+void FieldReader::Letter(std::size_t index, std::span<const LetterRow> rows, std::uint8_t& member) {
+  const std::string_view field = fields_[index];
+  if (field.empty()) return;
+  if (field.size() != 1 || !ValueOf(rows, field[0], member)) Note(index, NumberFault::NoInt);
+}
+
+void FieldReader::Letters(std::size_t index, std::span<const LetterRow> rows,
+                          std::span<std::uint8_t> members, std::uint8_t& count) {
+  const std::string_view field = fields_[index];
+  const std::size_t letters = std::min(field.size(), members.size());
+  bool allKnown = letters == field.size();
+  for (std::size_t i = 0; i < letters; ++i) {
+    if (!ValueOf(rows, field[i], members[i])) allKnown = false;
+  }
+  if (!allKnown) Note(index, NumberFault::NoInt);
+  count = static_cast<std::uint8_t>(letters);
+}
+
+std::uint8_t FieldReader::EscapedText(std::size_t first, char* text) {
+  const std::string_view sent = fields_.From(first);
+  std::uint8_t length = 0;
+  for (std::size_t i = 0; i < sent.size(); ++i) {
+    char character = sent[i];
+    if (character == '^') {
+      const int high = i + 2 < sent.size() ? HexDigit(sent[i + 1]) : -1;
+      const int low = i + 2 < sent.size() ? HexDigit(sent[i + 2]) : -1;
+      if (high < 0 || low < 0) {
+        Note(first, NumberFault::NoInt);
+      } else {
+        character = static_cast<char>(high * 16 + low);
+        i += 2;
+      }
+    }
+    text[length++] = character;
+  }
+  return length;
+}
+
 void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres letters,
                         double& degrees) {
   const std::string_view field = fields_[index];
   if (field.empty()) return;
-  const std::string_view hemisphere = fields_[index + 1];
-  const char letter = hemisphere.size() == 1 ? hemisphere[0] : '\0';
-  const bool positive = letter == letters.positive;
-  if (dialect_.needsHemisphere && !positive && letter != letters.negative) {
-    if (!hemisphere.empty()) Note(index + 1, NumberFault::NoInt);
-    return;
-  }
+  const std::optional<bool> positive = IsPositive(index + 1, letters);
+  if (!positive) return;
   int whole = 0;
   if (!Take(index, ToInt(field.substr(0, degreeDigits)), whole)) return;
   if (field.size() < degreeDigits) return Note(index, NumberFault::TooShort);
@@ -107,7 +184,7 @@ void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres
   const double value = minutes / 60.0 + whole;
   // Negative unless the letter says otherwise, also when it is missing: hosts of the exports rely
   // on that.
-  degrees = positive ? value : -value;
+  degrees = *positive ? value : -value;
 }
 
 }  // namespace navframe::nmea

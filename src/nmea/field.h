@@ -5,12 +5,15 @@
 #include <concepts>
 #include <cstdint>
 #include <cstring>
+#include <optional>
+#include <span>
 #include <string_view>
 
 #include "base/dialect.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "navframe/time_types.h"
+#include "nmea/letters.h"
 #include "nmea/sentence.h"
 
 namespace navframe::nmea {
@@ -38,6 +41,7 @@ class FieldReader {
 
   std::string_view operator[](std::size_t index) const { return fields_[index]; }
   std::size_t Count() const { return fields_.Count(); }
+  std::string_view Talker() const { return fields_[0].substr(1, 2); }
   const Dialect& HasDialect() const { return dialect_; }
 
   NumberFault Fault() const { return fault_; }
@@ -83,6 +87,25 @@ class FieldReader {
     if (!field.empty() && Take(index, ToDouble(field), value)) member = static_cast<float>(value);
   }
 
+  // A decimal number, or one hexadecimal digit.
+  void Digit(std::size_t index, std::uint8_t& member);
+
+  // What a letter stands for; any other text is a fault.
+  void Letter(std::size_t index, std::span<const LetterRow> rows, std::uint8_t& member);
+  // Of a field with a letter each, as many as there are places.
+  template <std::size_t Most>
+  void Letters(std::size_t index, std::span<const LetterRow> rows, std::uint8_t (&members)[Most],
+               std::uint8_t& count) {
+    Letters(index, rows, std::span<std::uint8_t>(members), count);
+  }
+
+  // Everything from this field on, commas too; "^" and two hexadecimal digits are a character.
+  template <std::size_t Width>
+  void EscapedText(std::size_t first, char (&text)[Width], std::uint8_t& length) {
+    static_assert(Width > LongestStarOffset);
+    length = EscapedText(first, text);
+  }
+
   // hhmmss.ff: hour to millisecond, and the flag.
   void TimeOfDay(std::size_t index, UTCTIME& utc);
 
@@ -97,15 +120,27 @@ class FieldReader {
   void Date(std::size_t index, UTCTIME& utc);
 
   // ddmm.mmmm and dddmm.mmmm, with the letter of the hemisphere in the field behind.
-  void Latitude(std::size_t index, double& degrees) { Angle(index, 2, {'N', 'S'}, degrees); }
-  void Longitude(std::size_t index, double& degrees) { Angle(index, 3, {'E', 'W'}, degrees); }
+  void Latitude(std::size_t index, double& degrees) { Angle(index, 2, NorthOrSouth, degrees); }
+  void Longitude(std::size_t index, double& degrees) { Angle(index, 3, EastOrWest, degrees); }
+
+  // A number whose sign is such a letter in the field behind.
+  void Northward(std::size_t index, double& member) { Directed(index, NorthOrSouth, member); }
+  void Eastward(std::size_t index, double& member) { Directed(index, EastOrWest, member); }
 
  private:
   struct Hemispheres {
     char positive;
     char negative;
   };
+  static constexpr Hemispheres NorthOrSouth = {'N', 'S'};
+  static constexpr Hemispheres EastOrWest = {'E', 'W'};
 
+  void Letters(std::size_t index, std::span<const LetterRow> rows, std::span<std::uint8_t> members,
+               std::uint8_t& count);
+  std::uint8_t EscapedText(std::size_t first, char* text);
+  // Nothing where there is no letter and the dialect wants one.
+  std::optional<bool> IsPositive(std::size_t index, Hemispheres letters);
+  void Directed(std::size_t index, Hemispheres letters, double& member);
   void Angle(std::size_t index, std::size_t degreeDigits, Hemispheres letters, double& degrees);
   void WholeTimeOfDay(std::size_t index, UTCTIME& utc);
 

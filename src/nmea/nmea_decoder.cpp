@@ -5,8 +5,8 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "navframe/records.h"
+#include "nmea/further_sentences.h"
 #include "nmea/satellite_sentences.h"
-#include "nmea/sentence_table.h"
 #include "time/true_clock.h"
 
 namespace navframe::nmea {
@@ -37,8 +37,15 @@ DecodeResult ResultOf(const FieldReader& reader) {
 
 }  // namespace
 
-DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
+inline const SentenceRow* NmeaDecoder::RowOf(const Fields& fields) const {
   const SentenceRow* const row = Classify(fields.Text());
+  if (!dialect_.standardRecords) return row;
+  if (row == nullptr) return FindFurther(fields[0]);
+  return row->wide != nullptr && row->wide->takes(fields) ? row->wide : row;
+}
+
+DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
+  const SentenceRow* const row = RowOf(fields);
   NmeaContext& context = contexts_[static_cast<std::size_t>(tag)];
   context.previousKind = context.kind;
   context.kind = row == nullptr ? 0 : row->Kind(tag);

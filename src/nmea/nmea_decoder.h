@@ -7,6 +7,7 @@
 #include "base/dialect.h"
 #include "nmea/nmea_context.h"
 #include "nmea/sentence.h"
+#include "nmea/sentence_table.h"
 #include "nmea/time_keeping.h"
 #include "output/record_sink.h"
 #include "time/decoder_clock.h"
@@ -30,6 +31,7 @@ class NmeaDecoder {
   void EndCycle();
 
  private:
+  const SentenceRow* RowOf(const Fields& fields) const;
   void EmitSatellitesInView(NmeaContext& context);
   void EmitWideView(NmeaContext& context);
   static void NoteSeen(NmeaContext& context);

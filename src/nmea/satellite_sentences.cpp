@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <type_traits>
 
 #include "base/characters.h"
 #include "base/unknown.h"
@@ -27,6 +28,8 @@ constexpr AddressRow GsvAddresses[] = {{"$GPGSV", 1}, {"$BDGSV", 4}, {"$GBGSV", 
                                        {"$GAGSV", 3}, {"$GQGSV", 5}, {"$GIGSV", 6}};
 constexpr int Glonass = 2;
 
+constexpr std::size_t FirstUsed = 3;
+constexpr std::size_t MostUsed = std::size(GsaRecord{}.usedSatellites);
 constexpr std::size_t GsaFields = 18;
 constexpr std::size_t GsaFieldsWithSystem = 19;
 
@@ -51,16 +54,24 @@ constexpr int SystemOfNumber(int number) {
   return 5;
 }
 
-// A whole number or a decimal one, of which the integer part counts.
-void ReadCarrierToNoise(FieldReader& fields, std::size_t index, std::uint8_t& cn0) {
+// Of a value whose whole part is known; none of one outside of what C/N0 are.
+std::uint16_t Decimals(double value, std::uint8_t whole) {
+  const double decimals = (value - whole) * 1e4 + 0.5;
+  return decimals >= 1 && decimals < 1e4 ? static_cast<std::uint16_t>(decimals) : std::uint16_t{0};
+}
+
+// A whole number or a decimal one, of which the integer part counts for the exports.
+void ReadCarrierToNoise(FieldReader& fields, std::size_t index, GsvBlock& block) {
   const std::string_view field = fields[index];
   if (field.empty()) return;
   if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
-    cn0 = static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
+    block.cn0 = static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
     return;
   }
   double value;
-  if (fields.Take(index, ToDouble(field), value)) cn0 = static_cast<std::uint8_t>(Truncated(value));
+  if (!fields.Take(index, ToDouble(field), value)) return;
+  block.cn0 = static_cast<std::uint8_t>(Truncated(value));
+  if (fields.HasDialect().wholeGsv) block.cn0Decimals = Decimals(value, block.cn0);
 }
 
 // Talkers whose system the exports do not know everywhere.
@@ -105,7 +116,7 @@ inline GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   block.hasElevation = fields.Int(index + 1, block.elevation);
   block.hasAzimuth = fields.Int(index + 2, block.azimuth);
   block.cn0 = Unknown<std::uint8_t>();
-  ReadCarrierToNoise(fields, index + 3, block.cn0);
+  ReadCarrierToNoise(fields, index + 3, block);
   return block;
 }
 
@@ -115,10 +126,12 @@ bool IsGivenUp(const FieldReader& fields) {
 }
 
 // What satellites of an unknown system are, nobody can say.
-void MarkAll(int systemId, std::span<const int> used, NmeaContext& context, GsaRecord& record) {
+template <class Record>
+void MarkAll(int systemId, std::span<const int> used, NmeaContext& context, Record& record) {
+  using Number = std::remove_reference_t<decltype(record.usedSatellites[0])>;
   for (std::size_t i = 0; i < used.size(); ++i) {
-    const bool fits = used[i] >= 0 && used[i] < Unknown<std::uint8_t>();
-    if (!fits) record.usedSatellites[i] = Unknown<std::uint8_t>();
+    const bool fits = used[i] >= 0 && used[i] < Unknown<Number>();
+    if (!fits) record.usedSatellites[i] = Unknown<Number>();
     if (systemId >= 0) context.wide.MarkUsed(systemId, used[i], context.satellites);
   }
 }
@@ -169,20 +182,33 @@ bool IsGsa(const Fields& fields) {
 
 bool IsGsv(const Fields& fields) { return fields.Count() >= 5 && fields.Count() % 4 <= 1; }
 
+bool IsWideGsa(const Fields& fields) {
+  if (!IsGsa(fields) || !fields.HasLonger(FirstUsed, MostUsed, 2)) return false;
+  for (std::size_t i = FirstUsed; i < FirstUsed + MostUsed; ++i) {
+    const std::string_view field = fields[i];
+    if (!field.empty() && FieldToInt(field).value >= Unknown<std::uint8_t>()) return true;
+  }
+  return false;
+}
+
+namespace {
+
 // $GNGSA,A,3,80,71,73,79,69,,,,,,,,1.83,1.09,1.47,2*hh
-void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
-  constexpr std::size_t FirstUsed = 3;
+template <class Record>
+void ReadGsa(NmeaContext& context, FieldReader& fields, Record& record) {
+  using Number = std::remove_reference_t<decltype(record.usedSatellites[0])>;
   int systemId = GsaSystem(fields);
   if (fields[1] == "A") record.selectionMode = 1;
+  if (fields[1] == "M" && fields.HasDialect().standardRecords) record.selectionMode = 0;
   fields.Int(2, record.fixType);
-  std::array<int, std::size(GsaRecord{}.usedSatellites)> numbers;
+  std::array<int, MostUsed> numbers;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     int number = 0;
     const std::size_t index = FirstUsed + i;
     const std::string_view field = fields[index];
     if (field.empty() || !fields.Take(index, FieldToInt(field), number)) continue;
     numbers[record.usedCount] = number;
-    record.usedSatellites[record.usedCount++] = static_cast<std::uint8_t>(number);
+    record.usedSatellites[record.usedCount++] = static_cast<Number>(number);
   }
   const std::span<const int> used(numbers.data(), record.usedCount);
   if (fields.HasDialect().gsaSystemByView) {
@@ -201,6 +227,15 @@ void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
   if (IsGivenUp(fields)) return;
   if (context.satellites.Full()) context.satellites.Reset();
   for (const int number : used) context.satellites.MarkUsed(systemId, number);
+}
+
+}  // namespace
+
+void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
+  ReadGsa(context, fields, record);
+}
+void ParseWideGsa(NmeaContext& context, FieldReader& fields, WideGsaRecord& record) {
+  ReadGsa(context, fields, record);
 }
 
 // $GPGSV,3,1,11,03,03,111,00,04,15,270,00,06,01,010,00,13,06,292,00,1*hh

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "navframe/records.h"
+#include "navframe/records_nmea_standard.h"
 #include "navframe/time_manager.h"
 #include "nmea/field.h"
 #include "nmea/nmea_context.h"
@@ -14,8 +15,12 @@ bool IsGsa(const Fields& fields);
 // A GSV of whole satellite blocks, without or with a signal id.
 bool IsGsv(const Fields& fields);
 
+// A GSA with a number that a GsaRecord has no room for.
+bool IsWideGsa(const Fields& fields);
+
 // Fills the record and marks the used satellites in the context's satellites in view.
 void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record);
+void ParseWideGsa(NmeaContext& context, FieldReader& fields, WideGsaRecord& record);
 
 // Adds the sentence's signals to the context's satellites in view.
 void AccumulateGsv(NmeaContext& context, FieldReader& fields, const TimeManager& time);

@@ -47,6 +47,22 @@ class Fields {
     return {text_ + begin, end - begin};
   }
 
+  // Whether one of these fields, all of which there are, has more than so many characters.
+  bool HasLonger(std::size_t first, std::size_t count, int length) const {
+    bool longer = false;
+    for (std::size_t i = first; i < first + count; ++i) {
+      longer |= sweep_.commas[i] - sweep_.commas[i - 1] > length + 1;
+    }
+    return longer;
+  }
+
+  // From a field to the end, with the commas between.
+  std::string_view From(std::size_t index) const {
+    if (index > sweep_.commaCount) return {};
+    const char* const begin = (*this)[index].data();
+    return {begin, static_cast<std::size_t>(text_ + sweep_.starOffset - begin)};
+  }
+
   // The whole text from "$" through the last character before "*".
   std::string_view Text() const { return {text_, sweep_.starOffset}; }
 

@@ -43,6 +43,8 @@ struct SentenceRow {
   std::uint32_t passesAs = 0;
   bool keepsTimeText = false;  // though it does not move the clock
   bool takesByTime = false;    // `takes` asks for decimals of its time alone
+  // What streams of the Standard dialect make of a sentence that this one takes.
+  const SentenceRow* wide = nullptr;
 
   // What follows from the type of the record.
   std::uint32_t size = 0;                              // 0 for kinds without one
@@ -69,7 +71,7 @@ struct SentenceRow {
 };
 
 // The largest record that a row names, and its alignment.
-inline constexpr std::size_t LargestRecord = 128;
+inline constexpr std::size_t LargestRecord = 288;
 
 // Copies every byte of a record, also those between its members.
 template <class Record>

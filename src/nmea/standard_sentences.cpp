@@ -3,7 +3,10 @@
 #include <span>
 #include <string_view>
 
+#include "navframe/records_nmea_standard.h"
 #include "nmea/field.h"
+#include "nmea/further_sentences.h"
+#include "nmea/letters.h"
 #include "nmea/satellite_sentences.h"
 #include "nmea/sentence_table.h"
 
@@ -14,11 +17,15 @@ struct ModeLetter {
   std::string_view text;
   std::uint8_t mode;
 };
+// As the exports know them.
 constexpr ModeLetter RmcModes[] = {{"N", 0}, {"A", 1}, {"D", 2}, {"R", 4}, {"F", 5}, {"E", 6}};
 constexpr ModeLetter Modes[] = {{"N", 0}, {"A", 1}, {"D", 2}, {"E", 6}};
 
 // Any other text leaves the mode unknown.
-void ReadMode(std::span<const ModeLetter> modes, std::string_view field, std::uint8_t& mode) {
+void ReadMode(std::span<const ModeLetter> modes, FieldReader& fields, std::size_t index,
+              std::uint8_t& mode) {
+  if (fields.HasDialect().standardRecords) return fields.Letter(index, PositioningModes, mode);
+  const std::string_view field = fields[index];
   for (const ModeLetter& letter : modes) {
     if (field == letter.text) mode = letter.mode;
   }
@@ -39,7 +46,8 @@ void ParseGga(NmeaContext& /*context*/, FieldReader& fields, GgaRecord& record) 
 }
 
 // $GPRMC,123519.00,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,A*hh
-void ParseRmc(NmeaContext& /*context*/, FieldReader& fields, RmcRecord& record) {
+template <class Record>
+void ReadRmc(FieldReader& fields, Record& record) {
   fields.TimeOfDay(1, record.utc, record.timeText);
   if (!fields[2].empty()) record.status = fields[2] == "A" ? 1 : 0;
   fields.Latitude(3, record.latitude);
@@ -48,8 +56,19 @@ void ParseRmc(NmeaContext& /*context*/, FieldReader& fields, RmcRecord& record) 
   fields.Float(8, record.course);
   fields.Date(9, record.utc);
   CopyText(record.dateText, fields[9]);
-  ReadMode(RmcModes, fields[12], record.mode);
+  ReadMode(RmcModes, fields, 12, record.mode);
 }
+void ParseRmc(NmeaContext& /*context*/, FieldReader& fields, RmcRecord& record) {
+  ReadRmc(fields, record);
+}
+
+// $GNRMC,123519.00,A,4807.038,N,01131.000,E,022.4,084.4,230394,003.1,W,A,S*hh
+void ParseWideRmc(NmeaContext& /*context*/, FieldReader& fields, WideRmcRecord& record) {
+  ReadRmc(fields, record);
+  fields.Eastward(10, record.magneticVariation);
+  fields.Letter(13, States, record.navigationalState);
+}
+bool IsWideRmc(const Fields& fields) { return !fields[10].empty() || !fields[13].empty(); }
 
 // $GPGLL,4916.45,N,12311.12,W,225444.00,A,A*hh
 void ParseGll(NmeaContext& /*context*/, FieldReader& fields, GllRecord& record) {
@@ -58,7 +77,7 @@ void ParseGll(NmeaContext& /*context*/, FieldReader& fields, GllRecord& record) 
   fields.TimeOfDay(5, record.utc);
   if (fields[6] == "A") record.status = 1;
   if (fields[6] == "V") record.status = 0;
-  ReadMode(Modes, fields[7], record.mode);
+  ReadMode(Modes, fields, 7, record.mode);
 }
 
 // $GPGST,172814.00,0.006,0.023,0.020,273.6,0.023,0.020,0.031*hh
@@ -73,9 +92,9 @@ void ParseGst(NmeaContext& /*context*/, FieldReader& fields, GstRecord& record) 
   fields.Float(8, record.altitudeDeviation);
 }
 
-// $GPGBS,163317.00,0.2,0.2,0.5,03,,-21.4,3.8,1,0*hh; field 6, the probability of a missed
-// detection, is not stored.
-void ParseGbs(NmeaContext& /*context*/, FieldReader& fields, GbsRecord& record) {
+// $GPGBS,163317.00,0.2,0.2,0.5,03,,-21.4,3.8,1,0*hh
+template <class Record>
+void ReadGbs(FieldReader& fields, Record& record) {
   fields.TimeOfDay(1, record.utc, record.timeText);
   fields.DoubleAsFloat(2, record.latitudeError);
   fields.DoubleAsFloat(3, record.longitudeError);
@@ -84,8 +103,19 @@ void ParseGbs(NmeaContext& /*context*/, FieldReader& fields, GbsRecord& record) 
   fields.DoubleAsFloat(7, record.bias);
   fields.DoubleAsFloat(8, record.biasDeviation);
   fields.Int(9, record.systemId);
+  if (fields.HasDialect().standardRecords) return fields.Digit(10, record.signalId);
   fields.Int(10, record.signalId);
 }
+void ParseGbs(NmeaContext& /*context*/, FieldReader& fields, GbsRecord& record) {
+  ReadGbs(fields, record);
+}
+
+// $GPGBS,163317.00,0.2,0.2,0.5,03,0.001,-21.4,3.8,1,0*hh
+void ParseWideGbs(NmeaContext& /*context*/, FieldReader& fields, WideGbsRecord& record) {
+  ReadGbs(fields, record);
+  fields.DoubleAsFloat(6, record.missedDetection);
+}
+bool IsWideGbs(const Fields& fields) { return !fields[6].empty(); }
 
 // $GPVTG,089.0,T,,M,15.2,N,28.2,K,A*hh
 void ParseVtg(NmeaContext& /*context*/, FieldReader& fields, VtgRecord& record) {
@@ -93,11 +123,12 @@ void ParseVtg(NmeaContext& /*context*/, FieldReader& fields, VtgRecord& record) 
   fields.DoubleAsFloat(3, record.courseMagnetic);
   fields.DoubleAsFloat(5, record.speedKnots);
   fields.DoubleAsFloat(7, record.speedKmh);
-  ReadMode(Modes, fields[9], record.mode);
+  ReadMode(Modes, fields, 9, record.mode);
 }
 
 // $GPZDA,172809.45,12,07,1996,00,00*hh
-void ParseZda(NmeaContext& /*context*/, FieldReader& fields, ZdaRecord& record) {
+template <class Record>
+void ReadZda(FieldReader& fields, Record& record) {
   fields.TimeOfDay(1, record.utc, record.timeText);
   fields.Int(2, record.utc.day);
   fields.Int(3, record.utc.month);
@@ -105,8 +136,35 @@ void ParseZda(NmeaContext& /*context*/, FieldReader& fields, ZdaRecord& record) 
   fields.Int(5, record.zoneHours);
   fields.Int(6, record.zoneMinutes);
 }
+void ParseZda(NmeaContext& /*context*/, FieldReader& fields, ZdaRecord& record) {
+  ReadZda(fields, record);
+}
+
+// $GPZDA,172809.45,12,07,1996,-05,00*hh
+void ParseWideZda(NmeaContext& /*context*/, FieldReader& fields, WideZdaRecord& record) {
+  ReadZda(fields, record);
+}
+bool IsWideZda(const Fields& fields) {
+  return fields[5].starts_with('-') || fields[6].starts_with('-');
+}
 
 using enum FilterTest;
+
+// Rows of the Standard dialect.
+constexpr SentenceRow WideRmc =
+    With<WideRmcRecord, ParseWideRmc>({MsgIdWideRmc, Never, ClockRule::DateByEpoch, IsWideRmc});
+constexpr SentenceRow WideGsa =
+    With<WideGsaRecord, ParseWideGsa>({MsgIdWideGsa, Never, ClockRule::None, IsWideGsa});
+constexpr SentenceRow WideGbs =
+    With<WideGbsRecord, ParseWideGbs>({MsgIdWideGbs, Never, ClockRule::TimeOfDay, IsWideGbs});
+constexpr SentenceRow WideZda =
+    With<WideZdaRecord, ParseWideZda>({MsgIdWideZda, Never, ClockRule::Date, IsWideZda});
+
+// A row with the one that takes what it has no room for.
+constexpr SentenceRow OrWide(SentenceRow row, const SentenceRow& wide) {
+  row.wide = &wide;
+  return row;
+}
 
 // Formatter; kind, when the filter is asked, clock, fields.
 struct FormatterRow {
@@ -114,17 +172,20 @@ struct FormatterRow {
   SentenceRow sentence;
 };
 constexpr FormatterRow Formatters[] = {
-    {"RMC", With<RmcRecord, ParseRmc>({MsgIdRmc, AfterParsing, ClockRule::DateByEpoch})},
+    {"RMC",
+     OrWide(With<RmcRecord, ParseRmc>({MsgIdRmc, AfterParsing, ClockRule::DateByEpoch}), WideRmc)},
     {"GGA", With<GgaRecord, ParseGga>({MsgIdGga, AfterParsing, ClockRule::TimeOfDayByEpoch})},
-    {"GSA", With<GsaRecord, ParseGsa>({MsgIdGsa, AfterParsing, ClockRule::None, IsGsa})},
+    {"GSA",
+     OrWide(With<GsaRecord, ParseGsa>({MsgIdGsa, AfterParsing, ClockRule::None, IsGsa}), WideGsa)},
     // Accumulated until the cycle ends, so there is no record of the sentence itself.
     {"GSV", {MsgIdGsv, BeforeBuilding, ClockRule::None, IsGsv}},
-    {"TXT", {MsgIdTxt, Never}},
-    {"ZDA", With<ZdaRecord, ParseZda>({MsgIdZda, AfterParsing, ClockRule::Date})},
+    {"TXT", OrWide({MsgIdTxt, Never}, TextRow)},
+    {"ZDA", OrWide(With<ZdaRecord, ParseZda>({MsgIdZda, AfterParsing, ClockRule::Date}), WideZda)},
     {"VTG", With<VtgRecord, ParseVtg>({MsgIdVtg, BeforeBuilding})},
     {"GLL", With<GllRecord, ParseGll>({MsgIdGll, BeforeBuilding})},
     {"GST", With<GstRecord, ParseGst>({MsgIdGst, AfterParsing, ClockRule::TimeOfDay})},
-    {"GBS", With<GbsRecord, ParseGbs>({MsgIdGbs, AfterParsing, ClockRule::TimeOfDay})},
+    {"GBS",
+     OrWide(With<GbsRecord, ParseGbs>({MsgIdGbs, AfterParsing, ClockRule::TimeOfDay}), WideGbs)},
 };
 
 constexpr std::uint32_t Packed(std::string_view formatter) {

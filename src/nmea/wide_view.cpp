@@ -1,9 +1,6 @@
 #include "nmea/wide_view.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
-#include <cstring>
 
 #include "base/unknown.h"
 #include "catalogue/unknown_records.h"
@@ -14,6 +11,10 @@ namespace {
 std::int16_t Elevation(int elevation) {
   return elevation == Unknown<std::uint16_t>() ? std::int16_t{INT16_MIN}
                                                : static_cast<std::int16_t>(elevation);
+}
+
+float CarrierToNoise(std::uint8_t cn0, std::uint16_t decimals = 0) {
+  return IsUnknown(cn0) ? Unknown<float>() : static_cast<float>((cn0 * 10'000 + decimals) / 1e4);
 }
 
 }  // namespace
@@ -43,9 +44,9 @@ void WideView::AddSignalTo(WideSatelliteInView& entry, std::uint8_t signalId,
   if (block.hasElevation) entry.elevation = Elevation(block.elevation);
   if (block.hasAzimuth) entry.azimuth = block.azimuth;
   if (entry.signalCount >= std::size(entry.signals)) return;
-  SatelliteSignal& signal = entry.signals[entry.signalCount++];
+  WideSatelliteSignal& signal = entry.signals[entry.signalCount++];
   signal.signalId = signalId;
-  signal.cn0 = block.cn0;
+  signal.cn0 = CarrierToNoise(block.cn0, block.cn0Decimals);
 }
 
 void WideView::TakeOver(const SatellitesInView& narrow) {
@@ -58,7 +59,10 @@ void WideView::TakeOver(const SatellitesInView& narrow) {
     entry.elevation = Elevation(from.elevation);
     entry.used = from.used;
     entry.signalCount = from.signalCount;
-    std::copy_n(from.signals, from.signalCount, entry.signals);
+    for (std::size_t i = 0; i < from.signalCount; ++i) {
+      entry.signals[i].signalId = from.signals[i].signalId;
+      entry.signals[i].cn0 = CarrierToNoise(from.signals[i].cn0);
+    }
   };
   std::ranges::for_each(narrow.Numbered(), take);
   std::ranges::for_each(narrow.Unnumbered(), take);
@@ -78,15 +82,12 @@ void WideView::MarkUsed(int systemId, int number) {
 
 void WideView::Fill(const SatellitesInView& narrow, WideGsvRecord& record) const {
   narrow.FillHeader(record);
-  record.reserved = 0;
+  std::ranges::fill(record.reserved, std::uint8_t{0});
   record.satelliteCount = record_.satelliteCount;
   std::copy_n(record_.satellites, record_.satelliteCount, record.satellites);
   for (std::size_t i = record_.satelliteCount; i < Most; ++i) {
     catalogue::MakeUnknown(record.satellites[i]);
   }
-  // The padding behind the list is the host's, too.
-  constexpr std::size_t End = offsetof(WideGsvRecord, satellites) + sizeof(record.satellites);
-  std::memset(reinterpret_cast<std::byte*>(&record) + End, 0, sizeof(record) - End);
 }
 
 }  // namespace navframe::nmea

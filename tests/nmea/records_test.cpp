@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 
+#include "navframe/stream.hpp"
 #include "nmea/field.h"
 #include "support/members.h"
 #include "support/streams.h"
@@ -137,6 +138,12 @@ std::set<std::string> SetOf(const std::string& members) {
   return set;
 }
 
+std::string With(const std::vector<std::string>& fields, std::size_t index, const char* field) {
+  std::string body = fields[0];
+  for (std::size_t i = 1; i < fields.size(); ++i) body += "," + (i == index ? field : fields[i]);
+  return body;
+}
+
 TEST(NmeaRecords, EveryFieldHasItsMembers) {
   for (const Row& row : Rows) {
     const std::string members = row.read(row.body, Clock);
@@ -150,8 +157,7 @@ TEST(NmeaRecords, EveryFieldHasItsMembers) {
     auto kept = whole;
     int emptied = 0;
     for (std::size_t i = 1; i < fields.size(); ++i) {
-      std::string body = fields[0];
-      for (std::size_t j = 1; j < fields.size(); ++j) body += "," + (i == j ? "" : fields[j]);
+      const std::string body = With(fields, i, "");
       const auto left = SetOf(row.read(body, Clock));
       EXPECT_TRUE(std::ranges::includes(whole, left)) << body << '\n' << row.read(body, Clock);
       std::erase_if(kept, [&](const std::string& line) { return !left.contains(line); });
@@ -287,6 +293,184 @@ TEST(NmeaRecords, Modes) {
     EXPECT_EQ(Read<VtgRecord>("GPVTG,,,,,,,,," + mode), Lines(others)) << mode;
   }
   EXPECT_EQ(Decoded(Sentence("GPRMC,,V")).at(0).As<RmcRecord>().spare, 65535);
+}
+
+// The last record of a stream, and the field that does not convert.
+struct Outcome {
+  std::string kind;
+  std::string members;
+  std::uint32_t badField = 0;
+};
+Outcome OfStream(NavframeDialect dialect, const std::string& text) {
+  Outcome outcome;
+  StreamOptions options;
+  options.dialect = dialect;
+  Stream(options).feed(ToBytes(text), [&](const navframe::Item& item) {
+    outcome = {item.kind()->name,
+               MembersOf(*item.kind()->record, item.raw().record, LeftOut::Unknown),
+               item.raw().reason == NavframeBadField ? item.raw().badField : 0};
+  });
+  return outcome;
+}
+
+// Behind the clock's sentence, in streams of the Standard dialect. `free` are the fields that
+// anything may stand in.
+struct StandardRow {
+  const char* kind;
+  const char* body;
+  std::set<std::size_t> free;
+  const char* members;
+};
+const StandardRow StandardRows[] = {
+    {"RMC-WIDE",
+     "GNRMC,000001.25,V,4830.0,S,01130.0,W,022.4,084.4,010824,003.1,W,P,U",
+     {2},
+     "gpsTime=2325:345619250 utc.year=2024 utc.month=8 utc.day=1 utc.time=0:0:1.250 "
+     "timeText=000001.25 dateText=010824 status=0 mode=3 navigationalState=3 longitude=-11.5 "
+     "latitude=-48.5 speedKnots=22.4 course=84.4 magneticVariation=-3.1"},
+    {"GSA-WIDE",
+     "GNGSA,M,3,301,,336,09,,,,,,,,,1.5,2.5,3.5,3",
+     {1},
+     "gpsTime=2325:302418000 timeText=120000.000 selectionMode=0 fixType=3 usedCount=3 systemId=3 "
+     "pdop=1.5 hdop=2.5 vdop=3.5 usedSatellites[0]=301 usedSatellites[1]=336 "
+     "usedSatellites[2]=9"},
+    {"GBS-WIDE",
+     "GNGBS,123519.50,0.1,0.2,0.5,401,0.0125,-21.4,3.8,4,B",
+     {},
+     "gpsTime=2325:304537500 utc.time=12:35:19.500 timeText=123519.50 systemId=4 signalId=11 "
+     "failedSatellite=401 latitudeError=0.1 longitudeError=0.2 altitudeError=0.5 "
+     "missedDetection=0.0125 bias=-21.4 biasDeviation=3.8"},
+    {"ZDA-WIDE",
+     "GPZDA,172809.45,12,07,2024,-05,-30",
+     {},
+     "gpsTime=2322:494907450 utc.year=2024 utc.month=7 utc.day=12 utc.time=17:28:9.450 "
+     "timeText=172809.45 zoneHours=-5 zoneMinutes=-30"},
+    {"GNS",
+     "GNGNS,123519.50,4830.0,S,01130.0,W,RFEMSP,29,0.7,1234.5678,-48.0412,1.5,1023,C",
+     {},
+     "gpsTime=2325:304537500 utc.time=12:35:19.500 timeText=123519.50 talker=GN longitude=-11.5 "
+     "latitude=-48.5 altitude=1234.5678 geoidSeparation=-48.0412 hdop=0.7 correctionAge=1.5 "
+     "stationId=1023 satellites=29 navigationalState=2 modeCount=6 modes[0]=4 modes[1]=5 "
+     "modes[2]=6 modes[3]=7 modes[4]=8 modes[5]=3"},
+    {"THS",
+     "GPTHS,77.52,E",
+     {},
+     "gpsTime=2325:302418000 timeText=120000.000 talker=GP mode=6 heading=77.52"},
+    {"HDT",
+     "HEHDT,274.0712,T",
+     {2},
+     "gpsTime=2325:302418000 timeText=120000.000 talker=HE heading=274.0712"},
+    {"ROT",
+     "TIROT,-35.6,A",
+     {},
+     "gpsTime=2325:302418000 timeText=120000.000 talker=TI status=1 rate=-35.6"},
+    {"TXT",
+     "GNTXT,03,02,07,ANT^2cOK^5e",
+     {4},
+     "gpsTime=2325:302418000 timeText=120000.000 talker=GN total=3 number=2 identifier=7 length=7 "
+     "text=ANT,OK^"},
+    {"DTM",
+     "GPDTM,999,CH,0.08,S,0.07,E,-47.7,W84",
+     {1, 2, 8},
+     "gpsTime=2325:302418000 timeText=120000.000 talker=GP datum=999 subdivision=CH reference=W84 "
+     "latitudeOffset=-0.08 longitudeOffset=0.07 altitudeOffset=-47.7"},
+    {"GRS",
+     "GNGRS,123519.50,1,1.5,-2,3,4,5,6,7,8,9,10,11,-12.25,3,A",
+     {},
+     "gpsTime=2325:304537500 utc.time=12:35:19.500 timeText=123519.50 talker=GN recomputed=1 "
+     "systemId=3 signalId=10 residuals[0]=1.5 residuals[1]=-2 residuals[2]=3 residuals[3]=4 "
+     "residuals[4]=5 residuals[5]=6 residuals[6]=7 residuals[7]=8 residuals[8]=9 "
+     "residuals[9]=10 residuals[10]=11 residuals[11]=-12.25"},
+    {"GFA",
+     "GNGFA,123519.50,3.2,4.8,0.61,0.42,31.5,1.1,5.5,SCUV",
+     {},
+     "gpsTime=2325:304537500 utc.time=12:35:19.500 timeText=123519.50 talker=GN "
+     "horizontalProtection=3.2 verticalProtection=4.8 ellipseSemiMajor=0.61 "
+     "ellipseSemiMinor=0.42 ellipseOrientation=31.5 altitudeDeviation=1.1 selectedAccuracy=5.5 "
+     "integrityCount=4 integrity[0]=1 integrity[1]=2 integrity[2]=3 integrity[3]=0"},
+};
+
+TEST(NmeaRecords, OfTheStandardDialect) {
+  for (const StandardRow& row : StandardRows) {
+    const auto read = [](const std::string& body) {
+      return OfStream(NavframeStandard, Clock + Sentence(body));
+    };
+    const Outcome whole = read(row.body);
+    EXPECT_EQ(whole.kind, row.kind) << row.body;
+    EXPECT_EQ(whole.members, Lines(row.members)) << row.body;
+    EXPECT_EQ(whole.badField, 0U) << row.body;
+    EXPECT_EQ(read(std::string(row.body) + ",7,x").members.size() > whole.members.size(),
+              std::string(row.kind) == "TXT")
+        << row.body;
+    const Outcome legacy = OfStream(NavframeLegacy, Clock + Sentence(row.body));
+    EXPECT_TRUE(legacy.kind == "RMC" || legacy.kind + "-WIDE" == row.kind) << row.body;
+
+    // A field takes something with it, whether it is left out or damaged, which is told; all
+    // together take everything that does not come from the clock or the address.
+    const auto fields = Split(row.body, ',');
+    const auto all = SetOf(whole.members);
+    auto kept = all;
+    for (std::size_t i = 1; i < fields.size(); ++i) {
+      const auto left = SetOf(read(With(fields, i, "")).members);
+      std::erase_if(kept, [&](const std::string& line) { return !left.contains(line); });
+      if (fields[i].empty() || row.free.contains(i)) continue;
+      EXPECT_NE(left, all) << row.body << ", field " << i;
+      EXPECT_EQ(read(With(fields, i, "?")).badField, i) << row.body;
+    }
+    auto none = SetOf(read(fields[0] + std::string(fields.size() - 1, ',')).members);
+    std::erase_if(none, [&](const std::string& line) { return !all.contains(line); });
+    EXPECT_EQ(kept, none) << row.body;
+    EXPECT_LE(kept.size(), 3U) << row.body;
+  }
+}
+
+TEST(NmeaRecords, OddSentencesOfTheStandardDialect) {
+  const struct {
+    const char* body;
+    const char* kind;
+    std::uint32_t badField;
+    const char* members;
+  } rows[] = {
+      // What the exports' records hold they hold, with all letters.
+      {"GNRMC,,A,,,,,,,,,,S", "RMC", 0, "status=1 mode=8"},
+      {"GNRMC,,A,,,,,,,,3.5,,A", "RMC-WIDE", 0, "status=1 mode=1"},
+      {"GNVTG,,,,,,,,,P", "VTG", 0, "mode=3"},
+      {"GNGLL,,,,,,A,R", "GLL", 0, "status=1 mode=4"},
+      {"GNGLL,,,,,,A,X", "GLL", 7, "status=1"},
+      {"GPGSA,M,2,254,,,,,,,,,,,,,,", "GSA", 0,
+       "systemId=1 selectionMode=0 fixType=2 usedCount=1 usedSatellites[0]=254"},
+      {"GPGSA,A,2,70000,301,-1,,,,,,,,,,,,", "GSA-WIDE", 0,
+       "selectionMode=1 fixType=2 usedCount=3 systemId=1 usedSatellites[1]=301"},
+      {"GNGBS,,,,,,,,,1,F", "GBS", 0, "systemId=1 signalId=15"},
+      {"GPZDA,,,,,13,00", "ZDA", 0, "zoneHours=13 zoneMinutes=0"},
+      {"GPGNS,014035.00,,,,,,8,,,,1.0,23", "GNS", 0,
+       "utc.time=1:40:35.0 timeText=014035.00 talker=GP correctionAge=1 stationId=23 "
+       "satellites=8 modeCount=0"},
+      {"GNGNS,,,,,,ANXDNNNNN", "GNS", 6,
+       "talker=GN modeCount=8 modes[0]=1 modes[1]=0 modes[3]=2 modes[4]=0 modes[5]=0 modes[6]=0 "
+       "modes[7]=0"},
+      {"GPTHS,,V", "THS", 0, "talker=GP mode=0"},
+      {"GPHDT", "HDT", 0, "talker=GP"},
+      {"GPTXT,01,01,02,a,b^4", "TXT", 4,
+       "talker=GP total=1 number=1 identifier=2 length=5 text=a,b^4"},
+      {"GPTXT,01,01,02,^41^g1^F", "TXT", 4,
+       "talker=GP total=1 number=1 identifier=2 length=6 text=A^g1^F"},
+      {"GPDTM,W84,,0.0,N,0.0,W,0.0,W84", "DTM", 0,
+       "talker=GP datum=W84 reference=W84 latitudeOffset=0 longitudeOffset=-0 altitudeOffset=0"},
+      {"GPDTM,W84,,1.5,,2.5,X,,", "DTM", 6, "talker=GP datum=W84"},
+      {"GPGRS,104148.00,0,-1.5", "GRS", 0,
+       "utc.time=10:41:48.0 timeText=104148.00 talker=GP recomputed=0 residuals[0]=-1.5"},
+      // Proprietary ones are none of them.
+      {"PXHDT,1.5", "", 0, ""},
+      {"PXTXT,01,01,02,a", "", 0, ""},
+      {"GPHDTX,1.5", "", 0, ""},
+  };
+  for (const auto& [body, kind, badField, members] : rows) {
+    const Outcome outcome = OfStream(NavframeStandard, Sentence(body));
+    EXPECT_EQ(outcome.kind, kind) << body;
+    EXPECT_EQ(outcome.badField, badField) << body;
+    EXPECT_EQ(outcome.members, Lines(members)) << body;
+  }
 }
 
 // Up to four digits are read by one load, with what follows the field.

@@ -138,6 +138,7 @@ TEST(Dialects, BadFieldsAndHemispheres) {
   const Outcome legacy = Of(NavframeLegacy, Body);
   EXPECT_FALSE(legacy.record);
   EXPECT_EQ(legacy.badField, 7U);
+  EXPECT_EQ(Of(NavframeStandard, "GPZDA,,,,,-01,").record->As<WideZdaRecord>().zoneHours, -1);
   EXPECT_LT(Of(NavframeLegacy, "GPGLL,4807.038,N,01131.000,").record->As<GllRecord>().longitude, 0);
   const Outcome lowerCase = Of(NavframeStandard, "GPGLL,4807.038,n,01131.000,E");
   EXPECT_EQ(lowerCase.badField, 2U);
@@ -152,7 +153,7 @@ std::string Listed(const Record& record) {
     const auto& satellite = record.satellites[i];
     out << int{satellite.systemId} << "/" << satellite.number + 0 << "[";
     for (int k = 0; k < satellite.signalCount; ++k) {
-      out << int{satellite.signals[k].signalId} << ":" << int{satellite.signals[k].cn0} << " ";
+      out << int{satellite.signals[k].signalId} << ":" << satellite.signals[k].cn0 + 0 << " ";
     }
     out << "]" << (satellite.used == 1 ? "used " : " ");
   }
@@ -184,6 +185,8 @@ TEST(Dialects, AllSatellitesInView) {
          "GSV-WIDE 1/3[1:46 5:40 6:41 7:42 ] ", "GSV 1/3[1:46 5:40 6:41 ] ");
   expect({"GPGSA,A,3,03,301,,,,,,,,,,,1.8,1.0,1.4", "GPGSV,1,1,02,03,41,050,46,301,60,317,49,1"},
          "GSV-WIDE 1/3[1:46 ]used 1/301[1:49 ]used ", "GSV 1/3[1:46 ]used 1/45[1:49 ]used ");
+  expect({"GPGSV,1,1,02,03,41,050,46,07,60,317,49.25,1"}, "GSV-WIDE 1/3[1:46 ] 1/7[1:49.25 ] ",
+         "GSV 1/3[1:46 ] 1/7[1:49 ] ");
   expect({"GPGSV,1,1,01,03,-1,050,46,1"}, "GSV-WIDE 1/3[1:46 ] ", "GSV 1/3[1:46 ] ");
 
   // Of 97 satellites, the last one with a number or without, the exports keep that one.
@@ -469,9 +472,10 @@ TEST(Dialects, CaptureWithoutDecimalsGivesAllPositions) {
     EXPECT_EQ(Values(item.time.week, item.time.utc.day), Values(1659, 24));  // 2011-10-24, a Monday
     EXPECT_FALSE(std::isnan(gga.latitude) || std::isnan(gga.longitude));
   }
-  EXPECT_EQ(counts,
-            (std::map<std::string, int>{
-                {"GGA", 12}, {"GLL", 12}, {"GSA", 12}, {"GSV", 12}, {"RMC", 12}, {"VTG", 11}}));
+  EXPECT_EQ(
+      counts,
+      (std::map<std::string, int>{
+          {"GGA", 12}, {"GLL", 12}, {"GSA", 12}, {"GSV", 12}, {"RMC-WIDE", 12}, {"VTG", 11}}));
 }
 
 TEST(Dialects, CapturesGiveAllSatellitesInView) {

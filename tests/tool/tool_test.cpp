@@ -159,8 +159,8 @@ TEST_F(Tool, Statistics) {
 
 // Whichever kind a message's content needs.
 TEST_F(Tool, OnlyTakesAllKindsOfAMessage) {
-  const std::string input = Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPTXT,01") +
-                            Sentence("GPGSV,1,1,01,303,10,111,30,1") + Sentence("GPTXT,01");
+  const std::string input = Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPWPL,01") +
+                            Sentence("GPGSV,1,1,01,303,10,111,30,1") + Sentence("GPWPL,01");
   EXPECT_EQ(Kinds(Run("navframe --only gsv $IN", input).out), "GSV GSV GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --only GSV-WIDE $IN", input).out), "GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --only 4 $IN", input).out), "GSV GSV");
@@ -302,7 +302,7 @@ TEST_F(Tool, LinesOfRecords) {
        "SYSPARAM stationId 7, modifiedJulianDay 0 d, secondsOfDay 0 s, count 2, leapSeconds 18 s\n"
        "SYSPARAM announcements messageId 1005, synchronous 0, interval 5 0.1 s\n"
        "SYSPARAM announcements messageId 1033, synchronous 0, interval 5 0.1 s\n"},
-      {Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPTXT,01"),
+      {Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPWPL,01"),
        "GSV tag 0, cycleComplete 1, satelliteCount 1\n"
        "GSV satellites number 3, systemId 1 (GPS), azimuth 111 deg, elevation 10 deg, used 0, "
        "signalCount 1; signals signalId 1, cn0 30 dB-Hz\n"},
