@@ -60,6 +60,15 @@ std::uint16_t Decimals(double value, std::uint8_t whole) {
   return decimals >= 1 && decimals < 1e4 ? static_cast<std::uint16_t>(decimals) : std::uint16_t{0};
 }
 
+// Rare, and out of the way of the loop that asks.
+[[gnu::noinline]] void ReadDecimalCarrierToNoise(FieldReader& fields, std::size_t index,
+                                                 GsvBlock& block) {
+  double value;
+  if (!fields.Take(index, ToDouble(fields[index]), value)) return;
+  block.cn0 = static_cast<std::uint8_t>(Truncated(value));
+  if (fields.HasDialect().wholeGsv) block.cn0Decimals = Decimals(value, block.cn0);
+}
+
 // A whole number or a decimal one, of which the integer part counts for the exports.
 void ReadCarrierToNoise(FieldReader& fields, std::size_t index, GsvBlock& block) {
   const std::string_view field = fields[index];
@@ -68,10 +77,7 @@ void ReadCarrierToNoise(FieldReader& fields, std::size_t index, GsvBlock& block)
     block.cn0 = static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
     return;
   }
-  double value;
-  if (!fields.Take(index, ToDouble(field), value)) return;
-  block.cn0 = static_cast<std::uint8_t>(Truncated(value));
-  if (fields.HasDialect().wholeGsv) block.cn0Decimals = Decimals(value, block.cn0);
+  ReadDecimalCarrierToNoise(fields, index, block);
 }
 
 // Talkers whose system the exports do not know everywhere.
