@@ -54,30 +54,32 @@ constexpr int SystemOfNumber(int number) {
   return 5;
 }
 
-// Of a value whose whole part is known; none of one outside of what C/N0 are.
-std::uint16_t Decimals(double value, std::uint8_t whole) {
-  const double decimals = (value - whole) * 1e4 + 0.5;
-  return decimals >= 1 && decimals < 1e4 ? static_cast<std::uint16_t>(decimals) : std::uint16_t{0};
-}
+struct CarrierToNoise {
+  std::uint8_t whole = Unknown<std::uint8_t>();
+  std::uint16_t decimals = 0;  // four, kept where all is
+};
 
 // Rare, and out of the way of the loop that asks.
-[[gnu::noinline]] void ReadDecimalCarrierToNoise(FieldReader& fields, std::size_t index,
-                                                 GsvBlock& block) {
+[[gnu::noinline]] CarrierToNoise ReadDecimals(FieldReader& fields, std::size_t index) {
   double value;
-  if (!fields.Take(index, ToDouble(fields[index]), value)) return;
-  block.cn0 = static_cast<std::uint8_t>(Truncated(value));
-  if (fields.HasDialect().wholeGsv) block.cn0Decimals = Decimals(value, block.cn0);
+  CarrierToNoise cn0;
+  if (!fields.Take(index, ToDouble(fields[index]), value)) return cn0;
+  cn0.whole = static_cast<std::uint8_t>(Truncated(value));
+  const double decimals = (value - cn0.whole) * 1e4 + 0.5;
+  if (fields.HasDialect().wholeGsv && decimals >= 1 && decimals < 1e4) {
+    cn0.decimals = static_cast<std::uint16_t>(decimals);
+  }
+  return cn0;
 }
 
 // A whole number or a decimal one, of which the integer part counts for the exports.
-void ReadCarrierToNoise(FieldReader& fields, std::size_t index, GsvBlock& block) {
+CarrierToNoise ReadCarrierToNoise(FieldReader& fields, std::size_t index) {
   const std::string_view field = fields[index];
-  if (field.empty()) return;
+  if (field.empty()) return {};
   if (field.size() == 2 && IsDigit(field[0]) && IsDigit(field[1])) {
-    block.cn0 = static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'));
-    return;
+    return {static_cast<std::uint8_t>((field[0] - '0') * 10 + (field[1] - '0'))};
   }
-  ReadDecimalCarrierToNoise(fields, index, block);
+  return ReadDecimals(fields, index);
 }
 
 // Talkers whose system the exports do not know everywhere.
@@ -121,8 +123,9 @@ inline GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   block.elevation = block.azimuth = Unknown<std::uint16_t>();
   block.hasElevation = fields.Int(index + 1, block.elevation);
   block.hasAzimuth = fields.Int(index + 2, block.azimuth);
-  block.cn0 = Unknown<std::uint8_t>();
-  ReadCarrierToNoise(fields, index + 3, block);
+  const CarrierToNoise cn0 = ReadCarrierToNoise(fields, index + 3);
+  block.cn0 = cn0.whole;
+  block.cn0Decimals = cn0.decimals;
   return block;
 }
 
