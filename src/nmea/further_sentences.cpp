@@ -1,10 +1,8 @@
 // Sentences of which streams of the Standard dialect alone make records.
 #include "nmea/further_sentences.h"
 
-#include <array>
 #include <string_view>
 
-#include "base/characters.h"
 #include "navframe/records_nmea_standard.h"
 #include "nmea/letters.h"
 
