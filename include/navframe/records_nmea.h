@@ -107,12 +107,12 @@ enum { MsgIdWideGsv = 0x10000 };
 
 /* One signal of a WideSatelliteInView. */
 typedef struct WideSatelliteSignal {
-  uint8_t signalId;    /* NMEA signal id, 0 when the sentence has none */
-  uint8_t reserved[3]; /* reserved */
-  float cn0;           /* [dB-Hz] carrier-to-noise density */
+  uint8_t signalId; /* NMEA signal id, 0 when the sentence has none */
+  uint8_t reserved; /* reserved */
+  uint16_t cn0;     /* [0.01 dB-Hz] carrier-to-noise density */
 } WideSatelliteSignal;
 
-/* One satellite of a WideGsvRecord. 140 bytes. */
+/* One satellite of a WideGsvRecord. 74 bytes. */
 typedef struct WideSatelliteInView {
   uint16_t number;     /* satellite number; as sent */
   uint16_t azimuth;    /* [deg] from true north */
@@ -121,7 +121,7 @@ typedef struct WideSatelliteInView {
   uint8_t used;        /* a GSA sentence listed the satellite; flag; see
                           docs/compatibility.md, Used satellites */
   uint8_t signalCount; /* signals, 0 to 16; unknown never */
-  uint8_t reserved[3]; /* reserved */
+  uint8_t reserved;    /* reserved */
   WideSatelliteSignal signals[16]; /* signals in the order of their sentences; counted by
                                       signalCount */
 } WideSatelliteInView;
@@ -214,7 +214,7 @@ static_assert(sizeof(RmcRecord) == 80 && offsetof(RmcRecord, longitude) == 32);
 static_assert(sizeof(GsaRecord) == 64 && offsetof(GsaRecord, pdop) == 36);
 static_assert(sizeof(SatelliteSignal) == 6 && sizeof(SatelliteInView) == 26);
 static_assert(sizeof(GsvRecord) == 2528 && offsetof(GsvRecord, satellites) == 30);
-static_assert(sizeof(WideSatelliteInView) == 140 && sizeof(WideGsvRecord) == 35872);
+static_assert(sizeof(WideSatelliteInView) == 74 && sizeof(WideGsvRecord) == 18976);
 static_assert(sizeof(GllRecord) == 64 && offsetof(GllRecord, longitude) == 40);
 static_assert(sizeof(GstRecord) == 68 && offsetof(GstRecord, rangeRms) == 40);
 static_assert(sizeof(GbsRecord) == 68 && offsetof(GbsRecord, latitudeError) == 40);

@@ -184,8 +184,8 @@ template <> inline constexpr const NavframeRecord& RecordOf<GsvRecord> = GsvReco
 
 inline constexpr MemberRow WideSatelliteSignalMembers[] = {
     {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(WideSatelliteSignal, signalId), sizeof(WideSatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteSignal, reserved), sizeof(WideSatelliteSignal::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeF32, offsetof(WideSatelliteSignal, cn0), sizeof(WideSatelliteSignal::cn0), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteSignal, reserved), sizeof(WideSatelliteSignal::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"cn0", "0.01 dB-Hz", "carrier-to-noise density", NavframeU16, offsetof(WideSatelliteSignal, cn0), sizeof(WideSatelliteSignal::cn0), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
 };
 inline constexpr RecordRow WideSatelliteSignalLayout = LayoutOf<WideSatelliteSignal, WideSatelliteSignalMembers>("WideSatelliteSignal");
 static_assert(CoversEveryByte(WideSatelliteSignalLayout));
@@ -198,7 +198,7 @@ inline constexpr MemberRow WideSatelliteInViewMembers[] = {
     {{"systemId", "", "system of the satellite", NavframeU8, offsetof(WideSatelliteInView, systemId), sizeof(WideSatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(WideSatelliteInView, used), sizeof(WideSatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signalCount", "", "signals, 0 to 16", NavframeU8, offsetof(WideSatelliteInView, signalCount), sizeof(WideSatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+    {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteSignalLayout}, false, 0},
 };
 inline constexpr RecordRow WideSatelliteInViewLayout = LayoutOf<WideSatelliteInView, WideSatelliteInViewMembers>("WideSatelliteInView");

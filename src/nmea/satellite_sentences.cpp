@@ -56,7 +56,7 @@ constexpr int SystemOfNumber(int number) {
 
 struct CarrierToNoise {
   std::uint8_t whole = Unknown<std::uint8_t>();
-  std::uint16_t decimals = 0;  // four, kept where all is
+  std::uint8_t hundredths = 0;  // kept where all is
 };
 
 // Rare, and out of the way of the loop that asks.
@@ -65,9 +65,9 @@ struct CarrierToNoise {
   CarrierToNoise cn0;
   if (!fields.Take(index, ToDouble(fields[index]), value)) return cn0;
   cn0.whole = static_cast<std::uint8_t>(Truncated(value));
-  const double decimals = (value - cn0.whole) * 1e4 + 0.5;
-  if (fields.HasDialect().wholeGsv && decimals >= 1 && decimals < 1e4) {
-    cn0.decimals = static_cast<std::uint16_t>(decimals);
+  const double hundredths = (value - cn0.whole) * 100 + 0.5;
+  if (fields.HasDialect().wholeGsv && hundredths >= 1 && hundredths < 100) {
+    cn0.hundredths = static_cast<std::uint8_t>(hundredths);
   }
   return cn0;
 }
@@ -125,7 +125,7 @@ inline GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   block.hasAzimuth = fields.Int(index + 2, block.azimuth);
   const CarrierToNoise cn0 = ReadCarrierToNoise(fields, index + 3);
   block.cn0 = cn0.whole;
-  block.cn0Decimals = cn0.decimals;
+  block.cn0Hundredths = cn0.hundredths;
   return block;
 }
 

@@ -21,7 +21,7 @@ struct GsvBlock {
   bool hasElevation;
   bool hasAzimuth;
   std::uint8_t cn0;
-  std::uint16_t cn0Decimals;  // four behind its point, kept where all is
+  std::uint8_t cn0Hundredths;  // behind its point, kept where all is
   int number;
   int elevation;  // all bits of 16 set when it is not known, as azimuth
   std::uint16_t azimuth;

@@ -13,8 +13,9 @@ std::int16_t Elevation(int elevation) {
                                                : static_cast<std::int16_t>(elevation);
 }
 
-float CarrierToNoise(std::uint8_t cn0, std::uint16_t decimals = 0) {
-  return IsUnknown(cn0) ? Unknown<float>() : static_cast<float>((cn0 * 10'000 + decimals) / 1e4);
+std::uint16_t CarrierToNoise(std::uint8_t cn0, std::uint8_t hundredths = 0) {
+  if (IsUnknown(cn0)) return Unknown<std::uint16_t>();
+  return static_cast<std::uint16_t>(cn0 * 100 + hundredths);
 }
 
 }  // namespace
@@ -46,7 +47,7 @@ void WideView::AddSignalTo(WideSatelliteInView& entry, std::uint8_t signalId,
   if (entry.signalCount >= std::size(entry.signals)) return;
   WideSatelliteSignal& signal = entry.signals[entry.signalCount++];
   signal.signalId = signalId;
-  signal.cn0 = CarrierToNoise(block.cn0, block.cn0Decimals);
+  signal.cn0 = CarrierToNoise(block.cn0, block.cn0Hundredths);
 }
 
 void WideView::TakeOver(const SatellitesInView& narrow) {

@@ -53,7 +53,7 @@ class WideView {
   static constexpr bool FitsNarrow(int number) { return static_cast<unsigned>(number) < 255; }
   // Elevations are 16 bits without a sign there.
   static constexpr bool FitsNarrow(const GsvBlock& block) {
-    return (!block.numbered || FitsNarrow(block.number)) && block.cn0Decimals == 0 &&
+    return (!block.numbered || FitsNarrow(block.number)) && block.cn0Hundredths == 0 &&
            (static_cast<unsigned>(block.elevation) < 0x8000 ||
             block.elevation == Unknown<std::uint16_t>());
   }

@@ -149,11 +149,12 @@ TEST(Dialects, BadFieldsAndHemispheres) {
 template <class Record>
 std::string Listed(const Record& record) {
   std::ostringstream out;
+  const double unit = std::is_same_v<Record, WideGsvRecord> ? 100 : 1;
   for (int i = 0; i < record.satelliteCount; ++i) {
     const auto& satellite = record.satellites[i];
     out << int{satellite.systemId} << "/" << satellite.number + 0 << "[";
     for (int k = 0; k < satellite.signalCount; ++k) {
-      out << int{satellite.signals[k].signalId} << ":" << satellite.signals[k].cn0 + 0 << " ";
+      out << int{satellite.signals[k].signalId} << ":" << satellite.signals[k].cn0 / unit << " ";
     }
     out << "]" << (satellite.used == 1 ? "used " : " ");
   }
@@ -196,7 +197,7 @@ TEST(Dialects, AllSatellitesInView) {
     const auto standard = Records(NavframeStandard, many + Nmea(last));
     ASSERT_EQ(Names(standard), "GSV-WIDE ");
     EXPECT_EQ(standard[0].As<WideGsvRecord>().satelliteCount, 97);
-    EXPECT_EQ(standard[0].As<WideGsvRecord>().satellites[96].signals[0].cn0, 46);
+    EXPECT_EQ(standard[0].As<WideGsvRecord>().satellites[96].signals[0].cn0, 4600);
     EXPECT_EQ(Records(NavframeLegacy, many + Nmea(last))[0].As<GsvRecord>().satelliteCount, 1);
   }
 }
