@@ -1,7 +1,5 @@
 #include "stream/slot_sink.h"
 
-#include <algorithm>
-
 #include "catalogue/kinds.h"
 
 namespace navframe {
@@ -9,8 +7,15 @@ namespace navframe {
 namespace {
 
 // Not cleared: pages are touched as large records come.
-std::unique_ptr<std::uint64_t[]> Room(std::uint32_t size) {
+std::unique_ptr<std::uint64_t[]> MemoryOf(std::uint32_t size) {
   return std::unique_ptr<std::uint64_t[]>(new std::uint64_t[(size + 7) / 8]);
+}
+
+// Streams have one of these. Taking turns with other lists, they would write their ends each time.
+constexpr std::uint32_t OfSharedRoom[] = {MsgIdObservations, MsgIdUbxRawMeasurements,
+                                          MsgIdBinary55Aa};
+bool SharesRoom(std::uint32_t id) {
+  return std::ranges::find(OfSharedRoom, id) != std::end(OfSharedRoom);
 }
 
 }  // namespace
@@ -18,25 +23,26 @@ std::unique_ptr<std::uint64_t[]> Room(std::uint32_t size) {
 SlotSink::SlotSink() {
   std::uint32_t largest = 0;
   for (const auto& [kind, text] : catalogue::KindRows()) largest = std::max(largest, kind.size);
-  for (auto& memory : memory_) memory = Room(largest);
-  std::uint32_t end = 0;
-  for (std::size_t i = 0; i < ownRooms_.size(); ++i) {
-    const std::uint32_t size = catalogue::FindKind(RecurringKinds[i], SourceStream)->kind.size;
-    ownRooms_[i] = {end, size};
-    end += (size + 7) / 8 * 8;
+  std::uint32_t largestList = 0;
+  for (const std::uint32_t id : RecurringKinds) {
+    if (SharesRoom(id)) continue;
+    largestList = std::max(largestList, catalogue::FindKind(id, SourceStream)->kind.size);
   }
-  ownMemory_ = Room(end);
+  shared_.memory = MemoryOf(largest);
+  lists_.memory = MemoryOf(largestList);
+  second_ = MemoryOf(largest);
 }
 
-RecurringRoom SlotSink::AllocateRecurring(std::uint32_t id, std::uint32_t /*size*/) {
-  const auto index = std::ranges::find(RecurringKinds, id) - std::begin(RecurringKinds);
-  OwnRoom& room = ownRooms_[static_cast<std::size_t>(index)];
-  return {ownMemory_.get() + room.offset / 8, &room.written};
+RecurringRoom SlotSink::AllocateRecurring(std::uint32_t id, std::uint32_t size) {
+  Room& room = SharesRoom(id) ? shared_ : lists_;
+  room.written = room.kind == id ? std::min(room.written, size) : size;
+  room.kind = id;
+  return {room.memory.get(), &room.written};
 }
 
 void SlotSink::PushMessage(std::uint32_t id, void* payload, std::uint32_t /*size*/,
                            std::uint32_t source) {
-  if (count_ < Slots) records_[count_++] = {id, source, payload};
+  if (count_ < records_.size()) records_[count_++] = {id, source, payload};
 }
 
 }  // namespace navframe

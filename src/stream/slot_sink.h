@@ -1,6 +1,7 @@
 // The sink of a stream: room for the records of one frame.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -16,13 +17,17 @@ struct SlotRecord {
 };
 
 // A frame gives two records at most: its own, and the satellites in view that it ends or the
-// ephemeris that it completes. Their memory
-// is there from the start, so that no decoder stops half-way for the want of it.
+// ephemeris that it completes; one of RecurringKinds is the first. Their memory is there from the
+// start, so that no decoder stops half-way for the want of it.
 class SlotSink final : public RecordSink {
  public:
   SlotSink();
 
-  void* Allocate(std::uint32_t) override { return memory_[count_ < Slots ? count_ : 1].get(); }
+  void* Allocate(std::uint32_t size) override {
+    if (count_ != 0) return second_.get();
+    shared_.written = std::max(shared_.written, size);
+    return shared_.memory.get();
+  }
   RecurringRoom AllocateRecurring(std::uint32_t id, std::uint32_t size) override;
   void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
                    std::uint32_t source = SourceStream) override;
@@ -34,17 +39,20 @@ class SlotSink final : public RecordSink {
   const SlotRecord& operator[](std::uint32_t index) const { return records_[index]; }
 
  private:
-  static constexpr std::uint32_t Slots = 2;
+  using Memory = std::unique_ptr<std::uint64_t[]>;
 
-  std::array<std::unique_ptr<std::uint64_t[]>, Slots> memory_;
-  struct OwnRoom {
-    std::uint32_t offset = 0;  // [B] in ownMemory_
-    std::uint32_t written = 0;
+  // The end of a record stays where it is under shorter ones. So kinds share memory, and a page of
+  // it is written as large records come.
+  struct Room {
+    Memory memory;
+    std::uint32_t kind = 0;     // the last one of RecurringKinds
+    std::uint32_t written = 0;  // bytes in front of what is left of it
   };
-  // One block, so that only the rooms of kinds that come cost memory.
-  std::unique_ptr<std::uint64_t[]> ownMemory_;
-  std::array<OwnRoom, std::size(RecurringKinds)> ownRooms_;
-  std::array<SlotRecord, Slots> records_;
+
+  Room shared_;  // of first records, and of the kinds that recur in great numbers
+  Room lists_;   // of all others of RecurringKinds
+  Memory second_;
+  std::array<SlotRecord, 2> records_;
   std::uint32_t count_ = 0;
 };
 
