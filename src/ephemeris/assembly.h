@@ -29,16 +29,16 @@ struct Page {
 
 // A set is out once a record was made of it, and is not made again before a page comes that is
 // another.
-template <std::uint32_t Pages, std::uint32_t Bits>
+template <std::uint32_t Pages, std::uint32_t Bits, class Time = std::uint32_t>
 class Assembly {
  public:
-  void Put(std::uint32_t page, const Page<Bits>& content, std::uint64_t time) {
+  void Put(std::uint32_t page, const Page<Bits>& content, Time time) {
     std::uint8_t* const place = bytes_.data() + page * (Bits / 8);
     const bool isSame =
         (have_ >> page & 1U) != 0 && std::equal(place, place + Bits / 8, content.bytes.begin());
     std::copy_n(content.bytes.begin(), Bits / 8, place);
     times_[page] = time;
-    have_ |= 1U << page;
+    have_ = static_cast<std::uint16_t>(have_ | 1U << page);
     isOut_ = isOut_ && isSame;
   }
   bool Waits() const { return have_ == (1U << Pages) - 1 && !isOut_; }
@@ -48,12 +48,12 @@ class Assembly {
     return PageBits(bytes_.data(), piece.bit, piece.bits);
   }
   // What was taken out of a page.
-  std::uint64_t TimeOf(std::uint32_t page) const { return times_[page]; }
+  Time TimeOf(std::uint32_t page) const { return times_[page]; }
 
  private:
   std::array<std::uint8_t, Pages * Bits / 8 + 8> bytes_{};
-  std::array<std::uint64_t, Pages> times_{};
-  std::uint32_t have_ = 0;
+  std::array<Time, Pages> times_{};
+  std::uint16_t have_ = 0;
   bool isOut_ = false;
 };
 

@@ -130,7 +130,7 @@ std::optional<Page<SubframeBits>> Read(const Subframe& subframe) {
 // The record of a set whose parts were sent `seconds` behind each other, one by one.
 template <std::uint32_t Parts>
 std::optional<KeplerEphemerisRecord> Completed(std::span<const PageRow> rows, Message message,
-                                               std::uint64_t seconds, const Subframe& subframe,
+                                               std::uint32_t seconds, const Subframe& subframe,
                                                Assembly<Parts, SubframeBits>& assembly) {
   if (!assembly.Waits()) return std::nullopt;
   for (std::uint32_t i = 1; i < Parts; ++i) {
@@ -151,23 +151,23 @@ std::optional<KeplerEphemerisRecord> Completed(std::span<const PageRow> rows, Me
 }  // namespace
 
 std::optional<KeplerEphemerisRecord> TakeD1(const Subframe& subframe, D1Assembly& assembly) {
-  constexpr std::uint64_t Seconds = 6;
+  constexpr std::uint32_t Seconds = 6;
   auto page = Read(subframe);
   if (!page) return std::nullopt;
   const std::uint64_t id = page->Read(SubframeId);
   if (id < 1 || id > 3) return std::nullopt;
-  const std::uint64_t second = page->TakeOut(SecondOfWeek);
+  const auto second = static_cast<std::uint32_t>(page->TakeOut(SecondOfWeek));
   assembly.Put(static_cast<std::uint32_t>(id - 1), *page, second);
   return Completed(D1, Message::D1, Seconds, subframe, assembly);
 }
 
 std::optional<KeplerEphemerisRecord> TakeD2(const Subframe& subframe, D2Assembly& assembly) {
-  constexpr std::uint64_t Seconds = 3;
+  constexpr std::uint32_t Seconds = 3;
   auto page = Read(subframe);
   if (!page || page->Read(SubframeId) != 1) return std::nullopt;
   const std::uint64_t number = page->Read(PageNumber);
   if (number < 1 || number > 10) return std::nullopt;
-  const std::uint64_t second = page->TakeOut(SecondOfWeek);
+  const auto second = static_cast<std::uint32_t>(page->TakeOut(SecondOfWeek));
   assembly.Put(static_cast<std::uint32_t>(number - 1), *page, second);
   return Completed(D2, Message::D2, Seconds, subframe, assembly);
 }

@@ -177,7 +177,7 @@ std::optional<KeplerEphemerisRecord> TakeInav(const Subframe& subframe, InavAsse
   Page<128> word;
   Copy(sent, 2, EvenBits - 2, word.bytes.data(), 0);
   Copy(sent, Half + 2, 16, word.bytes.data(), EvenBits - 2);
-  const std::uint64_t time = type == 5 ? word.TakeOut(InavTime) : 0;
+  const auto time = static_cast<std::uint32_t>(type == 5 ? word.TakeOut(InavTime) : 0);
   assembly.Put(static_cast<std::uint32_t>(type - 1), word, time);
   return Completed(Inav, InavIssues, Message::Inav, 4, subframe, assembly);
 }
@@ -196,7 +196,7 @@ std::optional<KeplerEphemerisRecord> TakeFnav(const Subframe& subframe, FnavAsse
   }
   Page<216> page;
   Copy(sent, 0, PageBits, page.bytes.data(), 0);
-  const std::uint64_t time = page.TakeOut(FnavTimes[type - 1]);
+  const auto time = static_cast<std::uint32_t>(page.TakeOut(FnavTimes[type - 1]));
   assembly.Put(static_cast<std::uint32_t>(type - 1), page, time);
   return Completed(Fnav, FnavIssues, Message::Fnav, 0, subframe, assembly);
 }

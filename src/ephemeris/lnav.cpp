@@ -114,7 +114,7 @@ std::optional<KeplerEphemerisRecord> TakeLnav(const Subframe& subframe, LnavAsse
   }
   const std::uint64_t id = page.Read(SubframeId);
   if (page.Read(Preamble) != PreambleBits || id < 1 || id > 3) return std::nullopt;
-  const std::uint64_t time = page.Read(TimeCount);
+  const auto time = static_cast<std::uint32_t>(page.Read(TimeCount));
   page.TakeOut(TimeWord);
   assembly.Put(static_cast<std::uint32_t>(id - 1), page, time);
   if (!assembly.Waits()) return std::nullopt;
@@ -125,7 +125,7 @@ std::optional<KeplerEphemerisRecord> TakeLnav(const Subframe& subframe, LnavAsse
                       assembly.Read(ThirdIssue) == record.issueOfData;
   if (!agrees) return std::nullopt;
   assembly.SetOut();
-  constexpr std::uint64_t WeekCounts = 604'800 / 6;
+  constexpr std::uint32_t WeekCounts = 604'800 / 6;
   record.transmissionTime =
       static_cast<double>((assembly.TimeOf(0) + WeekCounts - 1) % WeekCounts * 6);
   const bool isQzss = subframe.system == SubframeSystem::Qzss;

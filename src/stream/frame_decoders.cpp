@@ -8,12 +8,13 @@
 namespace navframe::protocols {
 
 DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {
-  const bool collects = decoders.dialect.standardRecords && ubx::IsSubframe(frame);
-  if (collects) decoders.subframes.MakeRoom();  // in front of all that cannot be done twice
-  const DecodeResult result = decoders.ubx.Decode(frame, length);
-  if (collects && result.reason == NavframeNoReason) {
-    if (const auto subframe = ubx::SubframeOf(frame, length)) decoders.subframes.Take(*subframe);
+  if (!decoders.dialect.standardRecords || !ubx::IsSubframe(frame)) {
+    return decoders.ubx.Decode(frame, length);
   }
+  const auto subframe = ubx::SubframeOf(frame, length);
+  if (subframe) decoders.subframes.MakeRoom(*subframe);  // in front of what cannot be done twice
+  const DecodeResult result = decoders.ubx.Decode(frame, length);
+  if (subframe && result.reason == NavframeNoReason) decoders.subframes.Take(*subframe);
   return result;
 }
 
