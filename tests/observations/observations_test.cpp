@@ -245,6 +245,15 @@ TEST(Observations, LossOfLock) {
                                                                        : &step == steps   ? 255
                                                                                           : 1);
   }
+  // What comes late is of the week before, though one of the new week came.
+  Observer late;
+  const auto lossOf = [&late](std::uint32_t epoch, std::uint32_t signals, std::int64_t lock) {
+    const msm::Message message{.epoch = epoch, .signalMask = signals, .cells = {{0, 0, lock}}};
+    return late.Only(message.Frame()).observations[0].lossOfLock;
+  };
+  EXPECT_EQ(lossOf(0, 1U << 30, 30), 255);
+  EXPECT_EQ(lossOf(604'799'990, 1U << 29, 30), 255);
+  EXPECT_EQ(lossOf(20, 1U << 30, 40), 0);
 }
 
 // 1001 to 1004 and 1009 to 1012: one satellite with every field another value, by message.
