@@ -7,7 +7,7 @@
 #include <cstring>
 #include <numeric>
 
-#include "rtcm/crc24q.h"
+#include "base/crc24q.h"
 #include "ubx/fletcher.h"
 
 namespace navframe::bench {
@@ -29,7 +29,7 @@ std::uint32_t ChecksumOf(const std::uint8_t* frame, std::size_t length) {
       return sum.a + 256U * sum.b;
     }
     case 0xD3:
-      return rtcm::Crc24q::Of(frame, length - 3);
+      return Crc24q::Of(frame, length - 3);
     case 0x55:
       return std::accumulate(frame + 2, frame + length - 1, 0U);
     default:

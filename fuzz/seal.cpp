@@ -3,10 +3,10 @@
 #include <numeric>
 
 #include "asciilog/crc32.h"
+#include "base/crc24q.h"
 #include "frame55aa/byte_sum.h"
 #include "fuzz.h"
 #include "navframe/stream.h"
-#include "rtcm/crc24q.h"
 #include "ubx/fletcher.h"
 
 namespace navframe::fuzz {
@@ -61,7 +61,7 @@ std::size_t SealRtcm(Frame rest) {
   const std::size_t length = std::min(announced, rest.size() - 6);
   rest[1] = static_cast<std::uint8_t>(length >> 8);
   rest[2] = static_cast<std::uint8_t>(length & 0xFF);
-  const std::uint32_t crc = rtcm::Crc24q::Of(rest.data(), length + 3);
+  const std::uint32_t crc = Crc24q::Of(rest.data(), length + 3);
   for (unsigned i = 0; i < 3; ++i) {
     rest[length + 3 + i] = static_cast<std::uint8_t>(crc >> (16 - 8 * i) & 0xFF);
   }

@@ -46,14 +46,15 @@ class AsciiLogDecoder {
 
   void* FixedBlockOf(std::uint32_t identifier);
 
-  RecordSink& sink_;
-  const Dialect& dialect_;
   // Of the exports alone. Not cleared, so that streams spare its memory: it is filled before it is
-  // pushed.
+  // pushed. In front of all else, next to what streams spare of other decoders.
   struct alignas(8) LineBuffer {
     std::array<std::uint8_t, LineBufferSize> bytes;
   };
   LineBuffer lineBuffer_;
+
+  RecordSink& sink_;
+  const Dialect& dialect_;
   FixedBlock<sizeof(InertialLogRecord)> inertialBlock_;
   FixedBlock<sizeof(PositionLogRecord)> positionBlock_;
 };

@@ -119,18 +119,18 @@ std::optional<Page<SubframeBits>> Read(const Subframe& subframe) {
   constexpr std::uint64_t PreambleBits = 0x712;
   if (subframe.count != Words || !CodesHold(subframe)) return std::nullopt;
   Page<SubframeBits> page;
-  PutPageBits(page.bytes.data(), 0, 26, subframe.words[0] >> 4 & 0x3FFFFFF);
-  for (std::uint32_t i = 1; i < Words; ++i) {
-    PutPageBits(page.bytes.data(), 4 + 22 * i, 22, subframe.words[i] >> 8 & 0x3FFFFF);
-  }
+  PageWriter writer(page.bytes.data());
+  writer.Put(subframe.words[0] >> 4 & 0x3FFFFFF, 26);
+  for (std::uint32_t i = 1; i < Words; ++i) writer.Put(subframe.words[i] >> 8 & 0x3FFFFF, 22);
+  writer.End();
   if (page.Read(Preamble) != PreambleBits) return std::nullopt;
   return page;
 }
 
 // The record of a set whose parts were sent `seconds` behind each other, one by one.
-template <std::uint32_t Parts>
-std::optional<KeplerEphemerisRecord> Completed(std::span<const PageRow> rows, Message message,
-                                               std::uint32_t seconds, const Subframe& subframe,
+template <const auto& Rows, std::uint32_t Parts>
+std::optional<KeplerEphemerisRecord> Completed(Message message, std::uint32_t seconds,
+                                               const Subframe& subframe,
                                                Assembly<Parts, SubframeBits>& assembly) {
   if (!assembly.Waits()) return std::nullopt;
   for (std::uint32_t i = 1; i < Parts; ++i) {
@@ -139,7 +139,7 @@ std::optional<KeplerEphemerisRecord> Completed(std::span<const PageRow> rows, Me
   assembly.SetOut();
   KeplerEphemerisRecord record;
   catalogue::MakeUnknown(record);
-  ReadPages(assembly.Bytes(), rows, &record);
+  ReadPages<Rows>(assembly.Bytes(), record);
   record.system = static_cast<std::uint8_t>(System::BeiDou);
   record.satellite = subframe.satellite;
   record.rtcmMessage = 0;
@@ -158,7 +158,7 @@ std::optional<KeplerEphemerisRecord> TakeD1(const Subframe& subframe, D1Assembly
   if (id < 1 || id > 3) return std::nullopt;
   const auto second = static_cast<std::uint32_t>(page->TakeOut(SecondOfWeek));
   assembly.Put(static_cast<std::uint32_t>(id - 1), *page, second);
-  return Completed(D1, Message::D1, Seconds, subframe, assembly);
+  return Completed<D1>(Message::D1, Seconds, subframe, assembly);
 }
 
 std::optional<KeplerEphemerisRecord> TakeD2(const Subframe& subframe, D2Assembly& assembly) {
@@ -169,7 +169,7 @@ std::optional<KeplerEphemerisRecord> TakeD2(const Subframe& subframe, D2Assembly
   if (number < 1 || number > 10) return std::nullopt;
   const auto second = static_cast<std::uint32_t>(page->TakeOut(SecondOfWeek));
   assembly.Put(static_cast<std::uint32_t>(number - 1), *page, second);
-  return Completed(D2, Message::D2, Seconds, subframe, assembly);
+  return Completed<D2>(Message::D2, Seconds, subframe, assembly);
 }
 
 }  // namespace navframe::ephemeris

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/crc24q.h"
 #include "catalogue/unknown_records.h"
 #include "ephemeris/delivery.h"
 #include "ephemeris/page_rows.h"
@@ -15,41 +16,23 @@ constexpr std::uint32_t Words = 8;
 constexpr std::uint32_t SentBits = 32 * Words;
 constexpr std::uint32_t CrcBits = 24;
 
-constexpr auto CrcTable = [] {
-  std::array<std::uint32_t, 256> table{};
-  for (std::uint32_t i = 0; i < table.size(); ++i) {
-    std::uint32_t crc = i << 16;
-    for (int bit = 0; bit < 8; ++bit) crc = crc << 1 ^ ((crc & 0x800000) != 0 ? 0x1864CFBU : 0U);
-    table[i] = crc & 0xFFFFFF;
-  }
-  return table;
-}();
-
-// Of a whole number of bytes; zero bits in front of a message change nothing.
-std::uint32_t CrcOf(const std::uint8_t* bytes, std::uint32_t length) {
-  std::uint32_t crc = 0;
-  for (std::uint32_t i = 0; i < length; ++i) {
-    crc = (crc << 8 & 0xFFFFFF) ^ CrcTable[crc >> 16 ^ bytes[i]];
-  }
-  return crc;
-}
-
 Page<SentBits> AsSent(const Subframe& subframe) {
   Page<SentBits> sent;
-  for (std::uint32_t i = 0; i < Words; ++i) {
-    PutPageBits(sent.bytes.data(), 32 * i, 32, subframe.words[i]);
-  }
+  PageWriter writer(sent.bytes.data());
+  for (std::uint32_t i = 0; i < Words; ++i) writer.Put(subframe.words[i], 32);
   return sent;
 }
 
-void Copy(const Page<SentBits>& from, std::uint32_t bit, std::uint32_t bits, std::uint8_t* to,
-          std::uint32_t at) {
-  for (std::uint32_t done = 0; done < bits;) {
-    const std::uint32_t some = bits - done < 32 ? bits - done : 32;
-    PutPageBits(to, at + done, some,
-                static_cast<std::uint32_t>(PageBits(from.bytes.data(), bit + done, some)));
-    done += some;
-  }
+[[gnu::always_inline]] inline void Copy(const Page<SentBits>& from, std::uint32_t bit,
+                                        std::uint32_t bits, PageWriter& to) {
+  for (; bits > 32; bit += 32, bits -= 32) to.Put(PageBits(from.bytes.data(), bit, 32), 32);
+  to.Put(PageBits(from.bytes.data(), bit, bits), bits);
+}
+
+// Whether a CRC holds: zero bits in front of a message fill its first byte up and change nothing.
+template <std::uint32_t Bits>
+bool CrcHolds(const Page<Bits>& message, std::uint64_t crc) {
+  return Crc24q::Of(message.bytes.data(), Bits / 8) == crc;
 }
 
 // A field by word or page, from 1 on, first bit and length.
@@ -130,19 +113,17 @@ constexpr Piece FnavTimes[] = {P(1, 167, 20), P(1, 194, 20), P(1, 186, 20), P(1,
 constexpr Piece FnavIssues[] = {P(1, 12, 10), P(2, 6, 10), P(3, 6, 10), P(4, 6, 10)};
 
 // The record of a set whose parts have the same issue.
-template <class Set>
-std::optional<KeplerEphemerisRecord> Completed(std::span<const PageRow> rows,
-                                               std::span<const Piece> issues, Message message,
-                                               std::uint32_t pageOfTime, const Subframe& subframe,
-                                               Set& assembly) {
+template <const auto& Rows, const auto& Issues, class Set>
+std::optional<KeplerEphemerisRecord> Completed(Message message, std::uint32_t pageOfTime,
+                                               const Subframe& subframe, Set& assembly) {
   if (!assembly.Waits()) return std::nullopt;
-  for (const Piece& issue : issues) {
-    if (assembly.Read(issue) != assembly.Read(issues[0])) return std::nullopt;
+  for (const Piece& issue : Issues) {
+    if (assembly.Read(issue) != assembly.Read(Issues[0])) return std::nullopt;
   }
   assembly.SetOut();
   KeplerEphemerisRecord record;
   catalogue::MakeUnknown(record);
-  ReadPages(assembly.Bytes(), rows, &record);
+  ReadPages<Rows>(assembly.Bytes(), record);
   if (record.satellite != subframe.satellite) return std::nullopt;  // an orbit of another one
   record.system = static_cast<std::uint8_t>(System::Galileo);
   record.rtcmMessage = 0;
@@ -168,18 +149,20 @@ std::optional<KeplerEphemerisRecord> TakeInav(const Subframe& subframe, InavAsse
   constexpr std::uint32_t OddBits = 82;
   constexpr std::uint32_t Filling = 4;
   Page<Filling + EvenBits + OddBits> checked;
-  Copy(sent, 0, EvenBits, checked.bytes.data(), Filling);
-  Copy(sent, Half, OddBits, checked.bytes.data(), Filling + EvenBits);
-  if (CrcOf(checked.bytes.data(), (Filling + EvenBits + OddBits) / 8) !=
-      sent.Read({Half + OddBits, CrcBits})) {
-    return std::nullopt;
-  }
+  PageWriter all(checked.bytes.data());
+  all.Put(0, Filling);
+  Copy(sent, 0, EvenBits, all);
+  Copy(sent, Half, OddBits, all);
+  all.End();
+  if (!CrcHolds(checked, sent.Read({Half + OddBits, CrcBits}))) return std::nullopt;
   Page<128> word;
-  Copy(sent, 2, EvenBits - 2, word.bytes.data(), 0);
-  Copy(sent, Half + 2, 16, word.bytes.data(), EvenBits - 2);
+  PageWriter data(word.bytes.data());
+  Copy(sent, 2, EvenBits - 2, data);
+  Copy(sent, Half + 2, 16, data);
+  data.End();
   const auto time = static_cast<std::uint32_t>(type == 5 ? word.TakeOut(InavTime) : 0);
   assembly.Put(static_cast<std::uint32_t>(type - 1), word, time);
-  return Completed(Inav, InavIssues, Message::Inav, 4, subframe, assembly);
+  return Completed<Inav, InavIssues>(Message::Inav, 4, subframe, assembly);
 }
 
 std::optional<KeplerEphemerisRecord> TakeFnav(const Subframe& subframe, FnavAssembly& assembly) {
@@ -190,15 +173,18 @@ std::optional<KeplerEphemerisRecord> TakeFnav(const Subframe& subframe, FnavAsse
   constexpr std::uint32_t PageBits = 214;
   constexpr std::uint32_t Filling = 2;
   Page<Filling + PageBits> checked;
-  Copy(sent, 0, PageBits, checked.bytes.data(), Filling);
-  if (CrcOf(checked.bytes.data(), (Filling + PageBits) / 8) != sent.Read({PageBits, CrcBits})) {
-    return std::nullopt;
-  }
+  PageWriter all(checked.bytes.data());
+  all.Put(0, Filling);
+  Copy(sent, 0, PageBits, all);
+  all.End();
+  if (!CrcHolds(checked, sent.Read({PageBits, CrcBits}))) return std::nullopt;
   Page<216> page;
-  Copy(sent, 0, PageBits, page.bytes.data(), 0);
+  PageWriter data(page.bytes.data());
+  Copy(sent, 0, PageBits, data);
+  data.End();
   const auto time = static_cast<std::uint32_t>(page.TakeOut(FnavTimes[type - 1]));
   assembly.Put(static_cast<std::uint32_t>(type - 1), page, time);
-  return Completed(Fnav, FnavIssues, Message::Fnav, 0, subframe, assembly);
+  return Completed<Fnav, FnavIssues>(Message::Fnav, 0, subframe, assembly);
 }
 
 }  // namespace navframe::ephemeris

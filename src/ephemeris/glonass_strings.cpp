@@ -121,10 +121,12 @@ std::optional<GlonassEphemerisRecord> TakeGlonass(const Subframe& subframe,
   constexpr std::uint32_t Words = 4;  // the last one numbers the frame
   if (subframe.count != Words) return std::nullopt;
   Page<PlaceBits> page;
+  PageWriter writer(page.bytes.data());
   for (std::uint32_t i = 0; i < Words - 1; ++i) {
     const std::uint32_t bits = i < 2 ? 32 : StringBits - 64;
-    PutPageBits(page.bytes.data(), 32 * i, bits, subframe.words[i] >> (32 - bits));
+    writer.Put(subframe.words[i] >> (32 - bits), bits);
   }
+  writer.End();
   const std::uint64_t number = page.Read(StringNumber);
   if (number < 1 || number > Strings || !ChecksHold(page)) return std::nullopt;
   const std::uint64_t frame = std::uint64_t{subframe.words[Words - 1]} << OwnBits;
@@ -136,7 +138,7 @@ std::optional<GlonassEphemerisRecord> TakeGlonass(const Subframe& subframe,
   assembly.SetOut();
   GlonassEphemerisRecord record;
   catalogue::MakeUnknown(record);
-  ReadPages(assembly.Bytes(), Glonass, &record);
+  ReadPages<Glonass>(assembly.Bytes(), record);
   record.satellite = subframe.satellite;
   record.channel = subframe.channel;
   record.rtcmMessage = 0;

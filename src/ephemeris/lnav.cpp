@@ -100,7 +100,7 @@ constexpr Piece Preamble = At(1, 1, 1, 8);
 constexpr Piece TimeCount = At(1, 2, 1, 17);  // of 6 s, at the end of the subframe
 constexpr Piece TimeWord = At(1, 2, 1, 24);
 constexpr Piece SubframeId = At(1, 2, 20, 3);
-constexpr Piece ThirdIssue = At(3, 10, 1, 8);
+constexpr Piece Issues[] = {At(1, 8, 1, 8), At(2, 3, 1, 8), At(3, 10, 1, 8)};
 
 }  // namespace
 
@@ -108,23 +108,24 @@ std::optional<KeplerEphemerisRecord> TakeLnav(const Subframe& subframe, LnavAsse
   constexpr std::uint64_t PreambleBits = 0x8B;
   if (subframe.count != Words || !ParityHolds(subframe)) return std::nullopt;
   Page<240> page;
-  for (std::uint32_t i = 0; i < Words; ++i) {
-    PutPageBits(page.bytes.data(), i * DataBits, DataBits,
-                subframe.words[i] >> ParityBits & 0xFFFFFF);
+  PageWriter writer(page.bytes.data());
+  for (const std::uint32_t word : subframe.words) {
+    writer.Put(word >> ParityBits & 0xFFFFFF, DataBits);
   }
+  writer.End();
   const std::uint64_t id = page.Read(SubframeId);
   if (page.Read(Preamble) != PreambleBits || id < 1 || id > 3) return std::nullopt;
   const auto time = static_cast<std::uint32_t>(page.Read(TimeCount));
   page.TakeOut(TimeWord);
   assembly.Put(static_cast<std::uint32_t>(id - 1), page, time);
   if (!assembly.Waits()) return std::nullopt;
+  for (const Piece& issue : Issues) {
+    if (assembly.Read(issue) != assembly.Read(Issues[0])) return std::nullopt;
+  }
+  assembly.SetOut();
   KeplerEphemerisRecord record;
   catalogue::MakeUnknown(record);
-  ReadPages(assembly.Bytes(), Lnav, &record);
-  const bool agrees = (record.issueOfClock & 0xFF) == record.issueOfData &&
-                      assembly.Read(ThirdIssue) == record.issueOfData;
-  if (!agrees) return std::nullopt;
-  assembly.SetOut();
+  ReadPages<Lnav>(assembly.Bytes(), record);
   constexpr std::uint32_t WeekCounts = 604'800 / 6;
   record.transmissionTime =
       static_cast<double>((assembly.TimeOf(0) + WeekCounts - 1) % WeekCounts * 6);

@@ -6,8 +6,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <span>
+#include <iterator>
 #include <type_traits>
+#include <utility>
 
 #include "base/big_endian.h"
 
@@ -49,12 +50,36 @@ inline std::uint64_t PageBits(const std::uint8_t* bytes, std::uint32_t bit, std:
   return bits == 0 ? 0 : LoadBigEndian64(bytes + bit / 8) << (bit % 8) >> (64 - bits);
 }
 
-// Writes up to 32 bits where there are none yet. Up to eight bytes behind them are stored too.
-inline void PutPageBits(std::uint8_t* bytes, std::uint32_t bit, std::uint32_t bits,
-                        std::uint32_t value) {
-  std::uint8_t* const place = bytes + bit / 8;
-  StoreBigEndian64(LoadBigEndian64(place) | std::uint64_t{value} << (64 - bits - bit % 8), place);
-}
+// Writes runs of up to 32 bits one behind the other, and each byte once: a processor waits for
+// bytes that it is to load and has just stored in parts.
+class PageWriter {
+ public:
+  explicit PageWriter(std::uint8_t* bytes) : place_(bytes) {}
+
+  // Bits above the lowest `bits` are not there.
+  void Put(std::uint64_t value, std::uint32_t bits) {
+    const std::uint32_t free = 64 - held_;
+    if (bits < free) {
+      last_ = last_ << bits | value;
+      held_ += bits;
+      return;
+    }
+    const std::uint32_t left = bits - free;
+    StoreBigEndian64(last_ << free | value >> left, place_);
+    place_ += 8;
+    last_ = value;
+    held_ = left;
+  }
+  // Fills the last byte up, and up to seven bytes behind it.
+  void End() {
+    if (held_ != 0) StoreBigEndian64(last_ << (64 - held_), place_);
+  }
+
+ private:
+  std::uint8_t* place_;
+  std::uint64_t last_ = 0;  // those not stored yet are the lowest
+  std::uint32_t held_ = 0;
+};
 
 inline double PageValue(std::uint64_t raw, std::uint32_t bits, Wire wire) {
   const std::uint64_t sign = std::uint64_t{1} << (bits - 1);
@@ -64,24 +89,33 @@ inline double PageValue(std::uint64_t raw, std::uint32_t bits, Wire wire) {
              : -static_cast<double>(raw - sign);
 }
 
-inline void ReadPages(const std::uint8_t* bytes, std::span<const PageRow> rows, void* record) {
-  for (const PageRow& row : rows) {
-    std::uint64_t raw = 0;
-    std::uint32_t bits = 0;
-    for (const Piece& piece : row.pieces) {
-      raw = raw << piece.bits | PageBits(bytes, piece.bit, piece.bits);
-      bits += piece.bits;
-    }
-    auto* const member = static_cast<std::uint8_t*>(record) + row.member;
-    if (row.isDouble) {
-      const double value = PageValue(raw, bits, row.wire) * row.scale;
-      std::memcpy(member, &value, sizeof value);
-    } else {
-      const std::size_t skipped =
-          std::endian::native == std::endian::big ? sizeof raw - row.size : 0;
-      std::memcpy(member, reinterpret_cast<const std::uint8_t*>(&raw) + skipped, row.size);
-    }
+// One row, all of it known when this is compiled.
+template <const auto& Rows, std::size_t Index>
+void ReadOne(const std::uint8_t* bytes, std::uint8_t* record) {
+  constexpr PageRow Row = Rows[Index];
+  constexpr std::uint32_t Bits = Row.pieces[0].bits + Row.pieces[1].bits + Row.pieces[2].bits;
+  std::uint64_t raw = 0;
+  for (const Piece& piece : Row.pieces) {
+    if (piece.bits != 0) raw = raw << piece.bits | PageBits(bytes, piece.bit, piece.bits);
   }
+  if constexpr (Row.isDouble) {
+    const double value = PageValue(raw, Bits, Row.wire) * Row.scale;
+    std::memcpy(record + Row.member, &value, sizeof value);
+  } else {
+    constexpr std::size_t Skipped =
+        std::endian::native == std::endian::big ? sizeof raw - Row.size : 0;
+    std::memcpy(record + Row.member, reinterpret_cast<const std::uint8_t*>(&raw) + Skipped,
+                Row.size);
+  }
+}
+
+template <const auto& Rows, class Record>
+void ReadPages(const std::uint8_t* bytes, Record& record) {
+  auto* const members = reinterpret_cast<std::uint8_t*>(&record);
+  [&]<std::size_t... Index>(std::index_sequence<Index...>) {
+    (ReadOne<Rows, Index>(bytes, members), ...);
+  }
+  (std::make_index_sequence<std::size(Rows)>());
 }
 
 }  // namespace navframe::ephemeris

@@ -29,6 +29,8 @@ class KeptField {
 
 // One for plain sentences, one for those behind a tag block.
 struct NmeaContext {
+  explicit NmeaContext(WideGsvRecord& wideRecord) : wide(wideRecord) {}
+
   SatellitesInView satellites;
   WideView wide;           // where all are kept
   SeenSatellites seen;     // where they tell the system of a GSA

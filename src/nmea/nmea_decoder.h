@@ -39,8 +39,11 @@ class NmeaDecoder {
   RecordSink& sink_;
   DecoderClock& time_;
   const Dialect& dialect_;
-  std::array<NmeaContext, 2> contexts_;  // by tag flag
+  // By tag flag.
+  std::array<NmeaContext, 2> contexts_{NmeaContext(wideRecords_[0]), NmeaContext(wideRecords_[1])};
   EpochCounters counters_;
+  // Large and seldom in use: behind all else, so that their pages cost no memory.
+  WideGsvRecord wideRecords_[2];
 };
 
 }  // namespace navframe::nmea

@@ -13,6 +13,9 @@ namespace navframe::nmea {
 // Takes over a cycle from SatellitesInView where that would lose something of it.
 class WideView {
  public:
+  // `record` must outlive the view.
+  explicit WideView(WideGsvRecord& record) : record_(record) {}
+
   bool InUse() const { return inUse_; }
   void Reset() { inUse_ = false; }
 
@@ -67,7 +70,7 @@ class WideView {
   WideSatelliteInView* Entry(int systemId, int number);
   static void AddSignalTo(WideSatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
 
-  WideGsvRecord record_;  // written from when on it is in use
+  WideGsvRecord& record_;  // written from when on it is in use
   bool inUse_ = false;
 };
 

@@ -1,9 +1,9 @@
 // Recognises RTCM 3 frames.
 #pragma once
 
+#include "base/crc24q.h"
 #include "framing/framing.h"
 #include "framing/overlapping_checksum.h"
-#include "rtcm/crc24q.h"
 
 namespace navframe::rtcm {
 

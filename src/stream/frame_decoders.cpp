@@ -7,15 +7,22 @@
 
 namespace navframe::protocols {
 
-DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {
-  if (!decoders.dialect.standardRecords || !ubx::IsSubframe(frame)) {
-    return decoders.ubx.Decode(frame, length);
-  }
+// The subframes of a stream alone are worth a call.
+[[gnu::noinline]] static DecodeResult DecodeSubframe(FrameDecoders& decoders,
+                                                     const std::uint8_t* frame,
+                                                     std::uint32_t length) {
   const auto subframe = ubx::SubframeOf(frame, length);
   if (subframe) decoders.subframes.MakeRoom(*subframe);  // in front of what cannot be done twice
   const DecodeResult result = decoders.ubx.Decode(frame, length);
   if (subframe && result.reason == NavframeNoReason) decoders.subframes.Take(*subframe);
   return result;
+}
+
+DecodeResult DecodeUbx(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {
+  if (decoders.dialect.standardRecords && ubx::IsSubframe(frame)) {
+    return DecodeSubframe(decoders, frame, length);
+  }
+  return decoders.ubx.Decode(frame, length);
 }
 
 DecodeResult DecodeLog(FrameDecoders& decoders, const std::uint8_t* frame, std::uint32_t length) {

@@ -7,6 +7,7 @@
 #include "asciilog/ascii_log_decoder.h"
 #include "asciilog/line_framer.h"
 #include "base/characters.h"
+#include "base/crc24q.h"
 #include "base/dialect.h"
 #include "ephemeris/collector.h"
 #include "frame55aa/frame_decoder.h"
@@ -18,7 +19,6 @@
 #include "nmea/sentence_framer.h"
 #include "nmea/tag_block_framer.h"
 #include "output/record_sink.h"
-#include "rtcm/crc24q.h"
 #include "rtcm/rtcm_decoder.h"
 #include "rtcm/rtcm_framer.h"
 #include "time/decoder_clock.h"
@@ -33,7 +33,7 @@ namespace navframe {
 struct FramingState {
   nmea::SentenceSweep sweep;  // of the sentence at the head
   OverlappingChecksum<ubx::Fletcher> ubxChecksum;
-  OverlappingChecksum<rtcm::Crc24q> rtcmCrc;
+  OverlappingChecksum<Crc24q> rtcmCrc;
   std::uint64_t logSearched = 0;
 };
 
@@ -41,11 +41,11 @@ struct FrameDecoders {
   // `sink` must outlive the decoders.
   explicit FrameDecoders(RecordSink& sink, const Dialect& differences = LegacyDialect)
       : dialect(differences),
-        nmea{sink, time, dialect},
         ubx{sink, time, dialect},
         binary55Aa{sink},
         rtcm{sink, time, dialect},
         subframes{sink, time},
+        nmea{sink, time, dialect},
         asciiLog{sink, dialect} {}
   FrameDecoders(const FrameDecoders&) = delete;
   FrameDecoders& operator=(const FrameDecoders&) = delete;
@@ -53,11 +53,12 @@ struct FrameDecoders {
   const Dialect dialect;
   DecoderClock time{dialect.trueClock};
   FramingState framing;
-  nmea::NmeaDecoder nmea;
   ubx::UbxDecoder ubx;
   frame55aa::FrameDecoder binary55Aa;
   rtcm::RtcmDecoder rtcm;
   ephemeris::SubframeCollector subframes;
+  // Where these meet lies memory that streams seldom use.
+  nmea::NmeaDecoder nmea;
   asciilog::AsciiLogDecoder asciiLog;
 };
 

@@ -6,11 +6,6 @@ namespace navframe {
 
 namespace {
 
-// Not cleared: pages are touched as large records come.
-std::unique_ptr<std::uint64_t[]> MemoryOf(std::uint32_t size) {
-  return std::unique_ptr<std::uint64_t[]>(new std::uint64_t[(size + 7) / 8]);
-}
-
 // Streams have one of these. Taking turns with other lists, they would write their ends each time.
 constexpr std::uint32_t OfSharedRoom[] = {MsgIdObservations, MsgIdUbxRawMeasurements,
                                           MsgIdBinary55Aa};
@@ -28,16 +23,19 @@ SlotSink::SlotSink() {
     if (SharesRoom(id)) continue;
     largestList = std::max(largestList, catalogue::FindKind(id, SourceStream)->kind.size);
   }
-  shared_.memory = MemoryOf(largest);
-  lists_.memory = MemoryOf(largestList);
-  second_ = MemoryOf(largest);
+  const std::size_t words = (largest + 7) / 8;
+  const std::size_t listWords = (largestList + 7) / 8;
+  memory_.reset(new std::uint64_t[words + listWords + words]);  // not cleared: see Room
+  shared_.memory = memory_.get();
+  lists_.memory = shared_.memory + words;
+  second_ = lists_.memory + listWords;
 }
 
 RecurringRoom SlotSink::AllocateRecurring(std::uint32_t id, std::uint32_t size) {
   Room& room = SharesRoom(id) ? shared_ : lists_;
   room.written = room.kind == id ? std::min(room.written, size) : size;
   room.kind = id;
-  return {room.memory.get(), &room.written};
+  return {room.memory, &room.written};
 }
 
 void SlotSink::PushMessage(std::uint32_t id, void* payload, std::uint32_t /*size*/,

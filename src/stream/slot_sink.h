@@ -24,9 +24,9 @@ class SlotSink final : public RecordSink {
   SlotSink();
 
   void* Allocate(std::uint32_t size) override {
-    if (count_ != 0) return second_.get();
+    if (count_ != 0) return second_;
     shared_.written = std::max(shared_.written, size);
-    return shared_.memory.get();
+    return shared_.memory;
   }
   RecurringRoom AllocateRecurring(std::uint32_t id, std::uint32_t size) override;
   void PushMessage(std::uint32_t id, void* payload, std::uint32_t size,
@@ -39,19 +39,18 @@ class SlotSink final : public RecordSink {
   const SlotRecord& operator[](std::uint32_t index) const { return records_[index]; }
 
  private:
-  using Memory = std::unique_ptr<std::uint64_t[]>;
-
   // The end of a record stays where it is under shorter ones. So kinds share memory, and a page of
   // it is written as large records come.
   struct Room {
-    Memory memory;
+    std::uint64_t* memory = nullptr;
     std::uint32_t kind = 0;     // the last one of RecurringKinds
     std::uint32_t written = 0;  // bytes in front of what is left of it
   };
 
+  std::unique_ptr<std::uint64_t[]> memory_;  // of all rooms
   Room shared_;  // of first records, and of the kinds that recur in great numbers
   Room lists_;   // of all others of RecurringKinds
-  Memory second_;
+  std::uint64_t* second_;
   std::array<SlotRecord, 2> records_;
   std::uint32_t count_ = 0;
 };

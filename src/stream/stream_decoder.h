@@ -61,7 +61,6 @@ class StreamDecoder {
   LinearBuffer buffer_;
   SearchedProtocols protocols_;
   SlotSink sink_;
-  std::optional<FrameDecoders> decoders_;
   std::array<std::optional<StrongerFrames>, 2> stronger_;  // by rank
   std::optional<FramesBehind> behind_;
   std::uint64_t position_ = 0;  // of the buffer's first byte in the stream
@@ -75,6 +74,7 @@ class StreamDecoder {
   bool tagged_ = false;                            // the span is the sentence behind it
   std::uint32_t nextRecord_ = 0;                   // of the sink's
   NavframeStatistics statistics_{};
+  std::optional<FrameDecoders> decoders_;  // the last one, see there
 };
 
 }  // namespace navframe

@@ -9,7 +9,7 @@ namespace {
 // Bytes that are summed side by side: two registers of each sum with SSE2 and NEON.
 constexpr std::size_t Lanes = 32;
 // Below this the set-up costs more than it saves.
-constexpr std::size_t ShortestInLanes = 2 * Lanes;
+constexpr std::size_t ShortestInLanes = Lanes;
 
 FletcherSum ByteByByte(const std::uint8_t* bytes, std::size_t length) {
   FletcherSum sum;

@@ -1,15 +1,8 @@
 #include "ubx/subframes.h"
 
 #include "base/read_le.h"
-#include "ubx/frame.h"
 
 namespace navframe::ubx {
-
-bool IsSubframe(const std::uint8_t* frame) {
-  constexpr std::uint8_t Class = 0x02;
-  constexpr std::uint8_t Id = 0x13;
-  return frame[ClassOffset] == Class && frame[IdOffset] == Id;
-}
 
 std::optional<ephemeris::Subframe> SubframeOf(const std::uint8_t* frame, std::uint32_t length) {
   constexpr std::uint32_t WordsOffset = 8;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "rtcm/crc24q.h"
+#include "base/crc24q.h"
 #include "support/binary_frames.h"
 #include "ubx/fletcher.h"
 
@@ -28,7 +28,7 @@ struct Counted : Checksum {
 
 template <class Checksum>
 class OverlappingChecksums : public testing::Test {};
-using AllChecksums = testing::Types<rtcm::Crc24q, ubx::Fletcher>;
+using AllChecksums = testing::Types<Crc24q, ubx::Fletcher>;
 TYPED_TEST_SUITE(OverlappingChecksums, AllChecksums);
 
 // Any heads, long and short, close together and far apart. A byte is read once by a frame that

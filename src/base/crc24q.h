@@ -1,10 +1,10 @@
-// The checksum of RTCM 3 frames.
+// The checksum of RTCM 3 frames, and of what Galileo sends.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
-namespace navframe::rtcm {
+namespace navframe {
 
 // CRC-24Q: polynomial 0x1864CFB, initial value 0, not reflected, no final XOR. Has what
 // OverlappingChecksum wants.
@@ -17,4 +17,4 @@ struct Crc24q {
   static Value Between(Value from, Value until, std::size_t length);
 };
 
-}  // namespace navframe::rtcm
+}  // namespace navframe

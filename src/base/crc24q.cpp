@@ -1,10 +1,10 @@
-#include "rtcm/crc24q.h"
+#include "base/crc24q.h"
 
 #include <array>
 
-#include "rtcm/bits.h"
+#include "base/big_endian.h"
 
-namespace navframe::rtcm {
+namespace navframe {
 namespace {
 
 // The running value stands in the upper 24 bits of 32, so that its first byte is on top like the
@@ -92,4 +92,4 @@ Crc24q::Value Crc24q::Between(Value from, Value until, std::size_t length) {
   return (until ^ static_cast<std::uint32_t>(product) ^ rest >> 8) & 0xFFFFFF;
 }
 
-}  // namespace navframe::rtcm
+}  // namespace navframe
