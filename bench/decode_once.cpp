@@ -3,6 +3,7 @@
 // number of records.
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 #include "streams.h"
@@ -36,7 +37,9 @@ int main(int argc, char** argv) {
   const std::string_view wanted = argc > 1 ? argv[1] : "";
   const bool streams = argc > 2 && std::string_view(argv[2]) == "streams";
   const std::size_t chunk = argc > 3 ? std::strtoull(argv[3], nullptr, 10) : DefaultChunk;
-  for (const NamedStream& stream : MakeTraffic(Scale)) {
+  std::vector<NamedStream> traffic = MakeTraffic(Scale);
+  std::ranges::move(MakeEphemerides(Scale), std::back_inserter(traffic));
+  for (const NamedStream& stream : traffic) {
     if (stream.name != wanted || chunk == 0) continue;
     const std::uint64_t records =
         streams ? WarmUpAndDecode(stream.bytes, chunk) : WarmUpAndDecode(stream.bytes);

@@ -1,4 +1,5 @@
-// What streams hold of memory once damaged traffic of all protocols went through each of them.
+// What streams hold of memory once damaged traffic of all protocols, and some of every kind of
+// record, went through each of them.
 // many_streams [STREAMS [MEGABYTES]] fails with 1 when that is more than 200 KiB a stream, or when
 // bytes that never become a frame make it more.
 #include <cstdio>
@@ -6,6 +7,8 @@
 #include <string_view>
 
 #include "damage.h"
+#include "generator/ephemeris_stream.h"
+#include "generator/mixed_stream.h"
 #include "resident.h"
 
 namespace navframe::bench {
@@ -52,7 +55,10 @@ int main(int argc, char** argv) {
   }
   sample::Drive drive;
   sample::Noise noise(1);
-  const Bytes traffic = MakeDamagedTraffic(drive, 60, noise).bytes;
+  Bytes traffic = MakeDamagedTraffic(drive, 60, noise).bytes;
+  for (const Bytes& further : {sample::MixedStream(), sample::UbxSubframeStream(20)}) {
+    sample::Append(traffic, further);
+  }
   const Bytes nothing = WithoutFrames(noise);
   const long before = ResidentKiB();
   std::vector<StreamHandle> streams(count);

@@ -143,6 +143,7 @@ int main(int argc, char** argv) {
       "| stream | exports MB/s | streams MB/s | to exports | 64 KiB to 4 KiB | 1 MiB |\n"
       "| --- | --: | --: | --: | --: | --: |\n");
   for (const NamedStream& stream : Traffic()) CompareWithExports(stream, rounds);
+  for (const NamedStream& stream : MakeEphemerides(1)) CompareWithExports(stream, rounds);
   for (const NamedStream& stream : Noises()) CompareWithExports(stream, rounds);
   ScaleOverThreads(Traffic().back().bytes, std::max(rounds / 6, 1));
 }

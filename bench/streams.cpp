@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "generator/ephemeris_stream.h"
 #include "generator/nmea_stream.h"
 #include "generator/rtcm_stream.h"
 #include "generator/ubx_stream.h"
@@ -65,6 +66,15 @@ std::vector<NamedStream> MakeTraffic(int scale) {
       {"55aa", Stream55Aa(2000 / scale)},
       // nmea, rtcm-msm7 and ubx: 31, 24 and 45 % of the bytes.
       {"mixed", Mixed(150 / scale)},
+  };
+}
+
+std::vector<NamedStream> MakeEphemerides(int scale) {
+  return {
+      // 1019, 1020, 1042, 1044, 1045 and 1046 of eight satellites, with other contents each time.
+      {"rtcm-eph", RtcmEphemerisStream(1000 / scale)},
+      // Parts of the navigation messages of 40 satellites, of another issue every eight minutes.
+      {"ubx-sfrbx", UbxSubframeStream(200 / scale)},
   };
 }
 

@@ -17,6 +17,9 @@ struct NamedStream {
 std::vector<NamedStream> MakeTraffic(int scale);
 const std::vector<NamedStream>& Traffic();
 
+// The same of ephemerides, of which the exports make no records.
+std::vector<NamedStream> MakeEphemerides(int scale);
+
 // Bytes that start nothing, and bytes that look like starts.
 const std::vector<NamedStream>& Noises();
 
