@@ -5,8 +5,10 @@
 #include <string_view>
 
 #include "fuzz.h"
+#include "generator/ephemeris_stream.h"
 #include "generator/mixed_stream.h"
 #include "generator/rtcm_stream.h"
+#include "generator/ubx_stream.h"
 #include "navframe/catalogue.h"
 
 namespace {
@@ -79,6 +81,52 @@ void WriteStreams(Seeds& seeds) {
   seeds.Write("spans_fuzz", nested);
 }
 
+// Of UBX class and id, the length of a payload, and where in it which version stands.
+struct UbxSeed {
+  std::uint16_t message;
+  std::size_t length;
+  std::size_t versionOffset = 0;
+  std::uint8_t version = 0;
+};
+constexpr UbxSeed UbxSeeds[] = {
+    {0x0101, 20},           {0x0102, 28},       {0x0103, 16},       {0x0104, 18},
+    {0x0106, 52},           {0x0107, 92},       {0x0111, 20},       {0x0112, 36},
+    {0x0113, 28},           {0x0114, 36},       {0x0120, 16},       {0x0121, 20},
+    {0x0122, 20},           {0x0126, 24, 4, 0}, {0x0130, 8 + 36},   {0x0135, 8 + 36, 4, 1},
+    {0x0136, 64, 4, 0},     {0x013B, 40},       {0x013C, 40, 0, 0}, {0x013C, 64, 0, 1},
+    {0x0143, 8 + 32},       {0x0161, 4},        {0x0162, 52, 0, 1}, {0x0214, 44 + 48, 0, 1},
+    {0x0232, 8, 0, 2},      {0x0402, 20},       {0x0501, 2},        {0x0A04, 40 + 60},
+    {0x0D01, 16},           {0x0D03, 28},       {0x1002, 8 + 8},    {0x1003, 4 + 16},
+    {0x1010, 16 + 8, 4, 2}, {0x1014, 16, 4, 1}, {0x1015, 36, 0, 1}};
+constexpr unsigned RtcmSeeds[] = {1001, 1002, 1003, 1004, 1006, 1007, 1008, 1009, 1010, 1011, 1012,
+                                  1029, 1033, 1041, 1076, 1085, 1096, 1106, 1117, 1126, 1137, 1230};
+
+// Messages that the sample of all kinds has not, of small numbers.
+void WriteFurtherMessages(Seeds& seeds) {
+  const Bytes ephemerides = sample::RtcmEphemerisStream(1);
+  seeds.Stream(Bytes(ephemerides.begin(), ephemerides.begin() + 1200));
+  for (int satellite = 1; satellite <= 2; ++satellite) {
+    seeds.Stream(sample::UbxSubframes(satellite, 1));
+  }
+  sample::Noise noise(1);
+  Bytes ubx;
+  for (const UbxSeed& seed : UbxSeeds) {
+    Bytes payload(seed.length, 1);
+    payload[seed.versionOffset] = seed.version;
+    sample::Append(ubx, sample::UbxFrame(static_cast<std::uint8_t>(seed.message >> 8),
+                                         static_cast<std::uint8_t>(seed.message & 0xFF), payload));
+  }
+  seeds.Stream(ubx);
+  Bytes rtcm;
+  for (const unsigned number : RtcmSeeds) {
+    sample::BitWriter bits;
+    bits.Put(number, 12);
+    for (int i = 0; i < 15; ++i) bits.Put(noise.Below(1U << 16) & noise.Below(1U << 16), 16);
+    sample::Append(rtcm, sample::RtcmFrame(bits.Written()));
+  }
+  seeds.Stream(rtcm);
+}
+
 constexpr std::string_view Logs[] = {
     "BESTPOSA;SOL_COMPUTED,NARROW_INT,51.11,-114.03,1063.8,-16.25,WGS84,1.25,1.5,2.1,\"A1\",0.5,"
     "0.75,12,11,10,9,8,1f,0A,fF",
@@ -138,6 +186,7 @@ int main(int argc, char** argv) {
   }
   Seeds seeds(argv[1]);
   WriteStreams(seeds);
+  WriteFurtherMessages(seeds);
   WriteLogs(seeds);
   for (unsigned id = 0; id < 84; ++id) {
     for (const std::uint8_t fill : Bytes{0x00, 0x41, 0xFF}) {
