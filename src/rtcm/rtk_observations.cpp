@@ -47,17 +47,18 @@ using enum Wire;
 #define H(...) NAVFRAME_FIELD(RawHead, __VA_ARGS__)
 #define S(...) NAVFRAME_FIELD(RawSatellite, __VA_ARGS__)
 
-template <std::uint8_t EpochBits>
-constexpr auto Head = std::to_array<FieldRow>({
-    H(station, 12),
-    H(epoch, EpochBits),
-    H(more, 1),
-    H(satellites, 5),
-    H(divergenceFree, 1),
-    H(smoothing, 3),
-});
-constexpr auto GpsHead = Head<30>;
-constexpr auto GlonassHead = Head<27>;
+constexpr auto HeadOf(const FieldRow& epoch) {
+  return std::to_array<FieldRow>({
+      H(station, 12),
+      epoch,
+      H(more, 1),
+      H(satellites, 5),
+      H(divergenceFree, 1),
+      H(smoothing, 3),
+  });
+}
+constexpr auto GpsHead = HeadOf(H(epoch, 30));
+constexpr auto GlonassHead = HeadOf(H(epoch, 27));
 static_assert(BitLength(GpsHead) == 52 && BitLength(GlonassHead) == 49);
 
 constexpr auto Gps1001 = std::to_array<FieldRow>({
