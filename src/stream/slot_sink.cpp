@@ -6,11 +6,9 @@ namespace navframe {
 
 namespace {
 
-// Streams have one of these. Taking turns with other lists, they would write their ends each time.
-constexpr std::uint32_t OfSharedRoom[] = {MsgIdObservations, MsgIdUbxRawMeasurements,
-                                          MsgIdBinary55Aa};
-bool SharesRoom(std::uint32_t id) {
-  return std::ranges::find(OfSharedRoom, id) != std::end(OfSharedRoom);
+// A stream has one of these. Taking turns with other lists, it would write its end each time.
+constexpr bool SharesRoom(std::uint32_t id) {
+  return id == MsgIdBinary55Aa || id == MsgIdObservations || id == MsgIdUbxRawMeasurements;
 }
 
 }  // namespace
