@@ -14,8 +14,8 @@ asks for. Types:
     unit X                  always this
     empty                   nothing
 
-Any field may be empty. Sentences that a kind of more room is made of (RMC-WIDE, ...) are not made
-here but for GSV.
+Any field may be empty, but of a line that ends with "always". Sentences that a kind of more room is
+made of (RMC-WIDE, ...) are those of fields_nmea_further, but for GSV.
 """
 
 from wire import Clock, Message, Scaled, Single, nmea_sentence
@@ -99,6 +99,9 @@ def _field(rng, expected, words):
     """The fields that a line of a table stands for; their values go to `expected`."""
     if words == ["empty"]:
         return [""]
+    while words[-1] == "always":
+        if all(fields := _field(rng, expected, words[:-1])):
+            return fields
     kind, member, words = words[0], words[1], words[2:]
     if kind == "time":
         return _time(rng, expected, [member] if member != "utc" else [])
@@ -409,6 +412,9 @@ def _narrow_view(rng):
 def _wide_view(rng):
     """With one satellite below the horizon behind the others, that no narrow record has."""
     data, expected = _view(999, 15, (-90, 90))(rng)
+    for entry in expected["satellites"]:
+        for signal in entry["signals"]:
+            signal["cn0"] = None if signal["cn0"] is None else 100 * signal["cn0"]
     below = nmea_sentence("GLGSV,1,1,01,1000,-45,123,,1")
     end = data.rindex(b"$")
     expected["satellites"].append({"number": 1000, "systemId": 2, "azimuth": 123, "elevation": -45,

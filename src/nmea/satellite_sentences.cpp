@@ -1,5 +1,6 @@
 #include "nmea/satellite_sentences.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <span>
@@ -65,9 +66,9 @@ struct CarrierToNoise {
   CarrierToNoise cn0;
   if (!fields.Take(index, ToDouble(fields[index]), value)) return cn0;
   cn0.whole = static_cast<std::uint8_t>(Truncated(value));
-  const double hundredths = (value - cn0.whole) * 100 + 0.5;
-  if (fields.HasDialect().wholeGsv && hundredths >= 1 && hundredths < 100) {
-    cn0.hundredths = static_cast<std::uint8_t>(hundredths);
+  const double fraction = value - cn0.whole;
+  if (fields.HasDialect().wholeGsv && fraction > 0 && fraction < 1) {
+    cn0.hundredths = static_cast<std::uint8_t>(std::min(fraction * 100 + 0.5, 99.0));
   }
   return cn0;
 }
