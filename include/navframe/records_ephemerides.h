@@ -28,7 +28,7 @@ enum {
   EphemerisIdNavIc = 0x10325
 };
 
-/* Values EphemerisSystem: 1 GPS, 3 Galileo, 4 BeiDou, 5 QZSS, 7 NavIC. */
+/* Values EphemerisSystem: 1 GPS, 3 Galileo, 4 BeiDou, 5 QZSS, 6 NavIC. */
 
 /* Values EphemerisMessage: 1 LNAV, 2 F/NAV, 3 I/NAV, 4 D1, 5 D2, 6 NavIC SPS. */
 

@@ -60,7 +60,7 @@ System = namedtuple("System", "quantities number first_week satellites")
 SYSTEMS = {
     "GPS": System(GPS, 1, 0, range(1, 33)), "QZSS": System(QZSS, 5, 0, range(1, 11)),
     "Galileo": System(GALILEO, 3, 1024, range(1, 37)),
-    "BeiDou": System(BEIDOU, 4, 1356, range(1, 64)), "NavIC": System(NAVIC, 7, 1024, range(1, 15))}
+    "BeiDou": System(BEIDOU, 4, 1356, range(1, 64)), "NavIC": System(NAVIC, 6, 1024, range(1, 15))}
 LNAV, FNAV, INAV, D1, D2, NAVIC_SPS = 1, 2, 3, 4, 5, 6
 GEOS = {1, 2, 3, 4, 5, 59, 60, 61, 62, 63}
 

@@ -33,7 +33,7 @@ inline constexpr NavframeValueName ObservedSystemValues[] = {{1, "GPS"}, {2, "GL
 
 inline constexpr NavframeValueName SmoothingIntervalValues[] = {{0, "none"}, {1, "below 30 s"}, {2, "30 to 60 s"}, {3, "1 to 2 min"}, {4, "2 to 4 min"}, {5, "4 to 8 min"}, {6, "above 8 min"}, {7, "unlimited"},};
 
-inline constexpr NavframeValueName EphemerisSystemValues[] = {{1, "GPS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"}, {7, "NavIC"},};
+inline constexpr NavframeValueName EphemerisSystemValues[] = {{1, "GPS"}, {3, "Galileo"}, {4, "BeiDou"}, {5, "QZSS"}, {6, "NavIC"},};
 
 inline constexpr NavframeValueName EphemerisMessageValues[] = {{1, "LNAV"}, {2, "F/NAV"}, {3, "I/NAV"}, {4, "D1"}, {5, "D2"}, {6, "NavIC SPS"},};
 

@@ -11,7 +11,7 @@ namespace navframe::ephemeris {
 inline constexpr double Semicircle = 3.1415926535898;  // rad
 
 // Values EphemerisSystem and EphemerisMessage of navframe/records_ephemerides.h.
-enum class System : std::uint8_t { Gps = 1, Galileo = 3, BeiDou = 4, Qzss = 5, NavIc = 7 };
+enum class System : std::uint8_t { Gps = 1, Galileo = 3, BeiDou = 4, Qzss = 5, NavIc = 6 };
 enum class Message : std::uint8_t { Lnav = 1, Fnav, Inav, D1, D2, NavIcSps };
 
 // The message of a BeiDou satellite, by its number: those above the equator send D2.

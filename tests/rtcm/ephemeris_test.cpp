@@ -52,7 +52,7 @@ const EphemerisRow Rows[] = {
      "groupDelay[0]=-1.0710209608078003e-08"},
     {"4113a862aa5826a9974368903d646c2d6447d433985b11bb37b54c395077616364568c43961dfc388c3d5df9"
      "725e06e22dfff3f4ecb1dcec40db7aca58",
-     "tow=302418000 week=2325 system=7 satellite=14 rtcmMessage=1041 navigationMessage=6 "
+     "tow=302418000 week=2325 system=6 satellite=14 rtcmMessage=1041 navigationMessage=6 "
      "accuracyIndex=0 issueOfData=214 broadcastWeek=646 toeWeek=2694 tocWeek=2693 health=3 "
      "accuracy=2 toc=893504 af0=0.0003253668546676636 af1=-2.9497186915250495e-09 "
      "af2=2.581268532253489e-15 toe=276832 sqrtSemiMajorAxis=1963.7467994689941 "
