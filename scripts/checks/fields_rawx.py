@@ -3,7 +3,7 @@
 import math
 import struct
 
-from fields_ubx import draw, draw_float
+from ubx_tables import draw, draw_float
 from wire import Message, Scaled, ubx_frame
 
 LIGHT_SPEED = 299792458.0
