@@ -90,8 +90,8 @@ typedef struct KeplerEphemerisRecord {
 } KeplerEphemerisRecord;
 
 /* The ephemeris and clock of one GLONASS satellite, as a state vector in PZ-90: message 1020; and
- * RXM-SFRBX, with the last of strings 1 to 5 of a frame, another set than before. Of satelliteType 0
- * p, lnThird, deltaTauN, p4, accuracyIndex, nt, n4, tauGps and lnFifth are unknown. */
+ * RXM-SFRBX, with the last of strings 1 to 5 of a frame, another set than before. Of satelliteType
+ * 0 p, lnThird, deltaTauN, p4, accuracyIndex, nt, n4, tauGps and lnFifth are unknown. */
 typedef struct GlonassEphemerisRecord {
   uint32_t tow;          /* [ms] GPS time of week of the stream when the message came */
   uint16_t week;         /* GPS week of the stream when the message came */

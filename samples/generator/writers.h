@@ -40,13 +40,14 @@ class LittleEndian {
   Bytes bytes_;
 };
 
-// Bit fields, the most significant bit first.
+// Bit fields, the most significant bit first; of more than 64 bits the first ones are 0.
 class BitWriter {
  public:
   BitWriter& Put(std::uint64_t value, int width) {
     for (int bit = width - 1; bit >= 0; --bit) {
       if (length_ % 8 == 0) bytes_.push_back(0);
-      bytes_.back() |= static_cast<std::uint8_t>((value >> bit & 1) << (7 - length_ % 8));
+      const std::uint64_t one = bit < 64 ? value >> bit & 1 : 0;
+      bytes_.back() |= static_cast<std::uint8_t>(one << (7 - length_ % 8));
       ++length_;
     }
     return *this;
