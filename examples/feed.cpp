@@ -10,7 +10,7 @@
 
 namespace {
 
-// "GPTXT", "01-03" of UBX, "1230" of RTCM 3.
+// "GPWPL", "0A-38" of UBX, "1057" of RTCM 3.
 std::string Message(const navframe::Item& item) {
   if (!item.address().empty()) return std::string(item.address());
   if (item.protocol() != NavframeUbx) return std::to_string(item.message());
