@@ -2,6 +2,7 @@
 // the kind.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -92,7 +93,7 @@ inline void ReadSignals(const MsmCells& cells, MsmSignals& signals) {
 class CellPlace {
  public:
   explicit CellPlace(std::uint32_t signalCount)
-      : signalCount_(signalCount), reciprocal_(65536 / signalCount + 1) {}
+      : signalCount_(signalCount), reciprocal_(65536 / std::max(signalCount, 1U) + 1) {}
   std::uint32_t Satellite(std::uint32_t place) const { return place * reciprocal_ >> 16; }
   std::uint32_t Signal(std::uint32_t place, std::uint32_t satellite) const {
     return place - satellite * signalCount_;

@@ -7,7 +7,6 @@
 namespace navframe::rtcm {
 namespace {
 
-using observations::Signal;
 using observations::System;
 
 constexpr MsmLayout AsSent(MsmLayout layout) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <span>
 
 #include "base/read_le.h"
@@ -72,8 +73,9 @@ constexpr auto Cn0s = [] {
 
 // The epoch in ms of the week; nothing of one when the time of week is none.
 std::uint32_t EpochOf(double tow) {
-  return tow >= 0 && tow < WeekMs / 1000 ? static_cast<std::uint32_t>(tow * 1000 + 0.5)
-                                         : Unknown<std::uint32_t>();
+  constexpr double WeekSeconds = WeekMs / 1000.0;
+  return tow >= 0 && tow < WeekSeconds ? static_cast<std::uint32_t>(std::lround(tow * 1000))
+                                       : Unknown<std::uint32_t>();
 }
 
 void WriteHead(const Payload& payload, std::uint32_t epoch, ObservationsRecord& record) {
