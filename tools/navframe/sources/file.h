@@ -1,0 +1,14 @@
+// Files and standard input, compressed or not.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "sources/source.h"
+
+namespace navframe::tool {
+
+// "-" is standard input. What begins as gzip or zstd do is decompressed.
+std::unique_ptr<Source> OpenFile(const std::string& name);
+
+}  // namespace navframe::tool

@@ -1,0 +1,53 @@
+#include "fault.h"
+#include "sources/decompressor.h"
+#include "sources/source.h"
+
+#ifdef NAVFRAME_WITH_ZSTD
+#include <zstd.h>
+
+#include <new>
+#endif
+
+namespace navframe::tool {
+
+#ifdef NAVFRAME_WITH_ZSTD
+namespace {
+
+// Frames one behind the other are one content.
+class Zstd : public Decompressor {
+ public:
+  Zstd() : stream_(ZSTD_createDStream()) {
+    if (stream_ == nullptr) throw std::bad_alloc();
+  }
+  ~Zstd() override { ZSTD_freeDStream(stream_); }
+
+  const char* Name() const override { return "zstd"; }
+  bool IsComplete() const override { return betweenFrames_; }
+
+  Step Take(std::span<const std::uint8_t> input, std::span<std::uint8_t> output) override {
+    if (betweenFrames_ && input.empty()) return {};
+    ZSTD_inBuffer from = {input.data(), input.size(), 0};
+    ZSTD_outBuffer to = {output.data(), output.size(), 0};
+    const std::size_t answer = ZSTD_decompressStream(stream_, &to, &from);
+    if (ZSTD_isError(answer) != 0) {
+      return {from.pos, to.pos, std::string("are damaged: ") + ZSTD_getErrorName(answer)};
+    }
+    betweenFrames_ = answer == 0;
+    return {from.pos, to.pos, {}};
+  }
+
+ private:
+  ZSTD_DStream* stream_;
+  bool betweenFrames_ = true;
+};
+
+}  // namespace
+
+std::unique_ptr<Decompressor> MakeZstd() { return std::make_unique<Zstd>(); }
+#else
+std::unique_ptr<Decompressor> MakeZstd() {
+  throw Fault("zstd is not read: navframe was built without libzstd");
+}
+#endif
+
+}  // namespace navframe::tool
