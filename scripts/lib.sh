@@ -14,11 +14,17 @@ build_packages=(
   "libbenchmark-dev:header benchmark/benchmark.h"
   "libcli11-dev:header CLI/CLI.hpp"
   "rapidjson-dev:header rapidjson/document.h"
+  "zlib1g-dev:header zlib.h"
+  "libzstd-dev:header zstd.h"
+  "pkg-config:command pkg-config"
 )
+# What scripts/run shows of the sample, and the README of that.
+sample_options="--first 5 --kinds GGA,RMC,GSV,NAV-PVT,OBSERVATIONS,STATION-ARP --fields fixQuality,fixType,latitude,longitude,altitude,height,speedKnots,course,satellite,number,elevation,code,pseudorange,carrierPhase,cn0,x,y,z"
+readonly sample_options
+
 ci_packages=(
   "clang-format:command clang-format"
   "clang-tidy:command clang-tidy"
-  "pkg-config:command pkg-config"
   "valgrind:command valgrind"
   "clang:command clang++"
   "libclang-rt-dev:fuzzer_runtime"

@@ -1,5 +1,13 @@
 # cmake -DTOOL=... -DROOT=... -DFOLDER=... -P mixed.cmake
-# In chunks of any size the tool prints the golden file.
+# In chunks of any size the tool prints the golden file; and what scripts/run shows.
+file(STRINGS "${ROOT}/scripts/lib.sh" first REGEX "^sample_options=")
+string(REGEX REPLACE "^sample_options=\"(.*)\"$" "\\1" first "${first}")
+separate_arguments(first)
+execute_process(COMMAND "${TOOL}" "${ROOT}/samples/mixed.bin" ${first}
+                OUTPUT_FILE "${FOLDER}/first.txt" COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${FOLDER}/first.txt"
+                        "${ROOT}/samples/first.txt" COMMAND_ERROR_IS_FATAL ANY)
+
 set(golden "${ROOT}/samples/mixed.txt")
 foreach(chunk 65536 1 37)
   set(printed "${FOLDER}/mixed-${chunk}.txt")

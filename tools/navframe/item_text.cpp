@@ -15,9 +15,9 @@ char* PutDigits(char* to, std::uint32_t value, int digits) {
 
 }  // namespace
 
-void AppendTime(const NavframeTime& time, std::string& out) {
+bool AppendTime(const NavframeTime& time, std::string& out) {
   constexpr std::uint16_t UnknownYear = 0xFFFF;
-  if (time.tow == 0xFFFFFFFF || time.utc.year == UnknownYear) return;
+  if (time.tow == 0xFFFFFFFF || time.utc.year == UnknownYear) return false;
   std::array<char, 24> text;
   char* to = PutDigits(text.data(), time.utc.year, 4);
   const auto put = [&to](char before, std::uint32_t value, int digits) {
@@ -32,6 +32,7 @@ void AppendTime(const NavframeTime& time, std::string& out) {
   put('.', time.utc.millisecond, 3);
   *to++ = 'Z';
   out.append(text.data(), to);
+  return true;
 }
 
 std::string MessageOf(const NavframeItem& item) {

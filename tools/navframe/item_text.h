@@ -7,8 +7,9 @@
 
 namespace navframe::tool {
 
-// "2026-03-14T12:00:00.000Z", the time of the stream; empty before it has a date.
-void AppendTime(const NavframeTime& time, std::string& out);
+// "2026-03-14T12:00:00.000Z", the time of the stream. False, and nothing appended, before it
+// has a date.
+bool AppendTime(const NavframeTime& time, std::string& out);
 
 // "UBX 01-07", "RTCM 3 4074-11", "NMEA GPTXT".
 std::string MessageOf(const NavframeItem& item);

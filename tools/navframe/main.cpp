@@ -1,5 +1,8 @@
 // The command line.
+#include <fcntl.h>
+
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <map>
@@ -8,7 +11,11 @@
 
 #include "commands/decode.h"
 #include "commands/kinds.h"
+#include "commands/manual.h"
+#include "fault.h"
 #include "kind_names.h"
+#include "outputs/output_file.h"
+#include "record_shape.h"
 
 namespace navframe::tool {
 namespace {
@@ -18,20 +25,6 @@ const std::map<std::string, std::uint32_t> Protocols = {
     {"rtcm", NavframeRtcm3}, {"ubx", NavframeUbx},
     {"55aa", Navframe55Aa},  {"log", NavframeAsciiLog},
 };
-
-constexpr const char* Examples = R"(Examples:
-  navframe drive.ubx                                 every record, lines for people
-  navframe drive.ubx.gz --kinds fix --every 30s      a position every half minute
-  navframe base.rtcm3 --format json | jq .record     one object a record
-  navframe drive.ubx --format csv --output tables    a table a kind
-  navframe drive.ubx --kinds observations --sat G05,E
-                                                     one satellite of GPS, all of Galileo
-  navframe drive.ubx --format raw --from +60 --to +120 --output minute.ubx
-                                                     the frames of the second minute
-  navframe kinds observations                        what stands in these records
-
-Exit status: 0 decoded, 1 the input could not be read or the output not written, 2 wrong usage,
-3 nothing was recognised.)";
 
 // What the options of `decode` are parsed into, before their names are looked up.
 struct Texts {
@@ -75,11 +68,11 @@ void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
       ->delimiter(',')
       ->allow_extra_args(false)
       ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
-  AddList(app, "--sat,--system", texts.satellites, "Satellites (G05) or systems (E) alone",
-          "NAME[,NAME...]")
+  AddList(app, "--sat,--system", texts.satellites,
+          "Satellites (G05) or systems (E) alone, of what tells any", "NAME[,NAME...]")
       ->check(CheckSatellite, "SATELLITE");
-  AddList(app, "--signal", options.filters.signals, "Signals alone, as RINEX calls them: 1C",
-          "CODE[,CODE...]");
+  AddList(app, "--signal", options.filters.signals,
+          "Observations of these signals alone, as RINEX calls them: 1C", "CODE[,CODE...]");
   app.add_option("--from", texts.from, "What is of this time or later")
       ->option_text("TIME")
       ->check(CheckMoment, "TIME");
@@ -92,7 +85,8 @@ void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
           std::map<std::string, double>{{"ms", 0.001}, {"s", 1}, {"min", 60}, {"h", 3600}}))
       ->check(CLI::PositiveNumber);
   app.add_option("--first", options.first, "That many records alone")->option_text("N");
-  AddList(app, "--fields", options.sink.fields, "Members that are shown", "NAME[,NAME...]");
+  AddList(app, "--fields", options.sink.fields,
+          "Members that are shown; kinds without any of them are not", "NAME[,NAME...]");
 }
 
 void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
@@ -101,16 +95,49 @@ void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
   app.add_option("--format", texts.form, "text, json, csv or raw")
       ->option_text("FORM")
       ->check(CLI::IsMember(forms));
-  app.add_option("--output,-o", options.sink.target,
+  app.add_option("--output,-o", options.target,
                  "A file, which appears when it is complete; a folder for csv")
       ->option_text("PATH");
+  app.add_flag("--legacy", options.sink.legacy,
+               "Records and text of the exports of navframe.h, oddities included");
   app.add_flag("--undecoded", options.sink.withParts,
                "Frames without a record, and bytes outside of frames, too");
-  app.add_option("--chunk", options.chunk, "Bytes read at once")
-      ->check(CLI::Range(std::size_t{1}, std::size_t{1} << 23))
-      ->capture_default_str();
+  app.add_option("--jobs", options.jobs, "Files decoded side by side; as many as there are cores")
+      ->option_text("N")
+      ->check(CLI::Range(1U, 1024U));
+  app.add_option("--chunk", options.chunk, "Bytes read at once: 65536")
+      ->option_text("N")
+      ->check(CLI::Range(std::size_t{1}, std::size_t{1} << 23));
   app.add_flag("--stats", options.stats, "Print counts and speed to standard error at the end");
   app.add_flag("--quiet", options.quiet, "Do not report malformed sentences");
+}
+
+// `navframe SOURCE...` and `navframe decode SOURCE...` take the same.
+void AddDecode(CLI::App& app, DecodeOptions& options, Texts& texts) {
+  app.add_option("SOURCE", options.sources, "Files, compressed or not; - for standard input");
+  app.add_flag("--recursive,-r", options.recursive, "All files below the folders that are named");
+  AddFilters(app, options, texts);
+  AddOutput(app, options, texts);
+}
+
+// The kinds that are wanted and have one of the chosen fields; a field that none has is no name.
+void ChooseFields(DecodeOptions& options) {
+  if (options.sink.fields.empty()) return;
+  std::vector<const NavframeKind*> kinds = options.kinds;
+  for (std::uint32_t i = 0; options.kinds.empty() && i < navframe_kind_count(); ++i) {
+    kinds.push_back(navframe_kind_at(i));
+  }
+  const auto has = [](const NavframeKind* kind, const std::vector<std::string>& fields) {
+    return !ShapeOf(*kind->record, fields).IsEmpty();
+  };
+  for (const std::string& field : options.sink.fields) {
+    if (std::ranges::none_of(kinds, [&](const auto* kind) { return has(kind, {field}); })) {
+      throw CLI::ValidationError("--fields",
+                                 "no member is called " + field + ", see navframe kinds KIND");
+    }
+  }
+  std::erase_if(kinds, [&](const auto* kind) { return !has(kind, options.sink.fields); });
+  options.kinds = kinds;
 }
 
 void LookUp(const Texts& texts, DecodeOptions& options) {
@@ -128,31 +155,67 @@ void LookUp(const Texts& texts, DecodeOptions& options) {
   for (const FormRow& row : Forms) {
     if (texts.form == row.name) options.form = &row;
   }
-  options.sink.withSource = options.sources.size() > 1;
+  options.sink.bySome = !options.kinds.empty() || options.filters.LookInside();
+  ChooseFields(options);
+}
+
+// What the tool says of itself.
+ExitStatus Say(const std::string& text) {
+  try {
+    OutputFile output("-");
+    output.Buffer() = text;
+    output.Close();
+  } catch (const ReaderLeft&) {
+    return Success;
+  } catch (const WriteFault& fault) {
+    std::fprintf(stderr, "navframe: %s\n", fault.what());
+    return Failure;
+  }
+  return Success;
+}
+
+// What is opened later must not take the place of a standard stream that is closed.
+void OccupyStandardStreams() {
+  for (int stream = 0; stream <= 2; ++stream) {
+    if (fcntl(stream, F_GETFD) < 0) open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
+  }
 }
 
 int Main(int argc, char** argv) {
+  OccupyStandardStreams();
   std::signal(SIGPIPE, SIG_IGN);  // a closed output shows as a failed write
 
-  CLI::App app("Decodes the output of GNSS receivers.", "navframe");
-  app.footer(Examples);
+  CLI::App app("Decodes what GNSS receivers send: NMEA, RTCM 3, UBX and more.", "navframe");
+  app.footer(ExamplesText());
   app.set_version_flag("--version", "navframe " NAVFRAME_VERSION);
   DecodeOptions options;
   Texts texts;
-  app.add_option("SOURCE", options.sources, "Files, compressed or not; - for standard input");
-  AddFilters(app, options, texts);
-  AddOutput(app, options, texts);
+  AddDecode(app, options, texts);
+  bool wantsManual = false;
+  bool wantsCompletion = false;
+  app.add_flag("--man", wantsManual)->group("");
+  app.add_flag("--completion", wantsCompletion)->group("");
+  CLI::App* const decode =
+      app.add_subcommand("decode", "Decode sources; navframe SOURCE... is short for it");
+  decode->footer(ExamplesText());
+  AddDecode(*decode, options, texts);
   std::vector<std::string> kinds;
   CLI::App* const list = app.add_subcommand("kinds", "List kinds of records, or their members");
   list->add_option("KIND", kinds, "Names, numbers or groups")->check(CheckKind, "KIND");
   try {
     app.parse(argc, argv);
+    LookUp(texts, options);
+  } catch (const CLI::CallForHelp&) {
+    return Say(app.help());
+  } catch (const CLI::CallForVersion&) {
+    return Say(app.version() + "\n");
   } catch (const CLI::ParseError& error) {
-    if (app.exit(error) != 0) return WrongUsage;
-    return std::fflush(stdout) == 0 ? Success : Failure;
+    app.exit(error);
+    return WrongUsage;
   }
+  if (wantsManual) return Say(ManualPage(app));
+  if (wantsCompletion) return Say(BashCompletion(app));
   if (list->parsed()) return ListKinds(kinds);
-  LookUp(texts, options);
   return Decode(options);
 }
 

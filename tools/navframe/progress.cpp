@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 
@@ -18,13 +19,21 @@ constexpr int Width = 40;
 
 Progress::Progress(std::uint64_t total)
     : total_(total),
-      shown_(total > WorthABar && isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0) {}
+      isWanted_(total > WorthABar && isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0) {}
 
-void Progress::Show(std::uint64_t done) {
+void Progress::Add(std::uint64_t bytes) {
+  const std::uint64_t done = done_ += bytes;
+  if (!isWanted_) return;
+  const std::unique_lock lock(mutex_, std::try_to_lock);
   const Clock::time_point now = Clock::now();
-  if (!shown_ || now < next_) return;
+  if (!lock.owns_lock() || now < next_) return;
   next_ = now + Interval;
-  const double seconds = std::chrono::duration<double>(now - start_).count();
+  isShown_ = true;
+  Show(std::min(done, total_));
+}
+
+void Progress::Show(std::uint64_t done) const {
+  const double seconds = std::chrono::duration<double>(Clock::now() - start_).count();
   const double rate = static_cast<double>(done) / (seconds > 0 ? seconds : 1);
   const double left = rate > 0 ? static_cast<double>(total_ - done) / rate : 0;
   const std::string bar(static_cast<std::size_t>(Width * done / total_), '#');
@@ -32,10 +41,11 @@ void Progress::Show(std::uint64_t done) {
                static_cast<int>(100 * done / total_), rate / Million, left);
 }
 
-void Progress::End() {
+void Progress::Hide() {
   constexpr int Longest = Width + 35;
-  if (shown_) std::fprintf(stderr, "\r%*s\r", Longest, "");
-  shown_ = false;
+  const std::lock_guard lock(mutex_);
+  if (isShown_) std::fprintf(stderr, "\r%*s\r", Longest, "");
+  isShown_ = false;
 }
 
 }  // namespace navframe::tool

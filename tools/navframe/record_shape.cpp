@@ -1,77 +1,80 @@
 #include "record_shape.h"
 
 #include <algorithm>
-#include <array>
+
+#include "value_text.h"
 
 namespace navframe::tool {
 namespace {
 
-bool Means(const NavframeMember& member) {
-  return member.type != NavframePadding && (member.flags & NavframeReserved) == 0;
-}
+// Longer arrays of bytes are what a message carries, and no numbers.
+constexpr std::uint32_t LongestRow = 32;
 
 bool IsWanted(const std::string& name, const std::vector<std::string>& fields) {
   return fields.empty() || std::ranges::any_of(fields, [&](const std::string& field) {
-           return name == field || name.starts_with(field + ".");
+           return name.starts_with(field) &&
+                  (name.size() == field.size() || name[field.size()] == '.');
          });
 }
 
 class Shaping {
  public:
-  Shaping(Level& level, const std::vector<std::string>& fields) : level_(level), fields_(fields) {}
+  // `list` is the name of the list whose entries the level has, with a point.
+  Shaping(Level& level, const std::vector<std::string>& fields, std::string list)
+      : level_(level), fields_(fields), list_(std::move(list)) {}
 
   void Members(const NavframeRecord& record, const std::string& prefix, std::uint32_t offset) {
     for (std::uint32_t m = 0; m < record.memberCount; ++m) {
       const NavframeMember& member = *record.members[m];
       if (!Means(member)) continue;
       const std::string name = prefix + member.name;
-      if (member.type != NavframeNested) {
-        Values(record, member, name, offset);
-      } else if (member.length == 0) {
-        Members(*member.record, name + ".", offset + member.offset);
-      } else {
-        level_.list = &member;
+      if (member.type == NavframeNested) {
+        Nested(member, name, offset);
+      } else if (IsWanted(name, fields_) || IsWanted(list_ + name, fields_)) {
+        const bool isBinary = member.type == NavframeU8 && member.length > LongestRow;
+        level_.columns.push_back({name, &record, &member, offset, isBinary});
       }
     }
   }
 
  private:
-  void Values(const NavframeRecord& record, const NavframeMember& member, const std::string& name,
-              std::uint32_t offset) {
-    if (!IsWanted(name, fields_)) return;
-    if (member.length == 0) return level_.columns.push_back({name, &record, &member, offset, 0});
-    for (std::uint32_t i = 0; i < member.length; ++i) {
-      level_.columns.push_back({name + "." + std::to_string(i), &record, &member, offset, i});
+  void Nested(const NavframeMember& member, const std::string& name, std::uint32_t offset) {
+    if (member.length == 0) {
+      return Members(*member.record, name + ".", offset + member.offset);
     }
+    auto entries = std::make_unique<Level>(Level{member.record, {}, nullptr, nullptr});
+    Shaping(*entries, fields_, list_ + member.name + ".").Members(*member.record, "", 0);
+    if (entries->IsEmpty()) return;
+    level_.list = &member;
+    level_.entries = std::move(entries);
   }
 
   Level& level_;
   const std::vector<std::string>& fields_;
+  const std::string list_;
 };
 
 }  // namespace
 
-void Column::Append(const void* data, std::string& out) const {
-  constexpr std::size_t Room = 64;
-  const std::size_t before = out.size();
-  const void* const at = static_cast<const std::uint8_t*>(data) + offset;
-  if (member->countedBy >= 0 && index >= navframe_length(record, member, at)) return;
-  out.resize(before + Room);
-  const std::size_t length = navframe_text(member, at, index, out.data() + before, Room);
-  if (length >= Room) {
-    out.resize(before + length + 1);
-    navframe_text(member, at, index, out.data() + before, length + 1);
+bool Column::Append(const void* data, std::uint32_t index, std::string& out) const {
+  const std::uint8_t* const at = At(data);
+  if (!isBinary) return AppendValue(*member, at, index, out);
+  constexpr char Digits[] = "0123456789abcdef";
+  const std::uint32_t count = Count(data);
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const std::uint8_t byte = at[member->offset + i];
+    out += {Digits[byte >> 4], Digits[byte & 0xF]};
   }
-  out.resize(before + length);
+  return count != 0;
+}
+
+bool Means(const NavframeMember& member) {
+  return member.type != NavframePadding && (member.flags & NavframeReserved) == 0;
 }
 
 Level ShapeOf(const NavframeRecord& record, const std::vector<std::string>& fields) {
   Level level{&record, {}, nullptr, nullptr};
-  Shaping(level, fields).Members(record, "", 0);
-  if (level.list != nullptr) {
-    level.entries = std::make_unique<Level>(ShapeOf(*level.list->record, fields));
-    if (level.entries->columns.empty() && level.entries->list == nullptr) level.list = nullptr;
-  }
+  Shaping(level, fields, "").Members(record, "", 0);
   return level;
 }
 

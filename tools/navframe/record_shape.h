@@ -10,17 +10,23 @@
 
 namespace navframe::tool {
 
-// One value of a record, those of records inside it and of fixed arrays among them.
+// A member of a record, or of a record inside it.
 struct Column {
-  std::string name;  // "utc.hour", "velocity.0"
+  std::string name;  // "fixQuality", "utc.hour"
   const NavframeRecord* record;
   const NavframeMember* member;
   std::uint32_t offset;  // of the record that the member stands in, from that of the level, bytes
-  std::uint32_t index;   // in an array
+  bool isBinary;         // bytes without a meaning of their own, shown as hexadecimal digits
 
-  // The value's text in the record of the level at `data`; nothing when it is not known, or behind
-  // the last element in use.
-  void Append(const void* data, std::string& out) const;
+  const std::uint8_t* At(const void* data) const {
+    return static_cast<const std::uint8_t*>(data) + offset;
+  }
+  // Elements in use; 1 of a single value.
+  std::uint32_t Count(const void* data) const {
+    return member->length == 0 ? 1 : navframe_length(record, member, At(data));
+  }
+  // The text of an element. False, and nothing appended, when it is not known.
+  bool Append(const void* data, std::uint32_t index, std::string& out) const;
 };
 
 // The columns of a record or of the entries of a list.
@@ -36,10 +42,15 @@ struct Level {
   const void* Entry(const void* data, std::uint32_t i) const {
     return navframe_nested(list, data, i);
   }
+  bool IsEmpty() const { return columns.empty() && list == nullptr; }
 };
 
 // All that means something: no reserved members, no padding. With `fields` those alone, by their
-// names or the first part of it ("utc" for "utc.hour"); none for all.
+// names, with that of the list in front or without ("observations.code"), or the first part of it
+// ("utc" for "utc.hour"); none for all.
 Level ShapeOf(const NavframeRecord& record, const std::vector<std::string>& fields);
+
+// Whether a member means something, to people or programs.
+bool Means(const NavframeMember& member);
 
 }  // namespace navframe::tool

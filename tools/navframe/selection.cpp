@@ -15,21 +15,6 @@ namespace {
 
 constexpr double WeekSeconds = 604'800;
 
-// Letters of RINEX, by the names of systems in the catalogue.
-struct SystemRow {
-  std::string_view name;
-  char letter;
-};
-constexpr SystemRow Systems[] = {
-    {"GPS", 'G'},   {"GLONASS", 'R'}, {"Galileo", 'E'}, {"BeiDou", 'C'}, {"QZSS", 'J'},
-    {"NavIC", 'I'}, {"SBAS", 'S'},    {"GALILEO", 'E'}, {"BEIDOU", 'C'}, {"NAVIC", 'I'}};
-
-char LetterOf(std::string_view name) {
-  const auto* const row =
-      std::ranges::find_if(Systems, [&](const SystemRow& r) { return r.name == name; });
-  return row == std::end(Systems) ? '\0' : row->letter;
-}
-
 template <class Number>
 bool IsWhole(std::string_view text, Number& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -61,14 +46,6 @@ std::optional<double> ParseUtc(const std::string& text) {
   return static_cast<double>(duration_cast<seconds>(utc).count()) + second;
 }
 
-// Unknown times are before all others.
-std::optional<double> SecondsOf(const NavframeTime& time) {
-  constexpr std::uint32_t UnknownTow = 0xFFFFFFFF;
-  constexpr std::uint16_t UnknownWeek = 0xFFFF;
-  if (time.tow == UnknownTow || time.week == UnknownWeek) return std::nullopt;
-  return time.week * WeekSeconds + time.tow / 1000.0;
-}
-
 }  // namespace
 
 std::optional<Moment> ParseMoment(const std::string& text) {
@@ -89,29 +66,39 @@ std::optional<Moment> ParseMoment(const std::string& text) {
   return Moment{week * WeekSeconds + second, false, false};
 }
 
-std::optional<SatelliteName> ParseSatellite(const std::string& text) {
-  SatelliteName name{text.empty() ? '\0' : text.front(), 0};
-  const bool isSystem =
-      std::ranges::any_of(Systems, [&](const SystemRow& row) { return row.letter == name.system; });
-  if (!isSystem) return std::nullopt;
-  if (text.size() > 1 &&
-      (!IsWhole(std::string_view(text).substr(1), name.number) || name.number == 0)) {
-    return std::nullopt;
+// Weeks that are not known are counted from the first one. Nothing while the time is not known.
+std::optional<double> Selection::SecondsOf(const NavframeTime& time) {
+  constexpr std::uint32_t UnknownTow = 0xFFFFFFFF;
+  constexpr std::uint16_t UnknownWeek = 0xFFFF;
+  if (time.tow == UnknownTow) return std::nullopt;
+  const double tow = time.tow / 1000.0;
+  if (time.week != UnknownWeek) {
+    const double week = time.week * WeekSeconds;
+    if (start_ && !hasWeek_) *start_ += week - weeksBefore_;
+    hasWeek_ = true;
+    return week + tow;
   }
-  return name;
+  if (hasWeek_) return std::nullopt;
+  if (tow < lastTow_ - WeekSeconds / 2) weeksBefore_ += WeekSeconds;
+  lastTow_ = tow;
+  return weeksBefore_ + tow;
 }
 
 bool Selection::PassesTime(const NavframeItem& item) {
   if (!filters_.from && !filters_.to && filters_.every == 0) return true;
   const auto seconds = SecondsOf(item.time);
-  if (!seconds) return false;
+  // What has no time is in front of all that has one.
+  if (!seconds) return !filters_.from && filters_.every == 0;
   if (!start_) start_ = *seconds;
   const auto of = [&](const Moment& moment) {
     return moment.seconds + (moment.fromStart ? *start_ : 0) +
            (moment.isUtc ? item.time.leapSeconds : 0);
   };
-  if (filters_.from && *seconds < of(*filters_.from)) return false;
-  if (filters_.to && *seconds >= of(*filters_.to)) return false;
+  const auto isKnown = [&](const Moment& moment) { return moment.fromStart || hasWeek_; };
+  const auto& from = filters_.from;
+  const auto& to = filters_.to;
+  if (from && (!isKnown(*from) || *seconds < of(*from))) return false;
+  if (to && isKnown(*to) && *seconds >= of(*to)) return false;
   return filters_.every == 0 || IsDue(item, *seconds);
 }
 
@@ -124,62 +111,47 @@ bool Selection::IsDue(const NavframeItem& item, double seconds) {
   return epoch.seconds == seconds;
 }
 
-Selection::Places Selection::PlacesOf(const NavframeRecord& record) {
-  const auto first = [&](auto... names) {
-    const NavframeMember* member = nullptr;
-    ((member = member != nullptr ? member : navframe_member(&record, names)), ...);
-    return member;
-  };
-  return {first("system", "systemId"), first("satellite", "number"), first("code")};
-}
-
 const Selection::KindPlaces& Selection::PlacesOf(const NavframeKind& kind) {
-  const auto [place, isNew] = places_.try_emplace(&kind);
-  if (!isNew) return place->second;
-  KindPlaces& places = place->second;
-  places.own = PlacesOf(*kind.record);
+  const auto known = places_.find(&kind);
+  if (known != places_.end()) return known->second;
+  KindPlaces places{SatelliteMembers(kind), nullptr, {}};
   for (std::uint32_t m = 0; m < kind.record->memberCount; ++m) {
     const NavframeMember& member = *kind.record->members[m];
     if (member.type != NavframeNested || member.length == 0 || member.countedBy < 0) continue;
+    SatelliteMembers entry(kind, *member.record);
+    if (entry.Number() == nullptr && entry.Code() == nullptr) continue;
     places.list = &member;
-    places.entry = PlacesOf(*member.record);
+    places.entry = entry;
   }
-  return places;
+  return places_.emplace(&kind, places).first->second;
 }
 
-bool Selection::IsWanted(const Places& places, const Places& outer, const void* entry,
+bool Selection::IsWanted(const SatelliteMembers& members, const void* entry,
                          const void* record) const {
   if (!filters_.signals.empty()) {
     std::array<char, 8> code{};
-    if (places.code == nullptr) return false;
-    navframe_text(places.code, entry, 0, code.data(), code.size());
+    if (members.Code() == nullptr) return false;
+    navframe_text(members.Code(), entry, 0, code.data(), code.size());
     if (std::ranges::find(filters_.signals, code.data()) == filters_.signals.end()) return false;
   }
   if (filters_.satellites.empty()) return true;
-  const bool hasOwn = places.system != nullptr;
-  const NavframeMember* const system = hasOwn ? places.system : outer.system;
-  std::int64_t code = 0;
-  std::int64_t number = 0;
-  if (system == nullptr ||
-      navframe_integer(system, hasOwn ? entry : record, 0, &code) != NavframeKnown) {
-    return false;
+  const std::uint32_t count =
+      members.Number() == nullptr ? 1 : std::max(members.Number()->length, 1U);
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const SatelliteName name = members.Read(entry, record, i);
+    const bool isWanted = std::ranges::any_of(filters_.satellites, [&](const SatelliteName& one) {
+      return one.system == name.system && (one.number == 0 || one.number == name.number);
+    });
+    if (isWanted) return true;
   }
-  const char* const name = navframe_value_name(system, code);
-  const char letter = name == nullptr ? '\0' : LetterOf(name);
-  const bool hasNumber = places.satellite != nullptr &&
-                         navframe_integer(places.satellite, entry, 0, &number) == NavframeKnown;
-  return std::ranges::any_of(filters_.satellites, [&](const SatelliteName& wanted) {
-    return wanted.system == letter &&
-           (wanted.number == 0 || (hasNumber && wanted.number == number));
-  });
+  return false;
 }
 
 const void* Selection::Pick(const NavframeItem& item) {
   if (filters_.satellites.empty() && filters_.signals.empty()) return item.record;
   const KindPlaces& places = PlacesOf(*item.kind);
-  if (places.list == nullptr ||
-      (places.entry.satellite == nullptr && places.entry.code == nullptr)) {
-    return IsWanted(places.own, places.own, item.record, item.record) ? item.record : nullptr;
+  if (places.list == nullptr) {
+    return IsWanted(places.own, item.record, item.record) ? item.record : nullptr;
   }
   copy_.assign(static_cast<const std::uint8_t*>(item.record),
                static_cast<const std::uint8_t*>(item.record) + item.kind->size);
@@ -189,7 +161,7 @@ const void* Selection::Pick(const NavframeItem& item) {
   std::uint32_t kept = 0;
   for (std::uint32_t i = 0; i < count; ++i) {
     const void* const entry = navframe_nested(places.list, item.record, i);
-    if (!IsWanted(places.entry, places.own, entry, item.record)) continue;
+    if (!IsWanted(*places.entry, entry, item.record)) continue;
     std::memcpy(to, entry, places.list->size);
     to += places.list->size;
     ++kept;

@@ -2,12 +2,13 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "navframe/stream.h"
+#include "satellite_names.h"
 
 namespace navframe::tool {
 
@@ -22,19 +23,17 @@ struct Moment {
 // start). Nothing for others.
 std::optional<Moment> ParseMoment(const std::string& text);
 
-// "G05", "E": letter of RINEX and number, 0 for all satellites of the system. Nothing for others.
-struct SatelliteName {
-  char system;
-  std::uint32_t number;
-};
-std::optional<SatelliteName> ParseSatellite(const std::string& text);
-
 struct Filters {
   std::vector<SatelliteName> satellites;  // none for all, as with all that follow
   std::vector<std::string> signals;       // codes of RINEX, "1C"
   std::optional<Moment> from;
   std::optional<Moment> to;  // the first that is not wanted any more
   double every = 0;          // s, 0 for all
+
+  // Whether records are judged by what they hold, and not by their time alone.
+  bool LookInside() const { return !satellites.empty() || !signals.empty() || every != 0; }
+  // Whether the time of the first item matters.
+  bool CountFromStart() const { return (from && from->fromStart) || (to && to->fromStart); }
 };
 
 // One for each input.
@@ -50,32 +49,28 @@ class Selection {
   const void* Pick(const NavframeItem& item);
 
  private:
-  // Where a kind tells satellites: its own, or those of its list; all null where it tells none.
-  struct Places {
-    const NavframeMember* system = nullptr;
-    const NavframeMember* satellite = nullptr;
-    const NavframeMember* code = nullptr;
-  };
   struct KindPlaces {
-    Places own;
-    const NavframeMember* list = nullptr;
-    Places entry;
+    SatelliteMembers own;
+    const NavframeMember* list = nullptr;  // of satellites; none
+    std::optional<SatelliteMembers> entry;
   };
   struct Epoch {
     std::int64_t slot;
     double seconds;
   };
 
-  static Places PlacesOf(const NavframeRecord& record);
   const KindPlaces& PlacesOf(const NavframeKind& kind);
-  bool IsWanted(const Places& places, const Places& outer, const void* entry,
-                const void* record) const;
+  bool IsWanted(const SatelliteMembers& members, const void* entry, const void* record) const;
+  std::optional<double> SecondsOf(const NavframeTime& time);
   bool IsDue(const NavframeItem& item, double seconds);
 
   const Filters& filters_;
   std::optional<double> start_;
-  std::map<const NavframeKind*, Epoch> epochs_;
-  std::map<const NavframeKind*, KindPlaces> places_;
+  double lastTow_ = 0;      // s, while the week is not known
+  double weeksBefore_ = 0;  // that began since, s
+  bool hasWeek_ = false;
+  std::unordered_map<const NavframeKind*, Epoch> epochs_;
+  std::unordered_map<const NavframeKind*, KindPlaces> places_;
   std::vector<std::uint8_t> copy_;
 };
 

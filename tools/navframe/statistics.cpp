@@ -23,7 +23,7 @@ void PrintCount(const std::string& name, std::uint64_t count) {
   std::fprintf(stderr, "%-32s %12llu\n", name.c_str(), Shown(count));
 }
 
-void Add(NavframeProtocolStatistics& sum, const NavframeProtocolStatistics& part) {
+void AddUp(NavframeProtocolStatistics& sum, const NavframeProtocolStatistics& part) {
   sum.frames += part.frames;
   sum.frameBytes += part.frameBytes;
   sum.undecoded += part.undecoded;
@@ -47,7 +47,16 @@ void Statistics::Stream(const NavframeStream* stream) {
   navframe_statistics(stream, &part);
   sum_.bytes += part.bytes;
   sum_.skippedBytes += part.skippedBytes;
-  for (const auto& [protocol, counts] : Protocols) Add(sum_.*counts, part.*counts);
+  for (const auto& [protocol, counts] : Protocols) AddUp(sum_.*counts, part.*counts);
+}
+
+void Statistics::Add(const Statistics& others) {
+  for (const auto& [kind, count] : others.records_) records_[kind] += count;
+  for (const auto& [message, count] : others.undecoded_) undecoded_[message] += count;
+  malformed_ += others.malformed_;
+  sum_.bytes += others.sum_.bytes;
+  sum_.skippedBytes += others.sum_.skippedBytes;
+  for (const auto& [protocol, counts] : Protocols) AddUp(sum_.*counts, others.sum_.*counts);
 }
 
 std::uint64_t Statistics::Frames() const {
@@ -58,9 +67,11 @@ std::uint64_t Statistics::Frames() const {
 
 void Statistics::Print(double seconds) const {
   std::uint64_t records = 0;
-  for (const auto& [kind, count] : records_) {
-    PrintCount(navframe_kind(kind.second, kind.first)->name, count);
-    records += count;
+  for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
+    const auto counted = records_.find(navframe_kind_at(i));
+    if (counted == records_.end()) continue;
+    PrintCount(counted->first->name, counted->second);
+    records += counted->second;
   }
   for (const auto& [message, count] : undecoded_) PrintCount(message, count);
   for (const auto& [protocol, member] : Protocols) {

@@ -4,7 +4,7 @@
 
 #include "fault.h"
 #include "kind_names.h"
-#include "output_file.h"
+#include "outputs/output_file.h"
 #include "record_shape.h"
 
 namespace navframe::tool {

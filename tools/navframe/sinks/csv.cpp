@@ -1,9 +1,7 @@
 // A table a kind: a line a record, or a line an entry of its list with the record's own columns in
-// front. In a folder, a file a kind; or of one kind alone.
-#include <filesystem>
-#include <map>
+// front.
+#include <unordered_map>
 
-#include "fault.h"
 #include "item_text.h"
 #include "record_shape.h"
 #include "sinks/sink.h"
@@ -11,32 +9,39 @@
 namespace navframe::tool {
 namespace {
 
-// A value, in quotes where it would not stand alone.
+// Puts what `out` has from `from` on into quotes where it would not stand alone.
+void Quote(std::string& out, std::size_t from) {
+  if (out.find_first_of(",\"\r\n", from) == std::string::npos) return;
+  for (std::size_t at = from; (at = out.find('"', at)) != std::string::npos; at += 2) {
+    out.insert(at, 1, '"');
+  }
+  out.insert(from, 1, '"');
+  out += '"';
+}
+
 void AppendCell(std::string_view text, std::string& out) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-    out.append(text);
-    return;
-  }
-  out += '"';
-  for (const char c : text) {
-    if (c == '"') out += '"';
-    out += c;
-  }
-  out += '"';
+  const std::size_t before = out.size();
+  out.append(text);
+  Quote(out, before);
+}
+
+// Columns of the table that a column of the record takes.
+std::uint32_t Width(const Column& column) {
+  return column.member->length == 0 || column.isBinary ? 1 : column.member->length;
+}
+
+std::size_t Width(const Level& level) {
+  std::size_t width = level.list == nullptr ? 0 : Width(*level.entries);
+  for (const Column& column : level.columns) width += Width(column);
+  return width;
 }
 
 class Table {
  public:
-  Table(const NavframeKind& kind, const SinkOptions& options, const std::string& target)
+  Table(const NavframeKind& kind, const SinkOptions& options, Outputs& outputs)
       : shape_(ShapeOf(*kind.record, options.fields)),
         withSource_(options.withSource),
-        file_(target) {
-    std::string& out = file_.Buffer();
-    if (withSource_) out.append("source,");
-    out.append("time");
-    Heading(shape_, "", out);
-    out += '\n';
-  }
+        output_(outputs.Open(kind.name, Heading())) {}
 
   void Take(const Wanted& wanted) {
     front_.clear();
@@ -46,95 +51,93 @@ class Table {
     }
     AppendTime(wanted.item.time, front_);
     Lines(shape_, wanted.record);
-    file_.WriteWhenLarge();
+    output_.WriteWhenLarge();
   }
 
-  OutputFile& File() { return file_; }
-
  private:
-  static void Heading(const Level& level, const std::string& prefix, std::string& out) {
+  std::string Heading() const {
+    std::string out = withSource_ ? "source,time" : "time";
+    Names(shape_, "", out);
+    return out += '\n';
+  }
+
+  static void Names(const Level& level, const std::string& prefix, std::string& out) {
     for (const Column& column : level.columns) {
-      std::string name = prefix + column.name;
-      if (*column.member->unit != '\0') name.append(" [").append(column.member->unit).append("]");
-      out += ',';
-      AppendCell(name, out);
+      const std::uint32_t width = Width(column);
+      for (std::uint32_t i = 0; i < width; ++i) {
+        std::string name = prefix + column.name;
+        if (column.member->length != 0 && !column.isBinary)
+          name.append(".").append(std::to_string(i));
+        if (*column.member->unit != '\0') {
+          name.append(" [").append(column.member->unit).append("]");
+        }
+        out += ',';
+        AppendCell(name, out);
+      }
     }
-    if (level.list != nullptr) {
-      Heading(*level.entries, prefix + level.list->name + ".", out);
+    if (level.list != nullptr) Names(*level.entries, prefix + level.list->name + ".", out);
+  }
+
+  static bool IsText(const Column& column) {
+    return column.member->type == NavframeText || column.member->type == NavframeRecordText;
+  }
+
+  static void Cells(const Level& level, const void* data, std::string& out) {
+    for (const Column& column : level.columns) {
+      const std::uint32_t width = Width(column);
+      const std::uint32_t count = width == 1 ? 1 : column.Count(data);
+      for (std::uint32_t i = 0; i < width; ++i) {
+        out += ',';
+        const std::size_t before = out.size();
+        if (i < count) column.Append(data, i, out);
+        if (IsText(column)) Quote(out, before);
+      }
     }
   }
 
   // One line an innermost entry; one with empty columns of a list that is empty.
   void Lines(const Level& level, const void* data) {
-    const std::size_t before = front_.size();
-    for (const Column& column : level.columns) {
-      front_ += ',';
-      value_.clear();
-      column.Append(data, value_);
-      AppendCell(value_, front_);
+    std::string& out = output_.Buffer();
+    if (level.list == nullptr) {
+      out.append(front_);
+      Cells(level, data, out);
+      out += '\n';
+      return;
     }
+    const std::size_t before = front_.size();
+    Cells(level, data, front_);
     const std::uint32_t count = level.EntryCount(data);
     for (std::uint32_t i = 0; i < count; ++i) Lines(*level.entries, level.Entry(data, i));
-    if (count == 0) {
-      file_.Buffer().append(front_);
-      for (const Level* empty = level.entries.get(); level.list != nullptr && empty != nullptr;
-           empty = empty->entries.get()) {
-        file_.Buffer().append(empty->columns.size(), ',');
-      }
-      file_.Buffer() += '\n';
-    }
+    if (count == 0) out.append(front_).append(Width(*level.entries), ',') += '\n';
     front_.resize(before);
   }
 
   const Level shape_;
   const bool withSource_;
-  OutputFile file_;
-  std::string front_;  // of the line that is made
-  std::string value_;
+  Output& output_;
+  std::string front_;  // of the lines that are made
 };
 
 class Csv : public Sink {
  public:
-  explicit Csv(const SinkOptions& options) : options_(options) {
-    if (ToOutput()) return;
-    std::error_code error;
-    std::filesystem::create_directories(options_.target, error);
-    if (error) throw CannotWrite(options_.target, error.value());
-  }
+  Csv(const SinkOptions& options, Outputs& outputs) : options_(options), outputs_(outputs) {}
 
   void Take(const Wanted& wanted) override {
+    const NavframeKind* const kind = wanted.item.kind;
     if (wanted.item.type != NavframeItemRecord) return;
-    TableOf(*wanted.item.kind).Take(wanted);
-  }
-  void Flush() override {
-    for (auto& [kind, table] : tables_) table.File().Write();
-  }
-  void End() override {
-    for (auto& [kind, table] : tables_) table.File().Close();
+    tables_.try_emplace(kind, *kind, options_, outputs_).first->second.Take(wanted);
   }
 
  private:
-  bool ToOutput() const { return options_.target == "-"; }
-
-  Table& TableOf(const NavframeKind& kind) {
-    const auto known = tables_.find(&kind);
-    if (known != tables_.end()) return known->second;
-    if (ToOutput() && !tables_.empty()) {
-      throw WriteFault(std::string("csv: standard output has room for one kind; ") + kind.name +
-                       " is another than " + tables_.begin()->first->name +
-                       " (choose one by --kinds, or a folder by --output)");
-    }
-    const std::string target =
-        ToOutput() ? options_.target : options_.target + "/" + kind.name + ".csv";
-    return tables_.try_emplace(&kind, kind, options_, target).first->second;
-  }
-
-  const SinkOptions options_;
-  std::map<const NavframeKind*, Table> tables_;
+  const SinkOptions& options_;
+  Outputs& outputs_;
+  std::unordered_map<const NavframeKind*, Table> tables_;
 };
 
 }  // namespace
 
-std::unique_ptr<Sink> MakeCsv(const SinkOptions& options) { return std::make_unique<Csv>(options); }
+std::unique_ptr<Sink> MakeCsv(const SinkOptions& options, Outputs& outputs) {
+  return std::make_unique<Csv>(options, outputs);
+}
 
 }  // namespace navframe::tool

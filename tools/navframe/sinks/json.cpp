@@ -1,91 +1,132 @@
 // JSON Lines: one object a record.
-#include <map>
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <unordered_map>
 
 #include "item_text.h"
+#include "printable.h"
 #include "record_shape.h"
 #include "sinks/sink.h"
 
 namespace navframe::tool {
 namespace {
 
-void AppendString(std::string_view text, std::string& out) {
+void AppendEscaped(unsigned char byte, std::string& out) {
   constexpr char Digits[] = "0123456789abcdef";
+  out.append("\\u00") += {Digits[byte >> 4], Digits[byte & 0xF]};
+}
+
+// Bytes that are no UTF-8 are the characters of these numbers, as in records.
+void AppendString(std::string_view text, std::string& out) {
   out += '"';
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\') {
-      out += {'\\', c};
-    } else if (byte < 0x20) {
-      out.append("\\u00") += {Digits[byte >> 4], Digits[byte & 0xF]};
+  while (!text.empty()) {
+    const auto byte = static_cast<unsigned char>(text.front());
+    const std::size_t length = std::max<std::size_t>(Utf8Length(text), 1);
+    if (byte == '"' || byte == '\\') {
+      out += {'\\', text.front()};
+    } else if (byte < 0x20 || byte == 0x7F || (length == 1 && byte >= 0x80)) {
+      AppendEscaped(byte, out);
     } else {
-      out += c;
+      out.append(text.substr(0, length));
     }
+    text.remove_prefix(length);
   }
   out += '"';
 }
 
+// Control characters of two bytes are escaped, too: records have them as they were sent.
+void EscapeLongControls(std::string& out, std::size_t from) {
+  for (std::size_t at = from; (at = out.find('\xC2', at)) != std::string::npos;) {
+    const auto second = static_cast<unsigned char>(out[at + 1]);
+    if (IsLongControl(0xC2, second)) {
+      std::string escaped;
+      AppendEscaped(second, escaped);
+      out.replace(at, 2, escaped);
+    }
+    at += 2;
+  }
+}
+
+void AppendNumber(std::uint64_t number, std::string& out) {
+  std::array<char, 24> digits;
+  out.append(digits.data(), std::to_chars(digits.data(), digits.end(), number).ptr);
+}
+
 class Json : public Sink {
  public:
-  explicit Json(const SinkOptions& options) : options_(options), file_(options.target) {}
+  Json(const SinkOptions& options, Outputs& outputs)
+      : options_(options), output_(outputs.Open("", "")) {}
 
   void Take(const Wanted& wanted) override {
     const bool isRecord = wanted.item.type == NavframeItemRecord;
-    if (!isRecord && !options_.withParts) return;
     Begin(wanted);
+    const std::size_t before = Out().size();
     if (isRecord) {
       Record(wanted);
     } else {
       Part(wanted.item);
     }
-    file_.Buffer().append("}\n");
-    file_.WriteWhenLarge();
+    EscapeLongControls(Out(), before);
+    Out().append("}\n");
+    output_.WriteWhenLarge();
   }
-  void Flush() override { file_.Write(); }
-  void End() override { file_.Close(); }
 
  private:
+  std::string& Out() { return output_.Buffer(); }
+
   void Begin(const Wanted& wanted) {
-    std::string& out = file_.Buffer();
+    std::string& out = Out();
     out.append("{\"time\":\"");
     const std::size_t before = out.size();
-    AppendTime(wanted.item.time, out);
-    if (out.size() == before) {
-      out.replace(before - 1, 1, "null");
-    } else {
+    if (AppendTime(wanted.item.time, out)) {
       out += '"';
+    } else {
+      out.replace(before - 1, 1, "null");
     }
     if (options_.withSource) {
       out.append(",\"source\":");
       AppendString(wanted.source, out);
     }
-    out.append(",\"offset\":").append(std::to_string(wanted.item.offset));
+    out.append(",\"offset\":");
+    AppendNumber(wanted.item.offset, out);
   }
 
   void Record(const Wanted& wanted) {
-    std::string& out = file_.Buffer();
+    std::string& out = Out();
     const NavframeKind& kind = *wanted.item.kind;
     out.append(",\"kind\":\"").append(kind.name).append("\",\"record\":");
     if (!options_.fields.empty()) return Chosen(ShapeFor(kind), wanted.record);
-    const std::size_t before = out.size();
-    std::size_t room = Room;
     for (;;) {
-      out.resize(before + room);
-      const std::size_t length = navframe_json(&kind, wanted.record, out.data() + before, room);
-      if (length < room) return out.resize(before + length);
-      room = length + 1;
+      const std::size_t length = navframe_json(&kind, wanted.record, room_.data(), room_.size());
+      if (length < room_.size()) {
+        out.append(room_.data(), length);
+        return;
+      }
+      room_.resize(length + 1);
     }
   }
 
-  // The chosen members alone, by the names of their columns.
+  // The chosen members alone, in objects of their own where they stand in records inside.
   void Chosen(const Level& level, const void* data) {
-    std::string& out = file_.Buffer();
+    std::string& out = Out();
     out += '{';
     const char* separator = "";
+    std::string open;  // the record inside that the last column stands in, with a point
     for (const Column& column : level.columns) {
-      out.append(separator).append("\"").append(column.name).append("\":");
+      const std::size_t point = column.name.find('.');
+      const std::string inside = point == std::string::npos ? "" : column.name.substr(0, point + 1);
+      if (inside != open && !open.empty()) out += '}';
+      out.append(separator);
+      if (inside != open && !inside.empty())
+        out.append("\"").append(inside, 0, point).append("\":{");
+      open = inside;
       separator = ",";
-      Value(column, data);
+      out.append("\"").append(column.name, inside.size()).append("\":");
+      Values(column, data);
     }
+    if (!open.empty()) out += '}';
     if (level.list != nullptr) {
       out.append(separator).append("\"").append(level.list->name).append("\":[");
       const std::uint32_t count = level.EntryCount(data);
@@ -98,30 +139,46 @@ class Json : public Sink {
     out += '}';
   }
 
-  void Value(const Column& column, const void* data) {
-    text_.clear();
-    column.Append(data, text_);
-    const bool isText =
-        column.member->type == NavframeText || column.member->type == NavframeRecordText;
-    if (text_.empty() || text_ == "inf" || text_ == "-inf" || text_ == "nan") {
-      file_.Buffer().append("null");
-    } else if (isText) {
-      AppendString(text_, file_.Buffer());
+  void Values(const Column& column, const void* data) {
+    if (column.member->length == 0) return Value(column, data, 0);
+    const std::uint32_t count = column.Count(data);
+    Out() += '[';
+    for (std::uint32_t i = 0; i < count; ++i) {
+      if (i != 0) Out() += ',';
+      Value(column, data, i);
+    }
+    Out() += ']';
+  }
+
+  void Value(const Column& column, const void* data, std::uint32_t index) {
+    const NavframeMember& member = *column.member;
+    const std::size_t length =
+        navframe_text(&member, column.At(data), index, room_.data(), room_.size());
+    const std::string_view text(room_.data(), std::min(length, room_.size() - 1));
+    const bool isText = member.type == NavframeText || member.type == NavframeRecordText;
+    if (isText && (!text.empty() || member.unknownRule != NavframeUnknownEmpty)) {
+      AppendString(text, Out());
+    } else if (text.empty() || text.find_first_of("if") != std::string_view::npos) {
+      Out().append("null");  // infinite numbers too
     } else {
-      file_.Buffer().append(text_);
+      Out().append(text);
     }
   }
 
   void Part(const NavframeItem& item) {
-    std::string& out = file_.Buffer();
+    std::string& out = Out();
     out.append(",\"part\":\"").append(PartOf(item)).append("\",\"length\":");
-    out.append(std::to_string(item.length)).append(",\"message\":");
+    AppendNumber(item.length, out);
+    out.append(",\"message\":");
     AppendString(MessageOf(item), out);
     out.append(",\"name\":");
     AppendString(navframe_message_name(&item), out);
     out.append(",\"reason\":");
     AppendString(navframe_reason_text(item.reason), out);
-    if (item.badField != 0) out.append(",\"field\":").append(std::to_string(item.badField));
+    if (item.badField != 0) {
+      out.append(",\"field\":");
+      AppendNumber(item.badField, out);
+    }
   }
 
   const Level& ShapeFor(const NavframeKind& kind) {
@@ -130,17 +187,16 @@ class Json : public Sink {
     return place->second;
   }
 
-  static constexpr std::size_t Room = 4096;
-  const SinkOptions options_;
-  OutputFile file_;
-  std::map<const NavframeKind*, Level> shapes_;
-  std::string text_;
+  const SinkOptions& options_;
+  Output& output_;
+  std::unordered_map<const NavframeKind*, Level> shapes_;
+  std::string room_ = std::string(1 << 14, '\0');
 };
 
 }  // namespace
 
-std::unique_ptr<Sink> MakeJson(const SinkOptions& options) {
-  return std::make_unique<Json>(options);
+std::unique_ptr<Sink> MakeJson(const SinkOptions& options, Outputs& outputs) {
+  return std::make_unique<Json>(options, outputs);
 }
 
 }  // namespace navframe::tool

@@ -1,108 +1,230 @@
-// Lines for people: time, kind, then "name value unit" of each member that is known.
-#include <map>
+// Lines for people: time, kind, then "name value unit" of each member that is known, and a line for
+// each entry of a list.
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <unordered_map>
 
 #include "item_text.h"
 #include "printable.h"
 #include "record_shape.h"
+#include "satellite_names.h"
 #include "sinks/sink.h"
+#include "sinks/time_members.h"
 
 namespace navframe::tool {
 namespace {
 
+// A column as people read it.
+struct Shown {
+  const Column* column;
+  std::string name;  // ", name"
+  std::string unit;  // " unit"
+  RepeatsTime repeats = nullptr;
+  bool isFlag = false;
+  bool isNamed = false;  // values have names
+  bool isLabel = false;  // stands in front of the others
+};
+
+// A level as people read it: "G05 1C" in front tells the satellite and the signal.
+struct Lines {
+  Level level;
+  std::vector<Shown> columns;
+  SatelliteMembers satellite;
+  bool hasLabel = false;
+  bool hasCode = false;  // in the label
+  std::unique_ptr<Lines> entries;
+  std::string list;  // " name" of entries without a label
+
+  Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole);
+};
+
+Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole)
+    : level(std::move(shape)),
+      satellite(isOutermost ? SatelliteMembers(kind) : SatelliteMembers(kind, *level.record)) {
+  const auto has = [&](const NavframeMember* member) {
+    return member != nullptr &&
+           std::ranges::find(level.columns, member, &Column::member) != level.columns.end();
+  };
+  hasLabel = has(satellite.Number()) && satellite.Number()->length == 0;
+  hasCode = has(satellite.Code());
+  for (const Column& column : level.columns) {
+    const NavframeMember* const member = column.member;
+    if (std::string_view(member->name) == "tag" && isWhole) continue;  // means nothing in streams
+    Shown shown{&column, ", " + column.name, "", nullptr, false, false, false};
+    if (*member->unit != '\0') shown.unit = std::string(" ") + member->unit;
+    if (isOutermost && isWhole) shown.repeats = RepeatsTimeOf(column);
+    shown.isFlag = (member->flags & NavframeYesNo) != 0;
+    shown.isNamed = member->valueCount != 0;
+    shown.isLabel = hasLabel && column.offset == 0 &&
+                    (member == satellite.System() || member == satellite.Number() ||
+                     (member == satellite.Code() && member != nullptr));
+    columns.push_back(std::move(shown));
+  }
+  if (level.list == nullptr) return;
+  list = std::string(" ") + level.list->name;
+  entries = std::make_unique<Lines>(std::move(*level.entries), kind, false, isWhole);
+}
+
 class Text : public Sink {
  public:
-  explicit Text(const SinkOptions& options) : options_(options), file_(options.target) {}
+  Text(const SinkOptions& options, Outputs& outputs)
+      : options_(options), output_(outputs.Open("", "")) {}
 
   void Take(const Wanted& wanted) override {
     Begin(wanted);
     if (wanted.item.type == NavframeItemRecord) {
-      const NavframeKind& kind = *wanted.item.kind;
-      begin_.append(kind.name);
-      Record(ShapeFor(kind), wanted.record);
-    } else if (options_.withParts) {
+      begin_.append(wanted.item.kind->name);
+      Record(LinesFor(*wanted.item.kind), wanted);
+    } else {
       Part(wanted.item);
     }
-    file_.WriteWhenLarge();
+    output_.WriteWhenLarge();
   }
-  void Flush() override { file_.Write(); }
-  void End() override { file_.Close(); }
 
  private:
   // The front of the lines of an item.
   void Begin(const Wanted& wanted) {
     begin_.clear();
-    if (options_.withSource) begin_.append(wanted.source).append(": ");
-    const std::size_t before = begin_.size();
-    AppendTime(wanted.item.time, begin_);
-    if (begin_.size() == before) begin_ += '-';
+    if (options_.withSource) {
+      AppendPrintable(wanted.source, begin_);
+      begin_.append(": ");
+    }
+    if (!AppendTime(wanted.item.time, begin_)) Tow(wanted);
     begin_ += ' ';
   }
 
-  void Record(const Level& level, const void* data) {
-    std::string& out = file_.Buffer();
-    if (!level.columns.empty()) {
-      out.append(begin_);
-      Columns(level, data, " ");
-      out += '\n';
-    }
-    const std::uint32_t count = level.EntryCount(data);
-    for (std::uint32_t i = 0; i < count; ++i) {
-      out.append(begin_).append(" ").append(level.list->name);
-      Entry(*level.entries, level.Entry(data, i));
-      out += '\n';
-    }
-  }
-
-  // An entry and those of its own list on one line.
-  void Entry(const Level& level, const void* data) {
-    Columns(level, data, " ");
-    const std::uint32_t count = level.EntryCount(data);
-    for (std::uint32_t i = 0; i < count; ++i) {
-      file_.Buffer().append("; ").append(level.list->name);
-      Entry(*level.entries, level.Entry(data, i));
-    }
-  }
-
-  // The values of an array stand behind one name.
-  void Columns(const Level& level, const void* data, const char* separator) {
-    for (std::size_t i = 0; i < level.columns.size();) {
-      const Column& first = level.columns[i];
-      value_.clear();
-      bool known = false;
-      for (; i < level.columns.size() && level.columns[i].member == first.member &&
-             level.columns[i].offset == first.offset;
-           ++i) {
-        known |= Value(level.columns[i], data);
+  // Without a date the time of week alone, the stream's or else the record's own, as
+  // "-:561618.000";
+  // "-" when that is not known either.
+  void Tow(const Wanted& wanted) {
+    begin_ += '-';
+    double tow = wanted.item.time.tow;
+    if (wanted.item.time.tow == UnknownTow) {
+      const NavframeMember* const member =
+          wanted.record == nullptr ? nullptr : navframe_member(wanted.item.kind->record, "tow");
+      if (member == nullptr || navframe_number(member, wanted.record, 0, &tow) != NavframeKnown) {
+        return;
       }
-      if (!known) continue;
-      file_.Buffer().append(separator);
-      file_.Buffer().append(first.name, 0, first.name.size() - (first.member->length ? 2 : 0));
-      file_.Buffer().append(value_);
-      if (*first.member->unit != '\0') file_.Buffer().append(" ").append(first.member->unit);
-      separator = ", ";
+      if (std::string_view(member->unit) == "s") tow *= 1000;
+    }
+    std::array<char, 32> digits;
+    const auto end =
+        std::to_chars(digits.data(), digits.end(), tow / 1000, std::chars_format::fixed, 3).ptr;
+    begin_ += ':';
+    begin_.append(digits.data(), end);
+  }
+
+  void Record(const Lines& lines, const Wanted& wanted) {
+    std::string& out = output_.Buffer();
+    const void* const data = wanted.record;
+    const NavframeTime* const time =
+        wanted.item.time.utc.year == UnknownYear || wanted.item.time.tow == UnknownTow
+            ? nullptr
+            : &wanted.item.time;
+    if (!lines.columns.empty() || lines.entries == nullptr) {
+      out.append(begin_);
+      Columns(lines, data, data, time, "");
+      out += '\n';
+    }
+    const std::uint32_t count = lines.level.EntryCount(data);
+    for (std::uint32_t i = 0; i < count; ++i) {
+      out.append(begin_);
+      Columns(*lines.entries, lines.level.Entry(data, i), data, nullptr, lines.list);
+      out += '\n';
     }
   }
 
-  // Appends it behind a space, with its name where it has one. False when it is not known.
-  bool Value(const Column& column, const void* data) {
-    text_.clear();
-    column.Append(data, text_);
-    if (text_.empty()) return false;
-    value_ += ' ';
-    AppendPrintable(text_, value_);
-    const NavframeMember& member = *column.member;
-    std::int64_t number = 0;
-    if (member.valueCount != 0 &&
-        navframe_integer(&member, static_cast<const char*>(data) + column.offset, column.index,
-                         &number) == NavframeKnown) {
-      const char* const name = navframe_value_name(&member, number);
-      if (name != nullptr) value_.append(" (").append(name).append(")");
+  // A line, and the entries of its own list behind it unless they have lines of their own.
+  void Columns(const Lines& lines, const void* data, const void* record, const NavframeTime* time,
+               std::string_view list) {
+    std::string& out = output_.Buffer();
+    const bool hasLabel = lines.hasLabel && Label(lines, data, record);
+    if (!hasLabel) out.append(list);
+    bool isFirst = true;
+    for (const Shown& shown : lines.columns) {
+      if (hasLabel && shown.isLabel) continue;
+      const Column& column = *shown.column;
+      if (time != nullptr && shown.repeats != nullptr &&
+          shown.repeats(*column.member, column.At(data), *time)) {
+        continue;
+      }
+      const std::size_t before = out.size();
+      out.append(shown.name, isFirst ? 1 : 0);
+      if (Values(shown, data)) {
+        out.append(shown.unit);
+        isFirst = false;
+      } else {
+        out.resize(before);
+      }
     }
+    if (lines.entries == nullptr || data == record) return;
+    const std::uint32_t count = lines.level.EntryCount(data);
+    for (std::uint32_t i = 0; i < count; ++i) {
+      const std::size_t before = out.size();
+      out += ';';
+      Columns(*lines.entries, lines.level.Entry(data, i), record, nullptr, "");
+      if (out.size() == before + 1) out.resize(before);
+    }
+  }
+
+  // False when the satellite is not known; its numbers are shown then.
+  bool Label(const Lines& lines, const void* data, const void* record) {
+    const SatelliteName name = lines.satellite.Read(data, record);
+    if (name.system == '\0' || name.system == '*' || name.number == 0) return false;
+    std::string& out = output_.Buffer();
+    out += ' ';
+    name.Append(out);
+    if (!lines.hasCode) return true;
+    out += ' ';
+    const std::size_t before = out.size();
+    for (const Shown& shown : lines.columns) {
+      if (shown.column->member == lines.satellite.Code()) shown.column->Append(data, 0, out);
+    }
+    if (out.size() == before) out += '-';
     return true;
   }
 
+  // The values of an array stand behind one name, unknown ones among them as "-". False when none
+  // is known.
+  bool Values(const Shown& shown, const void* data) {
+    const std::uint32_t count = shown.column->isBinary ? 1 : shown.column->Count(data);
+    bool isKnown = false;
+    for (std::uint32_t i = 0; i < count; ++i) {
+      output_.Buffer() += ' ';
+      if (Value(shown, data, i)) {
+        isKnown = true;
+      } else {
+        output_.Buffer() += '-';
+      }
+    }
+    return isKnown;
+  }
+
+  bool Value(const Shown& shown, const void* data, std::uint32_t index) {
+    const Column& column = *shown.column;
+    std::string& out = output_.Buffer();
+    if (shown.isNamed || shown.isFlag) {
+      std::int64_t number = 0;
+      if (navframe_integer(column.member, column.At(data), index, &number) != NavframeKnown) {
+        return false;
+      }
+      const char* const name =
+          shown.isNamed ? navframe_value_name(column.member, number) : YesOrNo(number);
+      if (name != nullptr) {
+        out.append(name);
+        return true;
+      }
+    }
+    return column.Append(data, index, out);
+  }
+
+  static const char* YesOrNo(std::int64_t number) {
+    return number == 0 ? "no" : number == 1 ? "yes" : nullptr;
+  }
+
   void Part(const NavframeItem& item) {
-    std::string& out = file_.Buffer();
+    std::string& out = output_.Buffer();
     out.append(begin_).append(PartOf(item)).append(" ").append(MessageOf(item));
     const char* const name = navframe_message_name(&item);
     if (*name != '\0') out.append(" ").append(name);
@@ -114,24 +236,61 @@ class Text : public Sink {
     out += '\n';
   }
 
-  const Level& ShapeFor(const NavframeKind& kind) {
-    const auto [place, isNew] = shapes_.try_emplace(&kind);
-    if (isNew) place->second = ShapeOf(*kind.record, options_.fields);
-    return place->second;
+  const Lines& LinesFor(const NavframeKind& kind) {
+    if (lastKind_ == &kind) return *last_;
+    std::unique_ptr<Lines>& lines = lines_[&kind];
+    if (lines == nullptr) {
+      lines = std::make_unique<Lines>(ShapeOf(*kind.record, options_.fields), kind, true,
+                                      options_.fields.empty());
+    }
+    lastKind_ = &kind;
+    last_ = lines.get();
+    return *last_;
   }
 
-  const SinkOptions options_;
-  OutputFile file_;
-  std::map<const NavframeKind*, Level> shapes_;
+  static constexpr std::uint32_t UnknownTow = 0xFFFFFFFF;
+  static constexpr std::uint16_t UnknownYear = 0xFFFF;
+  const SinkOptions& options_;
+  Output& output_;
+  std::unordered_map<const NavframeKind*, std::unique_ptr<Lines>> lines_;
+  const NavframeKind* lastKind_ = nullptr;
+  const Lines* last_ = nullptr;
   std::string begin_;
-  std::string value_;
-  std::string text_;
+};
+
+// What the exports make of a record; nothing of kinds without a text.
+class LegacyText : public Sink {
+ public:
+  explicit LegacyText(Outputs& outputs) : output_(outputs.Open("", "")) {}
+
+  void Take(const Wanted& wanted) override {
+    if (wanted.item.type != NavframeItemRecord) return;
+    const GnssMessage message{wanted.item.kind->id, wanted.item.kind->source,
+                              const_cast<void*>(wanted.record)};
+    if (structDataToStr(&message, room_.data(), 0) != 0 || room_[0] == '\0') return;
+    std::string& out = output_.Buffer();
+    for (const char* c = room_.data(); *c != '\0'; ++c) {
+      if (*c == '\n') {
+        out += '\n';
+      } else {
+        AppendPrintable({c, 1}, out);
+      }
+    }
+    if (!out.ends_with('\n')) out += '\n';
+    output_.WriteWhenLarge();
+  }
+
+ private:
+  static constexpr std::size_t Room = 1 << 16;
+  Output& output_;
+  std::string room_ = std::string(Room, '\0');
 };
 
 }  // namespace
 
-std::unique_ptr<Sink> MakeText(const SinkOptions& options) {
-  return std::make_unique<Text>(options);
+std::unique_ptr<Sink> MakeText(const SinkOptions& options, Outputs& outputs) {
+  if (options.legacy) return std::make_unique<LegacyText>(outputs);
+  return std::make_unique<Text>(options, outputs);
 }
 
 }  // namespace navframe::tool

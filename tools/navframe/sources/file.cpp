@@ -16,7 +16,9 @@ class FileSource : public Source {
   FileSource(Descriptor file, std::string name) : file_(std::move(file)), name_(std::move(name)) {
     struct stat status {};
     if (fstat(file_.Number(), &status) != 0) throw CannotRead(name_, errno);
-    if (S_ISDIR(status.st_mode)) throw CannotRead(name_, EISDIR);
+    if (S_ISDIR(status.st_mode)) {
+      throw Fault("cannot read " + name_ + ": a folder, whose files --recursive takes");
+    }
     isRegular_ = S_ISREG(status.st_mode);
     if (isRegular_) total_ = static_cast<std::uint64_t>(status.st_size);
   }
