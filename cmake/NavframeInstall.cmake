@@ -33,6 +33,14 @@ if(TARGET navframe_tool)
                                                    "$ORIGIN;$ORIGIN/${navframe_bin_to_lib}")
   endif()
   install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+
+  if(NOT CMAKE_CROSSCOMPILING)
+    install(FILES "${PROJECT_BINARY_DIR}/navframe.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(
+      FILES "${PROJECT_BINARY_DIR}/navframe.bash"
+      DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+      RENAME navframe)
+  endif()
 endif()
 
 # find_package(navframe): the targets navframe::navframe and navframe::navframe_static.

@@ -69,8 +69,11 @@ std::vector<const NavframeKind*> KindsNamed(const std::string& text) {
   for (const KindGroup& group : KindGroups()) {
     if (lower == group.name) return group.kinds;
   }
-  const auto kinds = KindsThat(
-      [&](const NavframeKind& kind) { return navframe_kind_has_name(&kind, text.c_str()) != 0; });
+  const std::string wide = text + "-WIDE";  // what streams make of the message
+  const auto kinds = KindsThat([&](const NavframeKind& kind) {
+    return navframe_kind_has_name(&kind, text.c_str()) != 0 ||
+           navframe_kind_has_name(&kind, wide.c_str()) != 0;
+  });
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
   if (!kinds.empty() || error != std::errc{} || end != text.data() + text.size()) return kinds;

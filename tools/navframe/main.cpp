@@ -114,7 +114,8 @@ void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
 
 // `navframe SOURCE...` and `navframe decode SOURCE...` take the same.
 void AddDecode(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  app.add_option("SOURCE", options.sources, "Files, compressed or not; - for standard input");
+  app.add_option("SOURCE", options.sources, "Files, compressed or not; - for standard input")
+      ->option_text("...");
   app.add_flag("--recursive,-r", options.recursive, "All files below the folders that are named");
   AddFilters(app, options, texts);
   AddOutput(app, options, texts);
@@ -201,7 +202,9 @@ int Main(int argc, char** argv) {
   AddDecode(*decode, options, texts);
   std::vector<std::string> kinds;
   CLI::App* const list = app.add_subcommand("kinds", "List kinds of records, or their members");
-  list->add_option("KIND", kinds, "Names, numbers or groups")->check(CheckKind, "KIND");
+  list->add_option("KIND", kinds, "Names, numbers or groups")
+      ->option_text("...")
+      ->check(CheckKind, "KIND");
   try {
     app.parse(argc, argv);
     LookUp(texts, options);

@@ -30,7 +30,7 @@ class Shaping {
       const std::string name = prefix + member.name;
       if (member.type == NavframeNested) {
         Nested(member, name, offset);
-      } else if (IsWanted(name, fields_) || IsWanted(list_ + name, fields_)) {
+      } else if (IsNamed(name)) {
         const bool isBinary = member.type == NavframeU8 && member.length > LongestRow;
         level_.columns.push_back({name, &record, &member, offset, isBinary});
       }
@@ -38,6 +38,14 @@ class Shaping {
   }
 
  private:
+  // Alone, or with the lists that it stands in, all or the inner ones.
+  bool IsNamed(const std::string& name) const {
+    for (std::size_t list = 0; list < list_.size(); list = list_.find('.', list) + 1) {
+      if (IsWanted(list_.substr(list) + name, fields_)) return true;
+    }
+    return IsWanted(name, fields_);
+  }
+
   void Nested(const NavframeMember& member, const std::string& name, std::uint32_t offset) {
     if (member.length == 0) {
       return Members(*member.record, name + ".", offset + member.offset);

@@ -94,10 +94,9 @@ std::string ExamplesText() {
   }
   out.append("\nExit status:");
   for (const Status& status : Statuses) {
-    out.append(status.number == Statuses[0].number ? " " : ", ");
-    out.append(status.number).append(" ").append(status.meaning);
+    out.append("\n  ").append(status.number).append("  ").append(status.meaning);
   }
-  return out += ".";
+  return out;
 }
 
 std::string ManualPage(const CLI::App& app) {
