@@ -2,10 +2,11 @@
 #include "navframe/catalogue.h"
 
 #include <algorithm>
-#include <charconv>
+#include <concepts>
 #include <string_view>
 
 #include "base/characters.h"
+#include "catalogue/digits.h"
 #include "catalogue/kinds.h"
 #include "catalogue/reading.h"
 
@@ -37,6 +38,13 @@ bool NamesMessage(std::string_view messages, std::string_view name) {
     if (end == messages.npos) return false;
     messages.remove_prefix(end + Between.size());
   }
+}
+
+// As in JSON.
+char* PutShortest(char* to, std::integral auto value) { return PutNumber(to, value); }
+char* PutShortest(char* to, std::floating_point auto value) {
+  char* const end = PutCommonNumber(to, value);
+  return end != nullptr ? end : PutUncommonNumber(to, value);
 }
 
 }  // namespace
@@ -106,7 +114,6 @@ int navframe_integer(const NavframeMember* member, const void* data, uint32_t in
 
 size_t navframe_text(const NavframeMember* member, const void* data, uint32_t index, char* out,
                      size_t capacity) {
-  constexpr std::size_t LongestNumber = 32;
   char number[LongestNumber];
   std::string_view text;
   if (index < Elements(*member)) {
@@ -116,9 +123,7 @@ size_t navframe_text(const NavframeMember* member, const void* data, uint32_t in
       text = ReadText(*member, at);
     } else if (IsNumber(*member)) {
       char* end = number;
-      ReadNumber(*member, at, [&](auto value) {
-        end = std::to_chars(number, number + LongestNumber, value).ptr;
-      });
+      ReadNumber(*member, at, [&](auto value) { end = PutShortest(number, value); });
       text = {number, end};
     }
   }

@@ -59,10 +59,15 @@ std::string Escaped(std::string_view text) {
 
 bool IsShown(const CLI::Option& option) { return !option.get_group().empty(); }
 
+std::string NameOf(const CLI::Option& option) {
+  const bool isPositional = option.get_positional();
+  return option.get_name(isPositional, !isPositional);
+}
+
 void AppendOptions(const CLI::App& app, std::string& out) {
   for (const CLI::Option* option : app.get_options()) {
     if (!IsShown(*option)) continue;
-    out.append(".TP\n.B ").append(Escaped(option->get_name(true)));
+    out.append(".TP\n.B ").append(Escaped(NameOf(*option)));
     const std::string shown = option->get_option_text();
     if (!shown.empty()) out.append(" \\fI").append(Escaped(shown)).append("\\fP");
     out.append("\n").append(Escaped(option->get_description())).append("\n");

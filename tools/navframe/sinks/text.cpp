@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
+#include <string_view>
 #include <unordered_map>
 
 #include "item_text.h"
@@ -11,9 +13,23 @@
 #include "satellite_names.h"
 #include "sinks/sink.h"
 #include "sinks/time_members.h"
+#include "value_text.h"
 
 namespace navframe::tool {
 namespace {
+
+// A word that is copied whole, whatever its length.
+template <std::size_t Most>
+struct Word {
+  std::array<char, Most> text{};
+  std::size_t length = 0;
+
+  void Set(std::string_view word) { length = word.copy(text.data(), Most); }
+  char* Put(char* to) const {
+    std::memcpy(to, text.data(), Most);
+    return to + length;
+  }
+};
 
 // A column as people read it.
 struct Shown {
@@ -24,6 +40,10 @@ struct Shown {
   bool isFlag = false;
   bool isNamed = false;  // values have names
   bool isLabel = false;  // stands in front of the others
+  bool isPlain = false;  // one number, or the name of one
+  std::size_t room = 0;  // that it takes at most, where it is plain
+  Word<40> plainName;    // "name "
+  Word<16> plainUnit;
 };
 
 // A level as people read it: "G05 1C" in front tells the satellite and the signal.
@@ -39,6 +59,29 @@ struct Lines {
   Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole);
 };
 
+std::size_t LongestName(const NavframeMember& member) {
+  std::size_t length = 0;
+  for (std::uint32_t i = 0; i < member.valueCount; ++i) {
+    length = std::max(length, std::strlen(member.values[i].name));
+  }
+  return length;
+}
+
+char* Put(std::string_view text, char* to) { return to + text.copy(to, text.size()); }
+
+// The number of a member or its name; null when it is not known.
+char* PutNamed(const Shown& shown, const void* data, char* to) {
+  const NavframeMember& member = *shown.column->member;
+  if (shown.isNamed || shown.isFlag) {
+    std::int64_t number = 0;
+    if (navframe_integer(&member, data, 0, &number) != NavframeKnown) return nullptr;
+    if (shown.isFlag && (number == 0 || number == 1)) return Put(number == 0 ? "no" : "yes", to);
+    const char* const name = shown.isNamed ? navframe_value_name(&member, number) : nullptr;
+    if (name != nullptr) return Put(name, to);
+  }
+  return PutNumber(member, data, 0, to);
+}
+
 Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole)
     : level(std::move(shape)),
       satellite(isOutermost ? SatelliteMembers(kind) : SatelliteMembers(kind, *level.record)) {
@@ -51,7 +94,7 @@ Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWho
   for (const Column& column : level.columns) {
     const NavframeMember* const member = column.member;
     if (std::string_view(member->name) == "tag" && isWhole) continue;  // means nothing in streams
-    Shown shown{&column, ", " + column.name, "", nullptr, false, false, false};
+    Shown shown{&column, ", " + column.name, "", nullptr, false, false, false, false, 0, {}, {}};
     if (*member->unit != '\0') shown.unit = std::string(" ") + member->unit;
     if (isOutermost && isWhole) shown.repeats = RepeatsTimeOf(column);
     shown.isFlag = (member->flags & NavframeYesNo) != 0;
@@ -59,6 +102,12 @@ Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWho
     shown.isLabel = hasLabel && column.offset == 0 &&
                     (member == satellite.System() || member == satellite.Number() ||
                      (member == satellite.Code() && member != nullptr));
+    shown.plainName.Set(column.name + " ");
+    shown.plainUnit.Set(shown.unit);
+    shown.isPlain = member->length == 0 && member->type <= NavframeF64 &&
+                    shown.plainName.length == column.name.size() + 1 &&
+                    shown.plainUnit.length == shown.unit.size();
+    shown.room = sizeof(Shown) + LongestNumber + LongestName(*member);
     columns.push_back(std::move(shown));
   }
   if (level.list == nullptr) return;
@@ -149,6 +198,11 @@ class Text : public Sink {
           shown.repeats(*column.member, column.At(data), *time)) {
         continue;
       }
+      if (shown.isPlain) {
+        isFirst &= !Plain(shown, column.At(data), isFirst);
+        continue;
+      }
+      Write();
       const std::size_t before = out.size();
       out.append(shown.name, isFirst ? 1 : 0);
       if (Values(shown, data)) {
@@ -158,6 +212,7 @@ class Text : public Sink {
         out.resize(before);
       }
     }
+    Write();
     if (lines.entries == nullptr || data == record) return;
     const std::uint32_t count = lines.level.EntryCount(data);
     for (std::uint32_t i = 0; i < count; ++i) {
@@ -185,6 +240,24 @@ class Text : public Sink {
     return true;
   }
 
+  // False when it is not known. Put behind what waits for Write.
+  bool Plain(const Shown& shown, const void* data, bool isFirst) {
+    if (waiting_ + shown.room > room_.size()) Write();
+    char* const from = room_.data() + waiting_;
+    char* to = from;
+    if (!isFirst) *to++ = ',';
+    *to++ = ' ';
+    to = PutNamed(shown, data, shown.plainName.Put(to));
+    if (to == nullptr) return false;
+    to = shown.plainUnit.Put(to);
+    waiting_ += static_cast<std::size_t>(to - from);
+    return true;
+  }
+  void Write() {
+    output_.Buffer().append(room_.data(), waiting_);
+    waiting_ = 0;
+  }
+
   // The values of an array stand behind one name, unknown ones among them as "-". False when none
   // is known.
   bool Values(const Shown& shown, const void* data) {
@@ -192,35 +265,13 @@ class Text : public Sink {
     bool isKnown = false;
     for (std::uint32_t i = 0; i < count; ++i) {
       output_.Buffer() += ' ';
-      if (Value(shown, data, i)) {
+      if (shown.column->Append(data, i, output_.Buffer())) {
         isKnown = true;
       } else {
         output_.Buffer() += '-';
       }
     }
     return isKnown;
-  }
-
-  bool Value(const Shown& shown, const void* data, std::uint32_t index) {
-    const Column& column = *shown.column;
-    std::string& out = output_.Buffer();
-    if (shown.isNamed || shown.isFlag) {
-      std::int64_t number = 0;
-      if (navframe_integer(column.member, column.At(data), index, &number) != NavframeKnown) {
-        return false;
-      }
-      const char* const name =
-          shown.isNamed ? navframe_value_name(column.member, number) : YesOrNo(number);
-      if (name != nullptr) {
-        out.append(name);
-        return true;
-      }
-    }
-    return column.Append(data, index, out);
-  }
-
-  static const char* YesOrNo(std::int64_t number) {
-    return number == 0 ? "no" : number == 1 ? "yes" : nullptr;
   }
 
   void Part(const NavframeItem& item) {
@@ -256,6 +307,8 @@ class Text : public Sink {
   const NavframeKind* lastKind_ = nullptr;
   const Lines* last_ = nullptr;
   std::string begin_;
+  std::array<char, 4096> room_;  // plain members of a line, which are put one behind the other
+  std::size_t waiting_ = 0;      // bytes of them
 };
 
 // What the exports make of a record; nothing of kinds without a text.
