@@ -269,8 +269,7 @@ class Run {
  private:
   // Files alone are decoded side by side, and not where the records of one count for the next.
   unsigned Threads() const {
-    const bool areFiles = std::ranges::all_of(
-        sources_, [](const std::string& name) { return SizeOfFiles({name}) != 0; });
+    const bool areFiles = std::ranges::all_of(sources_, IsFile);
     if (!areFiles || options_.first != 0) return 1;
     const unsigned wanted =
         options_.jobs != 0 ? options_.jobs : std::thread::hardware_concurrency();

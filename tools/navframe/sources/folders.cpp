@@ -30,6 +30,12 @@ std::vector<std::string> WithFilesOfFolders(const std::vector<std::string>& name
   return files;
 }
 
+bool IsFile(const std::string& name) {
+  std::error_code error;
+  if (fs::exists(name, error)) return fs::is_regular_file(name, error);
+  return name != "-" && name.find(':') == std::string::npos;
+}
+
 std::uint64_t SizeOfFiles(const std::vector<std::string>& names) {
   std::uint64_t sum = 0;
   for (const std::string& name : names) {
