@@ -95,8 +95,9 @@ void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
   app.add_option("--format", texts.form, "text, json, csv or raw")
       ->option_text("FORM")
       ->check(CLI::IsMember(forms));
-  app.add_option("--output,-o", options.target,
-                 "A file, which appears when it is complete; a folder for csv")
+  app.add_option(
+         "--output,-o", options.target,
+         "A file, which appears when it is complete; for csv a folder, or one table as NAME.csv")
       ->option_text("PATH");
   app.add_flag("--legacy", options.sink.legacy,
                "Records and text of the exports of navframe.h, oddities included");

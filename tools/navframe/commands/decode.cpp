@@ -335,7 +335,8 @@ ExitStatus Decode(const DecodeOptions& options) {
     try {
       sources = WithFilesOfFolders(sources);
     } catch (const Fault& fault) {
-      std::fprintf(stderr, "navframe: %s\n", fault.what());
+      Progress progress(0);
+      Messages(progress, false).Add(fault.what());
       return Failure;
     }
   }

@@ -1,6 +1,7 @@
 #include "commands/kinds.h"
 
 #include <cstdio>
+#include <string_view>
 
 #include "fault.h"
 #include "kind_names.h"
@@ -27,6 +28,7 @@ void List(std::string& out) {
   out += '\n';
   for (std::uint32_t i = 0; i < navframe_kind_count(); ++i) {
     const NavframeKind& kind = *navframe_kind_at(i);
+    if (std::string_view(kind.description) == "never made") continue;
     const std::size_t from = out.size();
     out.append(kind.name);
     Pad(out, from, 20);

@@ -17,7 +17,9 @@ constexpr std::size_t MostInMemory = 1 << 20;
 // A file without a name: it goes with its descriptor, whatever ends the program.
 Descriptor OpenTemporary() {
   std::error_code error;
-  std::string name = std::filesystem::temp_directory_path(error).string() + "/navframeXXXXXX";
+  std::string name = std::filesystem::temp_directory_path(error).string();
+  if (error) throw CannotWrite("a temporary file", error.value());
+  name += "/navframeXXXXXX";
   const int file = mkostemp(name.data(), O_CLOEXEC);
   if (file < 0) throw CannotWrite(name, errno);
   unlink(name.c_str());
