@@ -48,8 +48,12 @@ Stream OpenStream(const DecodeOptions& options) {
     ours.startWeek = 0;
   }
   ours.items = NavframeItemRecord | NavframeItemUndecoded;
-  // Sentences with a malformed field are told by their frames, also where they give a record.
-  if (options.form->takesFrames || options.stats || !options.quiet) ours.items |= NavframeItemFrame;
+  // Sentences with a malformed field are told by their frames, also where they give a record; and
+  // the stream may start with a frame that gives none.
+  if (options.form->takesFrames || options.stats || !options.quiet ||
+      options.filters.CountFromStart()) {
+    ours.items |= NavframeItemFrame;
+  }
   if (options.sink.withParts) ours.items |= NavframeItemRejected | NavframeItemSkipped;
   if (!LooksAtAllKinds(options)) {
     ours.kinds = options.kinds.data();
@@ -193,7 +197,8 @@ class Decoding {
                              item.reason == NavframeBadContent ||
                              (item.reason == NavframeBadField && options_.sink.legacy);
     const bool isWanted = options_.form->takesFrames || (options_.sink.withParts && isUndecoded);
-    if (isWanted && selection_.PassesTime(item)) return sink_->Take({item, nullptr, name_});
+    const bool isInTime = selection_.PassesTime(item);
+    if (isWanted && isInTime) return sink_->Take({item, nullptr, name_});
     sink_->Leave(item);
   }
 
