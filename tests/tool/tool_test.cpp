@@ -54,6 +54,13 @@ TEST_F(Tool, Options) {
       {"navframe --quiet --kinds vtg,1005 --kinds BESTPOS $IN", 0, "VTG STATION-ARP BESTPOS", ""},
       {"navframe --quiet --kinds 66048 $IN", 0, "NAV-PVT-WIDE", ""},
       {"navframe --kinds vtg $IN", 0, "VTG", "malformed"},
+      {"navframe decode --quiet --kinds NAV-PVT,stations $IN", 0, "NAV-PVT-WIDE STATION-ARP", ""},
+      {"navframe --quiet --legacy --kinds VTG,NAV-PVT --format json $IN |"
+       "sed 's/.*\"kind\":\"\\([^\"]*\\).*/ \\1/'",
+       0, "VTG NAV-PVT", ""},
+      {"navframe --quiet --legacy --kinds VTG $IN | sed 's/^/ /'", 0,
+       "63.000,T,,M,26.000,N,48.000,K,D", ""},
+      {"cd $DIR && cp in kinds && navframe decode --quiet --kinds vtg kinds", 0, "VTG", ""},
       {"navframe --kinds 102x $IN", 2, "", "no kind of record is called 102x"},
       {"navframe $DIR/none", 1, "", "/none: No such file"},
       {"navframe $DIR", 1, "", "navframe: cannot read /"},

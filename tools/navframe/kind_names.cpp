@@ -1,7 +1,6 @@
 #include "kind_names.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <string_view>
 
@@ -64,15 +63,18 @@ std::vector<KindGroup> KindGroups() {
 }
 
 std::vector<const NavframeKind*> KindsNamed(const std::string& text) {
-  std::string lower = text;
-  std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return std::tolower(c); });
+  // "observations" is a group, "OBSERVATIONS" one of its kinds.
   for (const KindGroup& group : KindGroups()) {
-    if (lower == group.name) return group.kinds;
+    if (text == group.name) return group.kinds;
   }
-  const std::string wide = text + "-WIDE";  // what streams make of the message
+  // The name of a kind that the exports make means what streams make of its message, too.
+  const NavframeKind* const named = navframe_kind_named(text.c_str());
+  constexpr std::uint32_t EndOfExports = 0x100;
+  const bool isOfExports = named != nullptr && named->id < EndOfExports && *named->message != '\0';
+  const std::string message = isOfExports ? named->message : text;
   const auto kinds = KindsThat([&](const NavframeKind& kind) {
     return navframe_kind_has_name(&kind, text.c_str()) != 0 ||
-           navframe_kind_has_name(&kind, wide.c_str()) != 0;
+           navframe_kind_has_name(&kind, message.c_str()) != 0;
   });
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);

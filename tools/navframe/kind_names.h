@@ -16,8 +16,9 @@ struct KindGroup {
 };
 std::vector<KindGroup> KindGroups();
 
-// The kinds of a group; or those that have this name or message ("GSV" are two); or else this
-// number, of two with a number that which is no log's. Empty for none.
+// The kinds of a group, by its name in small letters; or those that have this name or message, and
+// the others of that message ("GSV" are two); or else this number, of two with a number that which
+// is no log's. Empty for none.
 std::vector<const NavframeKind*> KindsNamed(const std::string& text);
 
 }  // namespace navframe::tool

@@ -201,6 +201,7 @@ int Main(int argc, char** argv) {
       app.add_subcommand("decode", "Decode sources; navframe SOURCE... is short for it");
   decode->footer(ExamplesText());
   AddDecode(*decode, options, texts);
+  app.require_subcommand(0, 1);  // behind one of them its name is that of a source
   std::vector<std::string> kinds;
   CLI::App* const list = app.add_subcommand("kinds", "List kinds of records, or their members");
   list->add_option("KIND", kinds, "Names, numbers or groups")
