@@ -111,8 +111,8 @@ TEST_F(Tool, Statistics) {
 
 // Whichever kind a message's content needs.
 TEST_F(Tool, KindsTakesAllKindsOfAMessage) {
-  const std::string input = Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPTXT,01") +
-                            Sentence("GPGSV,1,1,01,303,10,111,30,1") + Sentence("GPTXT,01");
+  const std::string input = Sentence("GPGSV,1,1,01,03,10,111,30,1") + Sentence("GPWPL,01") +
+                            Sentence("GPGSV,1,1,01,303,10,111,30,1") + Sentence("GPWPL,01");
   EXPECT_EQ(Kinds(Run("navframe --kinds gsv $IN", input).out), "GSV GSV GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --kinds GSV-WIDE $IN", input).out), "GSV-WIDE GSV-WIDE");
   EXPECT_EQ(Kinds(Run("navframe --kinds 4 $IN", input).out), "GSV GSV");
@@ -250,7 +250,7 @@ TEST_F(Tool, LinesOfRecords) {
            "s\n" +
            time + "SYSPARAM announcements messageId 1005, synchronous no, interval 5 0.1 s\n" +
            time + "SYSPARAM announcements messageId 1033, synchronous no, interval 5 0.1 s\n"},
-      {Sentence("GPGSV,1,1,01,42,10,111,30,1") + Sentence("GPTXT,01"),
+      {Sentence("GPGSV,1,1,01,42,10,111,30,1") + Sentence("GPWPL,01"),
        "- GSV cycleComplete yes, satelliteCount 1\n"
        "- GSV S29 azimuth 111 deg, elevation 10 deg, used no, "
        "signalCount 1; signalId 1, cn0 30 dB-Hz\n"},
