@@ -17,6 +17,7 @@ build_packages=(
   "zlib1g-dev:header zlib.h"
   "libzstd-dev:header zstd.h"
   "pkg-config:command pkg-config"
+  "libcurl4-openssl-dev:header curl/curl.h"
 )
 # What scripts/run shows of the sample, and the README of that.
 sample_options="--first 5 --kinds GGA,RMC,GSV,NAV-PVT,OBSERVATIONS,STATION-ARP --fields fixQuality,fixType,latitude,longitude,altitude,height,speedKnots,course,satellite,number,elevation,code,pseudorange,carrierPhase,cn0,x,y,z"
@@ -30,6 +31,10 @@ ci_packages=(
   "libclang-rt-dev:fuzzer_runtime"
   "python3:command python3"
   "rtklib:command convbin"
+  "socat:command socat"
+  "openssl:command openssl"
+  "iproute2:command ip"
+  "util-linux:command unshare"
 )
 
 have_command() { command -v "$1" >/dev/null; }

@@ -192,6 +192,8 @@ TEST_F(Forms, EveryCommandThatIsShownRuns) {
   for (const std::string& command : Commands(readme.str(), "navframe ")) {
     if (command.find(" is ") == std::string::npos) commands.push_back(command);
   }
+  // Those of live sources are run where there is something that sends.
+  std::erase_if(commands, [](const auto& command) { return command.find(":/") != command.npos; });
   EXPECT_GT(commands.size(), 18U);
   const std::string set =
       "mkdir -p $DIR/work/logs && cd $DIR/work && cp " + Samples +

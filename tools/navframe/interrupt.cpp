@@ -1,13 +1,15 @@
 #include "interrupt.h"
 
+#include <atomic>
 #include <csignal>
 
 namespace navframe::tool {
 namespace {
 
-volatile std::sig_atomic_t interrupted = 0;  // what a handler may write
+std::atomic<bool> interrupted = false;  // without a lock, so that a handler may write it
+static_assert(std::atomic<bool>::is_always_lock_free);
 
-void Note(int) { interrupted = 1; }
+void Note(int) { interrupted = true; }
 
 }  // namespace
 
@@ -19,6 +21,6 @@ void NoteInterrupts() {
   sigaction(SIGTERM, &action, nullptr);
 }
 
-bool IsInterrupted() { return interrupted != 0; }
+bool IsInterrupted() { return interrupted; }
 
 }  // namespace navframe::tool

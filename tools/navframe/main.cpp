@@ -12,10 +12,13 @@
 #include "commands/decode.h"
 #include "commands/kinds.h"
 #include "commands/manual.h"
+#include "commands/sources.h"
 #include "fault.h"
 #include "kind_names.h"
 #include "outputs/output_file.h"
 #include "record_shape.h"
+#include "sources/address.h"
+#include "sources/gga.h"
 
 namespace navframe::tool {
 namespace {
@@ -35,6 +38,7 @@ struct Texts {
   std::string to;
   std::string every;
   std::string form = "text";
+  std::string position;
 };
 
 std::string CheckKind(const std::string& text) {
@@ -48,6 +52,13 @@ std::string CheckMoment(const std::string& text) {
 }
 std::string CheckSatellite(const std::string& text) {
   return ParseSatellite(text) ? "" : text + " is no satellite such as G05, nor a system such as E";
+}
+
+std::string CheckPosition(const std::string& text) {
+  return ParsePosition(text) ? ""
+                             : text +
+                                   " is no position such as 48.5,11.25 or 48.5,11.25,545 (degrees "
+                                   "to the north and east, meters)";
 }
 
 CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,
@@ -113,13 +124,48 @@ void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
   app.add_flag("--quiet", options.quiet, "Do not report malformed sentences");
 }
 
+void AddLive(CLI::App& app, DecodeOptions& options, Texts& texts) {
+  app.add_option("--position", texts.position,
+                 "Where casters are told that their user is, every 10 s, instead of where the "
+                 "sources say")
+      ->option_text("LAT,LON[,HEIGHT]")
+      ->check(CheckPosition, "POSITION");
+  app.add_option("--record", options.record, "A new file for the bytes of the source, as they come")
+      ->option_text("FILE")
+      ->check(
+          [&options](const std::string&) {
+            const bool areMore = options.recursive || options.sources.size() > 1;
+            return areMore ? "there is one source alone to a recording" : "";
+          },
+          "FILE");
+}
+
 // `navframe SOURCE...` and `navframe decode SOURCE...` take the same.
 void AddDecode(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  app.add_option("SOURCE", options.sources, "Files, compressed or not; - for standard input")
+  app.add_option(
+         "SOURCE", options.sources,
+         "Files, compressed or not; - for standard input; serial:/dev/ttyACM0?baud=115200, "
+         "tcp://HOST:PORT, ntrip://[USER[:PASSWORD]@]HOST[:PORT]/MOUNTPOINT, ntrips:// with "
+         "TLS")
       ->option_text("...");
   app.add_flag("--recursive,-r", options.recursive, "All files below the folders that are named");
   AddFilters(app, options, texts);
   AddOutput(app, options, texts);
+  AddLive(app, options, texts);
+}
+
+CLI::App* AddCasters(CLI::App& app, std::string& caster) {
+  CLI::App* const command = app.add_subcommand("sources", "List the mountpoints of a caster");
+  command->add_option("CASTER", caster, "ntrip://[USER[:PASSWORD]@]HOST[:PORT], or ntrips://")
+      ->option_text(" ")
+      ->required()
+      ->check(
+          [](const std::string& text) {
+            const bool isCaster = text.starts_with("ntrip://") || text.starts_with("ntrips://");
+            return isCaster ? "" : ShownName(text) + " is no address of a caster";
+          },
+          "CASTER");
+  return command;
 }
 
 // The kinds that are wanted and have one of the chosen fields; a field that none has is no name.
@@ -154,6 +200,7 @@ void LookUp(const Texts& texts, DecodeOptions& options) {
   }
   if (!texts.from.empty()) options.filters.from = ParseMoment(texts.from);
   if (!texts.to.empty()) options.filters.to = ParseMoment(texts.to);
+  if (!texts.position.empty()) options.position = ParsePosition(texts.position);
   for (const FormRow& row : Forms) {
     if (texts.form == row.name) options.form = &row;
   }
@@ -207,6 +254,8 @@ int Main(int argc, char** argv) {
   list->add_option("KIND", kinds, "Names, numbers or groups")
       ->option_text("...")
       ->check(CheckKind, "KIND");
+  std::string caster;
+  CLI::App* const casters = AddCasters(app, caster);
   try {
     app.parse(argc, argv);
     LookUp(texts, options);
@@ -221,6 +270,7 @@ int Main(int argc, char** argv) {
   if (wantsManual) return Say(ManualPage(app));
   if (wantsCompletion) return Say(BashCompletion(app));
   if (list->parsed()) return ListKinds(kinds);
+  if (casters->parsed()) return ListSources(caster);
   return Decode(options);
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "navframe/stream.h"
 #include "selection.h"
 #include "sinks/sink.h"
+#include "sources/source.h"
 
 namespace navframe::tool {
 
@@ -26,6 +28,8 @@ struct DecodeOptions {
   std::uint32_t startWeek = 0;
   std::size_t chunk = 65536;
   unsigned jobs = 0;  // files that are decoded side by side; 0: as many as there are cores
+  std::optional<Position> position;  // for casters; none: what the sources tell
+  std::string record;                // a file for the bytes of the source; empty for none
   bool stats = false;
   bool quiet = false;
 };

@@ -25,6 +25,11 @@ constexpr Example Examples[] = {
      "the frames of the second minute"},
     {"navframe --recursive logs --stats --format json > all.json", "all that is in a folder"},
     {"navframe drive.ubx --undecoded", "what no record is made of, too"},
+    {"navframe 'serial:/dev/ttyACM0?baud=115200' --record drive.ubx",
+     "a receiver, whose bytes are kept"},
+    {"navframe tcp://localhost:5017 ntrip://user@caster.example/BASE",
+     "a server beside a mountpoint of a caster"},
+    {"navframe sources ntrip://caster.example", "the mountpoints of a caster"},
     {"navframe kinds observations", "what stands in these records"},
 };
 

@@ -27,7 +27,10 @@ class Descriptor {
   int number_;
 };
 
-// Source::Read of a descriptor. `name` stands in the message of the Fault.
+// Source::Read of a descriptor; `error` is an errno, or 0.
+Reading TryRead(int descriptor, std::uint8_t* to, std::size_t room, int& error);
+
+// The same, which throws. `name` stands in the message of the Fault.
 Reading ReadDescriptor(int descriptor, const std::string& name, std::uint8_t* to, std::size_t room);
 
 }  // namespace navframe::tool

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "fault.h"
+#include "sources/address.h"
 
 namespace navframe::tool {
 
@@ -33,7 +34,7 @@ std::vector<std::string> WithFilesOfFolders(const std::vector<std::string>& name
 bool IsFile(const std::string& name) {
   std::error_code error;
   if (fs::exists(name, error)) return fs::is_regular_file(name, error);
-  return name != "-" && name.find(':') == std::string::npos;
+  return name != "-" && !IsAddress(name);
 }
 
 std::uint64_t SizeOfFiles(const std::vector<std::string>& names) {

@@ -1,6 +1,11 @@
 #include "sources/source.h"
 
+#include "fault.h"
+#include "sources/address.h"
 #include "sources/file.h"
+#include "sources/ntrip.h"
+#include "sources/serial.h"
+#include "sources/tcp.h"
 
 namespace navframe::tool {
 namespace {
@@ -11,7 +16,10 @@ struct SchemeRow {
   std::unique_ptr<Source> (*open)(const std::string& name);
 };
 constexpr SchemeRow Schemes[] = {
-    {"", OpenFile},  // all other names
+    {"serial:", OpenSerial},
+    {"tcp://", OpenTcp},
+    {"ntrip://", OpenNtrip},
+    {"ntrips://", OpenNtrip},
 };
 
 }  // namespace
@@ -20,6 +28,7 @@ std::unique_ptr<Source> OpenSource(const std::string& name) {
   for (const SchemeRow& row : Schemes) {
     if (name.starts_with(row.scheme)) return row.open(name);
   }
+  if (IsAddress(name)) throw Fault(ShownName(name) + ": there are no sources of this kind");
   return OpenFile(name);
 }
 

@@ -39,6 +39,9 @@ class Source {
   // Whether its bytes are made while they are read, so that what they give is wanted at once.
   virtual bool IsLive() const = 0;
 
+  // Whether its end is that of a connection, which the other side closed: inside a frame a failure.
+  virtual bool IsConnection() const { return false; }
+
   // How far a source of known size is read, in bytes of it (compressed ones, where it is); 0 for
   // others.
   virtual std::uint64_t Taken() const { return 0; }
