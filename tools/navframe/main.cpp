@@ -14,9 +14,9 @@
 #include "commands/manual.h"
 #include "commands/sources.h"
 #include "fault.h"
-#include "kind_names.h"
 #include "outputs/output_file.h"
-#include "record_shape.h"
+#include "records/kind_names.h"
+#include "records/record_shape.h"
 #include "sources/address.h"
 #include "sources/gga.h"
 

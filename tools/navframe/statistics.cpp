@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "item_text.h"
+#include "records/item_text.h"
 
 namespace navframe::tool {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "exit_status.h"
 #include "navframe/stream.h"
-#include "selection.h"
+#include "records/selection.h"
 #include "sinks/sink.h"
 #include "sources/source.h"
 

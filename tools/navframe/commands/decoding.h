@@ -13,7 +13,7 @@
 #include "navframe/stream.h"
 #include "outputs/outputs.h"
 #include "progress.h"
-#include "selection.h"
+#include "records/selection.h"
 #include "sinks/sink.h"
 #include "sources/source.h"
 #include "statistics.h"

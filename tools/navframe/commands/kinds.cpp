@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "fault.h"
-#include "kind_names.h"
 #include "outputs/output_file.h"
-#include "record_shape.h"
+#include "records/kind_names.h"
+#include "records/record_shape.h"
 
 namespace navframe::tool {
 namespace {

@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <string_view>
 
-#include "kind_names.h"
+#include "records/kind_names.h"
 #include "sinks/sink.h"
 
 namespace navframe::tool {

@@ -2,8 +2,8 @@
 // front.
 #include <unordered_map>
 
-#include "item_text.h"
-#include "record_shape.h"
+#include "records/item_text.h"
+#include "records/record_shape.h"
 #include "sinks/sink.h"
 
 namespace navframe::tool {

@@ -5,9 +5,9 @@
 #include <cstring>
 #include <unordered_map>
 
-#include "item_text.h"
 #include "printable.h"
-#include "record_shape.h"
+#include "records/item_text.h"
+#include "records/record_shape.h"
 #include "sinks/sink.h"
 
 namespace navframe::tool {

@@ -7,13 +7,13 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "item_text.h"
 #include "printable.h"
-#include "record_shape.h"
-#include "satellite_names.h"
+#include "records/item_text.h"
+#include "records/record_shape.h"
+#include "records/satellite_names.h"
+#include "records/value_text.h"
 #include "sinks/sink.h"
 #include "sinks/time_members.h"
-#include "value_text.h"
 
 namespace navframe::tool {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "navframe/stream.h"
-#include "record_shape.h"
+#include "records/record_shape.h"
 
 namespace navframe::tool {
 

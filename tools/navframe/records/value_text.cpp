@@ -1,4 +1,4 @@
-#include "value_text.h"
+#include "records/value_text.h"
 
 #include <array>
 #include <charconv>

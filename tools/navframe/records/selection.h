@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "navframe/stream.h"
-#include "satellite_names.h"
+#include "records/satellite_names.h"
 
 namespace navframe::tool {
 

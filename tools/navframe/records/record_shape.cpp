@@ -1,8 +1,8 @@
-#include "record_shape.h"
+#include "records/record_shape.h"
 
 #include <algorithm>
 
-#include "value_text.h"
+#include "records/value_text.h"
 
 namespace navframe::tool {
 namespace {

@@ -1,4 +1,4 @@
-#include "satellite_names.h"
+#include "records/satellite_names.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "item_text.h"
+#include "records/item_text.h"
 
 #include <array>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "kind_names.h"
+#include "records/kind_names.h"
 
 #include <algorithm>
 #include <charconv>

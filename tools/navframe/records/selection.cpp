@@ -1,4 +1,4 @@
-#include "selection.h"
+#include "records/selection.h"
 
 #include <algorithm>
 #include <array>
