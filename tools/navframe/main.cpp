@@ -1,212 +1,18 @@
-// The command line.
+// From the command line to the command that it names.
 #include <fcntl.h>
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
-#include <map>
 #include <string>
-#include <vector>
 
-#include "commands/decode.h"
-#include "commands/kinds.h"
-#include "commands/manual.h"
-#include "commands/sources.h"
+#include "command_line/commands.h"
+#include "command_line/manual.h"
 #include "fault.h"
 #include "outputs/output_file.h"
-#include "records/kind_names.h"
-#include "records/record_shape.h"
-#include "sources/address.h"
-#include "sources/gga.h"
 
 namespace navframe::tool {
 namespace {
-
-const std::map<std::string, std::uint32_t> Protocols = {
-    {"nmea", NavframeNmea},  {"tagblock", NavframeNmeaTagBlock},
-    {"rtcm", NavframeRtcm3}, {"ubx", NavframeUbx},
-    {"55aa", Navframe55Aa},  {"log", NavframeAsciiLog},
-};
-
-// What the options of `decode` are parsed into, before their names are looked up.
-struct Texts {
-  std::vector<std::uint32_t> protocols;
-  std::vector<std::string> kinds;
-  std::vector<std::string> satellites;
-  std::string from;
-  std::string to;
-  std::string every;
-  std::string form = "text";
-  std::string position;
-};
-
-std::string CheckKind(const std::string& text) {
-  return KindsNamed(text).empty() ? "no kind of record is called " + text : "";
-}
-std::string CheckMoment(const std::string& text) {
-  return ParseMoment(text) ? ""
-                           : text +
-                                 " is no time such as 2026-03-14T12:00:00Z (UTC), 2409:561618 "
-                                 "(GPS week and second) or +90 (seconds behind the start)";
-}
-std::string CheckSatellite(const std::string& text) {
-  return ParseSatellite(text) ? "" : text + " is no satellite such as G05, nor a system such as E";
-}
-
-std::string CheckPosition(const std::string& text) {
-  return ParsePosition(text) ? ""
-                             : text +
-                                   " is no position such as 48.5,11.25 or 48.5,11.25,545 (degrees "
-                                   "to the north and east, meters)";
-}
-
-CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,
-                     const char* description, const char* shown) {
-  return app.add_option(name, values, description)
-      ->option_text(shown)
-      ->delimiter(',')
-      ->allow_extra_args(false);  // what follows is a source
-}
-
-void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  AddList(app, "--kinds", texts.kinds,
-          "Kinds of records: names, numbers or groups; see navframe kinds", "KIND[,KIND...]")
-      ->check(CheckKind, "KIND");
-  app.add_option("--protocols", texts.protocols,
-                 "Protocols to look for: nmea, tagblock, rtcm, ubx, 55aa, log")
-      ->option_text("NAME[,NAME...]")
-      ->delimiter(',')
-      ->allow_extra_args(false)
-      ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
-  AddList(app, "--sat,--system", texts.satellites,
-          "Satellites (G05) or systems (E) alone, of what tells any", "NAME[,NAME...]")
-      ->check(CheckSatellite, "SATELLITE");
-  AddList(app, "--signal", options.filters.signals,
-          "Observations of these signals alone, as RINEX calls them: 1C", "CODE[,CODE...]");
-  app.add_option("--from", texts.from, "What is of this time or later")
-      ->option_text("TIME")
-      ->check(CheckMoment, "TIME");
-  app.add_option("--to", texts.to, "What is before this time")
-      ->option_text("TIME")
-      ->check(CheckMoment, "TIME");
-  app.add_option("--every", options.filters.every, "The first epoch of each interval")
-      ->option_text("30s")
-      ->transform(CLI::AsNumberWithUnit(
-          std::map<std::string, double>{{"ms", 0.001}, {"s", 1}, {"min", 60}, {"h", 3600}}))
-      ->check(CLI::PositiveNumber);
-  app.add_option("--first", options.first, "That many records alone")->option_text("N");
-  AddList(app, "--fields", options.sink.fields,
-          "Members that are shown; kinds without any of them are not", "NAME[,NAME...]");
-}
-
-void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  std::vector<std::string> forms;
-  for (const FormRow& row : Forms) forms.emplace_back(row.name);
-  app.add_option("--format", texts.form, "text, json, csv or raw")
-      ->option_text("FORM")
-      ->check(CLI::IsMember(forms));
-  app.add_option(
-         "--output,-o", options.target,
-         "A file, which appears when it is complete; for csv a folder, or one table as NAME.csv")
-      ->option_text("PATH");
-  app.add_flag("--legacy", options.sink.legacy,
-               "Records and text of the exports of navframe.h, oddities included");
-  app.add_flag("--undecoded", options.sink.withParts,
-               "Frames without a record, and bytes outside of frames, too");
-  app.add_option("--jobs", options.jobs, "Files decoded side by side; as many as there are cores")
-      ->option_text("N")
-      ->check(CLI::Range(1U, 1024U));
-  app.add_option("--chunk", options.chunk, "Bytes read at once: 65536")
-      ->option_text("N")
-      ->check(CLI::Range(std::size_t{1}, std::size_t{1} << 23));
-  app.add_flag("--stats", options.stats, "Print counts and speed to standard error at the end");
-  app.add_flag("--quiet", options.quiet, "Do not report malformed sentences");
-}
-
-void AddLive(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  app.add_option("--position", texts.position,
-                 "Where casters are told that their user is, every 10 s, instead of where the "
-                 "sources say")
-      ->option_text("LAT,LON[,HEIGHT]")
-      ->check(CheckPosition, "POSITION");
-  app.add_option("--record", options.record, "A new file for the bytes of the source, as they come")
-      ->option_text("FILE")
-      ->check(
-          [&options](const std::string&) {
-            const bool areMore = options.recursive || options.sources.size() > 1;
-            return areMore ? "there is one source alone to a recording" : "";
-          },
-          "FILE");
-}
-
-// `navframe SOURCE...` and `navframe decode SOURCE...` take the same.
-void AddDecode(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  app.add_option(
-         "SOURCE", options.sources,
-         "Files, compressed or not; - for standard input; serial:/dev/ttyACM0?baud=115200, "
-         "tcp://HOST:PORT, ntrip://[USER[:PASSWORD]@]HOST[:PORT]/MOUNTPOINT, ntrips:// with "
-         "TLS")
-      ->option_text("...");
-  app.add_flag("--recursive,-r", options.recursive, "All files below the folders that are named");
-  AddFilters(app, options, texts);
-  AddOutput(app, options, texts);
-  AddLive(app, options, texts);
-}
-
-CLI::App* AddCasters(CLI::App& app, std::string& caster) {
-  CLI::App* const command = app.add_subcommand("sources", "List the mountpoints of a caster");
-  command->add_option("CASTER", caster, "ntrip://[USER[:PASSWORD]@]HOST[:PORT], or ntrips://")
-      ->option_text(" ")
-      ->required()
-      ->check(
-          [](const std::string& text) {
-            const bool isCaster = text.starts_with("ntrip://") || text.starts_with("ntrips://");
-            return isCaster ? "" : ShownName(text) + " is no address of a caster";
-          },
-          "CASTER");
-  return command;
-}
-
-// The kinds that are wanted and have one of the chosen fields; a field that none has is no name.
-void ChooseFields(DecodeOptions& options) {
-  if (options.sink.fields.empty()) return;
-  std::vector<const NavframeKind*> kinds = options.kinds;
-  for (std::uint32_t i = 0; options.kinds.empty() && i < navframe_kind_count(); ++i) {
-    kinds.push_back(navframe_kind_at(i));
-  }
-  const auto has = [](const NavframeKind* kind, const std::vector<std::string>& fields) {
-    return !ShapeOf(*kind->record, fields).IsEmpty();
-  };
-  for (const std::string& field : options.sink.fields) {
-    if (std::ranges::none_of(kinds, [&](const auto* kind) { return has(kind, {field}); })) {
-      throw CLI::ValidationError("--fields",
-                                 "no member is called " + field + ", see navframe kinds KIND");
-    }
-  }
-  std::erase_if(kinds, [&](const auto* kind) { return !has(kind, options.sink.fields); });
-  options.kinds = kinds;
-}
-
-void LookUp(const Texts& texts, DecodeOptions& options) {
-  if (!texts.protocols.empty()) options.protocols = 0;
-  for (const std::uint32_t bit : texts.protocols) options.protocols |= bit;
-  for (const std::string& name : texts.kinds) {
-    const auto kinds = KindsNamed(name);
-    options.kinds.insert(options.kinds.end(), kinds.begin(), kinds.end());
-  }
-  for (const std::string& name : texts.satellites) {
-    options.filters.satellites.push_back(*ParseSatellite(name));
-  }
-  if (!texts.from.empty()) options.filters.from = ParseMoment(texts.from);
-  if (!texts.to.empty()) options.filters.to = ParseMoment(texts.to);
-  if (!texts.position.empty()) options.position = ParsePosition(texts.position);
-  for (const FormRow& row : Forms) {
-    if (texts.form == row.name) options.form = &row;
-  }
-  options.sink.bySome = !options.kinds.empty() || options.filters.LookInside();
-  ChooseFields(options);
-}
 
 // What the tool says of itself.
 ExitStatus Say(const std::string& text) {
@@ -237,28 +43,21 @@ int Main(int argc, char** argv) {
   CLI::App app("Decodes what GNSS receivers send: NMEA, RTCM 3, UBX and more.", "navframe");
   app.footer(ExamplesText());
   app.set_version_flag("--version", "navframe " NAVFRAME_VERSION);
-  DecodeOptions options;
-  Texts texts;
-  AddDecode(app, options, texts);
   bool wantsManual = false;
   bool wantsCompletion = false;
   app.add_flag("--man", wantsManual)->group("");
   app.add_flag("--completion", wantsCompletion)->group("");
-  CLI::App* const decode =
-      app.add_subcommand("decode", "Decode sources; navframe SOURCE... is short for it");
-  decode->footer(ExamplesText());
-  AddDecode(*decode, options, texts);
   app.require_subcommand(0, 1);  // behind one of them its name is that of a source
-  std::vector<std::string> kinds;
-  CLI::App* const list = app.add_subcommand("kinds", "List kinds of records, or their members");
-  list->add_option("KIND", kinds, "Names, numbers or groups")
-      ->option_text("...")
-      ->check(CheckKind, "KIND");
-  std::string caster;
-  CLI::App* const casters = AddCasters(app, caster);
+  const Command decode = AddDecode(app);
+  const Command others[] = {AddKinds(app), AddSources(app)};
   try {
     app.parse(argc, argv);
-    LookUp(texts, options);
+    if (wantsManual) return Say(ManualPage(app));
+    if (wantsCompletion) return Say(BashCompletion(app));
+    for (const Command& command : others) {
+      if (command.app->parsed()) return command.run();
+    }
+    return decode.run();
   } catch (const CLI::CallForHelp&) {
     return Say(app.help());
   } catch (const CLI::CallForVersion&) {
@@ -267,11 +66,6 @@ int Main(int argc, char** argv) {
     app.exit(error);
     return WrongUsage;
   }
-  if (wantsManual) return Say(ManualPage(app));
-  if (wantsCompletion) return Say(BashCompletion(app));
-  if (list->parsed()) return ListKinds(kinds);
-  if (casters->parsed()) return ListSources(caster);
-  return Decode(options);
 }
 
 }  // namespace

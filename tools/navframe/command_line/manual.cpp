@@ -1,4 +1,4 @@
-#include "commands/manual.h"
+#include "command_line/manual.h"
 
 #include <CLI/CLI.hpp>
 #include <string_view>
