@@ -1,6 +1,7 @@
 // Text of the input in the tool's output.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,11 @@ namespace navframe::tool {
 // character above the controls: what a receiver sends shall not steer the terminal, nor begin a
 // line.
 void AppendPrintable(std::string_view text, std::string& out);
+
+// Whether it is such text as it stands, and ASCII.
+inline bool IsPlain(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
+}
 
 // The length of the UTF-8 character that `text` begins with; 0 when it begins with none, or with
 // one that is not of more than one byte.

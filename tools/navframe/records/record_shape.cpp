@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "records/value_text.h"
-
 namespace navframe::tool {
 namespace {
 
@@ -32,7 +30,9 @@ class Shaping {
         Nested(member, name, offset);
       } else if (IsNamed(name)) {
         const bool isBinary = member.type == NavframeU8 && member.length > LongestRow;
-        level_.columns.push_back({name, &record, &member, offset, isBinary});
+        const ValueText value(member, offset);
+        level_.columns.push_back({name, &record, &member, offset, isBinary,
+                                  member.length == 0 && value.IsNumber(), value});
       }
     }
   }
@@ -64,16 +64,15 @@ class Shaping {
 
 }  // namespace
 
-bool Column::Append(const void* data, std::uint32_t index, std::string& out) const {
-  const std::uint8_t* const at = At(data);
-  if (!isBinary) return AppendValue(*member, at, index, out);
+char* Column::PutBytes(const void* data, char* to) const {
   constexpr char Digits[] = "0123456789abcdef";
+  const std::uint8_t* const at = At(data) + member->offset;
   const std::uint32_t count = Count(data);
   for (std::uint32_t i = 0; i < count; ++i) {
-    const std::uint8_t byte = at[member->offset + i];
-    out += {Digits[byte >> 4], Digits[byte & 0xF]};
+    *to++ = Digits[at[i] >> 4];
+    *to++ = Digits[at[i] & 0xF];
   }
-  return count != 0;
+  return to;
 }
 
 bool Means(const NavframeMember& member) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "navframe/catalogue.h"
+#include "records/value_text.h"
 
 namespace navframe::tool {
 
@@ -17,6 +18,8 @@ struct Column {
   const NavframeMember* member;
   std::uint32_t offset;  // of the record that the member stands in, from that of the level, bytes
   bool isBinary;         // bytes without a meaning of their own, shown as hexadecimal digits
+  bool isSingleNumber;
+  ValueText value;
 
   const std::uint8_t* At(const void* data) const {
     return static_cast<const std::uint8_t*>(data) + offset;
@@ -25,8 +28,17 @@ struct Column {
   std::uint32_t Count(const void* data) const {
     return member->length == 0 ? 1 : navframe_length(record, member, At(data));
   }
-  // The text of an element. False, and nothing appended, when it is not known.
-  bool Append(const void* data, std::uint32_t index, std::string& out) const;
+  // Values that stand behind the column's name, known or not.
+  std::uint32_t Width() const { return isBinary || member->length == 0 ? 1 : member->length; }
+  std::uint32_t ValueCount(const void* data) const { return isBinary ? 1 : Count(data); }
+  // Writes one of them as ValueText does.
+  char* Put(const void* data, std::uint32_t index, char* to) const {
+    return isBinary ? PutBytes(data, to) : value.Put(data, index, to);
+  }
+  std::size_t Room() const { return isBinary ? std::size_t{2} * member->length : value.Room(); }
+
+ private:
+  char* PutBytes(const void* data, char* to) const;
 };
 
 // The columns of a record or of the entries of a list.
@@ -40,7 +52,7 @@ struct Level {
     return list == nullptr ? 0 : navframe_length(record, list, data);
   }
   const void* Entry(const void* data, std::uint32_t i) const {
-    return navframe_nested(list, data, i);
+    return static_cast<const std::uint8_t*>(data) + list->offset + std::size_t{i} * list->size;
   }
   bool IsEmpty() const { return columns.empty() && list == nullptr; }
 };

@@ -79,10 +79,11 @@ const NavframeMember* First(const NavframeRecord& record, auto... names) {
 
 }  // namespace
 
-void SatelliteName::Append(std::string& out) const {
-  out += system;
-  if (number < 10) out += '0';
-  out.append(std::to_string(number));
+char* SatelliteName::Put(char* to) const {
+  char* const last = to + LongestSatelliteName;
+  *to++ = system;
+  if (number < 10) *to++ = '0';
+  return std::to_chars(to, last, number).ptr;
 }
 
 std::optional<SatelliteName> ParseSatellite(const std::string& text) {

@@ -9,12 +9,15 @@
 
 namespace navframe::tool {
 
+inline constexpr std::size_t LongestSatelliteName = 16;
+
 // "G05": the letter of the system, and the number in it.
 struct SatelliteName {
   char system = '\0';        // none: not known
   std::uint32_t number = 0;  // 0: not known, or every satellite of the system
 
-  void Append(std::string& out) const;
+  // Writes it, in LongestSatelliteName bytes at most, and returns its end.
+  char* Put(char* to) const;
 };
 
 // "G05", "E" for all of a system, "S120" and "J193" too. Nothing for others.

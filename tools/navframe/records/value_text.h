@@ -1,23 +1,105 @@
 // Values of members as text and csv show them.
 #pragma once
 
+#include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <string>
 
 #include "navframe/catalogue.h"
 
 namespace navframe::tool {
 
-// Writes element `index` of a member of the record at `data`, which is a number, and returns the
-// end of what it wrote: the shortest digits that read back to the same value, in positional
-// notation from 0.00001 to 10^15. Null when it is not known. There must be LongestNumber bytes of
-// room.
-inline constexpr std::size_t LongestNumber = 64;
-char* PutNumber(const NavframeMember& member, const void* data, std::uint32_t index, char* to);
+// A member with what writing it takes, gathered once for the many times that it is written.
+class ValueText {
+ public:
+  // `offset` is that of the record which the member stands in, from the data that are handed in.
+  ValueText(const NavframeMember& member, std::uint32_t offset);
 
-// Appends an element, a text with its control characters shown. False, and nothing appended, when
-// it is not known.
-bool AppendValue(const NavframeMember& member, const void* data, std::uint32_t index,
-                 std::string& out);
+  // Writes an element and returns the end of what it wrote; `to` itself when it is not known. A
+  // text with its control characters shown; a number by the shortest digits that read back to the
+  // same value, in positional notation from 0.00001 to 10^15. All of Room() may be touched.
+  char* Put(const void* data, std::uint32_t index, char* to) const {
+    const std::uint8_t* const at = At(data) + std::size_t{index} * size_;
+    return IsNumber() ? PutNumber(at, to) : PutText(at, to);
+  }
+  std::size_t Room() const { return room_; }
+
+  bool IsNumber() const { return type_ <= NavframeF64; }
+  bool IsInteger() const { return type_ <= NavframeI64; }
+  // A single value, as navframe_integer reads it. False when it is not known.
+  bool ReadInteger(const void* data, std::int64_t& value) const;
+
+ private:
+  static constexpr std::size_t LongestNumber = 64;
+
+  const std::uint8_t* At(const void* data) const {
+    return static_cast<const std::uint8_t*>(data) + offset_;
+  }
+  char* PutNumber(const std::uint8_t* at, char* to) const;
+  template <class Integer>
+  char* PutInteger(const std::uint8_t* at, char* to) const;
+  template <class Float>
+  char* PutFloat(const std::uint8_t* at, char* to) const;
+  char* PutText(const std::uint8_t* at, char* to) const;
+  template <class Integer>
+  bool ReadKnown(const std::uint8_t* at, Integer& value) const {
+    std::memcpy(&value, at, sizeof value);
+    return !hasUnknown_ || value != static_cast<Integer>(member_->unknown);
+  }
+
+  const NavframeMember* member_;
+  std::uint32_t type_;
+  std::uint32_t offset_;
+  std::uint32_t size_;
+  bool hasUnknown_;  // a value that means so
+  std::size_t room_;
+};
+
+template <class Integer>
+char* ValueText::PutInteger(const std::uint8_t* at, char* to) const {
+  Integer value;
+  if (!ReadKnown(at, value)) return to;
+  if (value >= 0 && value < 10) {
+    *to = static_cast<char>('0' + value);
+    return to + 1;
+  }
+  return std::to_chars(to, to + LongestNumber, value).ptr;
+}
+
+inline char* ValueText::PutNumber(const std::uint8_t* at, char* to) const {
+  switch (type_) {
+    case NavframeU8:
+      return PutInteger<std::uint8_t>(at, to);
+    case NavframeU16:
+      return PutInteger<std::uint16_t>(at, to);
+    case NavframeU32:
+      return PutInteger<std::uint32_t>(at, to);
+    case NavframeU64:
+      return PutInteger<std::uint64_t>(at, to);
+    case NavframeI8:
+      return PutInteger<std::int8_t>(at, to);
+    case NavframeI16:
+      return PutInteger<std::int16_t>(at, to);
+    case NavframeI32:
+      return PutInteger<std::int32_t>(at, to);
+    case NavframeI64:
+      return PutInteger<std::int64_t>(at, to);
+    case NavframeF32:
+      return PutFloat<float>(at, to);
+    default:
+      return PutFloat<double>(at, to);
+  }
+}
+
+inline bool ValueText::ReadInteger(const void* data, std::int64_t& value) const {
+  if (type_ == NavframeU8) {  // most of them
+    std::uint8_t byte;
+    const bool isKnown = ReadKnown(At(data), byte);
+    value = byte;
+    return isKnown;
+  }
+  return navframe_integer(member_, At(data) - member_->offset, 0, &value) == NavframeKnown;
+}
 
 }  // namespace navframe::tool

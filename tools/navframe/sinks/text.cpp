@@ -4,14 +4,15 @@
 #include <array>
 #include <charconv>
 #include <cstring>
+#include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "printable.h"
 #include "records/item_text.h"
 #include "records/record_shape.h"
 #include "records/satellite_names.h"
-#include "records/value_text.h"
 #include "sinks/sink.h"
 #include "sinks/time_members.h"
 
@@ -24,27 +25,140 @@ struct Word {
   std::array<char, Most> text{};
   std::size_t length = 0;
 
-  void Set(std::string_view word) { length = word.copy(text.data(), Most); }
+  bool Set(std::string_view word) {
+    length = word.copy(text.data(), Most);
+    return length == word.size();
+  }
   char* Put(char* to) const {
     std::memcpy(to, text.data(), Most);
     return to + length;
   }
 };
 
+char* Put(std::string_view text, char* to) { return to + text.copy(to, text.size()); }
+
+// What stands for a number: "no" and "yes", or the names that the catalogue has for it.
+class ValueWords {
+ public:
+  explicit ValueWords(const NavframeMember& member);
+
+  bool AreAny() const { return !words_.empty(); }
+  // Nothing is written of a number without a word.
+  char* Put(std::int64_t number, char* to) const {
+    if (number >= 0 && static_cast<std::uint64_t>(number) < words_.size()) {
+      const ValueWord& word = words_[static_cast<std::size_t>(number)];
+      if (word.length != 0) return word.Put(to);
+    }
+    if (member_->valueCount == 0) return to;
+    const char* const name = navframe_value_name(member_, number);
+    return name == nullptr ? to : tool::Put(name, to);
+  }
+  std::size_t Room() const { return room_; }
+
+ private:
+  using ValueWord = Word<32>;
+
+  const NavframeMember* member_;
+  std::vector<ValueWord> words_;  // of numbers from 0 on; empty ones are looked up
+  std::size_t room_ = sizeof(ValueWord);
+};
+
+ValueWords::ValueWords(const NavframeMember& member) : member_(&member) {
+  constexpr std::int64_t Most = 64;
+  const auto set = [this](std::int64_t number, std::string_view name) {
+    room_ = std::max(room_, name.size());
+    if (number < 0 || number >= Most) return;
+    const auto place = static_cast<std::size_t>(number);
+    if (words_.size() <= place) words_.resize(place + 1);
+    if (!words_[place].Set(name)) words_[place] = {};
+  };
+  for (std::uint32_t i = member.valueCount; i-- > 0;) {  // the first one of a number counts
+    set(member.values[i].value, member.values[i].name);
+  }
+  if ((member.flags & NavframeYesNo) == 0) return;
+  set(0, "no");
+  set(1, "yes");
+}
+
 // A column as people read it.
 struct Shown {
+  Shown(const Column& whole, bool withTime);
+
+  // Without the comma in front of the first one of a line. Nothing is written when no value is
+  // known.
+  char* Put(const void* data, bool isFirst, char* to) const {
+    if (!isQuick) return PutSlowly(data, isFirst, to);
+    const std::size_t before = isFirst ? 1 : 0;
+    std::memcpy(to, quickName.text.data() + before, QuickName);
+    char* const from = to + quickName.length - before;
+    char* const end = PutNumber(data, from);
+    return end == from ? to : quickUnit.Put(end);
+  }
+
   const Column* column;
-  std::string name;  // ", name"
-  std::string unit;  // " unit"
   RepeatsTime repeats = nullptr;
-  bool isFlag = false;
-  bool isNamed = false;  // values have names
   bool isLabel = false;  // stands in front of the others
-  bool isPlain = false;  // one number, or the name of one
-  std::size_t room = 0;  // that it takes at most, where it is plain
-  Word<40> plainName;    // "name "
-  Word<16> plainUnit;
+  std::size_t room;      // that it takes at most
+
+ private:
+  static constexpr std::size_t QuickName = 40;
+
+  char* PutNumber(const void* data, char* to) const {
+    if (words.AreAny()) {
+      std::int64_t number = 0;
+      if (!column->value.ReadInteger(data, number)) return to;
+      char* const end = words.Put(number, to);
+      if (end != to) return end;
+    }
+    return column->value.Put(data, 0, to);
+  }
+  char* PutSlowly(const void* data, bool isFirst, char* to) const;
+
+  bool isQuick;                   // one number, behind a short name
+  Word<QuickName + 1> quickName;  // ", name "
+  Word<16> quickUnit;             // " unit"
+  ValueWords words;
+  std::string name;
+  std::string unit;
 };
+
+Shown::Shown(const Column& whole, bool withTime)
+    : column(&whole),
+      isQuick(whole.isSingleNumber),
+      words(*whole.member),
+      name(", " + whole.name),
+      unit(*whole.member->unit == '\0' ? "" : std::string(" ") + whole.member->unit) {
+  if (withTime) repeats = RepeatsTimeOf(whole);
+  isQuick &= quickName.Set(name + " ");
+  isQuick &= quickUnit.Set(unit);
+  constexpr std::size_t SpaceOrUnknown = 2;
+  room = std::max(sizeof quickName, name.size()) + std::max(sizeof quickUnit, unit.size()) +
+         words.Room() + whole.Width() * (whole.Room() + SpaceOrUnknown);
+}
+
+// The values of an array stand behind one name, unknown ones among them as "-".
+char* Shown::PutSlowly(const void* data, bool isFirst, char* to) const {
+  char* end = tool::Put(std::string_view(name).substr(isFirst ? 1 : 0), to);
+  if (column->isSingleNumber) {
+    *end++ = ' ';
+    char* const from = end;
+    end = PutNumber(data, from);
+    return end == from ? to : tool::Put(unit, end);
+  }
+  const std::uint32_t count = column->ValueCount(data);
+  bool isKnown = false;
+  for (std::uint32_t i = 0; i < count; ++i) {
+    *end++ = ' ';
+    char* const from = end;
+    end = column->Put(data, i, from);
+    if (end == from) {
+      *end++ = '-';
+    } else {
+      isKnown = true;
+    }
+  }
+  return isKnown ? tool::Put(unit, end) : to;
+}
 
 // A level as people read it: "G05 1C" in front tells the satellite and the signal.
 struct Lines {
@@ -52,68 +166,53 @@ struct Lines {
   std::vector<Shown> columns;
   SatelliteMembers satellite;
   bool hasLabel = false;
-  bool hasCode = false;  // in the label
+  const Column* code = nullptr;  // in the label
   std::unique_ptr<Lines> entries;
-  std::string list;  // " name" of entries without a label
+  std::string list;      // " name" of entries without a label
+  std::size_t room = 0;  // that a line takes at most, without the entries of its own list
 
   Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole);
 };
 
-std::size_t LongestName(const NavframeMember& member) {
-  std::size_t length = 0;
-  for (std::uint32_t i = 0; i < member.valueCount; ++i) {
-    length = std::max(length, std::strlen(member.values[i].name));
-  }
-  return length;
-}
-
-char* Put(std::string_view text, char* to) { return to + text.copy(to, text.size()); }
-
-// The number of a member or its name; null when it is not known.
-char* PutNamed(const Shown& shown, const void* data, char* to) {
-  const NavframeMember& member = *shown.column->member;
-  if (shown.isNamed || shown.isFlag) {
-    std::int64_t number = 0;
-    if (navframe_integer(&member, data, 0, &number) != NavframeKnown) return nullptr;
-    if (shown.isFlag && (number == 0 || number == 1)) return Put(number == 0 ? "no" : "yes", to);
-    const char* const name = shown.isNamed ? navframe_value_name(&member, number) : nullptr;
-    if (name != nullptr) return Put(name, to);
-  }
-  return PutNumber(member, data, 0, to);
-}
-
 Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWhole)
     : level(std::move(shape)),
       satellite(isOutermost ? SatelliteMembers(kind) : SatelliteMembers(kind, *level.record)) {
-  const auto has = [&](const NavframeMember* member) {
-    return member != nullptr &&
-           std::ranges::find(level.columns, member, &Column::member) != level.columns.end();
+  const auto find = [&](const NavframeMember* member) {
+    const auto column = std::ranges::find(level.columns, member, &Column::member);
+    return member == nullptr || column == level.columns.end() ? nullptr : &*column;
   };
-  hasLabel = has(satellite.Number()) && satellite.Number()->length == 0;
-  hasCode = has(satellite.Code());
+  hasLabel = find(satellite.Number()) != nullptr && satellite.Number()->length == 0;
+  code = find(satellite.Code());
+  room = 2 * LongestSatelliteName + (code == nullptr ? 0 : code->Room());
   for (const Column& column : level.columns) {
     const NavframeMember* const member = column.member;
     if (std::string_view(member->name) == "tag" && isWhole) continue;  // means nothing in streams
-    Shown shown{&column, ", " + column.name, "", nullptr, false, false, false, false, 0, {}, {}};
-    if (*member->unit != '\0') shown.unit = std::string(" ") + member->unit;
-    if (isOutermost && isWhole) shown.repeats = RepeatsTimeOf(column);
-    shown.isFlag = (member->flags & NavframeYesNo) != 0;
-    shown.isNamed = member->valueCount != 0;
+    Shown& shown = columns.emplace_back(column, isOutermost && isWhole);
     shown.isLabel = hasLabel && column.offset == 0 &&
                     (member == satellite.System() || member == satellite.Number() ||
-                     (member == satellite.Code() && member != nullptr));
-    shown.plainName.Set(column.name + " ");
-    shown.plainUnit.Set(shown.unit);
-    shown.isPlain = member->length == 0 && member->type <= NavframeF64 &&
-                    shown.plainName.length == column.name.size() + 1 &&
-                    shown.plainUnit.length == shown.unit.size();
-    shown.room = sizeof(Shown) + LongestNumber + LongestName(*member);
-    columns.push_back(std::move(shown));
+                     member == satellite.Code());
+    room += shown.room;
   }
   if (level.list == nullptr) return;
   list = std::string(" ") + level.list->name;
   entries = std::make_unique<Lines>(std::move(*level.entries), kind, false, isWhole);
 }
+
+// The line that is put together. It moves when it has to grow.
+class Line {
+ public:
+  char* Begin() { return line_.data(); }
+  // Makes room for `length` bytes behind `to`, which is a place of the line.
+  char* Room(char* to, std::size_t length) {
+    const auto used = static_cast<std::size_t>(to - line_.data());
+    if (line_.size() - used >= length) return to;
+    line_.resize(2 * line_.size() + length);
+    return line_.data() + used;
+  }
+
+ private:
+  std::vector<char> line_ = std::vector<char>(4096);
+};
 
 class Text : public Sink {
  public:
@@ -165,31 +264,35 @@ class Text : public Sink {
   }
 
   void Record(const Lines& lines, const Wanted& wanted) {
-    std::string& out = output_.Buffer();
     const void* const data = wanted.record;
     const NavframeTime* const time =
         wanted.item.time.utc.year == UnknownYear || wanted.item.time.tow == UnknownTow
             ? nullptr
             : &wanted.item.time;
+    Put(begin_, line_.Room(line_.Begin(), begin_.size()));
     if (!lines.columns.empty() || lines.entries == nullptr) {
-      out.append(begin_);
-      Columns(lines, data, data, time, "");
-      out += '\n';
+      End(Columns(lines, data, data, time, "", line_.Begin() + begin_.size()));
     }
     const std::uint32_t count = lines.level.EntryCount(data);
     for (std::uint32_t i = 0; i < count; ++i) {
-      out.append(begin_);
-      Columns(*lines.entries, lines.level.Entry(data, i), data, nullptr, lines.list);
-      out += '\n';
+      End(Columns(*lines.entries, lines.level.Entry(data, i), data, nullptr, lines.list,
+                  line_.Begin() + begin_.size()));
     }
   }
 
+  void End(char* to) {
+    to = line_.Room(to, 1);
+    *to++ = '\n';
+    output_.Buffer().append(line_.Begin(), to);
+  }
+
   // A line, and the entries of its own list behind it unless they have lines of their own.
-  void Columns(const Lines& lines, const void* data, const void* record, const NavframeTime* time,
-               std::string_view list) {
-    std::string& out = output_.Buffer();
-    const bool hasLabel = lines.hasLabel && Label(lines, data, record);
-    if (!hasLabel) out.append(list);
+  char* Columns(const Lines& lines, const void* data, const void* record, const NavframeTime* time,
+                std::string_view list, char* to) {
+    to = line_.Room(to, lines.room + list.size());
+    char* const label = lines.hasLabel ? Label(lines, data, record, to) : to;
+    const bool hasLabel = label != to;
+    to = hasLabel ? label : Put(list, to);
     bool isFirst = true;
     for (const Shown& shown : lines.columns) {
       if (hasLabel && shown.isLabel) continue;
@@ -198,80 +301,35 @@ class Text : public Sink {
           shown.repeats(*column.member, column.At(data), *time)) {
         continue;
       }
-      if (shown.isPlain) {
-        isFirst &= !Plain(shown, column.At(data), isFirst);
-        continue;
-      }
-      Write();
-      const std::size_t before = out.size();
-      out.append(shown.name, isFirst ? 1 : 0);
-      if (Values(shown, data)) {
-        out.append(shown.unit);
-        isFirst = false;
-      } else {
-        out.resize(before);
-      }
+      char* const end = shown.Put(data, isFirst, to);
+      isFirst &= end == to;
+      to = end;
     }
-    Write();
-    if (lines.entries == nullptr || data == record) return;
+    return lines.entries == nullptr || data == record ? to : Entries(lines, data, record, to);
+  }
+
+  char* Entries(const Lines& lines, const void* data, const void* record, char* to) {
     const std::uint32_t count = lines.level.EntryCount(data);
     for (std::uint32_t i = 0; i < count; ++i) {
-      const std::size_t before = out.size();
-      out += ';';
-      Columns(*lines.entries, lines.level.Entry(data, i), record, nullptr, "");
-      if (out.size() == before + 1) out.resize(before);
+      to = line_.Room(to, 1);
+      const auto before = to - line_.Begin();
+      *to++ = ';';
+      to = Columns(*lines.entries, lines.level.Entry(data, i), record, nullptr, "", to);
+      if (to - line_.Begin() == before + 1) --to;
     }
+    return to;
   }
 
-  // False when the satellite is not known; its numbers are shown then.
-  bool Label(const Lines& lines, const void* data, const void* record) {
+  // Nothing when the satellite is not known; its numbers are shown then.
+  static char* Label(const Lines& lines, const void* data, const void* record, char* to) {
     const SatelliteName name = lines.satellite.Read(data, record);
-    if (name.system == '\0' || name.system == '*' || name.number == 0) return false;
-    std::string& out = output_.Buffer();
-    out += ' ';
-    name.Append(out);
-    if (!lines.hasCode) return true;
-    out += ' ';
-    const std::size_t before = out.size();
-    for (const Shown& shown : lines.columns) {
-      if (shown.column->member == lines.satellite.Code()) shown.column->Append(data, 0, out);
-    }
-    if (out.size() == before) out += '-';
-    return true;
-  }
-
-  // False when it is not known. Put behind what waits for Write.
-  bool Plain(const Shown& shown, const void* data, bool isFirst) {
-    if (waiting_ + shown.room > room_.size()) Write();
-    char* const from = room_.data() + waiting_;
-    char* to = from;
-    if (!isFirst) *to++ = ',';
+    if (name.system == '\0' || name.system == '*' || name.number == 0) return to;
     *to++ = ' ';
-    to = PutNamed(shown, data, shown.plainName.Put(to));
-    if (to == nullptr) return false;
-    to = shown.plainUnit.Put(to);
-    waiting_ += static_cast<std::size_t>(to - from);
-    return true;
-  }
-  void Write() {
-    output_.Buffer().append(room_.data(), waiting_);
-    waiting_ = 0;
-  }
-
-  // The values of an array stand behind one name, unknown ones among them as "-". False when none
-  // is known.
-  bool Values(const Shown& shown, const void* data) {
-    const std::uint32_t count = shown.column->isBinary ? 1 : shown.column->Count(data);
-    bool isKnown = false;
-    for (std::uint32_t i = 0; i < count; ++i) {
-      output_.Buffer() += ' ';
-      if (shown.column->Append(data, i, output_.Buffer())) {
-        isKnown = true;
-      } else {
-        output_.Buffer() += '-';
-      }
-    }
-    return isKnown;
+    to = name.Put(to);
+    if (lines.code == nullptr) return to;
+    *to++ = ' ';
+    char* const end = lines.code->Put(data, 0, to);
+    return end == to ? Put("-", to) : end;
   }
 
   void Part(const NavframeItem& item) {
@@ -307,8 +365,7 @@ class Text : public Sink {
   const NavframeKind* lastKind_ = nullptr;
   const Lines* last_ = nullptr;
   std::string begin_;
-  std::array<char, 4096> room_;  // plain members of a line, which are put one behind the other
-  std::size_t waiting_ = 0;      // bytes of them
+  Line line_;  // begins with begin_
 };
 
 // What the exports make of a record; nothing of kinds without a text.
