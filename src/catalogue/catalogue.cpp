@@ -47,6 +47,15 @@ char* PutShortest(char* to, std::floating_point auto value) {
   return end != nullptr ? end : PutUncommonNumber(to, value);
 }
 
+// With a terminator; there must be room for one more than LongestNumber. Returns the length.
+[[gnu::noinline]] std::size_t PutWhole(const NavframeMember& member, const std::uint8_t* at,
+                                       char* to) {
+  char* end = to;
+  ReadNumber(member, at, [&end, to](auto value) { end = PutShortest(to, value); });
+  *end = '\0';
+  return static_cast<std::size_t>(end - to);
+}
+
 }  // namespace
 
 extern "C" {
@@ -114,17 +123,16 @@ int navframe_integer(const NavframeMember* member, const void* data, uint32_t in
 
 size_t navframe_text(const NavframeMember* member, const void* data, uint32_t index, char* out,
                      size_t capacity) {
-  char number[LongestNumber];
+  char number[LongestNumber + 1];
   std::string_view text;
   if (index < Elements(*member)) {
     const std::uint8_t* const at =
         ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
-    if (IsText(*member)) {
+    if (IsNumber(*member)) {
+      if (capacity > LongestNumber) return PutWhole(*member, at, out);
+      text = {number, PutWhole(*member, at, number)};
+    } else if (IsText(*member)) {
       text = ReadText(*member, at);
-    } else if (IsNumber(*member)) {
-      char* end = number;
-      ReadNumber(*member, at, [&](auto value) { end = PutShortest(number, value); });
-      text = {number, end};
     }
   }
   if (capacity != 0) {

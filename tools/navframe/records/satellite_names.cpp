@@ -104,6 +104,7 @@ SatelliteMembers::SatelliteMembers(const NavframeKind& kind) {
   Find(*kind.record);
   const auto* const row = std::ranges::find(SystemsOfKinds, kind.name, &SystemRow::name);
   if (row != std::end(SystemsOfKinds)) systemOfKind_ = row->letter;
+  NoteLetters();
 }
 
 SatelliteMembers::SatelliteMembers(const NavframeKind& kind, const NavframeRecord& entry)
@@ -112,6 +113,17 @@ SatelliteMembers::SatelliteMembers(const NavframeKind& kind, const NavframeRecor
   Find(entry);
   systemIsOuter_ = system_ == nullptr;
   if (systemIsOuter_) system_ = outer;
+  NoteLetters();
+}
+
+void SatelliteMembers::NoteLetters() {
+  letters_ = {};
+  for (std::uint32_t i = 0; system_ != nullptr && i < system_->valueCount; ++i) {
+    const auto [value, name] = system_->values[i];
+    if (value >= 0 && value < std::ssize(letters_)) {
+      letters_[static_cast<std::size_t>(value)] = LetterOf(name);
+    }
+  }
 }
 
 void SatelliteMembers::Find(const NavframeRecord& record) {
@@ -135,6 +147,8 @@ char SatelliteMembers::ReadSystem(const void* entry, const void* record) const {
     if (navframe_integer(system_, systemIsOuter_ ? record : entry, 0, &value) != NavframeKnown) {
       return '\0';
     }
+    if (value >= 0 && value < std::ssize(letters_))
+      return letters_[static_cast<std::size_t>(value)];
     const char* const name = navframe_value_name(system_, value);
     return name == nullptr ? '\0' : LetterOf(name);
   }

@@ -1,6 +1,7 @@
 // Satellites as RINEX calls them, whatever numbers a message has for them.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -41,9 +42,11 @@ class SatelliteMembers {
   enum class Numbering : std::uint8_t { InSystem, Nmea, Ubx, UbxOverAll, Log };
 
   void Find(const NavframeRecord& record);
+  void NoteLetters();
   char ReadSystem(const void* entry, const void* record) const;
 
   const NavframeMember* system_ = nullptr;
+  std::array<char, 16> letters_{};  // by its first values
   const NavframeMember* number_ = nullptr;
   const NavframeMember* code_ = nullptr;
   const NavframeMember* tracking_ = nullptr;

@@ -37,11 +37,36 @@ char* ValueText::PutFloat(const std::uint8_t* at, char* to) const {
   }
   return std::to_chars(to, to + LongestNumber, value, std::chars_format::fixed).ptr;
 }
-template char* ValueText::PutFloat<float>(const std::uint8_t* at, char* to) const;
 template char* ValueText::PutFloat<double>(const std::uint8_t* at, char* to) const;
 
+char* ValueText::PutOtherNumber(const std::uint8_t* at, char* to) const {
+  switch (type_) {
+    case NavframeU16:
+      return PutInteger<std::uint16_t>(at, to);
+    case NavframeU32:
+      return PutInteger<std::uint32_t>(at, to);
+    case NavframeU64:
+      return PutInteger<std::uint64_t>(at, to);
+    case NavframeI8:
+      return PutInteger<std::int8_t>(at, to);
+    case NavframeI16:
+      return PutInteger<std::int16_t>(at, to);
+    case NavframeI32:
+      return PutInteger<std::int32_t>(at, to);
+    case NavframeI64:
+      return PutInteger<std::int64_t>(at, to);
+    default:
+      return PutFloat<float>(at, to);
+  }
+}
+
 char* ValueText::PutText(const std::uint8_t* at, char* to) const {
-  const std::size_t length = navframe_text(member_, at - member_->offset, 0, to, room_);
+  std::size_t length = 0;
+  if (type_ == NavframeText) {
+    for (; length < size_ && at[length] != 0; ++length) to[length] = static_cast<char>(at[length]);
+  } else {
+    length = navframe_text(member_, at - member_->offset, 0, to, room_);
+  }
   const std::string_view text(to, length);
   if (IsPlain(text)) return to + length;
   std::string shown;

@@ -37,6 +37,7 @@ class ValueText {
     return static_cast<const std::uint8_t*>(data) + offset_;
   }
   char* PutNumber(const std::uint8_t* at, char* to) const;
+  char* PutOtherNumber(const std::uint8_t* at, char* to) const;
   template <class Integer>
   char* PutInteger(const std::uint8_t* at, char* to) const;
   template <class Float>
@@ -68,32 +69,13 @@ char* ValueText::PutInteger(const std::uint8_t* at, char* to) const {
 }
 
 inline char* ValueText::PutNumber(const std::uint8_t* at, char* to) const {
-  switch (type_) {
-    case NavframeU8:
-      return PutInteger<std::uint8_t>(at, to);
-    case NavframeU16:
-      return PutInteger<std::uint16_t>(at, to);
-    case NavframeU32:
-      return PutInteger<std::uint32_t>(at, to);
-    case NavframeU64:
-      return PutInteger<std::uint64_t>(at, to);
-    case NavframeI8:
-      return PutInteger<std::int8_t>(at, to);
-    case NavframeI16:
-      return PutInteger<std::int16_t>(at, to);
-    case NavframeI32:
-      return PutInteger<std::int32_t>(at, to);
-    case NavframeI64:
-      return PutInteger<std::int64_t>(at, to);
-    case NavframeF32:
-      return PutFloat<float>(at, to);
-    default:
-      return PutFloat<double>(at, to);
-  }
+  if (type_ == NavframeU8) return PutInteger<std::uint8_t>(at, to);  // most members
+  if (type_ == NavframeF64) return PutFloat<double>(at, to);
+  return PutOtherNumber(at, to);
 }
 
 inline bool ValueText::ReadInteger(const void* data, std::int64_t& value) const {
-  if (type_ == NavframeU8) {  // most of them
+  if (type_ == NavframeU8) {
     std::uint8_t byte;
     const bool isKnown = ReadKnown(At(data), byte);
     value = byte;
