@@ -331,6 +331,40 @@ TEST_F(Forms, Faults) {
   }
 }
 
+// Frames of zstd, put together by hand. What is in front of a fault is decoded, and the fault told
+// with the block that is damaged.
+TEST_F(Forms, Zstd) {
+  enum : unsigned { Raw = 0, Compressed = 2 };
+  const auto block = [](const std::string& content, unsigned type, bool isLast) {
+    const std::size_t head = content.size() << 3 | type << 1 | (isLast ? 1 : 0);
+    return std::string{static_cast<char>(head), static_cast<char>(head >> 8),
+                       static_cast<char>(head >> 16)} +
+           content;
+  };
+  const std::string plain("\x28\xB5\x2F\xFD\x00\x58", 6);
+  const std::string checked = "\x28\xB5\x2F\xFD\x04\x58";
+  const std::string content = std::string(70000, 'x') + Sentence("GPVTG,63,T,,M,26,N,48,K,D");
+  const std::string whole = plain + block(content, Raw, true);
+  const std::string open = plain + block(content, Raw, false) + block(content, Raw, false);
+  const struct {
+    std::string input;
+    int status;
+    std::string says;
+  } cases[] = {
+      {whole + whole, 0, ""},
+      {checked + block(content, Raw, true) + "xxxx", 1, "zstd data are damaged: "},
+      {open + block("wrong", Compressed, true), 1,
+       ", at byte " + std::to_string(open.size() + 3) + "\n"},
+      {open, 1, "zstd data ends early, at byte " + std::to_string(open.size()) + "\n"},
+  };
+  for (const auto& row : cases) {
+    const Outcome outcome = Run("navframe $IN", row.input);
+    EXPECT_EQ(outcome.status, row.status) << row.says;
+    EXPECT_THAT(Kinds(outcome.out), StartsWith("VTG")) << row.says;
+    EXPECT_THAT(outcome.err, HasSubstr(row.says));
+  }
+}
+
 // What was decoded so far is complete, and statistics are shown.
 TEST_F(Forms, InterruptsEndCleanly) {
   for (const std::string signal : {"INT", "TERM"}) {

@@ -83,7 +83,7 @@ class DecompressedSource : public Source {
       const Decompressor::Step step =
           decompressor_->Take({&input_[begin_], end_ - begin_}, {to, room});
       begin_ += step.taken;
-      used_ += step.taken;
+      used_ += step.taken - step.behind;
       fault_ = step.fault;  // what it made before is good
       if (step.made != 0) return {Reading::State::Bytes, step.made};
       if (ended_ && begin_ == end_ && fault_.empty()) {

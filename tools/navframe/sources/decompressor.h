@@ -14,7 +14,8 @@ class Decompressor {
   struct Step {
     std::size_t taken = 0;
     std::size_t made = 0;
-    std::string fault;  // empty for none
+    std::string fault;       // empty for none
+    std::size_t behind = 0;  // of a fault: taken before, from where on anything may be damaged
   };
 
   virtual ~Decompressor() = default;

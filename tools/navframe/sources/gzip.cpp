@@ -29,7 +29,7 @@ class Gzip : public Decompressor {
     if (betweenMembers_) {
       std::size_t zeros = 0;
       while (zeros < input.size() && input[zeros] == 0) ++zeros;
-      if (zeros != 0 || input.empty()) return {zeros, 0, {}};
+      if (zeros != 0 || input.empty()) return {zeros, 0, {}, 0};
       inflateReset(&stream_);
       betweenMembers_ = false;
     }
@@ -38,7 +38,7 @@ class Gzip : public Decompressor {
     stream_.next_out = output.data();
     stream_.avail_out = static_cast<uInt>(output.size());
     const int answer = inflate(&stream_, Z_NO_FLUSH);
-    Step step = {input.size() - stream_.avail_in, output.size() - stream_.avail_out, {}};
+    Step step = {input.size() - stream_.avail_in, output.size() - stream_.avail_out, {}, 0};
     if (answer == Z_STREAM_END) {
       betweenMembers_ = true;
     } else if (answer != Z_OK && answer != Z_BUF_ERROR) {
