@@ -1,5 +1,7 @@
 #include "command_line/arguments.h"
 
+#include <cmath>
+#include <cstdlib>
 #include <map>
 
 #include "records/kind_names.h"
@@ -28,6 +30,11 @@ std::string CheckPosition(const std::string& text) {
                                    "to the north and east, meters)";
 }
 
+std::string CheckInterval(const std::string& seconds) {
+  const double number = std::strtod(seconds.c_str(), nullptr);
+  return number > 0 && std::isfinite(number) ? "" : "no interval such as 30s";
+}
+
 CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,
                      const char* description, const char* shown) {
   return app.add_option(name, values, description)
@@ -42,7 +49,7 @@ CLI::Option* AddInterval(CLI::App& app, const char* name, double& seconds, const
       ->option_text(shown)
       ->transform(CLI::AsNumberWithUnit(
           std::map<std::string, double>{{"ms", 0.001}, {"s", 1}, {"min", 60}, {"h", 3600}}))
-      ->check(CLI::PositiveNumber);
+      ->check(CheckInterval, "INTERVAL");
 }
 
 }  // namespace navframe::tool

@@ -18,6 +18,7 @@ std::string CheckKind(const std::string& text);
 std::string CheckMoment(const std::string& text);
 std::string CheckSatellite(const std::string& text);
 std::string CheckPosition(const std::string& text);
+std::string CheckInterval(const std::string& seconds);
 
 // An option whose values stand behind commas; `shown` is how help calls them.
 CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,

@@ -25,7 +25,7 @@ const std::map<std::string, std::uint32_t> Protocols = {
 
 // What the options of `decode` are parsed into, before their names are looked up.
 struct Texts {
-  std::vector<std::uint32_t> protocols;
+  std::vector<std::string> protocols;
   std::vector<std::string> kinds;
   std::vector<std::string> satellites;
   std::string from;
@@ -35,16 +35,25 @@ struct Texts {
   std::string position;
 };
 
+std::string CheckCount(const std::string& text) {
+  const bool isOne = text.find_first_not_of("0123456789") == std::string::npos &&
+                     text.find_first_not_of('0') != std::string::npos;
+  return isOne ? "" : text + " is no number of records";
+}
+
+std::vector<std::string> ProtocolNames() {
+  std::vector<std::string> names;
+  for (const auto& [name, bit] : Protocols) names.push_back(name);
+  return names;
+}
+
 void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
   AddList(app, "--kinds", texts.kinds,
           "Kinds of records: names, numbers or groups; see navframe kinds", "KIND[,KIND...]")
       ->check(CheckKind, "KIND");
-  app.add_option("--protocols", texts.protocols,
-                 "Protocols to look for: nmea, tagblock, rtcm, ubx, 55aa, log")
-      ->option_text("NAME[,NAME...]")
-      ->delimiter(',')
-      ->allow_extra_args(false)
-      ->transform(CLI::CheckedTransformer(Protocols, CLI::ignore_case));
+  AddList(app, "--protocols", texts.protocols,
+          "Protocols to look for: nmea, tagblock, rtcm, ubx, 55aa, log", "NAME[,NAME...]")
+      ->transform(CLI::IsMember(ProtocolNames(), CLI::ignore_case));
   AddList(app, "--sat,--system", texts.satellites,
           "Satellites (G05) or systems (E) alone, of what tells any", "NAME[,NAME...]")
       ->check(CheckSatellite, "SATELLITE");
@@ -57,7 +66,9 @@ void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
       ->option_text("TIME")
       ->check(CheckMoment, "TIME");
   AddInterval(app, "--every", options.filters.every, "The first epoch of each interval", "30s");
-  app.add_option("--first", options.first, "That many records alone")->option_text("N");
+  app.add_option("--first", options.first, "That many records alone")
+      ->option_text("N")
+      ->check(CheckCount, "COUNT");
   AddList(app, "--fields", options.sink.fields,
           "Members that are shown; kinds without any of them are not", "NAME[,NAME...]");
 }
@@ -132,7 +143,7 @@ void ChooseFields(DecodeOptions& options) {
 
 void LookUp(const Texts& texts, DecodeOptions& options) {
   if (!texts.protocols.empty()) options.protocols = 0;
-  for (const std::uint32_t bit : texts.protocols) options.protocols |= bit;
+  for (const std::string& name : texts.protocols) options.protocols |= Protocols.at(name);
   for (const std::string& name : texts.kinds) {
     const auto kinds = KindsNamed(name);
     options.kinds.insert(options.kinds.end(), kinds.begin(), kinds.end());

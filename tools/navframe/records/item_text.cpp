@@ -36,6 +36,7 @@ bool AppendTime(const NavframeTime& time, std::string& out) {
 }
 
 std::string MessageOf(const NavframeItem& item) {
+  if (item.type == NavframeItemSkipped) return "";
   std::string name = navframe_protocol_name(item.protocol);
   if (item.type == NavframeItemRejected) return name;
   std::array<char, 32> number{};

@@ -11,7 +11,7 @@ namespace navframe::tool {
 // has a date.
 bool AppendTime(const NavframeTime& time, std::string& out);
 
-// "UBX 01-07", "RTCM 3 4074-11", "NMEA GPTXT".
+// "UBX 01-07", "RTCM 3 4074-11", "NMEA GPTXT"; of skipped bytes nothing.
 std::string MessageOf(const NavframeItem& item);
 
 // "undecoded", "malformed", "rejected", "skipped"; of frames without a reason "frame".

@@ -56,6 +56,7 @@ std::optional<Moment> ParseMoment(const std::string& text) {
   }
   if (const auto utc = ParseUtc(text)) return Moment{*utc, false, true};
   const std::size_t colon = text.find(':');
+  if (colon == 2 && text.size() == 5) return std::nullopt;  // a time of the day, without the day
   std::uint32_t week = 0;
   double second = 0;
   if (colon == std::string::npos || !IsWhole(std::string_view(text).substr(0, colon), week) ||

@@ -334,9 +334,10 @@ class Text : public Sink {
 
   void Part(const NavframeItem& item) {
     std::string& out = output_.Buffer();
-    out.append(begin_).append(PartOf(item)).append(" ").append(MessageOf(item));
-    const char* const name = navframe_message_name(&item);
-    if (*name != '\0') out.append(" ").append(name);
+    out.append(begin_).append(PartOf(item));
+    for (const std::string& name : {MessageOf(item), std::string(navframe_message_name(&item))}) {
+      if (!name.empty()) out.append(" ").append(name);
+    }
     out.append(", byte ").append(std::to_string(item.offset));
     out.append(", ").append(std::to_string(item.length)).append(" B");
     const char* const reason = navframe_reason_text(item.reason);
