@@ -14,7 +14,8 @@ ValueText::ValueText(const NavframeMember& member, std::uint32_t offset)
       type_(member.type),
       offset_(offset + member.offset),
       size_(member.size),
-      hasUnknown_(member.unknownRule == NavframeUnknownValue) {
+      hasUnknown_(member.unknownRule == NavframeUnknownValue),
+      unknown_(member.unknown) {
   constexpr std::size_t LongestCharacter = 4;  // \xHH
   room_ = IsNumber() ? LongestNumber : LongestCharacter * member.size + 1;
 }

@@ -38,6 +38,7 @@ class ValueText {
   }
   char* PutNumber(const std::uint8_t* at, char* to) const;
   char* PutOtherNumber(const std::uint8_t* at, char* to) const;
+  char* PutByte(const std::uint8_t* at, char* to) const;
   template <class Integer>
   char* PutInteger(const std::uint8_t* at, char* to) const;
   template <class Float>
@@ -46,7 +47,7 @@ class ValueText {
   template <class Integer>
   bool ReadKnown(const std::uint8_t* at, Integer& value) const {
     std::memcpy(&value, at, sizeof value);
-    return !hasUnknown_ || value != static_cast<Integer>(member_->unknown);
+    return !hasUnknown_ || value != static_cast<Integer>(unknown_);
   }
 
   const NavframeMember* member_;
@@ -54,22 +55,27 @@ class ValueText {
   std::uint32_t offset_;
   std::uint32_t size_;
   bool hasUnknown_;  // a value that means so
+  std::int64_t unknown_;
   std::size_t room_;
 };
 
 template <class Integer>
 char* ValueText::PutInteger(const std::uint8_t* at, char* to) const {
   Integer value;
+  return ReadKnown(at, value) ? std::to_chars(to, to + LongestNumber, value).ptr : to;
+}
+
+inline char* ValueText::PutByte(const std::uint8_t* at, char* to) const {
+  std::uint8_t value;
   if (!ReadKnown(at, value)) return to;
-  if (value >= 0 && value < 10) {
-    *to = static_cast<char>('0' + value);
-    return to + 1;
-  }
-  return std::to_chars(to, to + LongestNumber, value).ptr;
+  if (value >= 100) *to++ = static_cast<char>('0' + value / 100);
+  if (value >= 10) *to++ = static_cast<char>('0' + value / 10 % 10);
+  *to++ = static_cast<char>('0' + value % 10);
+  return to;
 }
 
 inline char* ValueText::PutNumber(const std::uint8_t* at, char* to) const {
-  if (type_ == NavframeU8) return PutInteger<std::uint8_t>(at, to);  // most members
+  if (type_ == NavframeU8) return PutByte(at, to);  // most members
   if (type_ == NavframeF64) return PutFloat<double>(at, to);
   return PutOtherNumber(at, to);
 }

@@ -42,10 +42,10 @@ class ValueWords {
  public:
   explicit ValueWords(const NavframeMember& member);
 
-  bool AreAny() const { return !words_.empty(); }
+  bool AreAny() const { return areAny_; }
   // Nothing is written of a number without a word.
   char* Put(std::int64_t number, char* to) const {
-    if (number >= 0 && static_cast<std::uint64_t>(number) < words_.size()) {
+    if (static_cast<std::uint64_t>(number) < count_) {
       const ValueWord& word = words_[static_cast<std::size_t>(number)];
       if (word.length != 0) return word.Put(to);
     }
@@ -60,6 +60,8 @@ class ValueWords {
 
   const NavframeMember* member_;
   std::vector<ValueWord> words_;  // of numbers from 0 on; empty ones are looked up
+  std::uint64_t count_ = 0;       // of those
+  bool areAny_;
   std::size_t room_ = sizeof(ValueWord);
 };
 
@@ -75,22 +77,22 @@ ValueWords::ValueWords(const NavframeMember& member) : member_(&member) {
   for (std::uint32_t i = member.valueCount; i-- > 0;) {  // the first one of a number counts
     set(member.values[i].value, member.values[i].name);
   }
-  if ((member.flags & NavframeYesNo) == 0) return;
-  set(0, "no");
-  set(1, "yes");
+  if ((member.flags & NavframeYesNo) != 0) {
+    set(0, "no");
+    set(1, "yes");
+  }
+  count_ = words_.size();
+  areAny_ = count_ != 0 || member.valueCount != 0;
 }
 
 // A column as people read it.
 struct Shown {
   Shown(const Column& whole, bool withTime);
 
-  // Without the comma in front of the first one of a line. Nothing is written when no value is
-  // known.
-  char* Put(const void* data, bool isFirst, char* to) const {
-    if (!isQuick) return PutSlowly(data, isFirst, to);
-    const std::size_t before = isFirst ? 1 : 0;
-    std::memcpy(to, quickName.text.data() + before, QuickName);
-    char* const from = to + quickName.length - before;
+  // Behind a comma. Nothing is written when no value is known, but `to` may be touched.
+  char* Put(const void* data, char* to) const {
+    if (!isQuick) return PutSlowly(data, to);
+    char* const from = quickName.Put(to);
     char* const end = PutNumber(data, from);
     return end == from ? to : quickUnit.Put(end);
   }
@@ -101,8 +103,6 @@ struct Shown {
   std::size_t room;      // that it takes at most
 
  private:
-  static constexpr std::size_t QuickName = 40;
-
   char* PutNumber(const void* data, char* to) const {
     if (words.AreAny()) {
       std::int64_t number = 0;
@@ -112,11 +112,11 @@ struct Shown {
     }
     return column->value.Put(data, 0, to);
   }
-  char* PutSlowly(const void* data, bool isFirst, char* to) const;
+  char* PutSlowly(const void* data, char* to) const;
 
-  bool isQuick;                   // one number, behind a short name
-  Word<QuickName + 1> quickName;  // ", name "
-  Word<16> quickUnit;             // " unit"
+  bool isQuick;        // one number, behind a short name
+  Word<40> quickName;  // ", name "
+  Word<16> quickUnit;  // " unit"
   ValueWords words;
   std::string name;
   std::string unit;
@@ -137,8 +137,8 @@ Shown::Shown(const Column& whole, bool withTime)
 }
 
 // The values of an array stand behind one name, unknown ones among them as "-".
-char* Shown::PutSlowly(const void* data, bool isFirst, char* to) const {
-  char* end = tool::Put(std::string_view(name).substr(isFirst ? 1 : 0), to);
+char* Shown::PutSlowly(const void* data, char* to) const {
+  char* end = tool::Put(name, to);
   if (column->isSingleNumber) {
     *end++ = ' ';
     char* const from = end;
@@ -293,7 +293,10 @@ class Text : public Sink {
     char* const label = lines.hasLabel ? Label(lines, data, record, to) : to;
     const bool hasLabel = label != to;
     to = hasLabel ? label : Put(list, to);
-    bool isFirst = true;
+    // The comma of the first one takes the place of what is in front, which comes back.
+    char* const front = to - 1;
+    const char last = *front;
+    char* end = front;
     for (const Shown& shown : lines.columns) {
       if (hasLabel && shown.isLabel) continue;
       const Column& column = *shown.column;
@@ -301,10 +304,10 @@ class Text : public Sink {
           shown.repeats(*column.member, column.At(data), *time)) {
         continue;
       }
-      char* const end = shown.Put(data, isFirst, to);
-      isFirst &= end == to;
-      to = end;
+      end = shown.Put(data, end);
     }
+    *front = last;
+    if (end != front) to = end;
     return lines.entries == nullptr || data == record ? to : Entries(lines, data, record, to);
   }
 
