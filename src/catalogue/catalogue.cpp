@@ -56,6 +56,23 @@ char* PutShortest(char* to, std::floating_point auto value) {
   return static_cast<std::size_t>(end - to);
 }
 
+// Anything else, or where there is less room.
+[[gnu::noinline]] std::size_t PutWhatFits(const NavframeMember& member, const void* data,
+                                          std::uint32_t index, char* to, std::size_t capacity) {
+  char number[LongestNumber + 1];
+  std::string_view text;
+  if (index < Elements(member)) {
+    const std::uint8_t* const at = ElementAt(member, static_cast<const std::uint8_t*>(data), index);
+    if (IsText(member)) text = ReadText(member, at);
+    if (IsNumber(member)) text = {number, PutWhole(member, at, number)};
+  }
+  if (capacity != 0) {
+    const std::size_t length = text.copy(to, capacity - 1);
+    to[length] = '\0';
+  }
+  return text.size();
+}
+
 }  // namespace
 
 extern "C" {
@@ -123,23 +140,10 @@ int navframe_integer(const NavframeMember* member, const void* data, uint32_t in
 
 size_t navframe_text(const NavframeMember* member, const void* data, uint32_t index, char* out,
                      size_t capacity) {
-  char number[LongestNumber + 1];
-  std::string_view text;
-  if (index < Elements(*member)) {
-    const std::uint8_t* const at =
-        ElementAt(*member, static_cast<const std::uint8_t*>(data), index);
-    if (IsNumber(*member)) {
-      if (capacity > LongestNumber) return PutWhole(*member, at, out);
-      text = {number, PutWhole(*member, at, number)};
-    } else if (IsText(*member)) {
-      text = ReadText(*member, at);
-    }
+  if (!IsNumber(*member) || index >= Elements(*member) || capacity <= LongestNumber) {
+    return PutWhatFits(*member, data, index, out, capacity);
   }
-  if (capacity != 0) {
-    const std::size_t length = text.copy(out, capacity - 1);
-    out[length] = '\0';
-  }
-  return text.size();
+  return PutWhole(*member, ElementAt(*member, static_cast<const std::uint8_t*>(data), index), out);
 }
 
 const char* navframe_value_name(const NavframeMember* member, int64_t value) {

@@ -104,7 +104,7 @@ SatelliteMembers::SatelliteMembers(const NavframeKind& kind) {
   Find(*kind.record);
   const auto* const row = std::ranges::find(SystemsOfKinds, kind.name, &SystemRow::name);
   if (row != std::end(SystemsOfKinds)) systemOfKind_ = row->letter;
-  NoteLetters();
+  NoteValues();
 }
 
 SatelliteMembers::SatelliteMembers(const NavframeKind& kind, const NavframeRecord& entry)
@@ -113,10 +113,12 @@ SatelliteMembers::SatelliteMembers(const NavframeKind& kind, const NavframeRecor
   Find(entry);
   systemIsOuter_ = system_ == nullptr;
   if (systemIsOuter_) system_ = outer;
-  NoteLetters();
+  NoteValues();
 }
 
-void SatelliteMembers::NoteLetters() {
+void SatelliteMembers::NoteValues() {
+  if (system_ != nullptr) systemValue_.emplace(*system_, 0);
+  if (number_ != nullptr) numberValue_.emplace(*number_, 0);
   letters_ = {};
   for (std::uint32_t i = 0; system_ != nullptr && i < system_->valueCount; ++i) {
     const auto [value, name] = system_->values[i];
@@ -144,9 +146,7 @@ char SatelliteMembers::ReadSystem(const void* entry, const void* record) const {
   constexpr int TrackingSystem = 16;
   std::int64_t value = 0;
   if (system_ != nullptr) {
-    if (navframe_integer(system_, systemIsOuter_ ? record : entry, 0, &value) != NavframeKnown) {
-      return '\0';
-    }
+    if (!systemValue_->ReadInteger(systemIsOuter_ ? record : entry, 0, value)) return '\0';
     if (value >= 0 && value < std::ssize(letters_))
       return letters_[static_cast<std::size_t>(value)];
     const char* const name = navframe_value_name(system_, value);
@@ -163,8 +163,7 @@ SatelliteName SatelliteMembers::Read(const void* entry, const void* record,
   constexpr std::uint32_t FirstSlotOfLogs = 38;
   const char system = ReadSystem(entry, record);
   std::int64_t value = 0;
-  if (system == '\0' || number_ == nullptr ||
-      navframe_integer(number_, entry, index, &value) != NavframeKnown) {
+  if (system == '\0' || number_ == nullptr || !numberValue_->ReadInteger(entry, index, value)) {
     return {system, 0};
   }
   const auto number = static_cast<std::uint32_t>(value);

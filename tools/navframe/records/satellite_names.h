@@ -7,6 +7,7 @@
 #include <string>
 
 #include "navframe/catalogue.h"
+#include "records/value_text.h"
 
 namespace navframe::tool {
 
@@ -42,11 +43,13 @@ class SatelliteMembers {
   enum class Numbering : std::uint8_t { InSystem, Nmea, Ubx, UbxOverAll, Log };
 
   void Find(const NavframeRecord& record);
-  void NoteLetters();
+  void NoteValues();
   char ReadSystem(const void* entry, const void* record) const;
 
   const NavframeMember* system_ = nullptr;
-  std::array<char, 16> letters_{};  // by its first values
+  std::optional<ValueText> systemValue_;
+  std::optional<ValueText> numberValue_;
+  std::array<char, 16> letters_{};  // of the first values of systems
   const NavframeMember* number_ = nullptr;
   const NavframeMember* code_ = nullptr;
   const NavframeMember* tracking_ = nullptr;

@@ -29,11 +29,14 @@ char* ValueText::PutFloat(const std::uint8_t* at, char* to) const {
   constexpr double MostOfFew = 4503599627370496;
   Float value;
   std::memcpy(&value, at, sizeof value);
-  if (std::isnan(value) && member_->unknownRule == NavframeUnknownNan) return to;
   const double size = std::abs(static_cast<double>(value));
-  const std::size_t length = navframe_text(member_, at - member_->offset, 0, to, LongestNumber);
-  if ((size >= LeastOfFew && size < MostOfFew) || !(size >= Least && size < Most) ||
-      std::memchr(to, 'e', length) == nullptr) {
+  const std::uint8_t* const data = at - member_->offset;
+  if (size >= LeastOfFew && size < MostOfFew) {
+    return to + navframe_text(member_, data, 0, to, LongestNumber);
+  }
+  if (std::isnan(value) && member_->unknownRule == NavframeUnknownNan) return to;
+  const std::size_t length = navframe_text(member_, data, 0, to, LongestNumber);
+  if (!(size >= Least && size < Most) || std::memchr(to, 'e', length) == nullptr) {
     return to + length;
   }
   return std::to_chars(to, to + LongestNumber, value, std::chars_format::fixed).ptr;

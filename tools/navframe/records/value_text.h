@@ -27,8 +27,8 @@ class ValueText {
 
   bool IsNumber() const { return type_ <= NavframeF64; }
   bool IsInteger() const { return type_ <= NavframeI64; }
-  // A single value, as navframe_integer reads it. False when it is not known.
-  bool ReadInteger(const void* data, std::int64_t& value) const;
+  // As navframe_integer does. False when it is not known.
+  bool ReadInteger(const void* data, std::uint32_t index, std::int64_t& value) const;
 
  private:
   static constexpr std::size_t LongestNumber = 64;
@@ -80,14 +80,15 @@ inline char* ValueText::PutNumber(const std::uint8_t* at, char* to) const {
   return PutOtherNumber(at, to);
 }
 
-inline bool ValueText::ReadInteger(const void* data, std::int64_t& value) const {
+inline bool ValueText::ReadInteger(const void* data, std::uint32_t index,
+                                   std::int64_t& value) const {
   if (type_ == NavframeU8) {
     std::uint8_t byte;
-    const bool isKnown = ReadKnown(At(data), byte);
+    const bool isKnown = ReadKnown(At(data) + index, byte);
     value = byte;
     return isKnown;
   }
-  return navframe_integer(member_, At(data) - member_->offset, 0, &value) == NavframeKnown;
+  return navframe_integer(member_, At(data) - member_->offset, index, &value) == NavframeKnown;
 }
 
 }  // namespace navframe::tool

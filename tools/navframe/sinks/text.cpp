@@ -106,7 +106,7 @@ struct Shown {
   char* PutNumber(const void* data, char* to) const {
     if (words.AreAny()) {
       std::int64_t number = 0;
-      if (!column->value.ReadInteger(data, number)) return to;
+      if (!column->value.ReadInteger(data, 0, number)) return to;
       char* const end = words.Put(number, to);
       if (end != to) return end;
     }
