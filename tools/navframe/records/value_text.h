@@ -26,7 +26,6 @@ class ValueText {
   std::size_t Room() const { return room_; }
 
   bool IsNumber() const { return type_ <= NavframeF64; }
-  bool IsInteger() const { return type_ <= NavframeI64; }
   // As navframe_integer does. False when it is not known.
   bool ReadInteger(const void* data, std::uint32_t index, std::int64_t& value) const;
 

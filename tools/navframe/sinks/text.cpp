@@ -243,8 +243,7 @@ class Text : public Sink {
   }
 
   // Without a date the time of week alone, the stream's or else the record's own, as
-  // "-:561618.000";
-  // "-" when that is not known either.
+  // "-:561618.000"; "-" when that is not known either.
   void Tow(const Wanted& wanted) {
     begin_ += '-';
     double tow = wanted.item.time.tow;
