@@ -106,17 +106,18 @@ struct Shown {
   char* PutNumber(const void* data, char* to) const {
     if (words.AreAny()) {
       std::int64_t number = 0;
-      if (!column->value.ReadInteger(data, 0, number)) return to;
+      if (!value.ReadInteger(data, 0, number)) return to;
       char* const end = words.Put(number, to);
       if (end != to) return end;
     }
-    return column->value.Put(data, 0, to);
+    return value.Put(data, 0, to);
   }
   char* PutSlowly(const void* data, char* to) const;
 
   bool isQuick;        // one number, behind a short name
   Word<40> quickName;  // ", name "
   Word<16> quickUnit;  // " unit"
+  ValueText value;     // the column's, beside the rest
   ValueWords words;
   std::string name;
   std::string unit;
@@ -125,6 +126,7 @@ struct Shown {
 Shown::Shown(const Column& whole, bool withTime)
     : column(&whole),
       isQuick(whole.isSingleNumber),
+      value(whole.value),
       words(*whole.member),
       name(", " + whole.name),
       unit(*whole.member->unit == '\0' ? "" : std::string(" ") + whole.member->unit) {
