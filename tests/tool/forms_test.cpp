@@ -368,13 +368,14 @@ TEST_F(Forms, Zstd) {
 // What was decoded so far is complete, and statistics are shown.
 TEST_F(Forms, InterruptsEndCleanly) {
   for (const std::string signal : {"INT", "TERM"}) {
-    const Outcome outcome = Run(
-        "mkfifo $DIR/pipe; navframe --stats --format json --output $DIR/all <$DIR/pipe & "
-        "exec 3>$DIR/pipe; cat $IN >&3; until [ -s $DIR/all.part* ]; do sleep 0.01; done; kill -" +
-            signal +
-            " $!; wait $!; "
-            "cat $DIR/all; ls $DIR; rm $DIR/pipe",
-        Sentence("GPVTG,63,T,,M,26,N,48,K,D"));
+    const Outcome outcome =
+        Run("mkfifo $DIR/pipe; navframe --stats --format json --output $DIR/all <$DIR/pipe & "
+            "exec 3>$DIR/pipe; cat $IN >&3; until [ -s $DIR/all.part* ] || ! kill -0 $!; do sleep "
+            "0.01; done; kill -" +
+                signal +
+                " $!; wait $!; "
+                "cat $DIR/all; ls $DIR; rm $DIR/pipe",
+            Sentence("GPVTG,63,T,,M,26,N,48,K,D"));
     EXPECT_THAT(outcome.out, AllOf(StartsWith("{\"time\":null"), Not(HasSubstr(".part"))))
         << signal;
     EXPECT_THAT(outcome.err, HasSubstr("1 records, ")) << signal;
