@@ -12,10 +12,12 @@
 #include <limits>
 #include <type_traits>
 
+#include "base/big_endian.h"
+
 namespace navframe::catalogue {
 
 // Characters that a number takes at most, with those that may be written behind it.
-inline constexpr std::size_t LongestNumber = 32;
+inline constexpr std::size_t LongestNumber = 40;
 
 // The numbers below 1000: three digits, and how many zeros stand in front. Four characters are
 // copied from behind the zeros, of which there are none at the end of the table.
@@ -31,11 +33,6 @@ inline constexpr auto DigitsBelow1000 = [] {
   return digits;
 }();
 
-// Below 1000, with its zeros in front and without.
-inline char* PutThreeDigits(char* at, std::uint64_t value) {
-  std::memcpy(at, &DigitsBelow1000[4 * value], 4);
-  return at + 3;
-}
 inline char* PutUpToThreeDigits(char* at, std::uint64_t value) {
   const char* const entry = &DigitsBelow1000[4 * value];
   const auto zeros = static_cast<unsigned char>(entry[3]);
@@ -43,79 +40,123 @@ inline char* PutUpToThreeDigits(char* at, std::uint64_t value) {
   return at + 3 - zeros;
 }
 
-inline char* PutDigits(char* at, std::uint32_t value) {
-  if (value < 1000) return PutUpToThreeDigits(at, value);
-  const std::uint32_t thousands = value / 1000;
-  if (thousands < 1000) {
-    at = PutUpToThreeDigits(at, thousands);
-  } else {
-    const std::uint32_t millions = thousands / 1000;
-    if (millions >= 1000) at = PutUpToThreeDigits(at, millions / 1000);
-    at = millions < 1000 ? PutUpToThreeDigits(at, millions) : PutThreeDigits(at, millions % 1000);
-    at = PutThreeDigits(at, thousands % 1000);
+// Eight digits of a number below 10^8, a byte each, the first one highest.
+struct EightDigits {
+  std::uint64_t bytes;
+  static constexpr std::uint64_t Above = 100'000'000;
+
+  // Halves, pairs and single digits are parted side by side: what is in front moves up by its field
+  // and leaves the rest behind. Multiplied by and shifted out is what divides by 100 and by 10.
+  explicit constexpr EightDigits(std::uint32_t value) {
+    const std::uint64_t halves = value + value / 10'000 * ((std::uint64_t{1} << 32) - 10'000);
+    const std::uint64_t hundreds = (halves * 10'486 >> 20) & 0x0000'007F'0000'007F;
+    const std::uint64_t pairs = halves + hundreds * ((1 << 16) - 100);
+    const std::uint64_t tens = (pairs * 103 >> 10) & 0x000F'000F'000F'000F;
+    bytes = pairs + tens * ((1 << 8) - 10);
   }
-  return PutThreeDigits(at, value % 1000);
+  int ZerosInFront() const { return std::countl_zero(bytes | 1) / 8; }  // 0 is no case of its own
+  int ZerosAtTheEnd() const { return std::countr_zero(bytes) / 8; }
+  // Writes eight characters, beginning with the digit behind `skipped` others.
+  void Put(char* at, int skipped = 0) const {
+    const std::uint64_t characters = BigEndian64(bytes << 8 * skipped | 0x3030'3030'3030'3030);
+    std::memcpy(at, &characters, sizeof characters);
+  }
+};
+
+// Without a branch on the number of digits, which differs from value to value.
+inline char* PutManyDigits(char* at, std::uint64_t value) {
+  const std::uint64_t front = value / EightDigits::Above;
+  const EightDigits rest(static_cast<std::uint32_t>(value % EightDigits::Above));
+  if (front >= 1000) [[unlikely]] {
+    at = PutManyDigits(at, front);
+    rest.Put(at);
+    return at + 8;
+  }
+  const int noFront = front == 0 ? 1 : 0;
+  at = PutUpToThreeDigits(at, front) - noFront;
+  const int zeros = noFront * rest.ZerosInFront();
+  rest.Put(at, zeros);
+  return at + 8 - zeros;
 }
 inline char* PutDigits(char* at, std::uint64_t value) {
-  if (value <= std::numeric_limits<std::uint32_t>::max()) {
-    return PutDigits(at, static_cast<std::uint32_t>(value));
-  }
-  at = PutDigits(at, value / 1'000'000);
-  at = PutThreeDigits(at, value / 1000 % 1000);
-  return PutThreeDigits(at, value % 1000);
+  return value < 1000 ? PutUpToThreeDigits(at, value) : PutManyDigits(at, value);
 }
 
 template <std::integral Integer>
 char* PutNumber(char* at, Integer value) {
-  using Magnitude = std::conditional_t<sizeof value == 8, std::uint64_t, std::uint32_t>;
-  const auto bits = static_cast<Magnitude>(+value);
+  const auto bits = static_cast<std::uint64_t>(value);
   if (value >= 0) return PutDigits(at, bits);
   *at = '-';
-  return PutDigits(at + 1, Magnitude{0} - bits);
+  return PutDigits(at + 1, 0 - bits);
 }
 
-// What stands behind a number's point, and how far from it the numbers that read back to the same
-// value lie at most, both in units of 2^-places. The value has more factors of two than the margin,
-// so that the distance is never the margin itself.
-struct Fraction {
-  std::uint64_t value;
-  std::uint64_t margin;
-  int places;
-
-  std::uint64_t One() const { return std::uint64_t{1} << places; }
-  // Takes the next decimals out, as many as `power` of ten has zeros.
-  std::uint64_t Take(std::uint64_t power) {
-    value *= power;
-    margin *= power;
-    const std::uint64_t decimals = value >> places;
-    value &= One() - 1;
-    return decimals;
-  }
-  // The same in larger units, once three decimals are taken.
-  Fraction Reduced() const { return {value / 8, margin / 8, places - 3}; }
-  // Whether the decimals that were taken, or one more in their last place, read back.
-  bool Reads() const { return ((value + margin) & (One() - 1)) < 2 * margin; }
-  // The nearer one of both; of two as near the even one. It never needs a further digit: with one
-  // decimal less it would have read back.
-  std::uint64_t Rounded(std::uint64_t decimals) const {
-    return decimals + (value + (decimals & 1) > One() / 2 ? 1 : 0);
-  }
+// A product of 128 bits.
+struct Product {
+  std::uint64_t high;
+  std::uint64_t low;
 };
+constexpr Product MultiplyByHalves(std::uint64_t a, std::uint64_t b) {
+  constexpr std::uint64_t Half = 0xFFFFFFFF;
+  const std::uint64_t outer = (a & Half) * (b & Half);
+  const std::uint64_t middle = (a >> 32) * (b & Half) + (outer >> 32);
+  const std::uint64_t other = (a & Half) * (b >> 32) + (middle & Half);
+  return {(a >> 32) * (b >> 32) + (middle >> 32) + (other >> 32), a * b};
+}
+constexpr Product Multiply(std::uint64_t a, std::uint64_t b) {
+#ifdef __SIZEOF_INT128__
+  __extension__ using Wide = unsigned __int128;
+  const Wide product = Wide{a} * b;
+  return {static_cast<std::uint64_t>(product >> 64), static_cast<std::uint64_t>(product)};
+#else
+  return MultiplyByHalves(a, b);
+#endif
+}
 
-// The fewest decimals that read back, and of those the nearest ones.
-inline char* PutDecimals(char* at, Fraction rest) {
-  *at++ = '.';
-  for (;;) {
-    Fraction three = rest;
-    const std::uint64_t decimals = three.Take(1000);
-    if (three.Reads()) break;
-    at = PutThreeDigits(at, decimals);
-    rest = three.Reduced();
+// What decimals numbers of so many binary places need: no two numbers of `decimals` decimals read
+// back to the same, and one decimal more is always enough.
+struct Precision {
+  std::uint64_t power = 1;    // of ten, with as many zeros as there are decimals
+  std::uint64_t margin = 0;   // half the distance to the next number, in 2^-64 of the last decimal
+  std::uint64_t filling = 1;  // the power of ten that makes them as many as `Digits`
+  std::uint8_t decimals = 0;
+  static constexpr int Digits = 16;
+};
+inline constexpr int MostPlaces = 56;
+inline constexpr auto Precisions = [] {
+  std::array<Precision, MostPlaces + 1> rows;
+  for (int places = 1; places <= MostPlaces; ++places) {
+    Precision& row = rows[static_cast<std::size_t>(places)];
+    for (; row.power <= (std::uint64_t{1} << places) / 10; row.power *= 10) ++row.decimals;
+    row.margin = row.power << (63 - places);
+    for (int i = row.decimals; i < Precision::Digits; ++i) row.filling *= 10;
   }
-  std::uint64_t decimal = rest.Take(10);
-  for (; !rest.Reads(); decimal = rest.Take(10)) *at++ = static_cast<char>('0' + decimal);
-  *at++ = static_cast<char>('0' + rest.Rounded(decimal));
-  return at;
+  return rows;
+}();
+
+// The fewest decimals that read back, and of those the nearest ones. `fraction`, in units of 2^-64,
+// is not 0 and has as many binary places as `precision` is for. What reads back is nearer than the
+// margin; nothing lies just as far, as it would take more decimals to say so.
+inline char* PutDecimals(char* at, std::uint64_t fraction, const Precision& precision) {
+  const auto [decimals, rest] = Multiply(fraction, precision.power);
+  const bool isEnough = rest + precision.margin < 2 * precision.margin;
+  const std::uint64_t nearest = decimals + (isEnough ? rest >> 63 : 0);
+  const std::uint64_t all = nearest * precision.filling;
+  const EightDigits front(static_cast<std::uint32_t>(all / EightDigits::Above));
+  const EightDigits back(static_cast<std::uint32_t>(all % EightDigits::Above));
+  *at++ = '.';
+  front.Put(at);
+  back.Put(at + 8);
+
+  // One decimal more, of two as near the even one; never 0 or 10, as fewer were enough then. The
+  // lowest bits of `rest` are 0.
+  constexpr std::uint64_t One = std::uint64_t{1} << 60;
+  const std::uint64_t further = (rest >> 4) * 10;
+  const std::uint64_t digit = further / One;
+  const std::uint64_t last = digit + (further % One + (digit & 1) > One / 2 ? 1 : 0);
+  at[precision.decimals] = static_cast<char>('0' + last);
+  const int zeros = back.ZerosAtTheEnd();
+  const int shown = Precision::Digits - zeros - (zeros == 8 ? front.ZerosAtTheEnd() : 0);
+  return at + (isEnough ? shown : precision.decimals + 1);
 }
 
 // Numbers with binary places behind the point, but not too many; null for others. They are taken
@@ -128,17 +169,18 @@ char* PutCommonNumber(char* at, Float value) {
   using Limits = std::numeric_limits<Float>;
   constexpr int MantissaBits = Limits::digits - 1;
   constexpr std::uint64_t Hidden = std::uint64_t{1} << MantissaBits;
-  constexpr int MostPlaces = std::min(MantissaBits + 10, 56);
+  constexpr int Most = std::min(MantissaBits + 10, MostPlaces);
   const auto bits = std::bit_cast<Bits>(value);
   const int exponent = static_cast<int>(bits << 1 >> (MantissaBits + 1)) - Limits::max_exponent + 1;
   const int places = MantissaBits - exponent;
-  if (places < 1 || places > MostPlaces) return nullptr;
+  if (places < 1 || places > Most) return nullptr;
   *at = '-';
   at += bits >> (8 * sizeof bits - 1);
   const std::uint64_t mantissa = (bits & (Hidden - 1)) | Hidden;
-  at = PutDigits(at, static_cast<Bits>(mantissa >> places));
-  const std::uint64_t fraction = 2 * mantissa & ((std::uint64_t{2} << places) - 1);
-  return fraction == 0 ? at : PutDecimals(at, {fraction, 1, places + 1});
+  at = PutDigits(at, mantissa >> places);
+  const std::uint64_t fraction = mantissa << (64 - places);
+  if (fraction == 0) return at;
+  return PutDecimals(at, fraction, Precisions[static_cast<std::size_t>(places)]);
 }
 
 // Other finite numbers.

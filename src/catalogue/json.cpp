@@ -48,6 +48,10 @@ class Target {
   std::size_t lost_ = 0;
 };
 
+char* PutKey(char* to, const JsonStep* step) {
+  std::memcpy(to, step->key.data(), step->key.size());
+  return to + step->keyLength;
+}
 char* PutText(char* to, std::string_view text) { return to + text.copy(to, text.size()); }
 char* PutNull(char* to) { return PutText(to, "null"); }
 
@@ -105,8 +109,7 @@ char* PutNumberOfList(char* to, const JsonStep* step, const std::uint8_t* at) {
 
 inline char* PutNumberMember(char* to, std::uint32_t type, const JsonStep* step,
                              const std::uint8_t* data) {
-  std::memcpy(to, step->key.data(), step->key.size());
-  return PutNumberOfType(to + step->keyLength, type, *step, data + step->offset);
+  return PutNumberOfType(PutKey(to, step), type, *step, data + step->offset);
 }
 
 // The length of the UTF-8 character that `text` begins with; 0 when it begins with none.
@@ -198,7 +201,7 @@ char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* 
     }
     const NavframeMember& member = *step.member;
     const std::uint8_t* const at = data + step.offset;
-    to = target.Write(to, {step.key.data(), step.keyLength});
+    to = target.Write<PutKey>(to, &step);
     to = type == JsonList ? WriteList(step, LengthInUse(record, member, data), at, to, target)
                           : WriteOther(member, at, to, target);
   }
