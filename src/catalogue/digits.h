@@ -19,25 +19,26 @@ namespace navframe::catalogue {
 // Characters that a number takes at most, with those that may be written behind it.
 inline constexpr std::size_t LongestNumber = 40;
 
-// The numbers below 1000: three digits, and how many zeros stand in front. Four characters are
-// copied from behind the zeros, of which there are none at the end of the table.
-inline constexpr auto DigitsBelow1000 = [] {
-  std::array<char, 4000> digits{};
-  for (std::size_t i = 0; i < 1000; ++i) {
-    char* const entry = &digits[4 * i];
-    entry[0] = static_cast<char>('0' + i / 100);
-    entry[1] = static_cast<char>('0' + i / 10 % 10);
-    entry[2] = static_cast<char>('0' + i % 10);
-    entry[3] = static_cast<char>(i < 10 ? 2 : i < 100 ? 1 : 0);
+// The numbers below 1000: up to three digits, and how many they are.
+struct ShortNumber {
+  std::array<char, 3> digits;
+  std::uint8_t length;
+};
+inline constexpr auto NumbersBelow1000 = [] {
+  std::array<ShortNumber, 1000> numbers{};
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    ShortNumber& number = numbers[i];
+    for (std::size_t power = i < 10 ? 1 : i < 100 ? 10 : 100; power != 0; power /= 10) {
+      number.digits[number.length++] = static_cast<char>('0' + i / power % 10);
+    }
   }
-  return digits;
+  return numbers;
 }();
 
-inline char* PutUpToThreeDigits(char* at, std::uint64_t value) {
-  const char* const entry = &DigitsBelow1000[4 * value];
-  const auto zeros = static_cast<unsigned char>(entry[3]);
-  std::memcpy(at, entry + zeros, 4);
-  return at + 3 - zeros;
+inline char* PutShortNumber(char* at, std::uint64_t value) {
+  const ShortNumber& number = NumbersBelow1000[value];
+  std::memcpy(at, &number, sizeof number);
+  return at + number.length;
 }
 
 // Eight digits of a number below 10^8, a byte each, the first one highest.
@@ -73,13 +74,13 @@ inline char* PutManyDigits(char* at, std::uint64_t value) {
     return at + 8;
   }
   const int noFront = front == 0 ? 1 : 0;
-  at = PutUpToThreeDigits(at, front) - noFront;
+  at = PutShortNumber(at, front) - noFront;
   const int zeros = noFront * rest.ZerosInFront();
   rest.Put(at, zeros);
   return at + 8 - zeros;
 }
 inline char* PutDigits(char* at, std::uint64_t value) {
-  return value < 1000 ? PutUpToThreeDigits(at, value) : PutManyDigits(at, value);
+  return value < 1000 ? PutShortNumber(at, value) : PutManyDigits(at, value);
 }
 
 template <std::integral Integer>
@@ -117,9 +118,8 @@ constexpr Product Multiply(std::uint64_t a, std::uint64_t b) {
 struct Precision {
   std::uint64_t power = 1;    // of ten, with as many zeros as there are decimals
   std::uint64_t margin = 0;   // half the distance to the next number, in 2^-64 of the last decimal
-  std::uint64_t filling = 1;  // the power of ten that makes them as many as `Digits`
+  std::uint64_t filling = 1;  // the power of ten that makes them eight, or sixteen if they are more
   std::uint8_t decimals = 0;
-  static constexpr int Digits = 16;
 };
 inline constexpr int MostPlaces = 56;
 inline constexpr auto Precisions = [] {
@@ -128,10 +128,27 @@ inline constexpr auto Precisions = [] {
     Precision& row = rows[static_cast<std::size_t>(places)];
     for (; row.power <= (std::uint64_t{1} << places) / 10; row.power *= 10) ++row.decimals;
     row.margin = row.power << (63 - places);
-    for (int i = row.decimals; i < Precision::Digits; ++i) row.filling *= 10;
+    for (int i = row.decimals; i % 8 != 0; ++i) row.filling *= 10;
   }
   return rows;
 }();
+
+// Writes as many decimals as a precision asks for, and some zeros; returns the end of those that
+// are no zeros.
+inline char* PutWithoutZeros(char* at, std::uint64_t decimals, const Precision& precision) {
+  const std::uint64_t all = decimals * precision.filling;
+  if (precision.decimals <= 8) {
+    const EightDigits digits(static_cast<std::uint32_t>(all));
+    digits.Put(at);
+    return at + 8 - digits.ZerosAtTheEnd();
+  }
+  const EightDigits front(static_cast<std::uint32_t>(all / EightDigits::Above));
+  const EightDigits back(static_cast<std::uint32_t>(all % EightDigits::Above));
+  front.Put(at);
+  back.Put(at + 8);
+  const int zeros = back.ZerosAtTheEnd();
+  return at + 16 - zeros - (zeros == 8 ? front.ZerosAtTheEnd() : 0);
+}
 
 // The fewest decimals that read back, and of those the nearest ones. `fraction`, in units of 2^-64,
 // is not 0 and has as many binary places as `precision` is for. What reads back is nearer than the
@@ -139,13 +156,8 @@ inline constexpr auto Precisions = [] {
 inline char* PutDecimals(char* at, std::uint64_t fraction, const Precision& precision) {
   const auto [decimals, rest] = Multiply(fraction, precision.power);
   const bool isEnough = rest + precision.margin < 2 * precision.margin;
-  const std::uint64_t nearest = decimals + (isEnough ? rest >> 63 : 0);
-  const std::uint64_t all = nearest * precision.filling;
-  const EightDigits front(static_cast<std::uint32_t>(all / EightDigits::Above));
-  const EightDigits back(static_cast<std::uint32_t>(all % EightDigits::Above));
   *at++ = '.';
-  front.Put(at);
-  back.Put(at + 8);
+  char* const end = PutWithoutZeros(at, decimals + (isEnough ? rest >> 63 : 0), precision);
 
   // One decimal more, of two as near the even one; never 0 or 10, as fewer were enough then. The
   // lowest bits of `rest` are 0.
@@ -153,10 +165,9 @@ inline char* PutDecimals(char* at, std::uint64_t fraction, const Precision& prec
   const std::uint64_t further = (rest >> 4) * 10;
   const std::uint64_t digit = further / One;
   const std::uint64_t last = digit + (further % One + (digit & 1) > One / 2 ? 1 : 0);
-  at[precision.decimals] = static_cast<char>('0' + last);
-  const int zeros = back.ZerosAtTheEnd();
-  const int shown = Precision::Digits - zeros - (zeros == 8 ? front.ZerosAtTheEnd() : 0);
-  return at + (isEnough ? shown : precision.decimals + 1);
+  at += precision.decimals;
+  *at = static_cast<char>('0' + last);
+  return isEnough ? end : at + 1;
 }
 
 // Numbers with binary places behind the point, but not too many; null for others. They are taken

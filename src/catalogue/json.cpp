@@ -13,17 +13,20 @@ namespace {
 // handed from call to call.
 class Target {
  public:
+  static constexpr std::size_t LongestPiece = sizeof(JsonStep::key) + LongestNumber;
+
   Target(char* out, std::size_t room) : end_(out + room) {}
 
   // `Put` takes a place and the arguments, puts at most LongestPiece characters there, may touch
   // that many and returns the end of what it put.
   template <auto Put, class... Arguments>
   char* Write(char* at, Arguments... arguments) {
-    if (Room(at) >= LongestPiece) [[likely]] {
+    if (HasRoomFor(LongestPiece, at)) [[likely]] {
       return Put(at, arguments...);
     }
     return WriteWhatFits<Put>(at, arguments...);
   }
+  bool HasRoomFor(std::size_t length, const char* at) const { return Room(at) >= length; }
   char* Write(char* at, char c) { return Write(at, {&c, 1}); }
   char* Write(char* at, std::string_view text) {
     const std::size_t fitting = std::min(text.size(), Room(at));
@@ -34,8 +37,6 @@ class Target {
   std::size_t Lost() const { return lost_; }
 
  private:
-  static constexpr std::size_t LongestPiece = sizeof(JsonStep::key) + LongestNumber;
-
   std::size_t Room(const char* at) const { return static_cast<std::size_t>(end_ - at); }
 
   template <auto Put, class... Arguments>
@@ -107,9 +108,8 @@ char* PutNumberOfList(char* to, const JsonStep* step, const std::uint8_t* at) {
   return PutNumberOfType(to, step->member->type, *step, at);
 }
 
-inline char* PutNumberMember(char* to, std::uint32_t type, const JsonStep* step,
-                             const std::uint8_t* data) {
-  return PutNumberOfType(PutKey(to, step), type, *step, data + step->offset);
+inline char* PutNumberMember(char* to, const JsonStep* step, const std::uint8_t* data) {
+  return PutNumberOfType(PutKey(to, step), step->type, *step, data + step->offset);
 }
 
 // The length of the UTF-8 character that `text` begins with; 0 when it begins with none.
@@ -133,10 +133,26 @@ std::size_t Utf8Length(std::string_view text) {
   return wrong ? 0 : length;
 }
 
-// Characters in front that stand for themselves, of one byte each.
+// Which characters stand for themselves and take one byte.
+constexpr auto IsPlain = [] {
+  std::array<bool, 256> isPlain{};
+  for (unsigned char c = 0x20; c < 0x7F; ++c) isPlain[c] = c != '"' && c != '\\';
+  return isPlain;
+}();
+
 std::size_t PlainLength(std::string_view text) {
-  const auto isPlain = [](char c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; };
+  const auto isPlain = [](char c) { return IsPlain[static_cast<unsigned char>(c)]; };
   return static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+}
+
+// The text of a member in quotes, as most are: short and plain. Null for others.
+char* PutPlainText(char* to, const NavframeMember& member, const std::uint8_t* at) {
+  *to++ = '"';
+  std::uint32_t i = 0;
+  for (; i < member.size && IsPlain[at[i]]; ++i) to[i] = static_cast<char>(at[i]);
+  if (i == 0 || (i < member.size && at[i] != 0)) return nullptr;
+  to[i] = '"';
+  return to + i + 1;
 }
 
 char* PutEscaped(char* to, unsigned char c) {
@@ -174,6 +190,9 @@ char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* 
 // What is no number.
 char* WriteOther(const NavframeMember& member, const std::uint8_t* at, char* to, Target& target) {
   if (member.type == NavframeNested) return WriteRecord(*member.record, at, to, target);
+  if (member.type == NavframeText && target.HasRoomFor(member.size + 2, to)) {
+    if (char* const end = PutPlainText(to, member, at)) return end;
+  }
   const std::string_view text = ReadText(member, at);
   if (text.empty() && member.unknownRule == NavframeUnknownEmpty) return target.Write(to, "null");
   return WriteString(text, to, target);
@@ -191,19 +210,33 @@ char* WriteList(const JsonStep& step, std::uint32_t length, const std::uint8_t* 
   return target.Write(to, ']');
 }
 
+// Members that are single numbers, as many as follow each other.
+char* WriteNumbers(std::span<const JsonStep> steps, const std::uint8_t* data, char* to,
+                   Target& target) {
+  if (target.HasRoomFor(steps.size() * Target::LongestPiece, to)) [[likely]] {
+    for (const JsonStep& step : steps) to = PutNumberMember(to, &step, data);
+  } else {
+    for (const JsonStep& step : steps) to = target.Write<PutNumberMember>(to, &step, data);
+  }
+  return to;
+}
+
 char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* to,
                   Target& target) {
-  for (const JsonStep& step : static_cast<const RecordRow&>(record).json) {
-    const std::uint32_t type = step.type;
-    if (type <= NavframeF64) [[likely]] {
-      to = target.Write<PutNumberMember>(to, type, &step, data);
+  std::span<const JsonStep> steps = static_cast<const RecordRow&>(record).json;
+  while (!steps.empty()) {
+    const JsonStep& step = steps.front();
+    if (step.numbers != 0) {
+      to = WriteNumbers(steps.first(step.numbers), data, to, target);
+      steps = steps.subspan(step.numbers);
       continue;
     }
     const NavframeMember& member = *step.member;
     const std::uint8_t* const at = data + step.offset;
     to = target.Write<PutKey>(to, &step);
-    to = type == JsonList ? WriteList(step, LengthInUse(record, member, data), at, to, target)
-                          : WriteOther(member, at, to, target);
+    to = step.type == JsonList ? WriteList(step, LengthInUse(record, member, data), at, to, target)
+                               : WriteOther(member, at, to, target);
+    steps = steps.subspan(1);
   }
   return target.Write(to, '}');
 }

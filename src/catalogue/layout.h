@@ -28,7 +28,8 @@ constexpr bool IsLeftOut(const NavframeMember& member) {
 struct JsonStep {
   std::array<char, 32> key;  // what stands in front, the name and its colon; copied as a whole
   std::uint8_t keyLength;
-  std::uint8_t type;  // a NavframeType, or JsonList
+  std::uint8_t type;     // a NavframeType, or JsonList
+  std::uint8_t numbers;  // how many steps from here on are single numbers
   std::uint32_t offset;
   std::int64_t unknownInteger;  // of integers below 64 bits; one that they never have for none
   double unknownNumber;         // of floating-point numbers; a NaN for none
@@ -77,6 +78,10 @@ inline constexpr auto JsonStepsOf = [] {
     if (IsLeftOut(row)) continue;
     steps[count] = JsonStepOf(row, count == 0);
     ++count;
+  }
+  for (std::size_t i = count, numbers = 0; i-- > 0;) {
+    numbers = steps[i].type <= NavframeF64 ? std::min<std::size_t>(numbers + 1, 255) : 0;
+    steps[i].numbers = static_cast<std::uint8_t>(numbers);
   }
   return steps;
 }();
