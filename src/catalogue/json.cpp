@@ -27,7 +27,14 @@ class Target {
     return WriteWhatFits<Put>(at, arguments...);
   }
   bool HasRoomFor(std::size_t length, const char* at) const { return Room(at) >= length; }
-  char* Write(char* at, char c) { return Write(at, {&c, 1}); }
+  char* Write(char* at, char c) {
+    if (at == end_) [[unlikely]] {
+      ++lost_;
+      return at;
+    }
+    *at = c;
+    return at + 1;
+  }
   char* Write(char* at, std::string_view text) {
     const std::size_t fitting = std::min(text.size(), Room(at));
     if (fitting != 0) std::memcpy(at, text.data(), fitting);
@@ -185,34 +192,9 @@ char* WriteString(std::string_view text, char* to, Target& target) {
   }
 }
 
-char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* to, Target& target);
-
-// What is no number.
-char* WriteOther(const NavframeMember& member, const std::uint8_t* at, char* to, Target& target) {
-  if (member.type == NavframeNested) return WriteRecord(*member.record, at, to, target);
-  if (member.type == NavframeText && target.HasRoomFor(member.size + 2, to)) {
-    if (char* const end = PutPlainText(to, member, at)) return end;
-  }
-  const std::string_view text = ReadText(member, at);
-  if (text.empty() && member.unknownRule == NavframeUnknownEmpty) return target.Write(to, "null");
-  return WriteString(text, to, target);
-}
-
-char* WriteList(const JsonStep& step, std::uint32_t length, const std::uint8_t* at, char* to,
-                Target& target) {
-  const NavframeMember& member = *step.member;
-  to = target.Write(to, '[');
-  for (std::uint32_t i = 0; i < length; ++i, at += member.size) {
-    if (i != 0) to = target.Write(to, ',');
-    to = IsNumber(member) ? target.Write<PutNumberOfList>(to, &step, at)
-                          : WriteOther(member, at, to, target);
-  }
-  return target.Write(to, ']');
-}
-
-// Members that are single numbers, as many as follow each other.
-char* WriteNumbers(std::span<const JsonStep> steps, const std::uint8_t* data, char* to,
-                   Target& target) {
+// Members that follow each other and are single numbers; for all of them room is asked once.
+[[gnu::noinline]] char* WriteNumbers(std::span<const JsonStep> steps, const std::uint8_t* data,
+                                     char* to, Target& target) {
   if (target.HasRoomFor(steps.size() * Target::LongestPiece, to)) [[likely]] {
     for (const JsonStep& step : steps) to = PutNumberMember(to, &step, data);
   } else {
@@ -221,22 +203,53 @@ char* WriteNumbers(std::span<const JsonStep> steps, const std::uint8_t* data, ch
   return to;
 }
 
+char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* to, Target& target);
+
+char* WriteText(const NavframeMember& member, const std::uint8_t* at, char* to, Target& target) {
+  if (member.type == NavframeText && target.HasRoomFor(member.size + 2, to)) {
+    if (char* const end = PutPlainText(to, member, at)) return end;
+  }
+  const std::string_view text = ReadText(member, at);
+  if (text.empty() && member.unknownRule == NavframeUnknownEmpty) return target.Write(to, "null");
+  return WriteString(text, to, target);
+}
+
+char* WriteElement(const JsonStep& step, const std::uint8_t* at, char* to, Target& target) {
+  const NavframeMember& member = *step.member;
+  if (IsNumber(member)) return target.Write<PutNumberOfList>(to, &step, at);
+  if (IsText(member)) return WriteText(member, at, to, target);
+  return WriteRecord(*member.record, at, to, target);
+}
+
+char* WriteList(const JsonStep& step, std::uint32_t length, const std::uint8_t* at, char* to,
+                Target& target) {
+  to = target.Write(to, '[');
+  for (std::uint32_t i = 0; i < length; ++i, at += step.member->size) {
+    if (i != 0) to = target.Write(to, ',');
+    to = WriteElement(step, at, to, target);
+  }
+  return target.Write(to, ']');
+}
+
+char* WriteOther(const NavframeRecord& record, const JsonStep& step, const std::uint8_t* data,
+                 char* to, Target& target) {
+  to = target.Write<PutKey>(to, &step);
+  const std::uint8_t* const at = data + step.offset;
+  if (step.type != JsonList) return WriteElement(step, at, to, target);
+  return WriteList(step, LengthInUse(record, *step.member, data), at, to, target);
+}
+
 char* WriteRecord(const NavframeRecord& record, const std::uint8_t* data, char* to,
                   Target& target) {
-  std::span<const JsonStep> steps = static_cast<const RecordRow&>(record).json;
-  while (!steps.empty()) {
-    const JsonStep& step = steps.front();
-    if (step.numbers != 0) {
-      to = WriteNumbers(steps.first(step.numbers), data, to, target);
-      steps = steps.subspan(step.numbers);
-      continue;
+  const std::span<const JsonStep> steps = static_cast<const RecordRow&>(record).json;
+  for (auto step = steps.begin(); step != steps.end();) {
+    if (step->numbers != 0) {
+      to = WriteNumbers({step, step->numbers}, data, to, target);
+      step += step->numbers;
+    } else {
+      to = WriteOther(record, *step, data, to, target);
+      ++step;
     }
-    const NavframeMember& member = *step.member;
-    const std::uint8_t* const at = data + step.offset;
-    to = target.Write<PutKey>(to, &step);
-    to = step.type == JsonList ? WriteList(step, LengthInUse(record, member, data), at, to, target)
-                               : WriteOther(member, at, to, target);
-    steps = steps.subspan(1);
   }
   return target.Write(to, '}');
 }
