@@ -85,7 +85,7 @@ inline char* PutDigits(char* at, std::uint64_t value) {
 
 template <std::integral Integer>
 char* PutNumber(char* at, Integer value) {
-  const auto bits = static_cast<std::uint64_t>(value);
+  const auto bits = static_cast<std::uint64_t>(+value);
   if (value >= 0) return PutDigits(at, bits);
   *at = '-';
   return PutDigits(at + 1, 0 - bits);
