@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "outputs/outputs.h"
-#include "sources/descriptor.h"
+#include "outputs/temporary_file.h"
 
 namespace navframe::tool {
 
 // Keeps what is written until the turn comes, then hands it on; in memory as long as it is little,
-// in an unlinked temporary file when it is more. Written from one thread; another may say that the
-// turn has come.
+// in a temporary file when it is more. Written from one thread; another may say that the turn has
+// come.
 class Spool : public Outputs {
  public:
   Spool() = default;
@@ -52,9 +52,8 @@ class Spool : public Outputs {
 
   std::map<std::string, Waiting> outputs_;
   std::vector<Piece> pieces_;
-  std::string memory_;      // the last of them
-  Descriptor file_;         // those before, once it was opened
-  std::size_t inFile_ = 0;  // bytes
+  std::string memory_;  // the last of them
+  TemporaryFile file_;  // those before
   std::atomic<Outputs*> to_ = nullptr;
 };
 
