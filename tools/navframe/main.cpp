@@ -49,7 +49,7 @@ int Main(int argc, char** argv) {
   app.add_flag("--completion", wantsCompletion)->group("");
   app.require_subcommand(0, 1);  // behind one of them its name is that of a source
   const Command decode = AddDecode(app);
-  const Command others[] = {AddKinds(app), AddSources(app)};
+  const Command others[] = {AddKinds(app), AddSources(app), AddRinex(app)};
   try {
     app.parse(argc, argv);
     if (wantsManual) return Say(ManualPage(app));

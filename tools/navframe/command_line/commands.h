@@ -19,5 +19,6 @@ struct Command {
 Command AddDecode(CLI::App& app);  // `navframe SOURCE...` takes what `navframe decode` takes
 Command AddKinds(CLI::App& app);
 Command AddSources(CLI::App& app);
+Command AddRinex(CLI::App& app);
 
 }  // namespace navframe::tool

@@ -1,0 +1,178 @@
+#include "commands/rinex.h"
+
+#include <cstdio>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "commands/messages.h"
+#include "commands/rinex_input.h"
+#include "fault.h"
+#include "interrupt.h"
+#include "navframe/records.h"
+#include "progress.h"
+#include "rinex/observation_files.h"
+#include "rinex/station_notes.h"
+#include "sources/folders.h"
+
+namespace navframe::tool {
+namespace {
+
+// What was left out, for people.
+struct LeftOutRow {
+  std::uint64_t LeftOut::*count;
+  const char* what;
+};
+constexpr LeftOutRow LeftOutRows[] = {
+    {&LeftOut::outOfOrder, "messages of epochs out of order"},
+    {&LeftOut::repeated, "observations of signals that their epoch had already"},
+    {&LeftOut::ambiguous,
+     "observations with ranges of which multiples of a millisecond are missing"},
+    {&LeftOut::withoutTime, "observations without a time"},
+    {&LeftOut::ofOtherStations, "observations of other stations"},
+    {&LeftOut::unknownSatellites, "observations of satellites without a number in RINEX"},
+    {&LeftOut::unknownSignals, "observations of signals without a code in RINEX"},
+};
+
+class Run {
+ public:
+  Run(const RinexOptions& options, const std::vector<std::string>& sources)
+      : options_(options),
+        sources_(sources),
+        progress_(SizeOfFiles(sources)),
+        messages_(progress_, false),
+        input_(options, messages_, progress_),
+        columns_(Columns()),
+        epochs_(
+            options.filters, names_, leftOut_, [this](Epoch& epoch) { files_.Take(epoch); },
+            [this](const std::string& text) { Tell(text); }),
+        files_({options.naming, options.version, options.texts, columns_ ? &*columns_ : nullptr},
+               names_, [this] { return Facts(); }) {}
+
+  ExitStatus Make() {
+    bool isGood = true;
+    try {
+      isGood = input_.Read(sources_, {[this](const NavframeItem& item) { Take(item); },
+                                      [this](const Recording& recording) { Begin(recording); }});
+      epochs_.End();
+      Shift();
+      files_.End();
+    } catch (const Fault& fault) {
+      messages_.Add(fault.what());
+      return Failure;
+    } catch (const WriteFault& fault) {
+      messages_.Add(fault.what());
+      return Failure;
+    } catch (const std::bad_alloc&) {
+      messages_.Add(navframe_status_text(NavframeOutOfMemory));
+      return Failure;
+    }
+    progress_.Hide();
+    Summarise();
+    if (isGood && input_.Frames() == 0) {
+      messages_.Add("nothing was recognised");
+      return NothingRecognised;
+    }
+    if (isGood && files_.Epochs() == 0) {
+      messages_.Add("there are no observations");
+      return Failure;
+    }
+    return isGood ? Success : Failure;
+  }
+
+ private:
+  std::optional<SystemColumns> Columns() {
+    std::string wrong;
+    return options_.types.empty() ? std::nullopt : ParseTypes(options_.types, names_, wrong);
+  }
+
+  void Tell(const std::string& text) {
+    if (!options_.quiet) messages_.Add(text);
+  }
+
+  void Begin(const Recording& recording) {
+    isLive_ = recording.name.empty();
+    if (dateFrom_.empty() && recording.tow) dateFrom_ = recording.dateFrom;
+  }
+
+  void Take(const NavframeItem& item) {
+    if (item.kind->id == MsgIdObservations) {
+      const auto& record = *static_cast<const ObservationsRecord*>(item.record);
+      areAligned_ &= record.protocol == NavframeRtcm3 && record.message >= FirstMsm;
+      epochs_.Add(item, record);
+      notes_.NoteObservations(record);
+      Shift();
+    } else if (item.kind->id == MsgIdUbxClock) {
+      const auto& clock = *static_cast<const UbxClockRecord*>(item.record);
+      epochs_.AddClock(clock.tow, clock.bias);
+    } else {
+      notes_.Note(item);
+    }
+  }
+
+  // Once the date is known, what was taken before gets its own.
+  void Shift() {
+    if (const Ticks ticks = epochs_.TakeShift(); ticks != 0) files_.Shift(ticks);
+  }
+
+  ObservationFacts Facts() {
+    if (!epochs_.AreDated()) {
+      throw Fault(
+          "no date: the observations do not tell their week; say when they were made with "
+          "--date YYYY-MM-DD, or in the name of the file");
+    }
+    return {notes_, epochs_.Station(), dateFrom_.empty() ? input_.LiveDateFrom() : dateFrom_,
+            areAligned_};
+  }
+
+  void Summarise() {
+    for (const LeftOutRow& row : LeftOutRows) {
+      if (const std::uint64_t count = leftOut_.*row.count; count != 0) {
+        Tell("left out: " + std::to_string(count) + " " + row.what);
+      }
+    }
+    if (const std::uint64_t count = files_.PhasesLeftOut(); count != 0) {
+      Tell("left out: " + std::to_string(count) +
+           " phases of GLONASS satellites whose channel nothing tells");
+    }
+    if (leftOut_.cutEpochs != 0) {
+      Tell(std::to_string(leftOut_.cutEpochs) +
+           " epochs are written without their last messages, which did not come");
+    }
+  }
+
+  static constexpr std::uint16_t FirstMsm = 1071;
+
+  const RinexOptions& options_;
+  const std::vector<std::string>& sources_;
+  Progress progress_;
+  Messages messages_;
+  RinexInput input_;
+  SignalNames names_;
+  LeftOut leftOut_;
+  StationNotes notes_;
+  std::optional<SystemColumns> columns_;
+  Epochs epochs_;
+  ObservationFiles files_;
+  std::string dateFrom_;
+  bool areAligned_ = true;
+  bool isLive_ = false;
+};
+
+}  // namespace
+
+ExitStatus Rinex(const RinexOptions& options) {
+  NoteInterrupts();
+  std::vector<std::string> sources = options.sources;
+  if (sources.empty()) sources.emplace_back("-");
+  try {
+    if (options.recursive) sources = WithFilesOfFolders(sources);
+  } catch (const Fault& fault) {
+    Progress progress(0);
+    Messages(progress, false).Add(fault.what());
+    return Failure;
+  }
+  return Run(options, sources).Make();
+}
+
+}  // namespace navframe::tool

@@ -1,0 +1,242 @@
+#include "rinex/epochs.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "fault.h"
+
+namespace navframe::tool {
+namespace {
+
+constexpr std::uint16_t UnknownWeek = 0xFFFF;
+constexpr std::uint8_t UnknownFlag = 0xFF;
+constexpr std::uint32_t UnknownLock = 0xFFFFFFFF;
+constexpr std::int64_t ArbitraryWeek = 1000;
+constexpr std::uint8_t Sbas = 7;
+constexpr std::uint8_t SbasOffset = 100;
+
+// The longest lock times that messages tell, which stand for longer ones.
+std::uint32_t LongestLock(const ObservationsRecord& record) {
+  constexpr std::uint32_t FirstMsm = 1071;
+  constexpr std::uint32_t FirstFine = 6;  // of MSM6 and MSM7
+  if (record.protocol == NavframeUbx) return 64'500;
+  if (record.message < FirstMsm) return 937'000;
+  return record.message % 10 < FirstFine ? 524'288 : 67'108'864;
+}
+
+StationNumber StationOf(const ObservationsRecord& record) {
+  return record.protocol == NavframeUbx ? UbxReceiver : record.stationId;
+}
+
+bool IsWantedSignal(const std::vector<std::string>& wanted, const char* code) {
+  return wanted.empty() || std::ranges::find(wanted, code) != wanted.end();
+}
+
+}  // namespace
+
+std::string ShownStation(StationNumber station) {
+  return station == UbxReceiver ? "ubx" : std::to_string(station);
+}
+
+Epochs::Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, Taker take,
+               Teller tell)
+    : filters_(filters),
+      names_(names),
+      leftOut_(leftOut),
+      take_(std::move(take)),
+      tell_(std::move(tell)),
+      station_(filters.station),
+      week_(ArbitraryWeek) {
+  const std::vector<SatelliteName>& wanted = filters.filters.satellites;
+  for (auto& satellites : wantedSatellites_) satellites.fill(wanted.empty());
+  for (const SatelliteName& name : wanted) {
+    auto& satellites = wantedSatellites_[SystemLetters.find(name.system)];
+    if (name.number == 0) satellites.fill(true);
+    if (name.number < SatelliteRoom) satellites[name.number] = true;
+  }
+}
+
+void Epochs::Add(const NavframeItem& item, const ObservationsRecord& record) {
+  if (!IsOfStation(record)) return;
+  if (std::isnan(record.tow)) {
+    leftOut_.withoutTime += record.count;
+    return;
+  }
+  const Ticks time = TimeOf(record);
+  if (!IsInOrder(item, time)) return;
+  if (isOpen_ && time != epoch_.time) Finish();
+  if (!isOpen_) {
+    isOpen_ = true;
+    epoch_.time = time;
+    isWanted_ = IsWanted(time, item.time.leapSeconds);
+  }
+  isComplete_ = record.epochComplete != 0;
+  if (record.rangeModulus != 0) {
+    leftOut_.ambiguous += record.count;
+    return;
+  }
+  for (std::uint32_t i = 0; i < record.count; ++i) {
+    const auto key = KeyOf(record.observations[i]);
+    if (key) Put(record, record.observations[i], *key);
+  }
+}
+
+bool Epochs::IsOfStation(const ObservationsRecord& record) {
+  const StationNumber station = StationOf(record);
+  if (!station_) station_ = station;
+  if (station == *station_) return true;
+  if (!filters_.station) {
+    throw Fault("there are observations of two stations, " + ShownStation(*station_) + " and " +
+                ShownStation(station) + ": choose one with --station-id " +
+                ShownStation(*station_) + " or --station-id " + ShownStation(station));
+  }
+  leftOut_.ofOtherStations += record.count;
+  return false;
+}
+
+Ticks Epochs::TimeOf(const ObservationsRecord& record) {
+  const Ticks ofWeek = TicksOf(record.tow);
+  if (lastOfWeek_ >= 0) {
+    if (ofWeek + TicksPerWeek / 2 < lastOfWeek_) ++week_;
+    if (lastOfWeek_ + TicksPerWeek / 2 < ofWeek) --week_;
+  }
+  lastOfWeek_ = ofWeek;
+  if (record.week == UnknownWeek) return week_ * TicksPerWeek + ofWeek;
+  if (!isDated_) {
+    isDated_ = true;
+    ShiftAll((record.week - week_) * TicksPerWeek);
+  }
+  week_ = record.week;
+  return week_ * TicksPerWeek + ofWeek;
+}
+
+void Epochs::ShiftAll(Ticks ticks) {
+  shift_ = ticks;
+  epoch_.time += ticks;
+  if (start_) *start_ += ticks;
+  locks_.Shift(ticks);
+}
+
+void Epochs::Date(std::uint32_t firstWeek) {
+  if (isDated_) return;
+  isDated_ = true;
+  const std::int64_t weeks = std::int64_t{firstWeek} - ArbitraryWeek;
+  week_ += weeks;
+  ShiftAll(weeks * TicksPerWeek);
+}
+
+// An epoch that lies before one that was taken is left out: files go on in time.
+bool Epochs::IsInOrder(const NavframeItem& item, Ticks time) {
+  constexpr int MostTold = 5;
+  if (!start_ || time >= epoch_.time) return true;
+  ++leftOut_.outOfOrder;
+  if (toldOutOfOrder_ != time && ++timesTold_ <= MostTold) {
+    tell_("the epoch at " + std::to_string(SecondsOf(time % TicksPerWeek)) +
+          " s of the week, at byte " + std::to_string(item.offset) +
+          ", is before the one in front of it: left out");
+  }
+  toldOutOfOrder_ = time;
+  return false;
+}
+
+bool Epochs::IsWanted(Ticks time, int leapSeconds) {
+  if (!start_) start_ = time;
+  const auto of = [&](const Moment& moment) {
+    return TicksOf(moment.seconds) + (moment.fromStart ? *start_ : 0) +
+           (moment.isUtc ? leapSeconds * TicksPerSecond : 0);
+  };
+  const Filters& filters = filters_.filters;
+  if (filters.from && time < of(*filters.from)) return false;
+  if (filters.to && time >= of(*filters.to)) return false;
+  if (filters.every == 0) return true;
+  constexpr Ticks Near = TicksPerSecond / 100;  // clocks of receivers are off by some ms
+  const Ticks every = std::max<Ticks>(TicksOf(filters.every), 1);
+  const Ticks behind = time % every;
+  return behind <= Near || every - behind <= Near;
+}
+
+std::optional<SignalKey> Epochs::KeyOf(const Observation& observation) {
+  const std::size_t system = observation.system;
+  const std::size_t satellite =
+      observation.satellite -
+      std::size_t{observation.system == Sbas && observation.satellite > SbasOffset ? SbasOffset
+                                                                                   : 0U};
+  if (system == 0 || system >= SystemCount || satellite == 0 || satellite >= SatelliteRoom) {
+    ++leftOut_.unknownSatellites;
+    return std::nullopt;
+  }
+  if (!wantedSatellites_[system][satellite] ||
+      !IsWantedSignal(filters_.filters.signals, observation.code)) {
+    return std::nullopt;
+  }
+  const std::size_t signal =
+      observation.code[0] == '\0' ? SignalRoom : names_.PlaceOf(system, observation.code);
+  if (signal == SignalRoom) {
+    ++leftOut_.unknownSignals;
+    return std::nullopt;
+  }
+  return tool::KeyOf(system, satellite, signal);
+}
+
+// Several messages may have the same signal: what the first of them does not tell is taken from
+// those behind it.
+void Epochs::Put(const ObservationsRecord& record, const Observation& observation, SignalKey key) {
+  constexpr double None = std::numeric_limits<double>::quiet_NaN();
+  std::uint16_t& place = places_[key];
+  if (place == 0) {
+    const bool isInMetres = std::isnan(observation.frequency) && record.protocol != NavframeUbx;
+    epoch_.observations.push_back(
+        {key, 0, isInMetres, std::numeric_limits<float>::quiet_NaN(), None, None, None});
+    place = static_cast<std::uint16_t>(epoch_.observations.size());
+  } else {
+    ++leftOut_.repeated;
+  }
+  Observed& to = epoch_.observations[place - 1];
+  const double phase = to.inMetres ? observation.phaseRange : observation.carrierPhase;
+  if (std::isnan(to.phase) && !std::isnan(phase)) {
+    to.phase = phase;
+    NoteLock(record, observation, to);
+  }
+  if (std::isnan(to.pseudorange)) to.pseudorange = observation.pseudorange;
+  if (std::isnan(to.strength)) to.strength = observation.cn0;
+  if (std::isnan(to.doppler)) {
+    to.doppler = to.inMetres ? observation.rangeRate : observation.doppler;
+  }
+}
+
+void Epochs::NoteLock(const ObservationsRecord& record, const Observation& observation,
+                      Observed& to) {
+  if (observation.lockTime != UnknownLock) {
+    locks_.Note(to.key, epoch_.time, observation.lockTime, LongestLock(record));
+  } else if (observation.lossOfLock == 1) {
+    locks_.NoteLost(to.key);
+  }
+  to.lossOfLock = 0;
+  if (isWanted_ && locks_.Take(to.key)) to.lossOfLock |= LockLost;
+  const bool isHalf =
+      observation.halfCycleAmbiguity != UnknownFlag && observation.halfCycleAmbiguity != 0;
+  if (isHalf) to.lossOfLock |= HalfCycle;
+}
+
+void Epochs::AddClock(std::uint32_t tow, double bias) {
+  clockTow_ = tow;
+  clockBias_ = bias;
+}
+
+void Epochs::End() {
+  if (isOpen_) Finish();
+}
+
+void Epochs::Finish() {
+  isOpen_ = false;
+  if (!isComplete_) ++leftOut_.cutEpochs;
+  for (const Observed& observed : epoch_.observations) places_[observed.key] = 0;
+  if (isWanted_ && !epoch_.observations.empty()) {
+    std::ranges::sort(epoch_.observations, {}, &Observed::key);
+    take_(epoch_);
+  }
+  epoch_.observations.clear();
+}
+
+}  // namespace navframe::tool
