@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <map>
 #include <random>
+#include <regex>
 
 #include "navframe/records.h"
 #include "rinex/exponent_text.h"
@@ -223,6 +224,7 @@ GlonassEphemerisRecord Glonass() {
   record.deltaTauN = -5.6e-09;
   record.lnThird = 1;
   record.almanacHealth = 1;
+  record.na = 6;
   record.tauC = 9.313225746155e-09;
   record.tauGps = Unknown;
   return record;
@@ -253,13 +255,16 @@ class Memory : public Output {
 };
 
 template <class Record>
-void Take(NavigationFile& file, std::uint32_t kind, const Record& record) {
+void Take(NavigationFile& file, std::uint32_t kind, const Record& record, bool isLog = false) {
   NavframeItem item{};
   item.type = NavframeItemRecord;
-  item.kind = navframe_kind(kind, 0);
+  item.protocol = isLog ? NavframeAsciiLog : NavframeRtcm3;
+  item.kind = navframe_kind(kind, isLog ? SourceAsciiLog : 0);
   ASSERT_NE(item.kind, nullptr);
   item.record = &record;
   item.time.leapSeconds = 18;
+  item.time.week = 2165;  // 2021-07-05 23:30:42
+  item.time.tow = 171042000;
   file.Take(item);
 }
 
@@ -328,6 +333,10 @@ TEST(NavigationFile, TellsOffsetsOfGlonassTime) {
     Take(file, EphemerisIdGlonass, record);
     record.satellite = 8;  // which sends the same
     Take(file, EphemerisIdGlonass, record);
+    record.satellite = 9;  // of which the offsets are not known
+    record.na = 0;
+    record.tauC = 0;
+    Take(file, EphemerisIdGlonass, record);
     const std::string text = Written(file);
     if (version == NavigationVersion::V402) {
       EXPECT_THAT(
@@ -337,7 +346,8 @@ TEST(NavigationFile, TellsOffsetsOfGlonassTime) {
                           " 0.000000000000E+00\n> EPH R07 FDMA\n"));
       EXPECT_THAT(Heads(text),
                   ElementsAre("> STO R07 FDMA", "> EPH R07 FDMA", "R07 2018 01 06 21 15 00",
-                              "> EPH R08 FDMA", "R08 2018 01 06 21 15 00"));
+                              "> EPH R08 FDMA", "R08 2018 01 06 21 15 00", "> EPH R09 FDMA",
+                              "R09 2018 01 06 21 15 00"));
     } else {
       EXPECT_THAT(text, HasSubstr("\nGLUT -9.3132257462E-09 0.000000000E+00      0    0 R08    3 "
                                   "TIME SYSTEM CORR"));
@@ -345,6 +355,51 @@ TEST(NavigationFile, TellsOffsetsOfGlonassTime) {
     }
     EXPECT_THAT(text, Not(HasSubstr("GLGP")));
   }
+}
+
+// Examples of the standard, GPS of 4.02 but for the offset, which is of 3.05.
+TEST(NavigationFile, TellsIonosphereAndUtc) {
+  const IonosphereLogRecord klobuchar{
+      {},
+      {7.450580596924e-09, 2.235174179077e-08, -5.960464477539e-08, -1.192092895508e-07},
+      {9.216e+04, 1.31072e+05, -6.5536e+04, -5.24288e+05},
+      {}};
+  const GalileoIonosphereLogRecord galileo{{}, {124.8, 0.5039, 0.02377}, {}};
+  const UtcLogRecord utc{{}, 1395, 147456, 2.793967723e-09, 0, 0, 0, 0, 0, {}};
+  std::string texts[2];
+  for (const auto version : {NavigationVersion::V305, NavigationVersion::V402}) {
+    NavigationFile file(version);
+    Take(file, LogIdGpsIonosphere, klobuchar, true);
+    Take(file, LogIdBdsIonosphere, klobuchar, true);
+    Take(file, LogIdGalileoIonosphere, galileo, true);
+    Take(file, LogIdGpsUtc, utc, true);
+    texts[version == NavigationVersion::V402] =
+        std::regex_replace(Written(file), std::regex(" +\n"), "\n");
+  }
+  EXPECT_THAT(texts[0], HasSubstr(R"(
+GPSA   7.4506E-09  2.2352E-08 -5.9605E-08 -1.1921E-07       IONOSPHERIC CORR
+GPSB   9.2160E+04  1.3107E+05 -6.5536E+04 -5.2429E+05       IONOSPHERIC CORR
+GAL    1.2480E+02  5.0390E-01  2.3770E-02                   IONOSPHERIC CORR
+BDSA   7.4506E-09  2.2352E-08 -5.9605E-08 -1.1921E-07 X     IONOSPHERIC CORR
+BDSB   9.2160E+04  1.3107E+05 -6.5536E+04 -5.2429E+05 X     IONOSPHERIC CORR
+GPUT  2.7939677230E-09 0.000000000E+00 147456 1395        2 TIME SYSTEM CORR
+)"));
+  EXPECT_THAT(texts[1], testing::EndsWith(R"(
+> ION G   LNAV
+    2021 07 05 23 30 42 7.450580596924E-09 2.235174179077E-08-5.960464477539E-08
+    -1.192092895508E-07 9.216000000000E+04 1.310720000000E+05-6.553600000000E+04
+    -5.242880000000E+05
+> ION E   IFNV
+    2021 07 05 23 30 42 1.248000000000E+02 5.039000000000E-01 2.377000000000E-02
+     0.000000000000E+00
+> ION C   D1D2
+    2021 07 05 23 30 28 7.450580596924E-09 2.235174179077E-08-5.960464477539E-08
+    -1.192092895508E-07 9.216000000000E+04 1.310720000000E+05-6.553600000000E+04
+    -5.242880000000E+05
+> STO G   LNAV
+    2006 10 02 16 57 36 GPUT                                  UTC(USNO)
+     1.710420000000E+05 2.793967723000E-09 0.000000000000E+00 0.000000000000E+00
+)"));
 }
 
 // However little fits in memory, and in whichever order they come.

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <initializer_list>
 
 #include "rinex/exponent_text.h"
 
@@ -13,7 +12,6 @@ namespace {
 
 constexpr std::int64_t Week = 604800;  // s
 constexpr std::int64_t Day = 86400;
-constexpr std::int64_t GlonassAhead = 10800;  // of UTC
 constexpr std::uint16_t FirstWeekOfBeiDou = 1356;
 constexpr std::chrono::sys_days FirstDay = std::chrono::year{1980} / 1 / 6;
 
@@ -27,7 +25,7 @@ constexpr double FnavSources = 1 << 1 | 1 << 8;           // E5a; clock of E5a a
 constexpr double InavSources = 1 << 0 | 1 << 2 | 1 << 9;  // E1 and E5b, which send it alike
 
 // Values EphemerisMessage.
-enum Message : std::uint8_t { Lnav = 1, Fnav = 2, Inav = 3, D1 = 4, D2 = 5, Sps = 6 };
+enum Message : std::uint8_t { Fnav = 2, Inav = 3, D1 = 4, D2 = 5 };
 
 const char* MessageName(std::uint8_t message) {
   switch (message) {
@@ -47,49 +45,17 @@ const char* MessageName(std::uint8_t message) {
 double OrElse(double value, double otherwise) { return std::isnan(value) ? otherwise : value; }
 double Flag(std::uint8_t flag) { return flag <= 1 ? flag : Blank; }
 
-// Blank fields at the end are left away.
-void EndLine(std::string& out) {
-  out.erase(out.find_last_not_of(' ') + 1);
-  out += '\n';
-}
-
-void PutOrbit(std::string& out, std::initializer_list<double> values) {
-  out.append(4, ' ');
-  for (const double value : values) PutExponent(out, value);
-  EndLine(out);
-}
-
-// "> EPH G05 LNAV".
-void PutRecordLine(std::string& out, const char* type, char system, unsigned satellite,
-                   const char* message) {
-  std::array<char, 32> text;
-  std::snprintf(text.data(), text.size(), "> %s %c%02u %s\n", type, system, satellite, message);
-  out += text.data();
-}
-
-// "2026 03 14 12 00 00".
-void PutEpoch(std::string& out, std::int64_t seconds) {
-  const std::chrono::sys_seconds time = FirstDay + std::chrono::seconds(seconds);
-  const auto day = std::chrono::floor<std::chrono::days>(time);
-  const std::chrono::year_month_day date(day);
-  const std::chrono::hh_mm_ss clock(time - day);
-  std::array<char, 64> text;
-  std::snprintf(text.data(), text.size(), "%04d %02u %02u %02d %02d %02d",
-                static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
-                static_cast<int>(clock.minutes().count()),
-                static_cast<int>(clock.seconds().count()));
-  out += text.data();
-}
-
-void PutClock(std::string& out, char system, unsigned satellite, std::int64_t epoch,
+void PutClock(std::string& out, char system, std::uint8_t satellite, std::int64_t epoch,
               std::initializer_list<double> values) {
-  std::array<char, 8> name;
-  std::snprintf(name.data(), name.size(), "%c%02u ", system, satellite);
-  out += name.data();
+  out += SatelliteText(system, satellite) + ' ';
   PutEpoch(out, epoch);
   for (const double value : values) PutExponent(out, value);
-  EndLine(out);
+  PutEnd(out);
+}
+
+// Of version 4: "> EPH G05 LNAV".
+void PutRecordLine(std::string& out, char system, std::uint8_t satellite, const char* message) {
+  out += "> EPH " + SatelliteText(system, satellite) + ' ' + message + '\n';
 }
 
 // What fits a curve longer than 4 h is told by the issue of the clock: IS-GPS-200, table 20-XII,
@@ -164,14 +130,6 @@ OwnFields OwnFieldsOf(const KeplerEphemerisRecord& record) {
   return fields;
 }
 
-// Seconds of the UTC week when the frame began, which is at most half a day away from tb.
-double FrameTime(const GlonassEphemerisRecord& record) {
-  std::int64_t behind = std::int64_t{record.frameTime} - record.tb;
-  if (behind > Day / 2) behind -= Day;
-  if (behind < -Day / 2) behind += Day;
-  return static_cast<double>((EpochOf(record) + behind + Week) % Week);
-}
-
 double StatusFlags(const GlonassEphemerisRecord& record) {
   const auto known = [](unsigned value, unsigned largest) { return value > largest ? 0 : value; };
   return known(record.p, 3) | known(record.p1, 3) << 2 | known(record.p2, 1) << 4 |
@@ -185,23 +143,41 @@ double HealthFlags(const GlonassEphemerisRecord& record) {
   return (record.lnThird == 1 ? 4 : 0) | (hasAlmanac ? 2 | record.almanacHealth : 0);
 }
 
-void PutTimeOffset(std::string& out, const GlonassEphemerisRecord& record, const char* offset,
-                   const char* utc, double value) {
-  if (std::isnan(value)) return;
-  PutRecordLine(out, "STO", 'R', record.satellite, "FDMA");
-  out.append(4, ' ');
-  PutEpoch(out, EpochOf(record));
-  std::array<char, 64> text;
-  std::snprintf(text.data(), text.size(), " %-18s %18s %s", offset, "", utc);
-  out += text.data();
-  EndLine(out);
-  PutOrbit(out, {FrameTime(record), value, 0, 0});
-}
-
 }  // namespace
 
 const char* VersionText(NavigationVersion version) {
   return version == NavigationVersion::V305 ? "3.05" : "4.02";
+}
+
+std::string SatelliteText(char system, std::uint8_t satellite) {
+  std::array<char, 8> text;
+  std::snprintf(text.data(), text.size(), "%c%02u", system, satellite);
+  return text.data();
+}
+
+void PutEpoch(std::string& out, std::int64_t seconds) {
+  const std::chrono::sys_seconds time = FirstDay + std::chrono::seconds(seconds);
+  const auto day = std::chrono::floor<std::chrono::days>(time);
+  const std::chrono::year_month_day date(day);
+  const std::chrono::hh_mm_ss clock(time - day);
+  std::array<char, 64> text;
+  std::snprintf(text.data(), text.size(), "%04d %02u %02u %02d %02d %02d",
+                static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
+                static_cast<int>(clock.minutes().count()),
+                static_cast<int>(clock.seconds().count()));
+  out += text.data();
+}
+
+void PutOrbit(std::string& out, std::initializer_list<double> values) {
+  out.append(4, ' ');
+  for (const double value : values) PutExponent(out, value);
+  PutEnd(out);
+}
+
+void PutEnd(std::string& out) {
+  out.erase(out.find_last_not_of(' ') + 1);
+  out += '\n';
 }
 
 char SystemLetter(std::uint8_t system) {
@@ -220,12 +196,19 @@ std::int64_t EpochOf(const GlonassEphemerisRecord& record) {
   return (day - FirstDay).count() * Day + utc.hour * 3600 + utc.minute * 60 + utc.second;
 }
 
+double FrameTime(const GlonassEphemerisRecord& record) {
+  std::int64_t behind = std::int64_t{record.frameTime} - record.tb;
+  if (behind > Day / 2) behind -= Day;
+  if (behind < -Day / 2) behind += Day;
+  return static_cast<double>((EpochOf(record) + behind + Week) % Week);
+}
+
 void PutEphemeris(std::string& out, const KeplerEphemerisRecord& record,
                   NavigationVersion version) {
   const char system = SystemLetter(record.system);
   const OwnFields own = OwnFieldsOf(record);
   if (version == NavigationVersion::V402) {
-    PutRecordLine(out, "EPH", system, record.satellite, MessageName(record.navigationMessage));
+    PutRecordLine(out, system, record.satellite, MessageName(record.navigationMessage));
   }
   PutClock(out, system, record.satellite, EpochOf(record), {record.af0, record.af1, record.af2});
   PutOrbit(out, {static_cast<double>(record.issueOfData), record.crs, record.deltaN, record.m0});
@@ -242,7 +225,7 @@ void PutEphemeris(std::string& out, const GlonassEphemerisRecord& record,
                   NavigationVersion version) {
   constexpr double Kilometre = 1000;
   if (version == NavigationVersion::V402) {
-    PutRecordLine(out, "EPH", 'R', record.satellite, "FDMA");
+    PutRecordLine(out, 'R', record.satellite, "FDMA");
   }
   PutClock(out, 'R', record.satellite, EpochOf(record),
            {-record.tauN, record.gammaN, FrameTime(record)});
@@ -254,11 +237,6 @@ void PutEphemeris(std::string& out, const GlonassEphemerisRecord& record,
   }
   PutOrbit(out, {StatusFlags(record), OrElse(record.deltaTauN, NoGlonassDelay),
                  static_cast<double>(record.accuracyIndex), HealthFlags(record)});
-}
-
-void PutTimeOffsets(std::string& out, const GlonassEphemerisRecord& record) {
-  PutTimeOffset(out, record, "GLUT", "UTC(SU)", -record.tauC);
-  PutTimeOffset(out, record, "GLGP", "", record.tauGps);
 }
 
 }  // namespace navframe::tool

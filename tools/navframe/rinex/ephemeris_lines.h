@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "navframe/records_ephemerides.h"
@@ -20,13 +21,20 @@ char SystemLetter(std::uint8_t system);
 // GLONASS UTC.
 std::int64_t EpochOf(const KeplerEphemerisRecord& record);
 std::int64_t EpochOf(const GlonassEphemerisRecord& record);
+// Seconds of the UTC week when the frame began, which is at most half a day away from tb.
+double FrameTime(const GlonassEphemerisRecord& record);
 
 // The lines of an ephemeris, whose weeks are known and whose satellite has two digits.
 void PutEphemeris(std::string& out, const KeplerEphemerisRecord& record, NavigationVersion version);
 void PutEphemeris(std::string& out, const GlonassEphemerisRecord& record,
                   NavigationVersion version);
 
-// The offsets of GLONASS time that an ephemeris came with, as records STO of version 4.
-void PutTimeOffsets(std::string& out, const GlonassEphemerisRecord& record);
+// What lines are made of: "G05"; "2026 03 14 12 00 00" of an epoch; four columns of margin and
+// values, unless Blank, see exponent_text.h. The end of a line leaves away what is blank in front
+// of it.
+std::string SatelliteText(char system, std::uint8_t satellite);
+void PutEpoch(std::string& out, std::int64_t seconds);
+void PutOrbit(std::string& out, std::initializer_list<double> values);
+void PutEnd(std::string& out);
 
 }  // namespace navframe::tool

@@ -9,6 +9,7 @@
 
 #include "navframe/stream.h"
 #include "outputs/outputs.h"
+#include "rinex/corrections.h"
 #include "rinex/ephemeris_lines.h"
 #include "rinex/ephemeris_spool.h"
 
@@ -28,8 +29,8 @@ class NavigationFile {
  public:
   explicit NavigationFile(NavigationVersion version) : version_(version) {}
 
-  // Keeps what is an ephemeris of the records that a stream in NavframeStandard makes, and leaves
-  // all others.
+  // Keeps what is an ephemeris or a correction of the records that a stream in NavframeStandard
+  // makes, and leaves all others.
   void Take(const NavframeItem& item);
   bool IsEmpty() const { return spool_.IsEmpty(); }
   // Ephemerides that were left out since no date of the stream said which their weeks are.
@@ -38,10 +39,7 @@ class NavigationFile {
   std::uint64_t Write(const NavigationHeader& header, Output& to);
 
  private:
-  void NoteOffsets(const KeplerEphemerisRecord&) {}
-  void NoteOffsets(const GlonassEphemerisRecord& record);
   void PutHeader(const NavigationHeader& header, std::string& out) const;
-  void PutTimeCorrections(std::string& out) const;
 
   const NavigationVersion version_;
   EphemerisSpool spool_;
@@ -49,7 +47,7 @@ class NavigationFile {
   std::uint64_t undated_ = 0;
   std::string systems_;  // letters, each once
   std::optional<std::int32_t> leapSeconds_;
-  std::optional<GlonassEphemerisRecord> offsets_;  // the last that tells offsets of GLONASS time
+  Corrections corrections_;
 };
 
 }  // namespace navframe::tool
