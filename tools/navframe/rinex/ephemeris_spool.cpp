@@ -58,7 +58,7 @@ void EphemerisSpool::Add(const Ephemeris& ephemeris) {
 
 void EphemerisSpool::SortMemory() {
   std::ranges::sort(memory_, IsBefore);
-  memory_.erase(std::ranges::unique(memory_, IsSame).begin(), memory_.end());
+  memory_.erase(std::unique(memory_.begin(), memory_.end(), IsSame), memory_.end());
 }
 
 void EphemerisSpool::Spill() {
