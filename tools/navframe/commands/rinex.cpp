@@ -11,6 +11,7 @@
 #include "interrupt.h"
 #include "navframe/records.h"
 #include "progress.h"
+#include "rinex/navigation_files.h"
 #include "rinex/observation_files.h"
 #include "rinex/station_notes.h"
 #include "sources/folders.h"
@@ -47,7 +48,11 @@ class Run {
             options.filters, names_, leftOut_, [this](Epoch& epoch) { files_.Take(epoch); },
             [this](const std::string& text) { Tell(text); }),
         files_({options.naming, options.version, options.texts, columns_ ? &*columns_ : nullptr},
-               names_, [this] { return Facts(); }) {}
+               names_, [this] { return Facts(); }),
+        navigation_({options.naming,
+                     options.version == 4 ? NavigationVersion::V402 : NavigationVersion::V305,
+                     options.texts.runBy, options.filters.filters.satellites},
+                    [this] { return DateFrom(); }) {}
 
   ExitStatus Make() {
     bool isGood = true;
@@ -57,6 +62,7 @@ class Run {
       epochs_.End();
       Shift();
       files_.End();
+      navigation_.End();
     } catch (const Fault& fault) {
       messages_.Add(fault.what());
       return Failure;
@@ -73,8 +79,8 @@ class Run {
       messages_.Add("nothing was recognised");
       return NothingRecognised;
     }
-    if (isGood && files_.Epochs() == 0) {
-      messages_.Add("there are no observations");
+    if (isGood && files_.Epochs() == 0 && navigation_.Ephemerides() == 0) {
+      messages_.Add("there are neither observations nor ephemerides");
       return Failure;
     }
     return isGood ? Success : Failure;
@@ -96,6 +102,7 @@ class Run {
   }
 
   void Take(const NavframeItem& item) {
+    navigation_.Take(item);
     if (item.kind->id == MsgIdObservations) {
       const auto& record = *static_cast<const ObservationsRecord*>(item.record);
       areAligned_ &= record.protocol == NavframeRtcm3 && record.message >= FirstMsm;
@@ -121,9 +128,10 @@ class Run {
           "no date: the observations do not tell their week; say when they were made with "
           "--date YYYY-MM-DD, or in the name of the file");
     }
-    return {notes_, epochs_.Station(), dateFrom_.empty() ? input_.LiveDateFrom() : dateFrom_,
-            areAligned_};
+    return {notes_, epochs_.Station(), DateFrom(), areAligned_};
   }
+
+  std::string DateFrom() const { return dateFrom_.empty() ? input_.LiveDateFrom() : dateFrom_; }
 
   void Summarise() {
     for (const LeftOutRow& row : LeftOutRows) {
@@ -134,6 +142,9 @@ class Run {
     if (const std::uint64_t count = files_.PhasesLeftOut(); count != 0) {
       Tell("left out: " + std::to_string(count) +
            " phases of GLONASS satellites whose channel nothing tells");
+    }
+    if (const std::uint64_t count = navigation_.Undated(); count != 0) {
+      Tell("left out: " + std::to_string(count) + " ephemerides whose week nothing tells");
     }
     if (leftOut_.cutEpochs != 0) {
       Tell(std::to_string(leftOut_.cutEpochs) +
@@ -154,6 +165,7 @@ class Run {
   std::optional<SystemColumns> columns_;
   Epochs epochs_;
   ObservationFiles files_;
+  NavigationFiles navigation_;
   std::string dateFrom_;
   bool areAligned_ = true;
   bool isLive_ = false;

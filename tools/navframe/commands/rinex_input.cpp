@@ -11,6 +11,7 @@
 #include "interrupt.h"
 #include "navframe/records.h"
 #include "navframe/stream.hpp"
+#include "rinex/navigation_file.h"
 #include "rinex/station_notes.h"
 #include "sources/address.h"
 #include "sources/folders.h"
@@ -21,8 +22,9 @@ namespace {
 constexpr std::size_t ChunkLength = 1 << 16;
 
 std::vector<const NavframeKind*> KindsOfFiles() {
-  auto kinds = kindsOf<ObservationsRecord, KeplerEphemerisRecord, UbxClockRecord>();
+  auto kinds = kindsOf<ObservationsRecord, UbxClockRecord>();
   for (const NavframeKind* const kind : StationNotes::Kinds()) kinds.push_back(kind);
+  for (const NavframeKind* const kind : NavigationFile::Kinds()) kinds.push_back(kind);
   return kinds;
 }
 

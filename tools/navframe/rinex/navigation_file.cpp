@@ -1,5 +1,6 @@
 #include "rinex/navigation_file.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -7,6 +8,7 @@
 #include <type_traits>
 
 #include "navframe/records.h"
+#include "navframe/stream.hpp"
 #include "rinex/header_lines.h"
 
 namespace navframe::tool {
@@ -48,11 +50,24 @@ Record Copy(const NavframeItem& item) {
 
 }  // namespace
 
+std::vector<const NavframeKind*> NavigationFile::Kinds() {
+  return kindsOf<KeplerEphemerisRecord, GlonassEphemerisRecord, IonosphereLogRecord,
+                 GalileoIonosphereLogRecord, UtcLogRecord>();
+}
+
+// Those without two digits have no place in the file.
+bool NavigationFile::IsWanted(char system, std::uint8_t satellite) const {
+  if (system == '\0' || satellite == 0 || satellite > LargestSatellite) return false;
+  return satellites_.empty() || std::ranges::any_of(satellites_, [&](const SatelliteName& name) {
+           return name.system == system && (name.number == 0 || name.number == satellite);
+         });
+}
+
 void NavigationFile::Take(const NavframeItem& item) {
   if (item.type != NavframeItemRecord || item.record == nullptr) return;
   const auto add = [&](const auto& record) {
     const char letter = LetterOf(record);
-    if (letter == '\0' || record.satellite == 0 || record.satellite > LargestSatellite) return;
+    if (!IsWanted(letter, record.satellite)) return;
     if (!IsDated(record)) {
       ++undated_;
       return;
@@ -62,7 +77,11 @@ void NavigationFile::Take(const NavframeItem& item) {
       corrections_.Take(record);
     }
     if (systems_.find(letter) == systems_.npos) systems_ += letter;
-    spool_.Add({KeyOf(record), record.rtcmMessage != 0, taken_++, record});
+    const EphemerisKey key = KeyOf(record);
+    firstEpoch_ = std::min(firstEpoch_, key.epoch);
+    lastEpoch_ = std::max(lastEpoch_, key.epoch);
+    isFromCaster_ &= record.rtcmMessage != 0;
+    spool_.Add({key, record.rtcmMessage != 0, taken_++, record});
   };
   switch (item.kind->id) {
     case EphemerisIdGps:
@@ -97,8 +116,7 @@ std::uint64_t NavigationFile::Write(const NavigationHeader& header, Output& to) 
 }
 
 void NavigationFile::PutHeader(const NavigationHeader& header, std::string& out) const {
-  PutFirstLines(out, {VersionText(version_), 'N', systems_.size() == 1 ? systems_[0] : 'M',
-                      header.runBy, header.date});
+  PutFirstLines(out, {VersionText(version_), 'N', System(), header.runBy, header.date});
   for (const std::string& comment : header.comments) PutComment(out, comment);
   if (version_ == NavigationVersion::V305) corrections_.PutHeaderLines(out);
   if (leapSeconds_) {

@@ -1,0 +1,85 @@
+#include "rinex/navigation_files.h"
+
+#include <algorithm>
+
+#include "navframe/records.h"
+#include "outputs/gzip_file.h"
+#include "outputs/output_file.h"
+#include "rinex/observation_header.h"
+
+namespace navframe::tool {
+namespace {
+
+constexpr std::uint16_t NoWeek = 65535;
+constexpr std::uint32_t NoTow = 0xFFFFFFFF;
+
+bool IsEphemeris(const NavframeItem& item) {
+  return item.kind->id >= EphemerisIdGps && item.kind->id <= EphemerisIdNavIc;
+}
+
+// GPS time of an item.
+std::optional<Ticks> TimeOf(const NavframeTime& time) {
+  if (time.week == NoWeek || time.tow == NoTow) return std::nullopt;
+  return time.week * TicksPerWeek + time.tow * (TicksPerSecond / 1000);
+}
+
+}  // namespace
+
+void NavigationFiles::Widen(std::optional<Span>& span, Ticks time) {
+  if (!span) span = Span{time, time};
+  span = Span{std::min(span->first, time), std::max(span->last, time)};
+}
+
+void NavigationFiles::Take(const NavframeItem& item) {
+  const std::optional<Ticks> time = TimeOf(item.time);
+  if (time && item.kind->id == MsgIdObservations) Widen(observed_, *time);
+  if (time && IsEphemeris(item)) {
+    const Ticks split = options_.naming.split;
+    const Ticks period = split != 0 ? *time / split : 0;
+    if (period > period_) {  // what comes late stays with what comes now
+      End();
+      period_ = period;
+    }
+    Widen(came_, *time);
+  }
+  if (file_ == nullptr) {
+    file_ = std::make_unique<NavigationFile>(options_.version, options_.satellites);
+  }
+  file_->Take(item);
+}
+
+void NavigationFiles::End() {
+  if (file_ == nullptr) return;
+  const std::unique_ptr<NavigationFile> file = std::move(file_);
+  undated_ += file->Undated();
+  const std::optional<Span> came = std::exchange(came_, std::nullopt);
+  if (file->IsEmpty()) return;
+  const Ticks split = options_.naming.split;
+  Span span = {file->FirstEpoch() * TicksPerSecond, file->LastEpoch() * TicksPerSecond};
+  if (came) span = *came;
+  if (split != 0 && period_ != 0) span.first = std::max(span.first, period_ * split);
+  if (split == 0 && observed_) span = *observed_;
+  FileContent content;
+  content.isNavigation = true;
+  content.system = file->System();
+  content.isMixed = content.system == 'M';
+  content.isStream = file->IsFromCaster();
+  content.first = span.first;
+  content.last = span.last;
+  const NavigationHeader header = {
+      options_.runBy, DateOfFile(span.first), {"weeks: " + dateFrom_()}};
+  const std::string name = NameOf(options_.naming, content);
+  const auto write = [&](auto& output) {
+    ephemerides_ += file->Write(header, output);
+    output.Close();
+  };
+  if (options_.naming.gzip) {
+    GzipFile output(name);
+    write(output);
+  } else {
+    OutputFile output(name);
+    write(output);
+  }
+}
+
+}  // namespace navframe::tool

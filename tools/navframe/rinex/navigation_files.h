@@ -1,0 +1,61 @@
+// The navigation files of a run: one, or one for each hour or day.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "navframe/stream.h"
+#include "rinex/file_names.h"
+#include "rinex/gps_time.h"
+#include "rinex/navigation_file.h"
+
+namespace navframe::tool {
+
+struct NavigationFilesOptions {
+  const FileNaming& naming;
+  NavigationVersion version;
+  const std::string& runBy;
+  const std::vector<SatelliteName>& satellites;  // none for all
+};
+
+// An ephemeris belongs to the period in which it came, and so stands in every file of one in which
+// a caster repeats it. There is no file without any.
+class NavigationFiles {
+ public:
+  // What tells the weeks, for a comment; asked at the end of each file.
+  using DateFrom = std::function<std::string()>;
+
+  NavigationFiles(const NavigationFilesOptions& options, DateFrom dateFrom)
+      : options_(options), dateFrom_(std::move(dateFrom)) {}
+
+  // Every item. What was written before is complete when an ephemeris comes in a later period.
+  void Take(const NavframeItem& item);
+  // Writes the last file.
+  void End();
+
+  std::uint64_t Ephemerides() const { return ephemerides_; }  // written
+  std::uint64_t Undated() const { return undated_; }          // left out, their weeks not known
+
+ private:
+  struct Span {
+    Ticks first;
+    Ticks last;
+  };
+  static void Widen(std::optional<Span>& span, Ticks time);
+
+  const NavigationFilesOptions options_;
+  const DateFrom dateFrom_;
+  std::unique_ptr<NavigationFile> file_;
+  Ticks period_ = 0;              // of file_
+  std::optional<Span> came_;      // ephemerides of file_
+  std::optional<Span> observed_;  // observations: a file of all says that it is of the same time
+  std::uint64_t ephemerides_ = 0;
+  std::uint64_t undated_ = 0;
+};
+
+}  // namespace navframe::tool
