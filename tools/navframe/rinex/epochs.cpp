@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "fault.h"
@@ -224,6 +225,17 @@ void Epochs::AddClock(std::uint32_t tow, double bias) {
   clockBias_ = bias;
 }
 
+// The solution that tells the bias is of a round millisecond near that of the observations.
+double Epochs::ClockOffset() const {
+  constexpr Ticks Near = TicksPerSecond / 100;
+  constexpr double Nanosecond = 1e-9;
+  constexpr Ticks TicksPerMs = TicksPerSecond / 1000;
+  if (!clockTow_ || station_ != UbxReceiver) return std::numeric_limits<double>::quiet_NaN();
+  const Ticks behind = *clockTow_ * TicksPerMs - epoch_.time % TicksPerWeek;
+  return std::abs(behind) <= Near ? clockBias_ * Nanosecond
+                                  : std::numeric_limits<double>::quiet_NaN();
+}
+
 void Epochs::End() {
   if (isOpen_) Finish();
 }
@@ -234,6 +246,7 @@ void Epochs::Finish() {
   for (const Observed& observed : epoch_.observations) places_[observed.key] = 0;
   if (isWanted_ && !epoch_.observations.empty()) {
     std::ranges::sort(epoch_.observations, {}, &Observed::key);
+    epoch_.clockOffset = ClockOffset();
     take_(epoch_);
   }
   epoch_.observations.clear();

@@ -52,7 +52,7 @@ class Epochs {
 
   // Throws a Fault for observations of a second station.
   void Add(const NavframeItem& item, const ObservationsRecord& record);
-  // The bias of the receiver's clock at a time of week in ms.
+  // The bias of the receiver's clock in ns, of the solution at a time of week in ms.
   void AddClock(std::uint32_t tow, double bias);
   // Nothing more comes.
   void End();
@@ -75,6 +75,7 @@ class Epochs {
   void Put(const ObservationsRecord& record, const Observation& observation, SignalKey key);
   void NoteLock(const ObservationsRecord& record, const Observation& observation, Observed& to);
   void ShiftAll(Ticks ticks);
+  double ClockOffset() const;
   void Finish();
 
   const EpochFilters& filters_;

@@ -22,6 +22,12 @@ char StrengthDigit(float strength) {
   return static_cast<char>('0' + std::clamp(static_cast<int>(strength / Step), 1, 9));
 }
 
+// Strengths stand in the middle of two thousandths again and again; those are rounded up.
+double HalfUp(float strength) {
+  constexpr double Thousand = 1000;
+  return std::floor(static_cast<double>(strength) * Thousand + 0.5) / Thousand;
+}
+
 bool PutValue(double value, char* to) {
   const auto thousandths = ThousandthsOf(value);
   if (thousandths) PutThousandths(*thousandths, to);
@@ -174,7 +180,7 @@ bool ObservationFile::PutSignal(const Observed& observed, std::size_t system, ch
     behindPhase[1] = strength;
   }
   const bool hasDoppler = put(Value::Doppler, observed.doppler) != nullptr;
-  const bool hasStrength = put(Value::Strength, static_cast<double>(observed.strength)) != nullptr;
+  const bool hasStrength = put(Value::Strength, HalfUp(observed.strength)) != nullptr;
   return behindRange != nullptr || behindPhase != nullptr || hasDoppler || hasStrength;
 }
 
