@@ -44,9 +44,10 @@ class Run {
         messages_(progress_, false),
         input_(options, messages_, progress_),
         columns_(Columns()),
-        epochs_(
-            options.filters, names_, leftOut_, [this](Epoch& epoch) { files_.Take(epoch); },
-            [this](const std::string& text) { Tell(text); }),
+        epochs_(options.filters, names_, leftOut_,
+                {[this](const Epoch& epoch) { files_.Take(epoch); },
+                 [this](Ticks ticks) { files_.Shift(ticks); },
+                 [this](const std::string& text) { Tell(text); }}),
         files_({options.naming, options.version, options.texts, columns_ ? &*columns_ : nullptr},
                names_, [this] { return Facts(); }),
         navigation_({options.naming,
@@ -60,7 +61,6 @@ class Run {
       isGood = input_.Read(sources_, {[this](const NavframeItem& item) { Take(item); },
                                       [this](const Recording& recording) { Begin(recording); }});
       epochs_.End();
-      Shift();
       files_.End();
       navigation_.End();
     } catch (const Fault& fault) {
@@ -108,18 +108,12 @@ class Run {
       areAligned_ &= record.protocol == NavframeRtcm3 && record.message >= FirstMsm;
       epochs_.Add(item, record);
       notes_.NoteObservations(record);
-      Shift();
     } else if (item.kind->id == MsgIdUbxClock) {
       const auto& clock = *static_cast<const UbxClockRecord*>(item.record);
       epochs_.AddClock(clock.tow, clock.bias);
     } else {
       notes_.Note(item);
     }
-  }
-
-  // Once the date is known, what was taken before gets its own.
-  void Shift() {
-    if (const Ticks ticks = epochs_.TakeShift(); ticks != 0) files_.Shift(ticks);
   }
 
   ObservationFacts Facts() {

@@ -18,8 +18,8 @@ static_assert(sizeof(Observed) == 32);
 
 }  // namespace
 
-void EpochSpool::Put(const Epoch& epoch) {
-  const Head head = {epoch.time, epoch.clockOffset, epoch.observations.size()};
+void EpochSpool::Put(const Epoch& epoch, Ticks time) {
+  const Head head = {time, epoch.clockOffset, epoch.observations.size()};
   memory_.append(reinterpret_cast<const char*>(&head), sizeof head);
   memory_.append(reinterpret_cast<const char*>(epoch.observations.data()),
                  epoch.observations.size() * sizeof(Observed));

@@ -14,8 +14,8 @@ namespace navframe::tool {
 // file when they are more.
 class EpochSpool {
  public:
-  // Throws a WriteFault, as the others do.
-  void Put(const Epoch& epoch);
+  // With this time. Throws a WriteFault, as the others do.
+  void Put(const Epoch& epoch, Ticks time);
 
   // Reads them again, from the first one on. False behind the last one.
   void Rewind();

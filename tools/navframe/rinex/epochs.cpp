@@ -40,13 +40,11 @@ std::string ShownStation(StationNumber station) {
   return station == UbxReceiver ? "ubx" : std::to_string(station);
 }
 
-Epochs::Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, Taker take,
-               Teller tell)
+Epochs::Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, EpochUse use)
     : filters_(filters),
       names_(names),
       leftOut_(leftOut),
-      take_(std::move(take)),
-      tell_(std::move(tell)),
+      use_(std::move(use)),
       station_(filters.station),
       week_(ArbitraryWeek) {
   const std::vector<SatelliteName>& wanted = filters.filters.satellites;
@@ -102,29 +100,28 @@ Ticks Epochs::TimeOf(const ObservationsRecord& record) {
     if (ofWeek + TicksPerWeek / 2 < lastOfWeek_) ++week_;
     if (lastOfWeek_ + TicksPerWeek / 2 < ofWeek) --week_;
   }
+  const bool goesOn = GoesOn(week_ * TicksPerWeek + ofWeek);
   lastOfWeek_ = ofWeek;
-  if (record.week == UnknownWeek) return week_ * TicksPerWeek + ofWeek;
-  if (!isDated_) {
+  if (record.week != UnknownWeek) {
+    // Also where another week was told before, and the time goes on within it.
+    if (!isDated_ || goesOn) ShiftAll((record.week - week_) * TicksPerWeek);
     isDated_ = true;
-    ShiftAll((record.week - week_) * TicksPerWeek);
+    week_ = record.week;
   }
-  week_ = record.week;
   return week_ * TicksPerWeek + ofWeek;
 }
 
+// Whether a time is that of the next epoch, or of this one.
+bool Epochs::GoesOn(Ticks time) const {
+  return start_ && time >= epoch_.time && time - epoch_.time <= TicksPerMinute;
+}
+
 void Epochs::ShiftAll(Ticks ticks) {
-  shift_ = ticks;
+  if (ticks == 0) return;
   epoch_.time += ticks;
   if (start_) *start_ += ticks;
   locks_.Shift(ticks);
-}
-
-void Epochs::Date(std::uint32_t firstWeek) {
-  if (isDated_) return;
-  isDated_ = true;
-  const std::int64_t weeks = std::int64_t{firstWeek} - ArbitraryWeek;
-  week_ += weeks;
-  ShiftAll(weeks * TicksPerWeek);
+  use_.shift(ticks);
 }
 
 // An epoch that lies before one that was taken is left out: files go on in time.
@@ -133,9 +130,9 @@ bool Epochs::IsInOrder(const NavframeItem& item, Ticks time) {
   if (!start_ || time >= epoch_.time) return true;
   ++leftOut_.outOfOrder;
   if (toldOutOfOrder_ != time && ++timesTold_ <= MostTold) {
-    tell_("the epoch at " + std::to_string(SecondsOf(time % TicksPerWeek)) +
-          " s of the week, at byte " + std::to_string(item.offset) +
-          ", is before the one in front of it: left out");
+    use_.tell("the epoch at " + std::to_string(SecondsOf(time % TicksPerWeek)) +
+              " s of the week, at byte " + std::to_string(item.offset) +
+              ", is before the one in front of it: left out");
   }
   toldOutOfOrder_ = time;
   return false;
@@ -247,7 +244,7 @@ void Epochs::Finish() {
   if (isWanted_ && !epoch_.observations.empty()) {
     std::ranges::sort(epoch_.observations, {}, &Observed::key);
     epoch_.clockOffset = ClockOffset();
-    take_(epoch_);
+    use_.take(epoch_);
   }
   epoch_.observations.clear();
 }

@@ -41,14 +41,18 @@ struct EpochFilters {
   std::optional<StationNumber> station;
 };
 
+// What becomes of epochs.
+struct EpochUse {
+  // Takes one that is complete, its observations sorted by satellite.
+  std::function<void(const Epoch&)> take;
+  // The epochs so far were these ticks later: now their week is known.
+  std::function<void(Ticks)> shift;
+  std::function<void(const std::string&)> tell;
+};
+
 class Epochs {
  public:
-  // Takes an epoch that is complete, its observations sorted by satellite.
-  using Taker = std::function<void(Epoch&)>;
-  using Teller = std::function<void(const std::string&)>;
-
-  Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, Taker take,
-         Teller tell);
+  Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, EpochUse use);
 
   // Throws a Fault for observations of a second station.
   void Add(const NavframeItem& item, const ObservationsRecord& record);
@@ -60,11 +64,6 @@ class Epochs {
   std::optional<StationNumber> Station() const { return station_; }
   // Weeks are counted from an arbitrary one until the stream tells one.
   bool AreDated() const { return isDated_; }
-  // The ticks by which times before were too small, once the week is known.
-  Ticks TakeShift() { return std::exchange(shift_, 0); }
-
-  // Dates the epochs so far: the first of them is in this week.
-  void Date(std::uint32_t firstWeek);
 
  private:
   bool IsOfStation(const ObservationsRecord& record);
@@ -74,6 +73,7 @@ class Epochs {
   std::optional<SignalKey> KeyOf(const Observation& observation);
   void Put(const ObservationsRecord& record, const Observation& observation, SignalKey key);
   void NoteLock(const ObservationsRecord& record, const Observation& observation, Observed& to);
+  bool GoesOn(Ticks time) const;
   void ShiftAll(Ticks ticks);
   double ClockOffset() const;
   void Finish();
@@ -81,15 +81,13 @@ class Epochs {
   const EpochFilters& filters_;
   SignalNames& names_;
   LeftOut& leftOut_;
-  const Taker take_;
-  const Teller tell_;
+  const EpochUse use_;
   std::array<std::array<bool, SatelliteRoom>, SystemCount> wantedSatellites_{};
 
   std::optional<StationNumber> station_;
   bool isDated_ = false;
-  std::int64_t week_;  // while weeks are not known
+  std::int64_t week_;  // of the last record
   Ticks lastOfWeek_ = -1;
-  Ticks shift_ = 0;
 
   Epoch epoch_;
   bool isOpen_ = false;

@@ -29,7 +29,7 @@ class ObservationFile {
  public:
   void Add(const Epoch& epoch) {
     summary_.Add(epoch);
-    spool_.Put(epoch);
+    spool_.Put(epoch, epoch.time - shift_);
   }
   // All moments so far were these ticks later.
   void Shift(Ticks ticks) {
@@ -52,7 +52,7 @@ class ObservationFile {
 
   EpochSpool spool_;
   ObservationSummary summary_;
-  Ticks shift_ = 0;
+  Ticks shift_ = 0;  // of all that is in the spool
 
   // When it is written: the columns of values, 0 for none, and the length of lines.
   std::array<std::array<std::array<std::uint8_t, ValueCount>, SignalRoom>, SystemCount> places_{};

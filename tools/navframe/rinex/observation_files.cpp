@@ -1,7 +1,9 @@
 #include "rinex/observation_files.h"
 
 #include <algorithm>
+#include <filesystem>
 
+#include "fault.h"
 #include "outputs/gzip_file.h"
 #include "outputs/output_file.h"
 
@@ -13,6 +15,13 @@ bool IsType(std::string_view text) {
   constexpr std::size_t Length = 3;
   return text.size() == Length && ValueLetters.find(text[0]) != ValueLetters.npos &&
          text[1] >= '1' && text[1] <= '9' && text[2] >= 'A' && text[2] <= 'Z';
+}
+
+void MakeFolderOf(const std::string& name) {
+  const std::filesystem::path folder = std::filesystem::path(name).parent_path();
+  std::error_code error;
+  if (!folder.empty()) std::filesystem::create_directories(folder, error);
+  if (error) throw CannotWrite(folder.string(), error.value());
 }
 
 }  // namespace
@@ -90,6 +99,7 @@ void ObservationFiles::End() {
       options_.version, options_.texts,         facts.notes, facts.station, options_.naming.station,
       facts.dateFrom,   facts.phasesAreAligned, names_};
   const std::string name = NameOf(options_.naming, content);
+  MakeFolderOf(name);
   const auto write = [&](auto& output) {
     phasesLeftOut_ += file_->Write(frame, options_.columns, output);
     output.Close();
