@@ -317,7 +317,14 @@ TEST(NavigationFile, HasEachIssueOnceInOrder) {
   gps.tocWeek = 2300;
   gps.satellite = 200;
   Take(file, EphemerisIdGps, gps);
+  gps.satellite = 10;
+  gps.toe = 604800;
+  Take(file, EphemerisIdGps, gps);
+  auto glonass = Glonass();
+  glonass.tb = 86400;
+  Take(file, EphemerisIdGlonass, glonass);
   EXPECT_EQ(file.Undated(), 1U);
+  EXPECT_EQ(file.Damaged(), 2U);
   const std::string text = Written(file);
   EXPECT_THAT(Heads(text), ElementsAre("E09 2024 02 04 00 00 00", "E09 2024 02 04 00 00 00",
                                        "G09 2024 02 04 00 00 00", "G08 2024 02 04 02 00 00",

@@ -140,6 +140,10 @@ class Run {
     if (const std::uint64_t count = navigation_.Undated(); count != 0) {
       Tell("left out: " + std::to_string(count) + " ephemerides whose week nothing tells");
     }
+    if (const std::uint64_t count = navigation_.Damaged(); count != 0) {
+      Tell("left out: " + std::to_string(count) +
+           " ephemerides with times that are none of a week or day");
+    }
     if (leftOut_.cutEpochs != 0) {
       Tell(std::to_string(leftOut_.cutEpochs) +
            " epochs are written without their last messages, which did not come");

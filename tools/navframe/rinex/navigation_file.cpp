@@ -14,6 +14,7 @@
 namespace navframe::tool {
 namespace {
 
+constexpr std::int64_t Week = 604800;  // s
 constexpr std::uint16_t NoWeek = 65535;
 constexpr unsigned LargestSatellite = 99;  // of two digits
 
@@ -22,11 +23,21 @@ bool IsDated(const KeplerEphemerisRecord& record) {
 }
 bool IsDated(const GlonassEphemerisRecord& record) { return record.reference.week != NoWeek; }
 
+// What no satellite sends: damage that a checksum did not tell, or a caster's fault.
+bool IsSound(const KeplerEphemerisRecord& record) {
+  const auto isOfWeek = [](double time) { return time >= 0 && time < Week; };
+  return isOfWeek(record.toe) && isOfWeek(record.toc) &&
+         (std::isnan(record.transmissionTime) || isOfWeek(record.transmissionTime));
+}
+bool IsSound(const GlonassEphemerisRecord& record) {
+  constexpr std::uint32_t Day = 86400;  // s
+  return record.tb < Day && record.frameTime < Day;
+}
+
 char LetterOf(const KeplerEphemerisRecord& record) { return SystemLetter(record.system); }
 char LetterOf(const GlonassEphemerisRecord&) { return 'R'; }
 
 EphemerisKey KeyOf(const KeplerEphemerisRecord& record) {
-  constexpr std::int64_t Week = 604800;  // s
   return {EpochOf(record),
           LetterOf(record),
           record.satellite,
@@ -68,6 +79,10 @@ void NavigationFile::Take(const NavframeItem& item) {
   const auto add = [&](const auto& record) {
     const char letter = LetterOf(record);
     if (!IsWanted(letter, record.satellite)) return;
+    if (!IsSound(record)) {
+      ++damaged_;
+      return;
+    }
     if (!IsDated(record)) {
       ++undated_;
       return;

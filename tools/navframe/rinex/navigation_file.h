@@ -50,6 +50,8 @@ class NavigationFile {
   std::int64_t LastEpoch() const { return lastEpoch_; }
   // Ephemerides that were left out since no date of the stream said which their weeks are.
   std::uint64_t Undated() const { return undated_; }
+  // Those that were left out since their times are none of a week, or of a day.
+  std::uint64_t Damaged() const { return damaged_; }
   // Writes the file and keeps nothing. Returns the number of ephemerides.
   std::uint64_t Write(const NavigationHeader& header, Output& to);
 
@@ -62,6 +64,7 @@ class NavigationFile {
   EphemerisSpool spool_;
   std::uint64_t taken_ = 0;
   std::uint64_t undated_ = 0;
+  std::uint64_t damaged_ = 0;
   std::string systems_;  // letters, each once
   bool isFromCaster_ = true;
   std::int64_t firstEpoch_ = std::numeric_limits<std::int64_t>::max();

@@ -52,6 +52,7 @@ void NavigationFiles::End() {
   if (file_ == nullptr) return;
   const std::unique_ptr<NavigationFile> file = std::move(file_);
   undated_ += file->Undated();
+  damaged_ += file->Damaged();
   const std::optional<Span> came = std::exchange(came_, std::nullopt);
   if (file->IsEmpty()) return;
   const Ticks split = options_.naming.split;

@@ -39,7 +39,9 @@ class NavigationFiles {
   void End();
 
   std::uint64_t Ephemerides() const { return ephemerides_; }  // written
-  std::uint64_t Undated() const { return undated_; }          // left out, their weeks not known
+  // Left out: see NavigationFile.
+  std::uint64_t Undated() const { return undated_; }
+  std::uint64_t Damaged() const { return damaged_; }
 
  private:
   struct Span {
@@ -56,6 +58,7 @@ class NavigationFiles {
   std::optional<Span> observed_;  // observations: a file of all says that it is of the same time
   std::uint64_t ephemerides_ = 0;
   std::uint64_t undated_ = 0;
+  std::uint64_t damaged_ = 0;
 };
 
 }  // namespace navframe::tool
