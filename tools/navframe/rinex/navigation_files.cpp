@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "navframe/records.h"
-#include "outputs/gzip_file.h"
-#include "outputs/output_file.h"
+#include "rinex/named_file.h"
 #include "rinex/observation_header.h"
 
 namespace navframe::tool {
@@ -69,18 +68,8 @@ void NavigationFiles::End() {
   content.last = span.last;
   const NavigationHeader header = {
       options_.runBy, DateOfFile(span.first), {"weeks: " + dateFrom_()}};
-  const std::string name = NameOf(options_.naming, content);
-  const auto write = [&](auto& output) {
-    ephemerides_ += file->Write(header, output);
-    output.Close();
-  };
-  if (options_.naming.gzip) {
-    GzipFile output(name);
-    write(output);
-  } else {
-    OutputFile output(name);
-    write(output);
-  }
+  WriteNamed(NameOf(options_.naming, content), options_.naming.gzip,
+             [&](Output& output) { ephemerides_ += file->Write(header, output); });
 }
 
 }  // namespace navframe::tool

@@ -1,11 +1,8 @@
 #include "rinex/observation_files.h"
 
 #include <algorithm>
-#include <filesystem>
 
-#include "fault.h"
-#include "outputs/gzip_file.h"
-#include "outputs/output_file.h"
+#include "rinex/named_file.h"
 
 namespace navframe::tool {
 namespace {
@@ -15,13 +12,6 @@ bool IsType(std::string_view text) {
   constexpr std::size_t Length = 3;
   return text.size() == Length && ValueLetters.find(text[0]) != ValueLetters.npos &&
          text[1] >= '1' && text[1] <= '9' && text[2] >= 'A' && text[2] <= 'Z';
-}
-
-void MakeFolderOf(const std::string& name) {
-  const std::filesystem::path folder = std::filesystem::path(name).parent_path();
-  std::error_code error;
-  if (!folder.empty()) std::filesystem::create_directories(folder, error);
-  if (error) throw CannotWrite(folder.string(), error.value());
 }
 
 }  // namespace
@@ -98,19 +88,9 @@ void ObservationFiles::End() {
   const ObservationFrame frame = {
       options_.version, options_.texts,         facts.notes, facts.station, options_.naming.station,
       facts.dateFrom,   facts.phasesAreAligned, names_};
-  const std::string name = NameOf(options_.naming, content);
-  MakeFolderOf(name);
-  const auto write = [&](auto& output) {
+  WriteNamed(NameOf(options_.naming, content), options_.naming.gzip, [&](Output& output) {
     phasesLeftOut_ += file_->Write(frame, options_.columns, output);
-    output.Close();
-  };
-  if (options_.naming.gzip) {
-    GzipFile output(name);
-    write(output);
-  } else {
-    OutputFile output(name);
-    write(output);
-  }
+  });
   file_ = nullptr;
 }
 
