@@ -255,7 +255,8 @@ class Memory : public Output {
 };
 
 template <class Record>
-void Take(NavigationFile& file, std::uint32_t kind, const Record& record, bool isLog = false) {
+void Take(NavigationFile& file, std::uint32_t kind, const Record& record, bool isLog = false,
+          std::uint16_t week = 2165) {
   NavframeItem item{};
   item.type = NavframeItemRecord;
   item.protocol = isLog ? NavframeAsciiLog : NavframeRtcm3;
@@ -263,8 +264,8 @@ void Take(NavigationFile& file, std::uint32_t kind, const Record& record, bool i
   ASSERT_NE(item.kind, nullptr);
   item.record = &record;
   item.time.leapSeconds = 18;
-  item.time.week = 2165;  // 2021-07-05 23:30:42
-  item.time.tow = 171042000;
+  item.time.week = week;
+  item.time.tow = 171042000;  // of the usual week 2021-07-05 23:30:42
   file.Take(item);
 }
 
@@ -312,8 +313,6 @@ TEST(NavigationFile, HasEachIssueOnceInOrder) {
     galileo.navigationMessage = message;
     Take(file, EphemerisIdGalileo, galileo);
   }
-  gps.tocWeek = 65535;
-  Take(file, EphemerisIdGps, gps);
   gps.tocWeek = 2300;
   gps.satellite = 200;
   Take(file, EphemerisIdGps, gps);
@@ -323,7 +322,6 @@ TEST(NavigationFile, HasEachIssueOnceInOrder) {
   auto glonass = Glonass();
   glonass.tb = 86400;
   Take(file, EphemerisIdGlonass, glonass);
-  EXPECT_EQ(file.Undated(), 1U);
   EXPECT_EQ(file.Damaged(), 2U);
   const std::string text = Written(file);
   EXPECT_THAT(Heads(text), ElementsAre("E09 2024 02 04 00 00 00", "E09 2024 02 04 00 00 00",
@@ -331,6 +329,51 @@ TEST(NavigationFile, HasEachIssueOnceInOrder) {
                                        "G09 2024 02 04 02 00 00", "G09 2024 02 04 02 00 00"));
   EXPECT_THAT(text, Not(HasSubstr(" 9.999000000000E+08")));
   EXPECT_THAT(text, HasSubstr("\n    18 "));
+}
+
+// Weeks of toe by the week that comes later, beside what the time of day or week allows.
+TEST(NavigationFile, DatesWhatCameBeforeTheWeekWasTold) {
+  constexpr std::uint16_t NoWeek = 65535;
+  constexpr std::uint32_t NoTow = 0xFFFFFFFF;
+  struct Case {
+    std::uint16_t sent;       // week, modulo 1024
+    std::uint32_t tow;        // s, NoTow for not known
+    double transmissionTime;  // s
+    double toe;               // s
+    const char* expected;
+  };
+  for (const Case& one : {
+           Case{117, NoTow, Unknown, 7200, "2021 07 04 02"},    // 2165
+           Case{116, NoTow, Unknown, 7200, "2021 06 27 02"},    // as sent
+           Case{116, 604795, Unknown, 0, "2021 07 04 00"},      // a minute before the week began
+           Case{117, 604795, Unknown, 0, "2021 07 04 00"},      // that of toe was sent
+           Case{116, 171000, 604770, 0, "2021 07 04 00"},       // before the end of the week
+           Case{116, 171000, 604770, 597600, "2021 07 03 22"},  // in the week
+       }) {
+    NavigationFile file(NavigationVersion::V305);
+    auto gps = Kepler(1, 9, 1);
+    gps.toeWeek = gps.tocWeek = NoWeek;
+    gps.broadcastWeek = one.sent;
+    gps.tow = one.tow == NoTow ? NoTow : one.tow * 1000;
+    gps.transmissionTime = one.transmissionTime;
+    gps.toe = gps.toc = one.toe;
+    Take(file, EphemerisIdGps, gps, false, NoWeek);
+    auto glonass = Glonass();
+    glonass.reference.week = NoWeek;
+    glonass.referenceUtc = {};
+    glonass.tow = 171000000;  // 2021-07-05 23:29:42 UTC
+    glonass.tb = 900;         // 21:15 UTC
+    Take(file, EphemerisIdGlonass, glonass, false, NoWeek);
+    glonass.satellite = 8;
+    glonass.tow = NoTow;
+    Take(file, EphemerisIdGlonass, glonass, false, NoWeek);
+    EXPECT_EQ(file.Undated(), 3U);
+    Take(file, LogIdGpsUtc, UtcLogRecord{}, true);
+    EXPECT_EQ(file.Undated(), 1U);
+    EXPECT_THAT(Heads(Written(file)),
+                ElementsAre(testing::StartsWith("G09 " + std::string(one.expected)),
+                            "R07 2021 07 05 21 15 00"));
+  }
 }
 
 TEST(NavigationFile, TellsOffsetsOfGlonassTime) {

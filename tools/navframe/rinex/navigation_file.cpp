@@ -6,10 +6,12 @@
 #include <cstdio>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "navframe/records.h"
 #include "navframe/stream.hpp"
 #include "rinex/header_lines.h"
+#include "rinex/late_weeks.h"
 
 namespace navframe::tool {
 namespace {
@@ -76,40 +78,60 @@ bool NavigationFile::IsWanted(char system, std::uint8_t satellite) const {
 
 void NavigationFile::Take(const NavframeItem& item) {
   if (item.type != NavframeItemRecord || item.record == nullptr) return;
-  const auto add = [&](const auto& record) {
-    const char letter = LetterOf(record);
-    if (!IsWanted(letter, record.satellite)) return;
-    if (!IsSound(record)) {
-      ++damaged_;
-      return;
-    }
-    if (!IsDated(record)) {
-      ++undated_;
-      return;
-    }
-    leapSeconds_ = item.time.leapSeconds;
-    if constexpr (std::is_same_v<decltype(record), const GlonassEphemerisRecord&>) {
-      corrections_.Take(record);
-    }
-    if (systems_.find(letter) == systems_.npos) systems_ += letter;
-    const EphemerisKey key = KeyOf(record);
-    firstEpoch_ = std::min(firstEpoch_, key.epoch);
-    lastEpoch_ = std::max(lastEpoch_, key.epoch);
-    isFromCaster_ &= record.rtcmMessage != 0;
-    spool_.Add({key, record.rtcmMessage != 0, taken_++, record});
-  };
+  if (item.time.week != NoWeek) DateWaiting(item.time);
   switch (item.kind->id) {
     case EphemerisIdGps:
     case EphemerisIdGalileo:
     case EphemerisIdBeiDou:
     case EphemerisIdQzss:
     case EphemerisIdNavIc:
-      return add(Copy<KeplerEphemerisRecord>(item));
+      return Judge(Copy<KeplerEphemerisRecord>(item), item.time);
     case EphemerisIdGlonass:
-      return add(Copy<GlonassEphemerisRecord>(item));
+      return Judge(Copy<GlonassEphemerisRecord>(item), item.time);
     default:
       return corrections_.Take(item);
   }
+}
+
+template <class Record>
+void NavigationFile::Judge(const Record& record, const NavframeTime& time) {
+  constexpr std::size_t MostWaiting = 1024;
+  if (!IsWanted(LetterOf(record), record.satellite)) return;
+  if (!IsSound(record)) {
+    ++damaged_;
+  } else if (IsDated(record)) {
+    Add(record, time);
+  } else if (waiting_.size() < MostWaiting) {
+    waiting_.emplace_back(record);
+  } else {
+    ++undated_;
+  }
+}
+
+void NavigationFile::DateWaiting(const NavframeTime& time) {
+  for (auto& waiting : std::exchange(waiting_, {})) {
+    std::visit(
+        [&](auto& record) {
+          if (DateLate(record, time)) {
+            Add(record, time);
+          } else {
+            ++undated_;
+          }
+        },
+        waiting);
+  }
+}
+
+template <class Record>
+void NavigationFile::Add(const Record& record, const NavframeTime& time) {
+  const EphemerisKey key = KeyOf(record);
+  leapSeconds_ = time.leapSeconds;
+  if constexpr (std::is_same_v<Record, GlonassEphemerisRecord>) corrections_.Take(record);
+  if (systems_.find(key.system) == systems_.npos) systems_ += key.system;
+  firstEpoch_ = std::min(firstEpoch_, key.epoch);
+  lastEpoch_ = std::max(lastEpoch_, key.epoch);
+  isFromCaster_ &= record.rtcmMessage != 0;
+  spool_.Add({key, record.rtcmMessage != 0, taken_++, record});
 }
 
 std::uint64_t NavigationFile::Write(const NavigationHeader& header, Output& to) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "navframe/stream.h"
@@ -38,7 +39,7 @@ class NavigationFile {
       : version_(version), satellites_(std::move(satellites)) {}
 
   // Keeps what is an ephemeris or a correction of the records that a stream in NavframeStandard
-  // makes, and leaves all others.
+  // makes. Of all others that come it takes the time: ephemerides wait for the week.
   void Take(const NavframeItem& item);
   bool IsEmpty() const { return spool_.IsEmpty(); }
   // The letter of the one satellite system; 'M' for several.
@@ -49,19 +50,26 @@ class NavigationFile {
   std::int64_t FirstEpoch() const { return firstEpoch_; }
   std::int64_t LastEpoch() const { return lastEpoch_; }
   // Ephemerides that were left out since no date of the stream said which their weeks are.
-  std::uint64_t Undated() const { return undated_; }
+  std::uint64_t Undated() const { return undated_ + waiting_.size(); }
   // Those that were left out since their times are none of a week, or of a day.
   std::uint64_t Damaged() const { return damaged_; }
   // Writes the file and keeps nothing. Returns the number of ephemerides.
   std::uint64_t Write(const NavigationHeader& header, Output& to);
 
  private:
+  template <class Record>
+  void Judge(const Record& record, const NavframeTime& time);
+  void DateWaiting(const NavframeTime& time);
+  template <class Record>
+  void Add(const Record& record, const NavframeTime& time);
   bool IsWanted(char system, std::uint8_t satellite) const;
   void PutHeader(const NavigationHeader& header, std::string& out) const;
 
   const NavigationVersion version_;
   const std::vector<SatelliteName> satellites_;
   EphemerisSpool spool_;
+  // Those that came before the stream told its week.
+  std::vector<std::variant<KeplerEphemerisRecord, GlonassEphemerisRecord>> waiting_;
   std::uint64_t taken_ = 0;
   std::uint64_t undated_ = 0;
   std::uint64_t damaged_ = 0;

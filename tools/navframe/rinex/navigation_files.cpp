@@ -36,7 +36,7 @@ void NavigationFiles::Take(const NavframeItem& item) {
     const Ticks split = options_.naming.split;
     const Ticks period = split != 0 ? *time / split : 0;
     if (period > period_) {  // what comes late stays with what comes now
-      End();
+      if (period_ != 0) End();
       period_ = period;
     }
     Widen(came_, *time);
