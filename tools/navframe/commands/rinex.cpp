@@ -32,6 +32,7 @@ constexpr LeftOutRow LeftOutRows[] = {
     {&LeftOut::withoutTime, "observations without a time"},
     {&LeftOut::ofOtherStations, "observations of other stations"},
     {&LeftOut::unknownSatellites, "observations of satellites without a number in RINEX"},
+    {&LeftOut::tooLarge, "values that are too large for their columns"},
     {&LeftOut::unknownSignals, "observations of signals without a code in RINEX"},
 };
 
@@ -44,7 +45,7 @@ class Run {
         messages_(progress_, false),
         input_(options, messages_, progress_),
         columns_(Columns()),
-        epochs_(options.filters, names_, leftOut_,
+        epochs_(options.filters, columns_ ? &*columns_ : nullptr, names_, leftOut_,
                 {[this](const Epoch& epoch) { files_.Take(epoch); },
                  [this](Ticks ticks) { files_.Shift(ticks); },
                  [this](const std::string& text) { Tell(text); }}),
@@ -145,8 +146,8 @@ class Run {
            " ephemerides with times that are none of a week or day");
     }
     if (leftOut_.cutEpochs != 0) {
-      Tell(std::to_string(leftOut_.cutEpochs) +
-           " epochs are written without their last messages, which did not come");
+      Tell("written without last messages, which did not come: " +
+           std::to_string(leftOut_.cutEpochs) + " epochs");
     }
   }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "fault.h"
+#include "rinex/number_text.h"
 
 namespace navframe::tool {
 namespace {
@@ -26,6 +27,27 @@ std::uint32_t LongestLock(const ObservationsRecord& record) {
   return record.message % 10 < FirstFine ? 524'288 : 67'108'864;
 }
 
+constexpr std::uint8_t BitOf(Value value) {
+  return static_cast<std::uint8_t>(1U << static_cast<unsigned>(value));
+}
+constexpr std::uint8_t AllValues = (1U << ValueCount) - 1;
+
+// Values that would be written as 0 stand for none in files, but for Doppler.
+bool IsNone(double value) {
+  constexpr double Half = 0.0005;
+  return std::fabs(value) <= Half;
+}
+
+// Phases without room in their column are brought back into it in steps of 10^9 cycles, as the
+// format wants it, which tells of that as of a loss of lock.
+void Clip(Observed& observed) {
+  constexpr double Step = 1e9;
+  constexpr double Most = 1e15;  // beyond which phases have no thousandths
+  if (!(std::fabs(observed.phase) < Most) || ThousandthsOf(observed.phase)) return;
+  observed.phase = std::fmod(observed.phase, Step);
+  observed.lossOfLock |= LockLost;
+}
+
 StationNumber StationOf(const ObservationsRecord& record) {
   return record.protocol == NavframeUbx ? UbxReceiver : record.stationId;
 }
@@ -40,7 +62,8 @@ std::string ShownStation(StationNumber station) {
   return station == UbxReceiver ? "ubx" : std::to_string(station);
 }
 
-Epochs::Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, EpochUse use)
+Epochs::Epochs(const EpochFilters& filters, const SystemColumns* columns, SignalNames& names,
+               LeftOut& leftOut, EpochUse use)
     : filters_(filters),
       names_(names),
       leftOut_(leftOut),
@@ -53,6 +76,12 @@ Epochs::Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut
     auto& satellites = wantedSatellites_[SystemLetters.find(name.system)];
     if (name.number == 0) satellites.fill(true);
     if (name.number < SatelliteRoom) satellites[name.number] = true;
+  }
+  for (auto& signals : wantedValues_) signals.fill(columns == nullptr ? AllValues : 0);
+  for (std::size_t system = 0; columns != nullptr && system < SystemCount; ++system) {
+    for (const Column& column : (*columns)[system]) {
+      wantedValues_[system][column.signal] |= BitOf(column.value);
+    }
   }
 }
 
@@ -174,6 +203,7 @@ std::optional<SignalKey> Epochs::KeyOf(const Observation& observation) {
     ++leftOut_.unknownSignals;
     return std::nullopt;
   }
+  if (wantedValues_[system][signal] == 0) return std::nullopt;
   return tool::KeyOf(system, satellite, signal);
 }
 
@@ -222,6 +252,26 @@ void Epochs::AddClock(std::uint32_t tow, double bias) {
   clockBias_ = bias;
 }
 
+// Leaves what is wanted, and has a place in files.
+void Epochs::Clean(Observed& observed) {
+  constexpr double None = std::numeric_limits<double>::quiet_NaN();
+  const std::uint8_t wanted = wantedValues_[SystemOf(observed.key)][SignalOf(observed.key)];
+  const auto clean = [&](double& value, Value which, bool zeroIsNone) {
+    if ((wanted & BitOf(which)) == 0 || (zeroIsNone && IsNone(value))) value = None;
+    if (std::isnan(value) || ThousandthsOf(value)) return;
+    value = None;
+    ++leftOut_.tooLarge;
+  };
+  Clip(observed);
+  clean(observed.pseudorange, Value::Pseudorange, true);
+  clean(observed.phase, Value::Phase, true);
+  clean(observed.doppler, Value::Doppler, false);
+  const bool hasStrength = !IsNone(static_cast<double>(observed.strength));
+  if ((wanted & BitOf(Value::Strength)) == 0 || !hasStrength) {
+    observed.strength = std::numeric_limits<float>::quiet_NaN();
+  }
+}
+
 // The solution that tells the bias is of a round millisecond near that of the observations.
 double Epochs::ClockOffset() const {
   constexpr Ticks Near = TicksPerSecond / 100;
@@ -241,6 +291,13 @@ void Epochs::Finish() {
   isOpen_ = false;
   if (!isComplete_) ++leftOut_.cutEpochs;
   for (const Observed& observed : epoch_.observations) places_[observed.key] = 0;
+  if (isWanted_) {
+    for (Observed& observed : epoch_.observations) Clean(observed);
+    std::erase_if(epoch_.observations, [](const Observed& observed) {
+      return std::isnan(observed.pseudorange) && std::isnan(observed.phase) &&
+             std::isnan(observed.doppler) && std::isnan(observed.strength);
+    });
+  }
   if (isWanted_ && !epoch_.observations.empty()) {
     std::ranges::sort(epoch_.observations, {}, &Observed::key);
     epoch_.clockOffset = ClockOffset();

@@ -33,6 +33,7 @@ struct LeftOut {
   std::uint64_t ofOtherStations = 0;
   std::uint64_t unknownSatellites = 0;
   std::uint64_t unknownSignals = 0;
+  std::uint64_t tooLarge = 0;   // values without room in their columns
   std::uint64_t cutEpochs = 0;  // whose last message did not come: written
 };
 
@@ -52,7 +53,9 @@ struct EpochUse {
 
 class Epochs {
  public:
-  Epochs(const EpochFilters& filters, SignalNames& names, LeftOut& leftOut, EpochUse use);
+  // `columns` are the values that are wanted; none for all.
+  Epochs(const EpochFilters& filters, const SystemColumns* columns, SignalNames& names,
+         LeftOut& leftOut, EpochUse use);
 
   // Throws a Fault for observations of a second station.
   void Add(const NavframeItem& item, const ObservationsRecord& record);
@@ -75,6 +78,7 @@ class Epochs {
   void NoteLock(const ObservationsRecord& record, const Observation& observation, Observed& to);
   bool GoesOn(Ticks time) const;
   void ShiftAll(Ticks ticks);
+  void Clean(Observed& observed);
   double ClockOffset() const;
   void Finish();
 
@@ -83,6 +87,7 @@ class Epochs {
   LeftOut& leftOut_;
   const EpochUse use_;
   std::array<std::array<bool, SatelliteRoom>, SystemCount> wantedSatellites_{};
+  std::array<std::array<std::uint8_t, SignalRoom>, SystemCount> wantedValues_{};  // bits by Value
 
   std::optional<StationNumber> station_;
   bool isDated_ = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "rinex/named_file.h"
+#include "rinex/signal_codes.h"
 
 namespace navframe::tool {
 namespace {
@@ -35,7 +36,7 @@ std::optional<SystemColumns> ParseTypes(const std::vector<std::string>& types, S
       return std::nullopt;
     }
     for (std::size_t system = 1; system < SystemCount; ++system) {
-      if (only != 0 && system != only) continue;
+      if (only == 0 ? !HasSignal(system, type.substr(1)) : system != only) continue;
       const std::size_t signal = names.PlaceOf(system, type.data() + 1);
       const auto value = static_cast<Value>(ValueLetters.find(type[0]));
       const bool isKnown = std::ranges::any_of(columns[system], [&](const Column& column) {

@@ -189,8 +189,9 @@ class Lines {
     if (summary_.HasClockOffsets()) PutLine(out_, "     0", "RCV CLOCK OFFS APPL");
   }
 
-  // Phases of MSM are aligned by their standard and written as they are; of others it is not known
-  // what was done to them, which a line without a code says.
+  // Version 4 wants neither these lines nor those of the biases of GLONASS. Phases of MSM are
+  // aligned by their standard and written as they are; of others it is not known what was done to
+  // them, which a line without a code says.
   void PhaseShifts() {
     if (header_.version == 4) return;
     for (std::size_t system = 1; system < SystemCount; ++system) {
@@ -219,6 +220,7 @@ class Lines {
     ItemLines lines(out_, Text("%3zu ", slots.size()), "GLONASS SLOT / FRQ #", InLine);
     for (const std::string& slot : slots) lines.Add(slot);
     lines.End();
+    if (header_.version == 4) return;
     std::string biases;
     constexpr std::array<const char*, 4> Codes = {"C1C", "C1P", "C2C", "C2P"};
     for (std::size_t i = 0; equipment_.glonassBiases && i < Codes.size(); ++i) {

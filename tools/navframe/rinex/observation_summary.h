@@ -11,13 +11,6 @@
 
 namespace navframe::tool {
 
-// A column of a system: "C1C".
-struct Column {
-  Value value;
-  std::size_t signal;  // place among the names of the system
-};
-using SystemColumns = std::array<std::vector<Column>, SystemCount>;
-
 class ObservationSummary {
  public:
   void Add(const Epoch& epoch);

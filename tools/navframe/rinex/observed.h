@@ -61,6 +61,13 @@ constexpr std::size_t SystemOf(SignalKey key) { return key / SignalRoom / Satell
 constexpr std::size_t SatelliteOf(SignalKey key) { return key / SignalRoom % SatelliteRoom; }
 constexpr std::size_t SignalOf(SignalKey key) { return key % SignalRoom; }
 
+// A column of a system: "C1C".
+struct Column {
+  Value value;
+  std::size_t signal;  // place among the names of the system
+};
+using SystemColumns = std::array<std::vector<Column>, SystemCount>;
+
 // Bits of the loss-of-lock indicator.
 inline constexpr std::uint8_t LockLost = 1;
 inline constexpr std::uint8_t HalfCycle = 2;
