@@ -146,8 +146,8 @@ class Run {
            " ephemerides with times that are none of a week or day");
     }
     if (leftOut_.cutEpochs != 0) {
-      Tell("written without last messages, which did not come: " +
-           std::to_string(leftOut_.cutEpochs) + " epochs");
+      Tell(std::to_string(leftOut_.cutEpochs) +
+           " epochs are written without their last messages, which did not come");
     }
   }
 
