@@ -81,7 +81,7 @@ class Run {
       return NothingRecognised;
     }
     if (isGood && files_.Epochs() == 0 && navigation_.Ephemerides() == 0) {
-      messages_.Add("there are neither observations nor ephemerides");
+      messages_.Add("there are no observations and no ephemerides");
       return Failure;
     }
     return isGood ? Success : Failure;
