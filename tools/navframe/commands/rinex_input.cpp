@@ -56,6 +56,18 @@ Reading ReadFrom(Source& source, std::vector<std::uint8_t>& chunk,
   }
 }
 
+// Whether the clock of a stream finds its way from one recording to the next: then they may be
+// parted inside of a frame.
+bool GoesOn(const Recording& before, const Recording& next) {
+  constexpr double Days = 86'400;
+  constexpr double MostDays = 3;  // less than half a week
+  if (!next.tow || next.week == 0) return true;
+  if (!before.tow || before.week == 0) return false;
+  const double behind =
+      (static_cast<double>(next.week) - before.week) * 7 * Days + *next.tow - *before.tow;
+  return behind <= MostDays * Days;
+}
+
 std::uint64_t FramesOf(const Stream& stream) {
   const NavframeStatistics all = stream.statistics();
   return all.nmea.frames + all.rtcm3.frames + all.ubx.frames + all.binary55Aa.frames +
@@ -116,23 +128,30 @@ bool RinexInput::ReadRecordings(const std::vector<std::string>& names, const Inp
   std::ranges::stable_sort(recordings, {}, [](const Recording& recording) {
     return recording.tow ? recording.week * WeekSeconds + *recording.tow : 0;
   });
+  const TakeItem take = [&](const Item& item) { use.item(item.raw()); };
   bool isGood = true;
+  std::optional<Stream> stream;
+  const Recording* before = nullptr;
   for (const Recording& recording : recordings) {
     use.begin(recording);
+    if (stream && !GoesOn(*before, recording)) EndStream(*stream, take);
+    if (!stream || !GoesOn(*before, recording)) {
+      stream.emplace(OpenStream(recording.week, KindsOfFiles()));
+    }
+    if (recording.tow || before == nullptr) before = &recording;
     try {
-      ReadRecording(recording, use);
+      ReadRecording(recording, *stream, take);
     } catch (const SourceFault& fault) {
       messages_.Add(fault.what());
       isGood = false;
     }
   }
+  if (stream) EndStream(*stream, take);
   return isGood;
 }
 
-void RinexInput::ReadRecording(const Recording& recording, const InputUse& use) {
-  const auto take = [&](const Item& item) { use.item(item.raw()); };
+void RinexInput::ReadRecording(const Recording& recording, Stream& stream, const TakeItem& take) {
   std::vector<std::uint8_t> chunk(ChunkLength);
-  Stream stream = OpenStream(recording.week, KindsOfFiles());
   std::unique_ptr<Source> source;
   std::optional<SourceFault> fault;
   try {
@@ -147,9 +166,12 @@ void RinexInput::ReadRecording(const Recording& recording, const InputUse& use) 
     stream.feed(std::span(chunk.data(), reading.length), take);
     progress_.Add(source->Taken() - std::exchange(shown, source->Taken()));
   }
+  if (fault) throw SourceFault(*fault);
+}
+
+void RinexInput::EndStream(Stream& stream, const TakeItem& take) {
   stream.finish(take);
   frames_ += FramesOf(stream);
-  if (fault) throw SourceFault(*fault);
 }
 
 bool RinexInput::ReadLive(const std::vector<std::string>& names, const InputUse& use) {
@@ -188,7 +210,7 @@ bool RinexInput::ReadLive(const std::vector<std::string>& names, const InputUse&
 }
 
 void RinexInput::ReadLiveOne(Source& source, const InputUse& use) {
-  const auto take = [&](const Item& item) {
+  const TakeItem take = [&](const Item& item) {
     if (!isStopped_) use.item(item.raw());
   };
   std::vector<std::uint8_t> chunk(ChunkLength);
@@ -210,8 +232,7 @@ void RinexInput::ReadLiveOne(Source& source, const InputUse& use) {
     }
   }
   const std::lock_guard lock(turn_);
-  stream.finish(take);
-  frames_ += FramesOf(stream);
+  EndStream(stream, take);
   if (fault) throw SourceFault(*fault);
 }
 

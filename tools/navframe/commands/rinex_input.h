@@ -12,7 +12,7 @@
 
 #include "commands/messages.h"
 #include "commands/rinex.h"
-#include "navframe/stream.h"
+#include "navframe/stream.hpp"
 #include "progress.h"
 #include "rinex/start_date.h"
 #include "sources/source.h"
@@ -48,7 +48,9 @@ class RinexInput {
   Recording LookAt(const std::string& name);
   bool ReadRecordings(const std::vector<std::string>& names, const InputUse& use);
   bool ReadLive(const std::vector<std::string>& names, const InputUse& use);
-  void ReadRecording(const Recording& recording, const InputUse& use);
+  using TakeItem = std::function<void(const Item&)>;
+  void ReadRecording(const Recording& recording, Stream& stream, const TakeItem& take);
+  void EndStream(Stream& stream, const TakeItem& take);
   void ReadLiveOne(Source& source, const InputUse& use);
 
   const RinexOptions& options_;

@@ -43,7 +43,7 @@ bool IsNone(double value) {
 void Clip(Observed& observed) {
   constexpr double Step = 1e9;
   constexpr double Most = 1e15;  // beyond which phases have no thousandths
-  if (!(std::fabs(observed.phase) < Most) || ThousandthsOf(observed.phase)) return;
+  if (HasThousandths(observed.phase) || !(std::fabs(observed.phase) < Most)) return;
   observed.phase = std::fmod(observed.phase, Step);
   observed.lossOfLock |= LockLost;
 }
@@ -258,7 +258,7 @@ void Epochs::Clean(Observed& observed) {
   const std::uint8_t wanted = wantedValues_[SystemOf(observed.key)][SignalOf(observed.key)];
   const auto clean = [&](double& value, Value which, bool zeroIsNone) {
     if ((wanted & BitOf(which)) == 0 || (zeroIsNone && IsNone(value))) value = None;
-    if (std::isnan(value) || ThousandthsOf(value)) return;
+    if (std::isnan(value) || HasThousandths(value)) return;
     value = None;
     ++leftOut_.tooLarge;
   };

@@ -1,6 +1,7 @@
 // Numbers in columns, as printf writes them but without its time.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 
@@ -9,6 +10,12 @@ namespace navframe::tool {
 // The value times 1000, rounded as printf("%.3f") rounds: by the exact value, halves to the even
 // digit. Nothing for what does not fit F14.3, and for NaN.
 std::optional<std::int64_t> ThousandthsOf(double value);
+
+// Whether it does fit.
+inline bool HasThousandths(double value) {
+  constexpr double SurelySmall = 999'999'999;
+  return std::fabs(value) < SurelySmall || ThousandthsOf(value).has_value();
+}
 
 // Writes F14.3 to 14 places.
 void PutThousandths(std::int64_t thousandths, char* to);
