@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::uint16_t NoWeek = 65535;
 constexpr std::uint32_t NoTow = 0xFFFFFFFF;
+constexpr Ticks TicksPerMillisecond = TicksPerSecond / 1000;
 
 bool IsEphemeris(const NavframeItem& item) {
   return item.kind->id >= EphemerisIdGps && item.kind->id <= EphemerisIdNavIc;
@@ -19,7 +20,7 @@ bool IsEphemeris(const NavframeItem& item) {
 // GPS time of an item.
 std::optional<Ticks> TimeOf(const NavframeTime& time) {
   if (time.week == NoWeek || time.tow == NoTow) return std::nullopt;
-  return time.week * TicksPerWeek + time.tow * (TicksPerSecond / 1000);
+  return time.week * TicksPerWeek + time.tow * TicksPerMillisecond;
 }
 
 }  // namespace
@@ -29,9 +30,21 @@ void NavigationFiles::Widen(std::optional<Span>& span, Ticks time) {
   span = Span{std::min(span->first, time), std::max(span->last, time)};
 }
 
+// The first ones may come before the stream tells its week.
+void NavigationFiles::NoteObserved(const NavframeTime& time) {
+  if (time.tow != NoTow && !firstTow_) firstTow_ = time.tow;
+  const std::optional<Ticks> now = TimeOf(time);
+  if (!now) return;
+  if (!observed_) {
+    const Ticks first = *now - (time.tow - Ticks{*firstTow_}) * TicksPerMillisecond;
+    Widen(observed_, first > *now ? first - TicksPerWeek : first);
+  }
+  Widen(observed_, *now);
+}
+
 void NavigationFiles::Take(const NavframeItem& item) {
   const std::optional<Ticks> time = TimeOf(item.time);
-  if (time && item.kind->id == MsgIdObservations) Widen(observed_, *time);
+  if (item.kind->id == MsgIdObservations) NoteObserved(item.time);
   if (time && IsEphemeris(item)) {
     const Ticks split = options_.naming.split;
     const Ticks period = split != 0 ? *time / split : 0;

@@ -48,6 +48,7 @@ class NavigationFiles {
     Ticks first;
     Ticks last;
   };
+  void NoteObserved(const NavframeTime& time);
   static void Widen(std::optional<Span>& span, Ticks time);
 
   const NavigationFilesOptions options_;
@@ -56,6 +57,7 @@ class NavigationFiles {
   Ticks period_ = 0;              // of file_
   std::optional<Span> came_;      // ephemerides of file_
   std::optional<Span> observed_;  // observations: a file of all says that it is of the same time
+  std::optional<std::uint32_t> firstTow_;  // of them, ms
   std::uint64_t ephemerides_ = 0;
   std::uint64_t undated_ = 0;
   std::uint64_t damaged_ = 0;
