@@ -80,7 +80,7 @@ double FitHours(const KeplerEphemerisRecord& record) {
 double TransmissionTime(const KeplerEphemerisRecord& record) {
   if (std::isnan(record.transmissionTime)) return NoTransmissionTime;
   const double behind = record.transmissionTime - record.toe;
-  constexpr double Half = Week / 2;
+  constexpr double Half = Week / 2.0;
   if (behind > Half) return record.transmissionTime - Week;
   if (behind < -Half) return record.transmissionTime + Week;
   return record.transmissionTime;
@@ -193,7 +193,9 @@ std::int64_t EpochOf(const GlonassEphemerisRecord& record) {
   const UTCTIME& utc = record.referenceUtc;
   const std::chrono::sys_days day =
       std::chrono::year{utc.year} / std::chrono::month{utc.month} / std::chrono::day{utc.day};
-  return (day - FirstDay).count() * Day + utc.hour * 3600 + utc.minute * 60 + utc.second;
+  const auto time = day + std::chrono::hours(utc.hour) + std::chrono::minutes(utc.minute) +
+                    std::chrono::seconds(utc.second);
+  return (time - FirstDay).count();
 }
 
 double FrameTime(const GlonassEphemerisRecord& record) {
