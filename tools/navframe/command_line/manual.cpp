@@ -30,6 +30,9 @@ constexpr Example Examples[] = {
     {"navframe tcp://localhost:5017 ntrip://user@caster.example/BASE",
      "a server beside a mountpoint of a caster"},
     {"navframe sources ntrip://caster.example", "the mountpoints of a caster"},
+    {"navframe rinex drive.ubx --station-id ubx -o drive", "RINEX: drive.obs and drive.nav"},
+    {"navframe rinex base.rtcm3 --station-id 120 --station ABCD00CHE --split hour --gzip -o files",
+     "a station's files by the hour, with long names"},
     {"navframe kinds observations", "what stands in these records"},
 };
 

@@ -139,7 +139,10 @@ class Run {
            " phases of GLONASS satellites whose channel nothing tells");
     }
     if (const std::uint64_t count = navigation_.Undated(); count != 0) {
-      Tell("left out: " + std::to_string(count) + " ephemerides whose week nothing tells");
+      Tell(
+          "left out: " + std::to_string(count) +
+          " ephemerides whose week nothing tells: say it with --date YYYY-MM-DD, or in the name of "
+          "the file");
     }
     if (const std::uint64_t count = navigation_.Damaged(); count != 0) {
       Tell("left out: " + std::to_string(count) +

@@ -46,7 +46,7 @@ bool IsKnown(const Vector& vector) {
 
 std::vector<const NavframeKind*> StationNotes::Kinds() {
   return kindsOf<StationAntennaPointRecord, StationEquipmentRecord, StationGlonassBiasesRecord,
-                 SystemParametersRecord, UbxVersionRecord, UbxLeapSecondsRecord,
+                 SystemParametersRecord, UbxVersionRecord, UbxLeapSecondsRecord, UbxGpsTimeRecord,
                  UbxHighPrecisionEcefRecord, UbxEcefRecord, UbxFullNavigationRecord,
                  GlonassEphemerisRecord, GgaRecord>();
 }
@@ -102,6 +102,8 @@ void StationNotes::NoteLeapSeconds(const NavframeItem& item) {
     leapSeconds_ = parameters->leapSeconds;
   } else if (const auto* leap = As<UbxLeapSecondsRecord>(item)) {
     if (leap->currentValid == 1) leapSeconds_ = leap->current;
+  } else if (const auto* time = As<UbxGpsTimeRecord>(item)) {
+    if (time->leapValid == 1) leapSeconds_ = time->leapSeconds;
   }
 }
 
