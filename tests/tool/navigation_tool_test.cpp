@@ -30,7 +30,7 @@ TEST_F(Tool, MakesNavigationFiles) {
   const Outcome undated = Run("navframe rinex $IN -o $DIR/nav", GpsOfWeek2305());
   EXPECT_EQ(undated.status, 1);
   EXPECT_THAT(undated.err, AllOf(HasSubstr("left out: 1 ephemerides whose week nothing tells"),
-                                 HasSubstr("neither observations nor ephemerides")));
+                                 HasSubstr("no observations and no ephemerides")));
 
   const Outcome dated =
       Run("navframe rinex $IN --date 2024-03-14 -o $DIR/nav && cat $DIR/nav.nav && ls $DIR",
