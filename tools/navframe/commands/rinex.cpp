@@ -54,7 +54,9 @@ class Run {
         navigation_({options.naming,
                      options.version == 4 ? NavigationVersion::V402 : NavigationVersion::V305,
                      options.texts.runBy, options.filters.filters.satellites},
-                    [this] { return DateFrom(); }) {}
+                    [this] {
+                      return NavigationFacts{DateFrom(), notes_.LeapSeconds()};
+                    }) {}
 
   ExitStatus Make() {
     bool isGood = true;

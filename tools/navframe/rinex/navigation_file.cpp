@@ -79,28 +79,29 @@ bool NavigationFile::IsWanted(char system, std::uint8_t satellite) const {
 void NavigationFile::Take(const NavframeItem& item) {
   if (item.type != NavframeItemRecord || item.record == nullptr) return;
   if (item.time.week != NoWeek) DateWaiting(item.time);
+  leapSeconds_ = item.time.leapSeconds;
   switch (item.kind->id) {
     case EphemerisIdGps:
     case EphemerisIdGalileo:
     case EphemerisIdBeiDou:
     case EphemerisIdQzss:
     case EphemerisIdNavIc:
-      return Judge(Copy<KeplerEphemerisRecord>(item), item.time);
+      return Judge(Copy<KeplerEphemerisRecord>(item));
     case EphemerisIdGlonass:
-      return Judge(Copy<GlonassEphemerisRecord>(item), item.time);
+      return Judge(Copy<GlonassEphemerisRecord>(item));
     default:
       return corrections_.Take(item);
   }
 }
 
 template <class Record>
-void NavigationFile::Judge(const Record& record, const NavframeTime& time) {
+void NavigationFile::Judge(const Record& record) {
   constexpr std::size_t MostWaiting = 1024;
   if (!IsWanted(LetterOf(record), record.satellite)) return;
   if (!IsSound(record)) {
     ++damaged_;
   } else if (IsDated(record)) {
-    Add(record, time);
+    Add(record);
   } else if (waiting_.size() < MostWaiting) {
     waiting_.emplace_back(record);
   } else {
@@ -113,7 +114,7 @@ void NavigationFile::DateWaiting(const NavframeTime& time) {
     std::visit(
         [&](auto& record) {
           if (DateLate(record, time)) {
-            Add(record, time);
+            Add(record);
           } else {
             ++undated_;
           }
@@ -123,9 +124,8 @@ void NavigationFile::DateWaiting(const NavframeTime& time) {
 }
 
 template <class Record>
-void NavigationFile::Add(const Record& record, const NavframeTime& time) {
+void NavigationFile::Add(const Record& record) {
   const EphemerisKey key = KeyOf(record);
-  leapSeconds_ = time.leapSeconds;
   if constexpr (std::is_same_v<Record, GlonassEphemerisRecord>) corrections_.Take(record);
   if (systems_.find(key.system) == systems_.npos) systems_ += key.system;
   firstEpoch_ = std::min(firstEpoch_, key.epoch);
@@ -156,9 +156,12 @@ void NavigationFile::PutHeader(const NavigationHeader& header, std::string& out)
   PutFirstLines(out, {VersionText(version_), 'N', System(), header.runBy, header.date});
   for (const std::string& comment : header.comments) PutComment(out, comment);
   if (version_ == NavigationVersion::V305) corrections_.PutHeaderLines(out);
-  if (leapSeconds_) {
+  // Version 4 must have them: then those that the stream goes by, told or not.
+  const auto leapSeconds =
+      header.leapSeconds || version_ == NavigationVersion::V305 ? header.leapSeconds : leapSeconds_;
+  if (leapSeconds) {
     std::array<char, 16> text;
-    std::snprintf(text.data(), text.size(), "%6d", *leapSeconds_);
+    std::snprintf(text.data(), text.size(), "%6d", *leapSeconds);
     PutLine(out, text.data(), "LEAP SECONDS");
   }
   PutLine(out, "", "END OF HEADER");

@@ -24,6 +24,7 @@ struct NavigationHeader {
   std::string runBy;  // "" for not known
   std::chrono::sys_seconds date;
   std::vector<std::string> comments;  // such as where the week comes from
+  std::optional<int> leapSeconds;     // GPS time less UTC, if anything told them
 };
 
 // One file: each ephemeris once, those of several sources too, in the order of the time in their
@@ -58,10 +59,10 @@ class NavigationFile {
 
  private:
   template <class Record>
-  void Judge(const Record& record, const NavframeTime& time);
+  void Judge(const Record& record);
   void DateWaiting(const NavframeTime& time);
   template <class Record>
-  void Add(const Record& record, const NavframeTime& time);
+  void Add(const Record& record);
   bool IsWanted(char system, std::uint8_t satellite) const;
   void PutHeader(const NavigationHeader& header, std::string& out) const;
 
@@ -77,7 +78,7 @@ class NavigationFile {
   bool isFromCaster_ = true;
   std::int64_t firstEpoch_ = std::numeric_limits<std::int64_t>::max();
   std::int64_t lastEpoch_ = 0;
-  std::optional<std::int32_t> leapSeconds_;
+  std::optional<int> leapSeconds_;  // in use
   Corrections corrections_;
 };
 

@@ -79,8 +79,9 @@ void NavigationFiles::End() {
   content.isStream = file->IsFromCaster();
   content.first = span.first;
   content.last = span.last;
+  const NavigationFacts facts = facts_();
   const NavigationHeader header = {
-      options_.runBy, DateOfFile(span.first), {"weeks: " + dateFrom_()}};
+      options_.runBy, DateOfFile(span.first), {"weeks: " + facts.dateFrom}, facts.leapSeconds};
   WriteNamed(NameOf(options_.naming, content), options_.naming.gzip,
              [&](Output& output) { ephemerides_ += file->Write(header, output); });
 }

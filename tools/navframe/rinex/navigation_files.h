@@ -23,15 +23,20 @@ struct NavigationFilesOptions {
   const std::vector<SatelliteName>& satellites;  // none for all
 };
 
+// What files are made of that is known at their end alone.
+struct NavigationFacts {
+  std::string dateFrom;  // what tells the weeks
+  std::optional<int> leapSeconds;
+};
+
 // An ephemeris belongs to the period in which it came, and so stands in every file of one in which
 // a caster repeats it. There is no file without any.
 class NavigationFiles {
  public:
-  // What tells the weeks, for a comment; asked at the end of each file.
-  using DateFrom = std::function<std::string()>;
+  using Facts = std::function<NavigationFacts()>;
 
-  NavigationFiles(const NavigationFilesOptions& options, DateFrom dateFrom)
-      : options_(options), dateFrom_(std::move(dateFrom)) {}
+  NavigationFiles(const NavigationFilesOptions& options, Facts facts)
+      : options_(options), facts_(std::move(facts)) {}
 
   // Every item. What was written before is complete when an ephemeris comes in a later period.
   void Take(const NavframeItem& item);
@@ -52,7 +57,7 @@ class NavigationFiles {
   static void Widen(std::optional<Span>& span, Ticks time);
 
   const NavigationFilesOptions options_;
-  const DateFrom dateFrom_;
+  const Facts facts_;
   std::unique_ptr<NavigationFile> file_;
   Ticks period_ = 0;              // of file_
   std::optional<Span> came_;      // ephemerides of file_
