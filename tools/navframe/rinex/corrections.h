@@ -32,9 +32,6 @@ class Corrections {
     std::int64_t gpsSeconds;  // since 1980-01-06
   };
 
-  void PutKlobucharLines(std::string& out, const char* name, const Timed<IonosphereLogRecord>& from,
-                         const char* mark) const;
-
   std::optional<Timed<IonosphereLogRecord>> gpsIonosphere_;
   std::optional<Timed<IonosphereLogRecord>> beiDouIonosphere_;
   std::optional<Timed<GalileoIonosphereLogRecord>> galileoIonosphere_;
