@@ -424,6 +424,7 @@ TEST(NavigationFile, TellsIonosphereAndUtc) {
     Take(file, LogIdBdsIonosphere, klobuchar, true);
     Take(file, LogIdGalileoIonosphere, galileo, true);
     Take(file, LogIdGpsUtc, utc, true);
+    Take(file, LogIdGalileoUtc, UtcLogRecord{{}, 4000000000, 1, 0, 0, 0, 0, 0, 0, {}}, true);
     texts[version == NavigationVersion::V402] =
         std::regex_replace(Written(file), std::regex(" +\n"), "\n");
   }

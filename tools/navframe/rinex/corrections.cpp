@@ -15,6 +15,7 @@ namespace {
 constexpr std::int64_t Week = 604800;  // s
 constexpr std::int64_t BeiDouBehindGps = 14;
 constexpr std::uint16_t NoWeek = 65535;
+constexpr std::uint32_t NoTow = 0xFFFFFFFF;
 
 // Numbers that TIME SYSTEM CORR has for what UTC is by.
 enum UtcNumber : std::uint8_t { NoUtc = 0, UtcOfUsno = 2, UtcOfRussia = 3, UtcOfEurope = 5 };
@@ -90,6 +91,12 @@ void PutUtcOffset(std::string& out, const char* of, const char* name, const char
             {static_cast<double>(gpsSeconds % Week), from.a0, from.a1, 0});
 }
 
+// Lines hold any number.
+bool IsSound(const UtcLogRecord& record) {
+  constexpr std::uint32_t LargestWeek = 9999;  // of four digits
+  return record.tot < Week && record.week <= LargestWeek;
+}
+
 bool TellsOffsets(const GlonassEphemerisRecord& record) {
   constexpr std::uint16_t LastDay = 1461;  // casters that do not know the offsets say day 0
   return record.na >= 1 && record.na <= LastDay && !std::isnan(record.tauC);
@@ -98,7 +105,8 @@ bool TellsOffsets(const GlonassEphemerisRecord& record) {
 }  // namespace
 
 void Corrections::Take(const NavframeItem& item) {
-  if (item.protocol != NavframeAsciiLog || item.time.week == NoWeek) return;
+  if (item.protocol != NavframeAsciiLog) return;
+  if (item.time.week == NoWeek || item.time.tow == NoTow) return;
   const std::int64_t now = item.time.week * Week + item.time.tow / 1000;
   const auto keep = [&]<class Record>(std::optional<Timed<Record>>& to) {
     to.emplace().gpsSeconds = now;
@@ -112,9 +120,13 @@ void Corrections::Take(const NavframeItem& item) {
     case LogIdGalileoIonosphere:
       return keep(galileoIonosphere_);
     case LogIdGpsUtc:
-      return keep(gpsUtc_);
+      keep(gpsUtc_);
+      if (!IsSound(gpsUtc_->record)) gpsUtc_.reset();
+      return;
     case LogIdGalileoUtc:
-      return keep(galileoUtc_);
+      keep(galileoUtc_);
+      if (!IsSound(galileoUtc_->record)) galileoUtc_.reset();
+      return;
     default:
       return;
   }
