@@ -124,6 +124,7 @@ Recording RinexInput::LookAt(const std::string& name) {
 bool RinexInput::ReadRecordings(const std::vector<std::string>& names, const InputUse& use) {
   constexpr double WeekSeconds = 604'800;
   std::vector<Recording> recordings;
+  recordings.reserve(names.size());
   for (const std::string& name : names) recordings.push_back(LookAt(name));
   std::ranges::stable_sort(recordings, {}, [](const Recording& recording) {
     return recording.tow ? recording.week * WeekSeconds + *recording.tow : 0;
@@ -189,6 +190,7 @@ bool RinexInput::ReadLive(const std::vector<std::string>& names, const InputUse&
   }
   std::exception_ptr failure;
   std::vector<std::thread> threads;
+  threads.reserve(sources.size());
   for (const auto& source : sources) {
     threads.emplace_back([&, this] {
       try {

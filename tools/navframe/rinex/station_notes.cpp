@@ -122,8 +122,9 @@ void StationNotes::NoteFix(const NavframeItem& item) {
   } else if (const auto* gga = As<GgaRecord>(item)) {
     constexpr std::uint8_t LastMeasured = 5;  // those behind it are estimated or made up
     if (gga->fixQuality != 0 && gga->fixQuality <= LastMeasured) {
-      position = EcefOf(gga->latitude, gga->longitude,
-                        static_cast<double>(gga->altitude) + gga->geoidSeparation);
+      position =
+          EcefOf(gga->latitude, gga->longitude,
+                 static_cast<double>(gga->altitude) + static_cast<double>(gga->geoidSeparation));
     }
   }
   if (!IsKnown(position)) return;
