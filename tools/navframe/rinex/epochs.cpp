@@ -95,6 +95,7 @@ void Epochs::Add(const NavframeItem& item, const ObservationsRecord& record) {
   if (!IsInOrder(item, time)) return;
   if (isOpen_ && time != epoch_.time) Finish();
   if (!isOpen_) {
+    if (start_) before_ = epoch_.time;
     isOpen_ = true;
     epoch_.time = time;
     isWanted_ = IsWanted(time, item.time.leapSeconds);
@@ -149,14 +150,44 @@ void Epochs::ShiftAll(Ticks ticks) {
   if (ticks == 0) return;
   epoch_.time += ticks;
   if (start_) *start_ += ticks;
+  if (before_) *before_ += ticks;
   locks_.Shift(ticks);
   use_.shift(ticks);
+}
+
+// Whether the epoch that is open is far ahead of this time and of the one before it: then it is
+// that one which is wrong, and not all that follow.
+bool Epochs::IsAlone(Ticks time) const {
+  constexpr Ticks Far = 10 * TicksPerMinute;
+  if (!isOpen_ || epoch_.time - time < Far) return false;
+  return !before_ || (epoch_.time - *before_ >= Far && time > *before_);
+}
+
+void Epochs::LeaveOpenOne() {
+  isOpen_ = false;
+  ++leftOut_.outOfOrder;
+  use_.tell("the epoch at " + std::to_string(SecondsOf(epoch_.time % TicksPerWeek)) +
+            " s of the week is ahead of those around it: left out");
+  for (const Observed& observed : epoch_.observations) {
+    places_[observed.key] = 0;
+    locks_.NoteLost(observed.key);
+  }
+  epoch_.observations.clear();
+  if (before_) {
+    epoch_.time = *before_;
+  } else {
+    start_.reset();
+  }
 }
 
 // An epoch that lies before one that was taken is left out: files go on in time.
 bool Epochs::IsInOrder(const NavframeItem& item, Ticks time) {
   constexpr int MostTold = 5;
   if (!start_ || time >= epoch_.time) return true;
+  if (IsAlone(time)) {
+    LeaveOpenOne();
+    return true;
+  }
   ++leftOut_.outOfOrder;
   if (toldOutOfOrder_ != time && ++timesTold_ <= MostTold) {
     use_.tell("the epoch at " + std::to_string(SecondsOf(time % TicksPerWeek)) +

@@ -72,6 +72,8 @@ class Epochs {
   bool IsOfStation(const ObservationsRecord& record);
   Ticks TimeOf(const ObservationsRecord& record);
   bool IsInOrder(const NavframeItem& item, Ticks time);
+  bool IsAlone(Ticks time) const;
+  void LeaveOpenOne();
   bool IsWanted(Ticks time, int leapSeconds);
   std::optional<SignalKey> KeyOf(const Observation& observation);
   void Put(const ObservationsRecord& record, const Observation& observation, SignalKey key);
@@ -98,7 +100,8 @@ class Epochs {
   bool isOpen_ = false;
   bool isWanted_ = false;
   bool isComplete_ = false;
-  std::optional<Ticks> start_;
+  std::optional<Ticks> start_;   // of the first epoch
+  std::optional<Ticks> before_;  // of the epoch before this one
   std::vector<std::uint16_t> places_ = std::vector<std::uint16_t>(KeyCount);  // in epoch_, from 1
   LossOfLock locks_;
   Ticks toldOutOfOrder_ = -1;
