@@ -100,7 +100,6 @@ class Run {
   }
 
   void Begin(const Recording& recording) {
-    isLive_ = recording.name.empty();
     if (dateFrom_.empty() && recording.tow) dateFrom_ = recording.dateFrom;
   }
 
@@ -172,7 +171,6 @@ class Run {
   NavigationFiles navigation_;
   std::string dateFrom_;
   bool areAligned_ = true;
-  bool isLive_ = false;
 };
 
 }  // namespace

@@ -68,6 +68,21 @@ bool GoesOn(const Recording& before, const Recording& next) {
   return behind <= MostDays * Days;
 }
 
+// Recordings that tell no week are beside those that do.
+void DateTheOthers(std::vector<Recording>& recordings) {
+  const auto isDated = [](const Recording& recording) {
+    return recording.tow && recording.week != 0;
+  };
+  const auto dated = std::ranges::find_if(recordings, isDated);
+  if (dated == recordings.end()) return;
+  const Recording like = *dated;
+  for (Recording& recording : recordings) {
+    if (isDated(recording) || !recording.tow) continue;
+    recording.week = WeekBeside(*recording.tow, like.week, *like.tow);
+    recording.dateFrom = like.dateFrom;
+  }
+}
+
 std::uint64_t FramesOf(const Stream& stream) {
   const NavframeStatistics all = stream.statistics();
   return all.nmea.frames + all.rtcm3.frames + all.ubx.frames + all.binary55Aa.frames +
@@ -126,6 +141,7 @@ bool RinexInput::ReadRecordings(const std::vector<std::string>& names, const Inp
   std::vector<Recording> recordings;
   recordings.reserve(names.size());
   for (const std::string& name : names) recordings.push_back(LookAt(name));
+  DateTheOthers(recordings);
   std::ranges::stable_sort(recordings, {}, [](const Recording& recording) {
     return recording.tow ? recording.week * WeekSeconds + *recording.tow : 0;
   });

@@ -17,7 +17,6 @@ class ObservationSummary {
   // All moments so far were these ticks later.
   void Shift(Ticks ticks);
 
-  bool IsEmpty() const { return epochs_ == 0; }
   std::uint64_t Epochs() const { return epochs_; }
   Ticks First() const { return first_; }
   Ticks Last() const { return last_; }
@@ -36,7 +35,7 @@ class ObservationSummary {
 
   // The columns of what was observed: by signal, and of each C, L, D, S.
   SystemColumns Columns(const SignalNames& names) const;
-  // Systems with a column that a satellite has a value in; the satellites of one.
+  // Whether a satellite has a value in one of these columns.
   bool Has(std::size_t system, std::size_t satellite, const std::vector<Column>& columns) const;
 
  private:

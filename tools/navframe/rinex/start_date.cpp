@@ -1,5 +1,6 @@
 #include "rinex/start_date.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string_view>
@@ -98,6 +99,11 @@ std::uint32_t WeekNear(year_month_day date, double tow) {
   constexpr sys_days Epoch = 1980y / January / 6;
   const auto noon = static_cast<double>((sys_days(date) - Epoch).count()) * 86'400 + 43'200;
   return static_cast<std::uint32_t>(std::max(0.0, std::round((noon - tow) / WeekSeconds)));
+}
+
+std::uint32_t WeekBeside(double tow, std::uint32_t otherWeek, double otherTow) {
+  const auto weeks = std::int64_t{otherWeek} + std::llround((otherTow - tow) / WeekSeconds);
+  return static_cast<std::uint32_t>(std::max<std::int64_t>(weeks, 0));
 }
 
 void FirstEpoch::Add(const ObservationsRecord& record) {

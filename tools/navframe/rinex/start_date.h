@@ -22,6 +22,9 @@ std::optional<std::chrono::year_month_day> DateInName(const std::string& name);
 // ones.
 std::uint32_t WeekNear(std::chrono::year_month_day date, double tow);
 
+// The week in which `tow` comes nearest to another time of week in a week of its own.
+std::uint32_t WeekBeside(double tow, std::uint32_t otherWeek, double otherTow);
+
 // What the observations of a stream tell of their first epoch.
 class FirstEpoch {
  public:
