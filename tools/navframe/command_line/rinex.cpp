@@ -146,6 +146,9 @@ void LookUp(const Texts& texts, RinexOptions& options) {
   if (!texts.casterPosition.empty()) options.position = ParsePosition(texts.casterPosition);
   const bool isHour = texts.split == "hour" || texts.split == "1h";
   if (!texts.split.empty()) options.naming.split = isHour ? TicksPerHour : TicksPerDay;
+#ifndef NAVFRAME_WITH_ZLIB
+  if (options.naming.gzip) throw CLI::ValidationError("--gzip", "navframe was built without zlib");
+#endif
   SignalNames names;
   std::string wrong;
   if (!options.types.empty() && !ParseTypes(options.types, names, wrong)) {

@@ -1,9 +1,11 @@
 #include "commands/rinex.h"
 
-#include <cstdio>
-#include <memory>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
 #include <new>
-#include <utility>
+#include <stdexcept>
 
 #include "commands/messages.h"
 #include "commands/rinex_input.h"
@@ -173,6 +175,17 @@ class Run {
   bool areAligned_ = true;
 };
 
+// Says before hours of live sources, and not behind them, that there will be no files.
+void CheckFolder(const FileNaming& naming) {
+  std::filesystem::path folder = naming.target;
+  if (naming.station.empty()) folder = folder.parent_path();
+  if (folder.empty()) folder = ".";
+  const bool isMissing = access(folder.c_str(), F_OK) != 0;  // then it will be made
+  if (!isMissing && access(folder.c_str(), W_OK | X_OK) != 0) {
+    throw CannotWrite(folder.string(), errno);
+  }
+}
+
 }  // namespace
 
 ExitStatus Rinex(const RinexOptions& options) {
@@ -180,8 +193,9 @@ ExitStatus Rinex(const RinexOptions& options) {
   std::vector<std::string> sources = options.sources;
   if (sources.empty()) sources.emplace_back("-");
   try {
+    CheckFolder(options.naming);
     if (options.recursive) sources = WithFilesOfFolders(sources);
-  } catch (const Fault& fault) {
+  } catch (const std::runtime_error& fault) {
     Progress progress(0);
     Messages(progress, false).Add(fault.what());
     return Failure;
