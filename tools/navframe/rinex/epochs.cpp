@@ -79,7 +79,7 @@ Epochs::Epochs(const EpochFilters& filters, const SystemColumns* columns, Signal
   }
   for (auto& signals : wantedValues_) signals.fill(columns == nullptr ? AllValues : 0);
   for (std::size_t system = 0; columns != nullptr && system < SystemCount; ++system) {
-    for (const Column& column : (*columns)[system]) {
+    for (const TypeColumn& column : (*columns)[system]) {
       wantedValues_[system][column.signal] |= BitOf(column.value);
     }
   }

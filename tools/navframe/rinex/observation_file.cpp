@@ -41,7 +41,7 @@ void ObservationFile::FindPlaces(const SystemColumns& columns) {
     for (auto& signal : places_[system]) signal.fill(0);
     lengths_[system] = SatelliteWidth + columns[system].size() * ValueWidth;
     for (std::size_t i = 0; i < columns[system].size(); ++i) {
-      const Column& column = columns[system][i];
+      const TypeColumn& column = columns[system][i];
       places_[system][column.signal][static_cast<std::size_t>(column.value)] =
           static_cast<std::uint8_t>(i + 1);
     }
@@ -66,7 +66,7 @@ std::uint64_t ObservationFile::Write(const ObservationFrame& frame, const System
   SystemColumns found = columns != nullptr ? *columns : summary_.Columns(frame.names);
   for (std::size_t system = 1; system < SystemCount; ++system) {
     bool isSeen = false;
-    for (const Column& column : found[system]) isSeen |= summary_.Count(system, column) != 0;
+    for (const TypeColumn& column : found[system]) isSeen |= summary_.Count(system, column) != 0;
     if (!isSeen) found[system].clear();
   }
   PutObservationHeader({frame.version, frame.texts, frame.notes, frame.station, frame.marker,

@@ -39,7 +39,7 @@ std::optional<SystemColumns> ParseTypes(const std::vector<std::string>& types, S
       if (only == 0 ? !HasSignal(system, type.substr(1)) : system != only) continue;
       const std::size_t signal = names.PlaceOf(system, type.data() + 1);
       const auto value = static_cast<Value>(ValueLetters.find(type[0]));
-      const bool isKnown = std::ranges::any_of(columns[system], [&](const Column& column) {
+      const bool isKnown = std::ranges::any_of(columns[system], [&](const TypeColumn& column) {
         return column.signal == signal && column.value == value;
       });
       if (signal == SignalRoom) {
@@ -81,8 +81,9 @@ void ObservationFiles::End() {
       options_.columns != nullptr ? *options_.columns : summary.Columns(names_);
   std::size_t systems = 0;
   for (std::size_t system = 1; system < SystemCount; ++system) {
-    const bool isSeen = std::ranges::any_of(
-        found[system], [&](const Column& column) { return summary.Count(system, column) != 0; });
+    const bool isSeen = std::ranges::any_of(found[system], [&](const TypeColumn& column) {
+      return summary.Count(system, column) != 0;
+    });
     if (isSeen && systems++ == 0) content.system = SystemLetters[system];
   }
   content.isMixed = systems > 1;

@@ -152,7 +152,7 @@ class Lines {
     PutLine(out_, Text("%14.4f%14.4f%14.4f", height, 0.0, 0.0), "ANTENNA: DELTA H/E/N");
   }
 
-  std::string NameOf(std::size_t system, const Column& column) const {
+  std::string NameOf(std::size_t system, const TypeColumn& column) const {
     std::string name(1, ValueLetters[static_cast<std::size_t>(column.value)]);
     return name.append(header_.names.Name(system, column.signal));
   }
@@ -164,7 +164,7 @@ class Lines {
       const auto& columns = header_.columns[system];
       ItemLines lines(out_, Text("%c  %3zu", SystemLetters[system], columns.size()),
                       "SYS / # / OBS TYPES", InLine);
-      for (const Column& column : columns) lines.Add(" " + NameOf(system, column));
+      for (const TypeColumn& column : columns) lines.Add(" " + NameOf(system, column));
       lines.End();
     }
     PutLine(out_, "DBHZ", "SIGNAL STRENGTH UNIT");
@@ -197,7 +197,7 @@ class Lines {
     for (std::size_t system = 1; system < SystemCount; ++system) {
       if (!HasSystem(system)) continue;
       bool isTold = false;
-      for (const Column& column : header_.columns[system]) {
+      for (const TypeColumn& column : header_.columns[system]) {
         if (column.value != Value::Phase || !header_.phasesAreAligned) continue;
         PutLine(out_,
                 Text("%c %s %8.5f", SystemLetters[system], NameOf(system, column).c_str(), 0.0),
@@ -244,7 +244,7 @@ class Lines {
     for (const auto& [system, satellite] : satellites) {
       ItemLines lines(out_, Text("   %c%02zu", SystemLetters[system], satellite), "PRN / # OF OBS",
                       InLine);
-      for (const Column& column : header_.columns[system]) {
+      for (const TypeColumn& column : header_.columns[system]) {
         lines.Add(
             Text("%6u", summary_.Count(KeyOf(system, satellite, column.signal), column.value)));
       }

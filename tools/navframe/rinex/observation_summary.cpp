@@ -49,7 +49,7 @@ Ticks ObservationSummary::Interval() const {
   return interval;
 }
 
-std::uint32_t ObservationSummary::Count(std::size_t system, const Column& column) const {
+std::uint32_t ObservationSummary::Count(std::size_t system, const TypeColumn& column) const {
   std::uint32_t sum = 0;
   for (std::size_t satellite = 1; satellite < SatelliteRoom; ++satellite) {
     sum += Count(KeyOf(system, satellite, column.signal), column.value);
@@ -75,7 +75,7 @@ SystemColumns ObservationSummary::Columns(const SignalNames& names) const {
     std::ranges::sort(signals, {}, [&](std::size_t i) { return names.Name(system, i); });
     for (const std::size_t signal : signals) {
       for (std::size_t value = 0; value < ValueCount; ++value) {
-        const Column column = {static_cast<Value>(value), signal};
+        const TypeColumn column = {static_cast<Value>(value), signal};
         if (Count(system, column) != 0) columns[system].push_back(column);
       }
     }
@@ -84,8 +84,8 @@ SystemColumns ObservationSummary::Columns(const SignalNames& names) const {
 }
 
 bool ObservationSummary::Has(std::size_t system, std::size_t satellite,
-                             const std::vector<Column>& columns) const {
-  return std::ranges::any_of(columns, [&](const Column& column) {
+                             const std::vector<TypeColumn>& columns) const {
+  return std::ranges::any_of(columns, [&](const TypeColumn& column) {
     return Count(KeyOf(system, satellite, column.signal), column.value) != 0;
   });
 }

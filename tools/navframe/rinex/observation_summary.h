@@ -28,7 +28,7 @@ class ObservationSummary {
   std::uint32_t Count(SignalKey key, Value value) const {
     return counts_[key][static_cast<std::size_t>(value)];
   }
-  std::uint32_t Count(std::size_t system, const Column& column) const;
+  std::uint32_t Count(std::size_t system, const TypeColumn& column) const;
 
   // Phases and Doppler of this GLONASS satellite are none; returns the phases that were counted.
   std::uint64_t DropInMetres(std::size_t satellite);
@@ -36,7 +36,7 @@ class ObservationSummary {
   // The columns of what was observed: by signal, and of each C, L, D, S.
   SystemColumns Columns(const SignalNames& names) const;
   // Whether a satellite has a value in one of these columns.
-  bool Has(std::size_t system, std::size_t satellite, const std::vector<Column>& columns) const;
+  bool Has(std::size_t system, std::size_t satellite, const std::vector<TypeColumn>& columns) const;
 
  private:
   std::uint64_t epochs_ = 0;

@@ -62,11 +62,11 @@ constexpr std::size_t SatelliteOf(SignalKey key) { return key / SignalRoom % Sat
 constexpr std::size_t SignalOf(SignalKey key) { return key % SignalRoom; }
 
 // A column of a system: "C1C".
-struct Column {
+struct TypeColumn {
   Value value;
   std::size_t signal;  // place among the names of the system
 };
-using SystemColumns = std::array<std::vector<Column>, SystemCount>;
+using SystemColumns = std::array<std::vector<TypeColumn>, SystemCount>;
 
 // Bits of the loss-of-lock indicator.
 inline constexpr std::uint8_t LockLost = 1;
