@@ -15,6 +15,22 @@ bool IsType(std::string_view text) {
          text[1] >= '1' && text[1] <= '9' && text[2] >= 'A' && text[2] <= 'Z';
 }
 
+// Adds it to the system `only`, or to all for 0. Whether one of them has it.
+bool AddType(std::string_view type, std::size_t only, SignalNames& names, SystemColumns& columns) {
+  bool isOfSome = false;
+  for (std::size_t system = 1; IsType(type) && system < SystemCount; ++system) {
+    if ((only != 0 && system != only) || !HasSignal(system, type.substr(1))) continue;
+    isOfSome = true;
+    const std::size_t signal = names.PlaceOf(system, type.data() + 1);
+    const auto value = static_cast<Value>(ValueLetters.find(type[0]));
+    const bool isKnown = std::ranges::any_of(columns[system], [&](const TypeColumn& column) {
+      return column.signal == signal && column.value == value;
+    });
+    if (!isKnown) columns[system].push_back({value, signal});
+  }
+  return isOfSome;
+}
+
 }  // namespace
 
 std::optional<SystemColumns> ParseTypes(const std::vector<std::string>& types, SignalNames& names,
@@ -23,30 +39,15 @@ std::optional<SystemColumns> ParseTypes(const std::vector<std::string>& types, S
   std::size_t only = 0;  // 0 for every system
   for (const std::string& text : types) {
     std::string_view type = text;
+    bool isSystem = true;
     if (type.size() > 2 && type[1] == ':') {
-      only = SystemLetters.substr(1).find(type[0]) + 1;
-      if (type[0] == ' ' || only == 0) {
-        wrong = text;
-        return std::nullopt;
-      }
+      only = SystemLetters.find(type[0]);
+      isSystem = only != 0 && only != SystemLetters.npos;
       type.remove_prefix(2);
     }
-    if (!IsType(type)) {
+    if (!isSystem || !AddType(type, only, names, columns)) {
       wrong = text;
       return std::nullopt;
-    }
-    for (std::size_t system = 1; system < SystemCount; ++system) {
-      if (only == 0 ? !HasSignal(system, type.substr(1)) : system != only) continue;
-      const std::size_t signal = names.PlaceOf(system, type.data() + 1);
-      const auto value = static_cast<Value>(ValueLetters.find(type[0]));
-      const bool isKnown = std::ranges::any_of(columns[system], [&](const TypeColumn& column) {
-        return column.signal == signal && column.value == value;
-      });
-      if (signal == SignalRoom) {
-        wrong = text;
-        return std::nullopt;
-      }
-      if (!isKnown) columns[system].push_back({value, signal});
     }
   }
   return columns;
