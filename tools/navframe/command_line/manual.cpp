@@ -42,7 +42,7 @@ struct Status {
 };
 constexpr Status Statuses[] = {
     {"0", "decoded"},
-    {"1", "the input could not be read, or the output not be written"},
+    {"1", "the input could not be read, or the output not be made or written"},
     {"2", "wrong usage"},
     {"3", "nothing was recognised"},
 };
