@@ -23,6 +23,10 @@ def kind_of(message):
     return RTK_MESSAGES.get(message, None if 1001 <= message <= 1012 else "")
 
 
+def kind_of_item(item):
+    return kind_of(item.message) if item.protocol == streams.RTCM3 else "UBX"
+
+
 def _ubx_sealed(frame):
     """With its length and checksum anew."""
     body = bytearray(frame[2:-2])
@@ -75,9 +79,9 @@ def frames(path, protocol, kind, observed):
             yield _ended(item) if item.offset in last.values() else item.bytes
 
 
-def run(source, protocol, start, folder):
-    """Epochs and ephemerides that it makes of the frames."""
-    path, observed, orbits = folder / "frames", folder / "obs", folder / "nav"
+def files(source, protocol, start, folder):
+    """Paths of observations and navigation that it makes of the bytes."""
+    path, observed, orbits = folder / "frames", folder / "theirs.obs", folder / "theirs.nav"
     path.write_bytes(b"".join(source))
     for output in (observed, orbits):
         output.unlink(missing_ok=True)
@@ -86,5 +90,11 @@ def run(source, protocol, start, folder):
                     start.strftime("%H:%M:%S"), "-o", observed, "-n", orbits, path],
                    check=True, env={**os.environ, "TZ": "UTC"},
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return observed, orbits
+
+
+def run(source, protocol, start, folder):
+    """Epochs and ephemerides that it makes of the frames."""
+    observed, orbits = files(source, protocol, start, folder)
     return (list(rinex.observations(observed)) if observed.exists() else [],
             list(rinex.ephemerides(orbits)) if orbits.exists() else [])

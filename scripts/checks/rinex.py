@@ -1,65 +1,74 @@
-"""RINEX 3 files of observations and ephemerides, as far as they are compared."""
+"""Reads RINEX files of versions 3.04, 3.05 and 4.02 strictly.
+  scripts/checks/rinex.py FILE...   says of each what it violates first"""
 
-from datetime import datetime, timedelta
+import sys
+from pathlib import Path
 
-GPS_EPOCH = datetime(1980, 1, 6)
+from rinex_navigation import EPHEMERIDES, Navigation
+from rinex_observations import Observations
+from rinex_text import GPS_EPOCH, TICKS, Lines, Violation, name_of
+
 WEEK = 604800
-NAV_LINES = {"R": 4, "S": 4}  # lines of an ephemeris; others have 8
 
 
-def moment(fields):
-    """Seconds since the GPS epoch of year, month, day, hour, minute, second, in their own time."""
-    year, month, day, hour, minute = map(int, fields[:5])
-    whole = datetime(year, month, day, hour, minute) - GPS_EPOCH
-    return whole / timedelta(seconds=1) + float(fields[5])
+def read(path, violations=None):
+    """Observations or Navigation. Raises Violation at the first fault, or collects the texts of all
+    that do not end the reading."""
+    source = Lines(path, violations)
+    kind = source.lines[0][20:21] if source.lines else ""
+    if kind not in ("O", "N"):
+        raise Violation(f"{path}:1: neither observations nor navigation: {kind!r}")
+    found = Observations(source) if kind == "O" else Navigation(source)
+    judge_name(Path(path).name, found, source)
+    return found
 
 
-def _number(text):
-    text = text.strip().replace("D", "e").replace("d", "e")
-    return float(text) if text else None
-
-
-def _observed_types(lines, at):
-    """The types of observations by system, and where the header ends."""
-    types = {}
-    system = None
-    while "END OF HEADER" not in lines[at]:
-        if lines[at][60:].strip() == "SYS / # / OBS TYPES":
-            system = lines[at][0].strip() or system
-            types.setdefault(system, []).extend(lines[at][6:60].split())
-        at += 1
-    return types, at + 1
+def judge_name(name, found, source):
+    """A long name says what the file has."""
+    named = name_of(name)
+    if named is None:
+        return
+    _, _, start, period, interval, kind = named
+    if kind != found.head.system + ("O" if isinstance(found, Observations) else "N"):
+        source.fault(f"the name says {kind}, the file {found.head.system}", 1)
+    if not isinstance(found, Observations) or not found.epochs:
+        return
+    first, last = found.epochs[0].time, found.epochs[-1].time
+    if first < start or period and last >= start + period * TICKS:
+        source.fault("epochs outside the time that the name says", found.epochs[0].line)
+    said = found.head.first("INTERVAL")
+    if interval and said and abs(said[0] - interval) > interval / 100:
+        source.fault(f"the name says {interval} s, the file {said[0]}", 1)
 
 
 def observations(path):
-    """Epochs in order: moment, and cells by satellite and type as (value, loss-of-lock digit)."""
-    lines = path.read_text().splitlines()
-    types, at = _observed_types(lines, 0)
-    while at < len(lines):
-        head = lines[at]
-        count = int(head[32:35])
-        cells = {}
-        for line in lines[at + 1:at + 1 + count]:
-            for i, kind in enumerate(types[line[0]]):
-                field = line[3 + 16 * i:19 + 16 * i]
-                value = _number(field[:14])
-                if value is not None:
-                    lock = field[14:15].strip()
-                    cells[line[:3].replace(" ", "0"), kind] = (value, int(lock) if lock else 0)
-        yield moment(head[1:29].split()), cells
-        at += 1 + count
+    """Epochs as floating numbers, of a file that may violate this and that: moment [s], and cells
+    by satellite and type as (value, digit of lost lock)."""
+    for epoch in read(path, []).epochs:
+        yield epoch.time / TICKS, {
+            (satellite, kind): (cell.value / 1000, cell.lock or 0)
+            for satellite, cells in epoch.satellites.items() for kind, cell in cells.items()}
 
 
 def ephemerides(path):
-    """Satellite, moment of the clock and the numbers behind it, those of each line in a list."""
-    lines = path.read_text().splitlines()
-    at = next(i for i, line in enumerate(lines) if "END OF HEADER" in line) + 1
-    while at < len(lines):
-        head = lines[at]
-        count = NAV_LINES.get(head[0], 8)
-        if head[0] == "R" and at + 4 < len(lines) and lines[at + 4].startswith("    "):
-            count = 5
-        rows = [[_number(line[k:k + 19]) for k in range(23 if i == 0 else 4, 80, 19)]
-                for i, line in enumerate(lines[at:at + count])]
-        yield head[:3].replace(" ", "0"), moment(head[4:23].split()), rows
-        at += count
+    """Of such a file: satellite, moment of the clock, and values by name."""
+    for record in read(path, []).records:
+        yield record.satellite, record.time // TICKS, {
+            name: value if value is None else float(value) for name, value in record.values.items()}
+
+
+def main():
+    status = 0
+    for path in sys.argv[1:]:
+        try:
+            found = read(path)
+            amount = len(found.epochs if isinstance(found, Observations) else found.records)
+            print(f"{path}: version {found.version}, {amount} epochs or records")
+        except Violation as violation:
+            print(violation)
+            status = 1
+    return status
+
+
+if __name__ == "__main__":
+    sys.exit(main())

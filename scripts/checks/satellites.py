@@ -5,7 +5,7 @@ import streams
 WEEK = 604800
 SPEED_OF_LIGHT = 299792458.0
 SYSTEMS = {1: "G", 2: "R", 3: "E", 4: "C", 5: "J", 6: "I", 7: "S"}
-EPHEMERIS_SYSTEMS = {1: "G", 3: "E", 4: "C", 5: "J", 7: "I"}
+EPHEMERIS_SYSTEMS = {1: "G", 3: "E", 4: "C", 5: "J", 6: "I"}
 
 
 def satellite_of(observation):
