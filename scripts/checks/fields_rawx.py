@@ -81,9 +81,10 @@ def _block(rng, gnss, satellite, signal, slot):
         "halfCycleSubtracted": half_subtracted}
 
 
-def _raw(rng, tow=None, signals=None):
+def raw(rng, tow=None, signals=None, week=None):
     tow = rng.choice((0.0, 604799.999999, rng.uniform(0, 604800))) if tow is None else tow
-    week, leap, state, version = draw(rng, 16), draw(rng, 8), draw(rng, 8), rng.randrange(2)
+    week = draw(rng, 16) if week is None else week
+    leap, state, version = draw(rng, 8), draw(rng, 8), rng.randrange(2)
     signals = _signals(rng) if signals is None else signals
     blocks = [_block(rng, *signal) for signal in signals]
     payload = struct.pack("<dHBBBBxx", tow, week, leap, len(blocks), state, version)
@@ -101,15 +102,15 @@ def _raw_again(rng):
     """Two epochs: lock was lost where its time is shorter than what has passed."""
     signals = _signals(rng)[:40]
     start, passed = rng.randrange(604800000), rng.choice((50, 1000, 64500, 64501, 200000))
-    first, before = _raw(rng, start / 1000, signals)
-    second, expected = _raw(rng, (start + passed) % 604800000 / 1000, signals)
+    first, before = raw(rng, start / 1000, signals)
+    second, expected = raw(rng, (start + passed) % 604800000 / 1000, signals)
     for old, new in zip(before["observations"], expected["observations"]):
         if None not in (old["carrierPhase"], new["carrierPhase"]):
             new["lossOfLock"] = int(new["lockTime"] < min(passed, 64500))
     return first + second, expected
 
 
-MESSAGES = [Message("RXM-RAWX", "OBSERVATIONS", _raw),
+MESSAGES = [Message("RXM-RAWX", "OBSERVATIONS", raw),
             Message("RXM-RAWX again", "OBSERVATIONS", _raw_again)]
 NOT_HELD = {"RXM-RAWX": [("freqId", "of other systems than GLONASS, for which it means nothing"),
                          ("gnssId", "of systems that ObservedSystem does not have (IMES)")]}

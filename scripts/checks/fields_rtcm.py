@@ -20,7 +20,7 @@ _BEIDOU_BANDS = {"1": _L1, "2": 1561098000, "5": _L5, "6": 1268520000, "7": 1207
 # Observed system by the tens of its messages: number of the system, codes by signal id, bands,
 # satellites. 1C is id 2 everywhere but for BeiDou and NavIC.
 _L1C = {30: "1S", 31: "1L", 32: "1X"}
-_SIGNALS = {
+SIGNALS = {
     107: (1, {2: "1C", 3: "1P", 4: "1W", 8: "2C", 9: "2P", 10: "2W", 15: "2S", 16: "2L", 17: "2X",
               22: "5I", 23: "5Q", 24: "5X", **_L1C}, _GPS_BANDS, 63),
     108: (2, {2: "1C", 3: "1P", 8: "2C", 9: "2P"}, {}, 24),
@@ -125,7 +125,7 @@ def some_signed(rng, width):
 
 
 def _masks(rng, tens):
-    system, codes, _, last = _SIGNALS[tens]
+    system, codes, _, last = SIGNALS[tens]
     wanted = rng.randint(1, 8)
     signals = sorted(rng.sample(sorted(codes), min(wanted, len(codes))))
     if rng.random() < 0.3:  # one that the table does not list
@@ -211,12 +211,12 @@ def _said(cell, rough, widths, expected, frequency):
     expected["halfCycleAmbiguity"] = cell["half"]
 
 
-class _Msm:
+class Msm:
     """One message; `satellites`, `signals` and `cells` are those of its masks."""
 
     def __init__(self, rng, tens, level, masks=None):
         self.rng, self.tens, self.level = rng, tens, level
-        self.system, self.codes, self.bands, _ = _SIGNALS[tens]
+        self.system, self.codes, self.bands, _ = SIGNALS[tens]
         self.widths = _COARSE if level < 6 else _FINE
         self.has_rates = level in (5, 7)
         self.station = rng.randrange(4096)
@@ -265,13 +265,13 @@ class _Msm:
 
 def _msm(tens, level):
     def make(rng):
-        msm = _Msm(rng, tens, level)
+        msm = Msm(rng, tens, level)
         before, week, channels = b"", None, {}
         if rng.random() < 0.5:
             week, tow = rng.randrange(1930, 2600), rng.randrange(604800)
             before, week = dated(week, tow), _nearest_week(week, tow, msm.tow_ms)
         elif tens == 108 and rng.random() < 0.5:  # channels of an earlier message
-            other = _Msm(rng, tens, 7, (msm.satellites, [2], [(msm.satellites[0], 2)]))
+            other = Msm(rng, tens, 7, (msm.satellites, [2], [(msm.satellites[0], 2)]))
             other.values[0]["phase"] = -2**23  # none, so that the lock of all begins behind it
             channels = {satellite: other.channel(satellite) for satellite in msm.satellites}
             before = other.frame()
@@ -283,7 +283,7 @@ def _msm_again(level):
     """The same signals one second later: whether their lock was lost."""
     def make(rng):
         masks = _masks(rng, 107)
-        first, second = _Msm(rng, 107, level, masks), _Msm(rng, 107, level, masks)
+        first, second = Msm(rng, 107, level, masks), Msm(rng, 107, level, masks)
         first.epoch = rng.randrange(MS_OF_WEEK - 1000)
         second.epoch = second.tow_ms = first.epoch + 1000
         expected = second.expected()
@@ -297,7 +297,7 @@ def _msm_again(level):
 
 def _glonass_day(rng):
     """Day 7, which means an unknown one, and other leap seconds than a stream begins with."""
-    msm, leap = _Msm(rng, 108, rng.randint(4, 7)), rng.randint(17, 20)
+    msm, leap = Msm(rng, 108, rng.randint(4, 7)), rng.randint(17, 20)
     week, tow = rng.randrange(1930, 2400), rng.randrange(604800)
     since = rng.randrange(-43000000, 43000000)  # within half a day of the time of the stream
     moment = (week * 604800 + tow) * 1000 + since
@@ -309,19 +309,19 @@ def _glonass_day(rng):
 def _not_taken(spoil):
     """A good message and behind it a bad one, of which no record may come."""
     def make(rng):
-        good, level = _Msm(rng, 107, 7), rng.randint(4, 7)
-        return good.frame() + spoil(rng, rng.choice(sorted(_SIGNALS)), level), good.expected()
+        good, level = Msm(rng, 107, 7), rng.randint(4, 7)
+        return good.frame() + spoil(rng, rng.choice(sorted(SIGNALS)), level), good.expected()
     return make
 
 
 def _too_many_cells(rng, tens, level):
     signals = list(range(2, 2 + rng.randint(9, 16)))
     satellites = list(range(1, 65 // len(signals) + 2))
-    return _Msm(rng, tens, level, (satellites, signals, [(1, 2)])).frame()
+    return Msm(rng, tens, level, (satellites, signals, [(1, 2)])).frame()
 
 
 def _cut_short(rng, tens, level):
-    msm = _Msm(rng, tens, level, ([1, 2, 3], [2, 22], [(1, 2), (3, 22)]))
+    msm = Msm(rng, tens, level, ([1, 2, 3], [2, 22], [(1, 2), (3, 22)]))
     return msm.frame(rng.randint(1, 20))
 
 
@@ -464,7 +464,7 @@ def _rtk(rtk, message):
 
 MESSAGES = (
     [Message(f"RTCM {tens}{level} {_NAMES[tens]}", "OBSERVATIONS", _msm(tens, level))
-     for tens in _SIGNALS for level in (4, 5, 6, 7)]
+     for tens in SIGNALS for level in (4, 5, 6, 7)]
     + [Message(f"RTCM 107{level} again", "OBSERVATIONS", _msm_again(level))
        for level in (4, 5, 6, 7)]
     + [Message("RTCM 1084-1087 day 7", "OBSERVATIONS", _glonass_day),
@@ -481,4 +481,4 @@ _EXTENDED = "extended satellite information", "reserved, but for GLONASS"
 NOT_HELD = {
     f"RTCM {tens}{level} {_NAMES[tens]}":
         [_RESERVED, _ROUGH] + ([_EXTENDED] if tens != 108 and level in (5, 7) else [])
-    for tens in _SIGNALS for level in (4, 5, 6, 7)}
+    for tens in SIGNALS for level in (4, 5, 6, 7)}
