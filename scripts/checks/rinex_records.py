@@ -49,8 +49,7 @@ def is_of(kind, found, cell):
 
 
 def of_records(ours, stream, complain):
-    """Each cell of the file is one of the stream's, and none of those is missing. Answers how many
-    there are."""
+    """Each cell of the file is one of the stream's, and none of those is missing."""
     for (epoch, satellite, kind), found in ours.items():
         cells = stream.get((epoch, satellite, kind[1:]), [])
         if not any(is_of(kind, found, cell) for cell in cells):
@@ -63,7 +62,6 @@ def of_records(ours, stream, complain):
             if is_told and (epoch, satellite, kind + code) not in ours:
                 complain((epoch, satellite, kind + code), "not written, records",
                          [cell.value(kind) for cell in cells])
-    return len(ours)
 
 
 # Where files differ besides observed.CAUSES, and why. Each has a test in this file.
@@ -71,24 +69,18 @@ CAUSES = {
     "lost frame": "loses frames behind false heads, and epochs whose last frame is cut off: it has "
                   "them when it is handed the frames alone, the last of each epoch marked",
     "other message": "takes the last message of several that tell a signal in an epoch",
-    "last digit": "rounds another way: ours is not farther from the record's value",
     "uncertain phase": "leaves out phases of UBX whose deviation is above 0.02 cycles, and tells a "
                        "loss of lock there with the phase that comes next",
 }
 
 
-def cause_of_difference(kind, mine, theirs, cells):
+def cause_of_difference(kind, theirs, cells):
     """The name of a cause why values differ, or None."""
     for cell in cells:
         cause = observed.cause_of_value(cell, kind[0], theirs.value / 1000)
         if cause:
             return cause
     values = [cell.value(kind[0]) for cell in cells]
-    near = [value for value in values if is_rounded(value, mine.value)]
-    if near and abs(mine.value - theirs.value) == 1 and all(
-            abs(value * 1000 - mine.value) < abs(value * 1000 - theirs.value) + 1e-4
-            for value in near):
-        return "last digit"
     return "other message" if any(is_rounded(value, theirs.value) for value in values) else None
 
 
@@ -100,7 +92,7 @@ def cause_of_absence(key, cells, mine, alone):
     if key[2][0] == "L" and all(cell.is_uncertain() for cell in cells):
         return "uncertain phase"
     found = alone.get(key)
-    if found and (found.value == mine.value or cause_of_difference(key[2], mine, found, cells)):
+    if found and (found.value == mine.value or cause_of_difference(key[2], found, cells)):
         return "lost frame"
     return None
 
