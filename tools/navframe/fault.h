@@ -9,7 +9,13 @@ namespace navframe::tool {
 // Of an input: without the name of the program, with that of the file or the address.
 class Fault : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit Fault(const std::string& text, int error = 0)
+      : std::runtime_error(text), error_(error) {}
+  // The errno behind it; 0 for none.
+  int Error() const { return error_; }
+
+ private:
+  int error_;
 };
 // Of the output, behind which there is nothing left to do.
 class WriteFault : public std::runtime_error {

@@ -17,7 +17,7 @@ class FileSource : public Source {
     struct stat status {};
     if (fstat(file_.Number(), &status) != 0) throw CannotRead(name_, errno);
     if (S_ISDIR(status.st_mode)) {
-      throw Fault("cannot read " + name_ + ": a folder, whose files --recursive takes");
+      throw Fault("cannot read " + name_ + ": a folder, whose files --recursive takes", EISDIR);
     }
     isRegular_ = S_ISREG(status.st_mode);
     if (isRegular_) total_ = static_cast<std::uint64_t>(status.st_size);
