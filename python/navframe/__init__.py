@@ -147,7 +147,7 @@ class Stream(_navframe.Stream):
 
 def arrays(source: typing.Any, kinds: Names = None, *, protocols: Names = None,
            start: Start = None, legacy: bool = False,
-           masked: bool = False) -> dict[str, numpy.ndarray]:
+           masked: bool = False) -> dict[str, numpy.ndarray[typing.Any, typing.Any]]:
     """Decodes a source into one NumPy structured array for each kind of record and each list.
 
     The array of a kind ("OBSERVATIONS") has a row for each record: `time` (UTC), `offset` of its

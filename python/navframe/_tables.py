@@ -8,8 +8,11 @@ import numpy
 
 from . import arrays, unknown_values
 
+if typing.TYPE_CHECKING:
+    Table = numpy.ndarray[typing.Any, typing.Any]
 
-def _fill_mask(mask: numpy.ndarray, table: numpy.ndarray, unknown: dict[str, int],
+
+def _fill_mask(mask: Table, table: Table, unknown: dict[str, int],
                prefix: str = "") -> None:
     for name in table.dtype.names or ():
         values = table[name]
@@ -23,14 +26,15 @@ def _fill_mask(mask: numpy.ndarray, table: numpy.ndarray, unknown: dict[str, int
             mask[name] = values == values.dtype.type(unknown[f"{prefix}{name}"])
 
 
-def masked(name: str, table: numpy.ndarray) -> numpy.ma.MaskedArray:
+def masked(name: str, table: Table) -> typing.Any:
     """The array with what is not known masked."""
-    mask = numpy.zeros(table.shape, numpy.ma.make_mask_descr(table.dtype))
+    ma: typing.Any = numpy.ma
+    mask = numpy.zeros(table.shape, ma.make_mask_descr(table.dtype))
     _fill_mask(mask, table, unknown_values(name))
-    return numpy.ma.MaskedArray(table, mask)
+    return ma.MaskedArray(table, mask)
 
 
-def _columns(table: numpy.ndarray, unknown: dict[str, int],
+def _columns(table: Table, unknown: dict[str, int],
              prefix: str = "") -> typing.Iterator[tuple[str, typing.Any]]:
     import pandas
 

@@ -3,7 +3,7 @@
 #include <pybind11/numpy.h>
 
 #include <chrono>
-#include <cstdlib>
+#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -59,12 +59,16 @@ py::object FormatOf(const NavframeMember& member) {
 
 py::object TypeOf(Table& table) {
   Description description;
-  const bool isRecord = table.Columns() == Table::Front::Record;
-  const py::str time("M8[ms]");
-  const py::str row("i8");
-  description.Add(isRecord ? "time" : "record", isRecord ? time : row, 0);
-  description.Add(isRecord ? "offset" : "time", isRecord ? row : time, 8);
-  if (table.Columns() == Table::Front::InnerEntry) description.Add("entry", row, 16);
+  constexpr std::uint32_t BehindTime = 8;
+  description.Add("time", py::str("M8[ms]"), 0);
+  if (table.Columns() == Table::Front::Record) {
+    description.Add("offset", py::str("u8"), BehindTime);
+  } else {
+    description.Add("record", py::str("u4"), BehindTime);
+  }
+  if (table.Columns() == Table::Front::InnerEntry) {
+    description.Add("entry", py::str("u4"), BehindTime + 4);
+  }
   for (const Table::Field& field : table.Fields()) {
     const NavframeMember& member = *field.member;
     py::object format = FormatOf(member);
@@ -83,9 +87,17 @@ py::array ArrayOf(Table& table) {
   Rows& content = table.Content();
   const std::size_t count = content.Count();
   const std::size_t size = content.RowSize();
-  std::uint8_t* const rows = content.Release();
-  if (rows == nullptr) return py::array(type, std::vector<std::size_t>{0});
-  const py::capsule owner(rows, [](void* memory) { std::free(memory); });
+  auto memory = std::make_unique<Memory>();
+  *memory = content.Release();
+  if (count == 0) {
+    memory->Free();
+    return py::array(type, std::vector<std::size_t>{0});
+  }
+  std::uint8_t* const rows = memory->data;
+  const py::capsule owner(memory.release(), [](void* pointer) {
+    const std::unique_ptr<Memory> freed(static_cast<Memory*>(pointer));
+    freed->Free();
+  });
   return py::array(type, {count}, {size}, rows, owner);
 }
 

@@ -1,13 +1,10 @@
 #include "tables.h"
 
-#include <sys/mman.h>
-
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <new>
+#include <stdexcept>
 
 #include "values.h"
 
@@ -15,6 +12,7 @@ namespace navframe::python {
 namespace {
 
 constexpr std::uint32_t Word = 8;
+constexpr std::uint32_t IndexSize = sizeof(std::uint32_t);
 // Gaps up to this width are copied along.
 constexpr std::uint32_t WidestGap = 16;
 // Longer arrays of bytes are what a message carries, and no numbers.
@@ -36,6 +34,31 @@ std::uint32_t AlignedLike(std::uint32_t end, std::uint32_t offset) {
   return end + (offset - end) % Word;
 }
 
+template <std::size_t Width>
+void CopyFixed(std::uint8_t* to, const std::uint8_t* from) {
+  std::memcpy(to, from, Width);
+}
+
+// memcpy without a call for what most rows are made of: blocks, and one more that ends where the
+// bytes end.
+void Copy(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
+  constexpr std::size_t Block = 16;
+  constexpr std::size_t MostInBlocks = 16 * Block;
+  if (length > MostInBlocks) {
+    std::memcpy(to, from, length);
+  } else if (length >= Block) {
+    for (std::size_t at = 0; at + Block <= length; at += Block) {
+      CopyFixed<Block>(to + at, from + at);
+    }
+    CopyFixed<Block>(to + length - Block, from + length - Block);
+  } else if (length >= Block / 2) {
+    CopyFixed<Block / 2>(to, from);
+    CopyFixed<Block / 2>(to + length - Block / 2, from + length - Block / 2);
+  } else {
+    for (std::size_t at = 0; at < length; ++at) to[at] = from[at];
+  }
+}
+
 template <class Float>
 void MendFloat(const NavframeMember& member, std::uint8_t* at) {
   Float value;
@@ -45,11 +68,20 @@ void MendFloat(const NavframeMember& member, std::uint8_t* at) {
   std::memcpy(at, &value, sizeof value);
 }
 
+void ClearBehindNul(std::uint8_t* text, std::uint32_t width) {
+  bool isBehind = false;
+  for (std::uint32_t i = 0; i < width; ++i) {
+    isBehind = isBehind || text[i] == 0;
+    if (isBehind) text[i] = 0;
+  }
+}
+
 void MendElement(const NavframeMember& member, std::uint8_t* at) {
   if (member.type == NavframeF32) return MendFloat<float>(member, at);
   if (member.type == NavframeF64) return MendFloat<double>(member, at);
-  const std::size_t length = TextAt(member, at).size();
   const TextPlace place = TextPlaceOf(member);
+  if (place.width <= Word) return ClearBehindNul(at, place.width);
+  const std::size_t length = TextAt(member, at).size();
   std::memset(at + place.offset + length, 0, place.width - length);
 }
 
@@ -60,33 +92,6 @@ bool IsMended(const NavframeMember& member) {
 
 }  // namespace
 
-Rows::~Rows() { std::free(data_); }
-
-void Rows::Grow() {
-  constexpr std::size_t First = 4096;
-  constexpr std::size_t Huge = std::size_t{1} << 21;
-  const std::size_t room = std::max(2 * room_, First / rowSize_ + 1);
-  auto* const grown = static_cast<std::uint8_t*>(std::realloc(data_, room * rowSize_));
-  if (grown == nullptr) throw std::bad_alloc();
-  data_ = grown;
-  room_ = room;
-  // New memory comes in few large pages then, which takes a third of the time.
-  const std::size_t bytes = room * rowSize_;
-  if (bytes < 4 * Huge) return;
-  const auto begin = (reinterpret_cast<std::uintptr_t>(data_) + Huge - 1) / Huge * Huge;
-  const auto end = (reinterpret_cast<std::uintptr_t>(data_) + bytes) / Huge * Huge;
-  madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
-}
-
-std::uint8_t* Rows::Release() {
-  if (count_ == 0) return nullptr;
-  auto* const fitting = static_cast<std::uint8_t*>(std::realloc(data_, count_ * rowSize_));
-  std::uint8_t* const rows = fitting != nullptr ? fitting : data_;
-  data_ = nullptr;
-  count_ = room_ = 0;
-  return rows;
-}
-
 Table::Table(const NavframeKind& kind, TableList& all)
     : name_(kind.name), record_(kind.record), front_(Front::Record), end_(2 * Word) {
   PlaceMembers(all);
@@ -96,12 +101,12 @@ Table::Table(const Table& outer, const NavframeMember& list, TableList& all)
     : name_(outer.name_ + "." + list.name),
       record_(list.record),
       front_(outer.front_ == Front::Record ? Front::Entry : Front::InnerEntry),
-      end_(front_ == Front::Entry ? 2 * Word : 3 * Word) {
+      end_(front_ == Front::Entry ? Word + IndexSize : Word + 2 * IndexSize) {
   if (record_ != nullptr) {
     PlaceMembers(all);
   } else {
     Place(list, 0, true);
-    rows_.SetRowSize(AlignedLike(end_, 0));
+    SetRowSize();
   }
 }
 
@@ -118,7 +123,11 @@ void Table::PlaceMembers(TableList& all) {
     all[place].reset(new Table(*this, member, all));
     lists_.push_back({&member, all[place].get()});
   }
-  rows_.SetRowSize(AlignedLike(end_, 0));
+  SetRowSize();
+}
+
+void Table::SetRowSize() {
+  rows_.SetRowSize(std::max<std::size_t>(AlignedLike(end_, 0), sizeof(Prefix)));
 }
 
 void Table::Place(const NavframeMember& member, std::uint32_t from, bool isElement) {
@@ -151,29 +160,35 @@ void Table::NoteMendings(const NavframeMember& member, std::uint32_t offset, boo
 }
 
 void Table::Add(const NavframeItem& item) {
-  AddRow(static_cast<const std::uint8_t*>(item.record),
-         {UnixMilliseconds(item.time), static_cast<std::int64_t>(item.offset), 0});
+  Prefix prefix = {UnixMilliseconds(item.time), {}};
+  std::memcpy(prefix.rest.data(), &item.offset, sizeof item.offset);
+  AddRows(static_cast<const std::uint8_t*>(item.record), 1, 0, prefix);
 }
 
-// `prefix` is what stands in front: of a record its time and offset, of entries the row of the
-// record, its time, and the row of the entry around.
-void Table::AddRow(const std::uint8_t* data, const Prefix& prefix) {
-  const auto number = static_cast<std::int64_t>(rows_.Count());
-  std::uint8_t* const row = rows_.Add();
-  std::memcpy(row, prefix.data(), (front_ == Front::InnerEntry ? 3 : 2) * Word);
-  for (const Segment& segment : segments_) {
-    std::memcpy(row + segment.to, data + segment.from, segment.length);
-  }
-  for (const Mending& mending : mendings_) MendElement(*mending.member, row + mending.offset);
-  const bool isRecord = front_ == Front::Record;
-  const Prefix inside =
-      isRecord ? Prefix{number, prefix[0], 0} : Prefix{prefix[0], prefix[1], number};
-  for (const List& list : lists_) {
-    const std::uint32_t count = navframe_length(record_, list.member, data);
-    const std::uint8_t* at = data + list.member->offset;
-    for (std::uint32_t i = 0; i < count; ++i, at += list.member->size) {
-      list.table->AddRow(at, inside);
+void Table::AddRows(const std::uint8_t* data, std::size_t count, std::size_t stride,
+                    const Prefix& prefix) {
+  std::size_t number = rows_.Count();
+  const std::size_t rowSize = rows_.RowSize();
+  std::uint8_t* row = rows_.Add(count);
+  for (std::size_t i = 0; i < count; ++i, ++number, row += rowSize, data += stride) {
+    std::memcpy(row, &prefix, sizeof prefix);  // the members of some entries begin inside
+    for (const Segment& segment : segments_) {
+      Copy(row + segment.to, data + segment.from, segment.length);
     }
+    for (const Mending& mending : mendings_) MendElement(*mending.member, row + mending.offset);
+    if (!lists_.empty()) AddEntries(data, number, prefix);
+  }
+}
+
+void Table::AddEntries(const std::uint8_t* data, std::size_t row, const Prefix& prefix) {
+  if (row > std::numeric_limits<std::uint32_t>::max()) {
+    throw std::length_error("more than 4294967296 rows of " + name_);
+  }
+  Prefix inside = prefix;
+  inside.rest[front_ == Front::Record ? 0 : 1] = static_cast<std::uint32_t>(row);
+  for (const List& list : lists_) {
+    list.table->AddRows(data + list.member->offset, navframe_length(record_, list.member, data),
+                        list.member->size, inside);
   }
 }
 

@@ -12,37 +12,9 @@
 #include <vector>
 
 #include "navframe/stream.h"
+#include "rows.h"
 
 namespace navframe::python {
-
-// Rows one behind the other, which grow where they lie.
-class Rows {
- public:
-  Rows() = default;
-  ~Rows();
-  Rows(const Rows&) = delete;
-  Rows& operator=(const Rows&) = delete;
-
-  // Before the first row.
-  void SetRowSize(std::size_t bytes) { rowSize_ = bytes; }
-  // A row more, not yet written; good until the next call. Throws std::bad_alloc.
-  std::uint8_t* Add() {
-    if (count_ == room_) Grow();
-    return data_ + rowSize_ * count_++;
-  }
-  std::size_t Count() const { return count_; }
-  std::size_t RowSize() const { return rowSize_; }
-  // The rows, now the caller's to free; null when there are none.
-  std::uint8_t* Release();
-
- private:
-  void Grow();
-
-  std::size_t rowSize_ = 0;
-  std::size_t count_ = 0;
-  std::size_t room_ = 0;
-  std::uint8_t* data_ = nullptr;
-};
 
 // Tables own the tables of their lists; all of them in the order in which they are handed out.
 class Table;
@@ -51,7 +23,7 @@ using TableList = std::vector<std::unique_ptr<Table>>;
 // The rows of a kind or of a list, and how they are written.
 class Table {
  public:
-  // What stands in front of the members: 8 bytes each.
+  // What the rows are, which tells what stands in front of their members.
   enum class Front { Record, Entry, InnerEntry };
 
   // A member's place in the rows. `isElement`: one element of a list that has no records, which is
@@ -89,13 +61,21 @@ class Table {
     const NavframeMember* member;
     Table* table;
   };
-  using Prefix = std::array<std::int64_t, 3>;
+  // What stands in front of the members: the time, and of a record its offset; of an entry the row
+  // of its record, and that of the entry around.
+  struct Prefix {
+    std::int64_t time;
+    std::array<std::uint32_t, 2> rest;
+  };
 
   Table(const Table& outer, const NavframeMember& list, TableList& all);
+  void SetRowSize();
   void PlaceMembers(TableList& all);
   void Place(const NavframeMember& member, std::uint32_t from, bool isElement);
   void NoteMendings(const NavframeMember& member, std::uint32_t offset, bool isElement);
-  void AddRow(const std::uint8_t* data, const Prefix& prefix);
+  void AddRows(const std::uint8_t* data, std::size_t count, std::size_t stride,
+               const Prefix& prefix);
+  void AddEntries(const std::uint8_t* data, std::size_t row, const Prefix& prefix);
 
   std::string name_;
   const NavframeRecord* record_;  // null of a list without records
