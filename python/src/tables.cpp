@@ -120,8 +120,9 @@ void Table::PlaceMembers(TableList& all) {
     }
     const std::size_t place = all.size();
     all.emplace_back();
-    all[place].reset(new Table(*this, member, all));
-    lists_.push_back({&member, all[place].get()});
+    std::unique_ptr<Table> table(new Table(*this, member, all));  // which adds its own lists
+    lists_.push_back({&member, table.get()});
+    all[place] = std::move(table);
   }
   SetRowSize();
 }
@@ -202,8 +203,9 @@ Table& Tables::OfKind(const NavframeKind& kind) {
   if (table == nullptr) {
     const std::size_t place = all_.size();
     all_.emplace_back();
-    all_[place] = std::make_unique<Table>(kind, all_);
-    table = all_[place].get();
+    auto made = std::make_unique<Table>(kind, all_);
+    table = made.get();
+    all_[place] = std::move(made);
   }
   return *table;
 }
