@@ -19,6 +19,19 @@ build_packages=(
   "pkg-config:command pkg-config"
   "libcurl4-openssl-dev:header curl/curl.h"
 )
+# The Python package and its tests; for Debian's own interpreter.
+python_packages=(
+  "python3-dev:python_headers"
+  "pybind11-dev:file /usr/include/pybind11/pybind11.h"
+  "python3-setuptools:python_module setuptools"
+  "python3-wheel:python_module wheel"
+  "python3-pip:python_module pip"
+  "python3-pytest:python_module pytest"
+  "python3-numpy:python_module numpy"
+  "python3-pandas:python_module pandas"
+  "mypy:python_module mypy"
+  "zstd:command zstd"
+)
 # What scripts/run shows of the sample, and the README of that.
 sample_options="--first 5 --kinds GGA,RMC,GSV,NAV-PVT,OBSERVATIONS,STATION-ARP --fields fixQuality,fixType,latitude,longitude,altitude,height,speedKnots,course,satellite,number,elevation,code,pseudorange,carrierPhase,cn0,x,y,z"
 readonly sample_options
@@ -43,6 +56,15 @@ have_header() {
   have_command "${CXX:-g++}" &&
     printf '#if !__has_include(<%s>)\n#error missing\n#endif\n' "$1" |
     "${CXX:-g++}" -E -x c++ - >/dev/null 2>&1
+}
+
+have_file() { [[ -e $1 ]]; }
+
+have_python_module() { /usr/bin/python3 -c "import $1" 2>/dev/null; }
+
+have_python_headers() {
+  /usr/bin/python3 -c 'import os, sysconfig
+os.stat(os.path.join(sysconfig.get_path("include"), "Python.h"))' 2>/dev/null
 }
 
 have_cmake_at_least() {

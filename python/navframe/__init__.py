@@ -2,7 +2,7 @@
 
     import navframe
 
-    for record in navframe.read("drive.ubx", kinds="fix"):
+    for record in navframe.read("drive.ubx", kinds="GGA"):
         print(record.time.utc, record.latitude, record.longitude)
 
     tables = navframe.arrays("drive.ubx.gz")
@@ -131,7 +131,7 @@ def read(source: typing.Any, kinds: Names = None, *, protocols: Names = None, it
 class Stream(_navframe.Stream):
     """What one receiver sends, fed in pieces of any size as they come.
 
-        with navframe.Stream(kinds="fix") as stream:
+        with navframe.Stream(kinds="GGA") as stream:
             for piece in pieces:
                 for record in stream.feed(piece):
                     ...

@@ -59,6 +59,7 @@ void Memory::Grow(std::size_t wanted) {
   if (!IsMapped(wanted)) {
     auto* const grown = static_cast<std::uint8_t*>(std::realloc(data, wanted));
     if (grown == nullptr) throw std::bad_alloc();
+    std::memset(grown + size, 0, wanted - size);
     data = grown;
   } else if (wanted = RoundedUp(wanted); IsMapped(size)) {
     data = Moved(data, size, wanted);

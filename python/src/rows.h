@@ -6,8 +6,8 @@
 
 namespace navframe::python {
 
-// Memory that is had by malloc while it is small, and behind that by pages that are large and move
-// without being copied: writing it the first time takes a third of the time.
+// Memory of zeros. It is had by malloc while it is small, and behind that by large pages, which
+// move without being copied: writing them the first time takes a third of the time.
 struct Memory {
   std::uint8_t* data = nullptr;
   std::size_t size = 0;
@@ -28,7 +28,7 @@ class Rows {
 
   // Before the first row.
   void SetRowSize(std::size_t bytes) { rowSize_ = bytes; }
-  // Rows more, not yet written; good until the next call. Throws std::bad_alloc.
+  // Rows more, all 0; good until the next call. Throws std::bad_alloc.
   std::uint8_t* Add(std::size_t count) {
     if (room_ - count_ < count) Grow(count);
     std::uint8_t* const rows = memory_.data + rowSize_ * count_;

@@ -83,6 +83,7 @@ void MendElement(const NavframeMember& member, std::uint8_t* at) {
   if (place.width <= Word) return ClearBehindNul(at, place.width);
   const std::size_t length = TextAt(member, at).size();
   std::memset(at + place.offset + length, 0, place.width - length);
+  std::memset(at, 0, place.offset);  // an address
 }
 
 bool IsMended(const NavframeMember& member) {
@@ -185,8 +186,9 @@ void Table::AddEntries(const std::uint8_t* data, std::size_t row, const Prefix& 
   if (row > std::numeric_limits<std::uint32_t>::max()) {
     throw std::length_error("more than 4294967296 rows of " + name_);
   }
-  Prefix inside = prefix;
-  inside.rest[front_ == Front::Record ? 0 : 1] = static_cast<std::uint32_t>(row);
+  const auto number = static_cast<std::uint32_t>(row);
+  const bool isRecord = front_ == Front::Record;
+  const Prefix inside = {prefix.time, {isRecord ? number : prefix.rest[0], isRecord ? 0 : number}};
   for (const List& list : lists_) {
     list.table->AddRows(data + list.member->offset, navframe_length(record_, list.member, data),
                         list.member->size, inside);

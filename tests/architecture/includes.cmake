@@ -57,10 +57,11 @@ foreach(source IN LISTS sources)
   endforeach()
 endforeach()
 
-# The public headers stand on nothing but themselves and the standard library; tools and examples
-# on the public headers. Their own headers are included without a folder.
+# The public headers stand on nothing but themselves and the standard library; tools, the Python
+# package and examples on the public headers. Their own headers are included without a folder.
 file(GLOB_RECURSE outsiders RELATIVE "${ROOT}" "${ROOT}/include/*" "${ROOT}/tools/*.h"
-     "${ROOT}/tools/*.cpp" "${ROOT}/examples/*.h" "${ROOT}/examples/*.c" "${ROOT}/examples/*.cpp")
+     "${ROOT}/tools/*.cpp" "${ROOT}/python/src/*.h" "${ROOT}/python/src/*.cpp"
+     "${ROOT}/examples/*.h" "${ROOT}/examples/*.c" "${ROOT}/examples/*.cpp")
 foreach(outsider IN LISTS outsiders)
   included_by("${ROOT}/${outsider}" paths)
   foreach(path IN LISTS paths)
