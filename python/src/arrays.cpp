@@ -121,7 +121,7 @@ class Collecting {
   }
 
  private:
-  static constexpr std::size_t ChunkLength = std::size_t{1} << 17;
+  static constexpr std::size_t ChunkLength = std::size_t{1} << 15;
   static constexpr std::chrono::milliseconds While{50};
 
   // False behind the end.

@@ -11,12 +11,17 @@
 namespace navframe::python {
 namespace {
 
+constexpr std::size_t Page = std::size_t{1} << 16;  // a multiple of what any system has
 constexpr std::size_t HugePage = std::size_t{1} << 21;
-constexpr std::size_t FirstMapped = 2 * HugePage;
+constexpr std::size_t FirstMapped = 2 * Page;
+constexpr std::size_t FirstHuge = 2 * HugePage;
 
 constexpr bool IsMapped(std::size_t size) { return size >= FirstMapped; }
-constexpr std::size_t RoundedUp(std::size_t size) {
-  return (size + HugePage - 1) / HugePage * HugePage;
+constexpr std::size_t RoundedUp(std::size_t size, std::size_t unit) {
+  return (size + unit - 1) / unit * unit;
+}
+constexpr std::size_t InPages(std::size_t size) {
+  return RoundedUp(size, size < FirstHuge ? Page : HugePage);
 }
 
 // Addresses of their own for so many bytes, from a multiple of a huge page on.
@@ -26,8 +31,8 @@ std::uint8_t* Reserve(std::size_t size) {
       mmap(nullptr, wide, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
   if (all == MAP_FAILED) throw std::bad_alloc();
   auto* const begin = static_cast<std::uint8_t*>(all);
-  const std::size_t before =
-      RoundedUp(reinterpret_cast<std::uintptr_t>(all)) - reinterpret_cast<std::uintptr_t>(all);
+  const auto address = reinterpret_cast<std::uintptr_t>(all);
+  const std::size_t before = RoundedUp(address, HugePage) - address;
   if (before != 0) munmap(begin, before);
   if (before != HugePage) munmap(begin + before + size, HugePage - before);
   return begin + before;
@@ -39,7 +44,6 @@ std::uint8_t* Mapped(std::size_t size) {
     munmap(place, size);
     throw std::bad_alloc();
   }
-  madvise(place, size, MADV_HUGEPAGE);
   return place;
 }
 
@@ -61,7 +65,7 @@ void Memory::Grow(std::size_t wanted) {
     if (grown == nullptr) throw std::bad_alloc();
     std::memset(grown + size, 0, wanted - size);
     data = grown;
-  } else if (wanted = RoundedUp(wanted); IsMapped(size)) {
+  } else if (wanted = InPages(wanted); IsMapped(size)) {
     data = Moved(data, size, wanted);
   } else {
     std::uint8_t* const mapped = Mapped(wanted);
@@ -69,11 +73,12 @@ void Memory::Grow(std::size_t wanted) {
     std::free(std::exchange(data, mapped));
   }
   size = wanted;
+  if (size >= FirstHuge) madvise(data, size, MADV_HUGEPAGE);
 }
 
 void Memory::Trim(std::size_t used) noexcept {
   if (!IsMapped(size)) return;
-  const std::size_t kept = std::max(RoundedUp(used), FirstMapped);
+  const std::size_t kept = std::max(RoundedUp(used, Page), FirstMapped);
   if (kept < size) munmap(data + kept, size - kept);
   size = std::min(size, kept);
 }

@@ -1,6 +1,8 @@
 #include "streams.h"
 
+#include <algorithm>
 #include <new>
+#include <span>
 #include <stdexcept>
 #include <utility>
 
@@ -11,6 +13,8 @@ namespace py = pybind11;
 
 namespace navframe::python {
 namespace {
+
+constexpr const char* ClosedText = "the stream is closed";
 
 PyObject* MakeItem(RecordTypes& types, const Waiting& waiting) {
   if (waiting.item.type != NavframeItemRecord) return MakePart(waiting).release().ptr();
@@ -118,7 +122,7 @@ void Reader::Close() {
 }
 
 Decoder& LiveStream::Opened() {
-  if (!decoder_) throw py::value_error("the stream is closed");
+  if (!decoder_) throw py::value_error(ClosedText);
   return *decoder_;
 }
 
@@ -131,11 +135,22 @@ auto LiveStream::InTurn(Work&& work) {
 }
 
 void LiveStream::Feed(const py::object& bytes) {
+  if (IsClosed()) throw py::value_error(ClosedText);
   if (PyObject_CheckBuffer(bytes.ptr()) == 0) {
     throw py::type_error(std::string("expected bytes, not ") + Py_TYPE(bytes.ptr())->tp_name);
   }
   const Buffer buffer(bytes.ptr());
-  InTurn([&buffer](Decoder& decoder) { decoder.Take({buffer.Data(), buffer.Length()}); });
+  const std::span<const std::uint8_t> all(buffer.Data(), buffer.Length());
+  const Turn turn(turns_);
+  for (std::size_t at = 0; at < all.size(); at += FeedLength) {
+    Decoder& decoder = Opened();
+    const auto piece = all.subspan(at, std::min(FeedLength, all.size() - at));
+    {
+      const py::gil_scoped_release withoutPython;
+      decoder.Take(piece);
+    }
+    if (PyErr_CheckSignals() != 0) throw py::error_already_set();
+  }
 }
 void LiveStream::Flush() {
   InTurn([](Decoder& decoder) { decoder.Flush(); });

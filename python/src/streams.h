@@ -44,7 +44,8 @@ class LiveStream {
  public:
   LiveStream(RecordTypes& types, const Options& options) : types_(types), decoder_(options) {}
 
-  // What comes out waits for Next. All but Close throw a ValueError once it is closed.
+  // What comes out waits for Next. All but Close throw a ValueError once it is closed. A signal may
+  // end Feed between pieces of its bytes.
   void Feed(const pybind11::object& bytes);
   void Flush();
   void Idle();
@@ -56,6 +57,8 @@ class LiveStream {
   bool IsClosed();
 
  private:
+  static constexpr std::size_t FeedLength = std::size_t{1} << 22;
+
   // Works on the decoder in turn, without the GIL.
   template <class Work>
   auto InTurn(Work&& work);

@@ -68,19 +68,20 @@ void MendFloat(const NavframeMember& member, std::uint8_t* at) {
   std::memcpy(at, &value, sizeof value);
 }
 
-void ClearBehindNul(std::uint8_t* text, std::uint32_t width) {
-  bool isBehind = false;
-  for (std::uint32_t i = 0; i < width; ++i) {
-    isBehind = isBehind || text[i] == 0;
-    if (isBehind) text[i] = 0;
+// Of a text of four bytes, as each observation has one.
+void ClearBehindNul(std::uint8_t* text) {
+  bool isText = true;
+  for (int i = 0; i < 4; ++i) {
+    isText = isText && text[i] != 0;
+    text[i] = isText ? text[i] : 0;
   }
 }
 
-void MendElement(const NavframeMember& member, std::uint8_t* at) {
+inline void MendElement(const NavframeMember& member, std::uint8_t* at) {
   if (member.type == NavframeF32) return MendFloat<float>(member, at);
   if (member.type == NavframeF64) return MendFloat<double>(member, at);
   const TextPlace place = TextPlaceOf(member);
-  if (place.width <= Word) return ClearBehindNul(at, place.width);
+  if (place.width == sizeof(std::uint32_t)) return ClearBehindNul(at);
   const std::size_t length = TextAt(member, at).size();
   std::memset(at + place.offset + length, 0, place.width - length);
   std::memset(at, 0, place.offset);  // an address

@@ -205,7 +205,8 @@ def interrupt(*_):
     lambda: navframe.arrays(itertools.repeat(DATA), kinds="ACK"),
     lambda: next(navframe.read("/dev/zero")),
     lambda: list(navframe.read(itertools.repeat(DATA), kinds="ACK")),
-], ids=["zeros", "endless", "records of zeros", "no records"])
+    lambda: navframe.Stream(kinds="ACK").feed(DATA * 28000),
+], ids=["zeros", "endless", "records of zeros", "no records", "gigabytes at once"])
 def test_interrupts(work):
     handler = signal.signal(signal.SIGALRM, interrupt)
     signal.setitimer(signal.ITIMER_REAL, 0.2)

@@ -69,6 +69,18 @@ def in_threads(works):
     return results
 
 
+def test_others_run_meanwhile():
+    """Python goes on in another thread while bytes are decoded."""
+    stream = navframe.Stream(kinds="ACK")
+    data = DATA * 8000
+    thread = threading.Thread(target=lambda: stream.feed(data))
+    thread.start()
+    turns = 0
+    while thread.is_alive():
+        turns += 1
+    assert turns > 1000
+
+
 def test_a_stream_a_thread():
     inputs = [path.read_bytes() for path in streams()]
     inputs = [inputs[i % len(inputs)] for i in range(8)]

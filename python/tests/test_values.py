@@ -2,6 +2,7 @@
 
 import json
 import math
+import sys
 
 import numpy
 import pytest
@@ -127,6 +128,7 @@ def test_attributes_are_the_members():
     """Every type, by its documentation, and every record of the sample, by its values."""
     for name in navframe.records.__all__:
         assert getattr(navframe.records, name).__doc__, name
+    assert navframe.records.GgaRecord.latitude.__doc__.startswith("[deg] north positive")
     for record in navframe.read(SAMPLE):
         for name, value in record.asdict().items():
             got = getattr(record, name + "_" * (name in ("kind", "time", "offset")))
@@ -145,6 +147,12 @@ def test_names_of_values():
         record.value_name("nothing")
 
 
+def test_frames_without_pandas(monkeypatch):
+    monkeypatch.setitem(sys.modules, "pandas", None)
+    with pytest.raises(ImportError, match="navframe.arrays does without"):
+        navframe.frame(SAMPLE, "GGA")
+
+
 def test_frames():
     pandas = pytest.importorskip("pandas")
     table = navframe.arrays(SAMPLE)["OBSERVATIONS.observations"]
@@ -154,3 +162,5 @@ def test_frames():
     assert frame["code"].iloc[0] == "1C"
     assert frame["channel"].isna().sum() == (table["channel"] == -128).sum() > 0
     assert navframe.frame(SAMPLE, "GGA")["utc.hour"].iloc[0] == 12
+    with pytest.raises(ValueError, match="OBSERVATIONS.observations"):
+        navframe.frame(SAMPLE, "OBSERVATIONS.observation")

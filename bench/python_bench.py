@@ -1,0 +1,66 @@
+"""What Python adds to decoding: python_bench.py DECODE_FILE ROUNDS STREAM...
+
+Each stream is decoded in turns by the library alone (the program decode_file), into arrays, and
+record by record, all from memory. Prints medians, with quartiles, by processor time, the kernel's
+with it: what else the machine does concerns the turns of a round alike.
+"""
+
+import resource
+import statistics
+import subprocess
+import sys
+from pathlib import Path
+
+import navframe
+
+
+def processor_time(work):
+    begin = resource.getrusage(resource.RUSAGE_SELF)
+    work()
+    end = resource.getrusage(resource.RUSAGE_SELF)
+    return end.ru_utime - begin.ru_utime + end.ru_stime - begin.ru_stime
+
+
+def count(data):
+    records = 0
+    for _ in navframe.read(data):
+        records += 1
+    return records
+
+
+def shown(ratios):
+    low, middle, high = statistics.quantiles(ratios, n=4)
+    return f"{middle:.2f} ({low:.2f}-{high:.2f})"
+
+
+def measure(decode_file, rounds, path):
+    data = path.read_bytes()
+    megabytes = len(data) / 1e6
+    alone, arrays, records = [], [], []
+    with subprocess.Popen([decode_file, path], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                          text=True) as other:
+        for _ in range(rounds + 1):
+            other.stdin.write("\n")
+            other.stdin.flush()
+            took, found = other.stdout.readline().split()
+            alone.append(float(took))
+            arrays.append(processor_time(lambda: navframe.arrays(data)))
+            records.append(processor_time(lambda: count(data)))
+        other.stdin.close()
+    alone, arrays, records = alone[1:], arrays[1:], records[1:]  # the first ones warm up
+    print(f"| {path.name} | {megabytes / min(alone):.0f} | {megabytes / min(arrays):.0f} "
+          f"| {shown([a / b for a, b in zip(alone, arrays)])} | {megabytes / min(records):.0f} "
+          f"| {int(found) / min(records) / 1e6:.2f} "
+          f"| {shown([a / b for a, b in zip(alone, records)])} |", flush=True)
+
+
+def main(decode_file, rounds, *paths):
+    print("| stream | library MB/s | arrays MB/s | to the library | records MB/s | M records/s "
+          "| to the library |")
+    print("| --- | --: | --: | --: | --: | --: | --: |")
+    for path in paths:
+        measure(decode_file, int(rounds), Path(path))
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
