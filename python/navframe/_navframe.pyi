@@ -1,9 +1,10 @@
 import datetime
-from typing import Any
+from typing import Any, TypeVar
 
 import numpy
 
 version: str
+_T = TypeVar("_T")
 
 class DamagedFile(OSError):
     """What is compressed cannot be decompressed; the message has the name and the place."""
@@ -25,6 +26,8 @@ class Time:
 class _View:
     def asdict(self) -> dict[str, Any]: "every member by its name in the catalogue"
     def value_name(self, member: str, /) -> str | None: "what the value of a member stands for"
+    def __copy__(self: _T) -> _T: ...
+    def __deepcopy__(self: _T, memo: Any, /) -> _T: ...
 
 class Entry(_View):
     """A record inside another one."""

@@ -210,7 +210,12 @@ PyObject* EntryRepr(PyObject* self) {
   return text;
 }
 
+// Nothing about a record changes: it is its own copy.
+PyObject* Itself(PyObject* self, PyObject*) { return Py_NewRef(self); }
+
 PyMethodDef Methods[] = {
+    {"__copy__", Itself, METH_NOARGS, nullptr},
+    {"__deepcopy__", Itself, METH_O, nullptr},
     {"asdict", AsDict, METH_NOARGS,
      "asdict($self, /)\n--\n\nEvery member by its name in the catalogue, records inside and lists "
      "as dicts and lists."},
@@ -343,10 +348,11 @@ const Layout& RecordTypes::LayoutOf(const NavframeRecord& record) {
   layout->getters.push_back({nullptr, nullptr, nullptr, nullptr, nullptr});
   const std::string name = std::string("navframe.records.") + record.name;
   std::string documentation = Documentation(record);
-  layout->type =
-      NewType(name.c_str(), 0, 0, 0,
-              {{Py_tp_doc, documentation.data()}, {Py_tp_getset, layout->getters.data()}},
-              IsPayload(record) ? recordBase_ : entryBase_);
+  layout->type = NewType(name.c_str(), 0, 0, 0,
+                         {{Py_tp_doc, documentation.data()},
+                          {Py_tp_getset, layout->getters.data()},
+                          {Py_tp_dealloc, Slot(FreeView)}},
+                         IsPayload(record) ? recordBase_ : entryBase_);
   place = std::move(layout);
   return *place;
 }
@@ -355,7 +361,7 @@ PyObject* RecordTypes::Make(const Waiting& waiting) {
   const NavframeItem& item = waiting.item;
   if (item.kind != last_.kind) last_ = {item.kind, &LayoutOf(*item.kind->record)};
   PyTypeObject* const type = last_.layout->type;
-  const auto room = static_cast<Py_ssize_t>(waiting.dataLength + waiting.tagLength);
+  const auto room = Py_ssize_t{waiting.dataLength} + Py_ssize_t{waiting.tagLength};
   PyObject* const self = PyObject_NewVar(PyObject, type, room);
   if (self == nullptr) return nullptr;
   Record& record = *RecordOf(self);

@@ -1,5 +1,6 @@
 """Streams that are fed, in threads, and what stays behind of them."""
 
+import copy
 import gc
 import os
 import threading
@@ -120,6 +121,7 @@ def test_records_outlive_their_stream():
     stream.close()
     del stream
     assert [record.asdict() for record in records] == wanted
+    assert copy.deepcopy(records) == records  # each is its own copy
     del records
     for satellites, record in zip(inner, wanted):
         if isinstance(satellites, list):
