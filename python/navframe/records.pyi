@@ -1,6 +1,9 @@
 # Types of navframe.records. Made by scripts/catalogue from the public headers: do not edit.
+from typing import final
+
 from ._navframe import Entry, Record
 
+@final
 class UTCTIME(Entry):
     @property
     def year(self) -> int | None: "four digits"
@@ -19,12 +22,14 @@ class UTCTIME(Entry):
     @property
     def flag(self) -> int: "the message's time field was read"
 
+@final
 class GPSTIME(Entry):
     @property
     def tow(self) -> int | None: "[ms] time of week"
     @property
     def week(self) -> int | None: "weeks since 1980-01-06, never rolled over"
 
+@final
 class GgaRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -53,6 +58,7 @@ class GgaRecord(Record):
     @property
     def stationId(self) -> int | None: "differential reference station"
 
+@final
 class RmcRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -77,6 +83,7 @@ class RmcRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
 
+@final
 class GsaRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -101,12 +108,14 @@ class GsaRecord(Record):
     @property
     def usedSatellites(self) -> list[int | None]: "satellite numbers"
 
+@final
 class SatelliteSignal(Entry):
     @property
     def signalId(self) -> int | None: "NMEA signal id, 0 when the sentence has none"
     @property
     def cn0(self) -> int | None: "[dB-Hz] carrier-to-noise density, integer part"
 
+@final
 class SatelliteInView(Entry):
     @property
     def number(self) -> int | None: "satellite number"
@@ -123,6 +132,7 @@ class SatelliteInView(Entry):
     @property
     def signals(self) -> list[SatelliteSignal]: "signals in the order of their sentences"
 
+@final
 class GsvRecord(Record):
     @property
     def tag(self) -> int: "the sentences stood behind tag blocks, which is never the case"
@@ -137,12 +147,14 @@ class GsvRecord(Record):
     @property
     def satellites(self) -> list[SatelliteInView]: "numbered ones in order of appearance, then unnumbered ones"
 
+@final
 class WideSatelliteSignal(Entry):
     @property
     def signalId(self) -> int | None: "NMEA signal id, 0 when the sentence has none"
     @property
     def cn0(self) -> int | None: "[0.01 dB-Hz] carrier-to-noise density"
 
+@final
 class WideSatelliteInView(Entry):
     @property
     def number(self) -> int | None: "satellite number"
@@ -159,6 +171,7 @@ class WideSatelliteInView(Entry):
     @property
     def signals(self) -> list[WideSatelliteSignal]: "signals in the order of their sentences"
 
+@final
 class WideGsvRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the cycle's sentences arrived"
@@ -169,6 +182,7 @@ class WideGsvRecord(Record):
     @property
     def satellites(self) -> list[WideSatelliteInView]: "satellites in order of appearance"
 
+@final
 class GllRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -187,6 +201,7 @@ class GllRecord(Record):
     @property
     def mode(self) -> int | None: "positioning mode"
 
+@final
 class GstRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -211,6 +226,7 @@ class GstRecord(Record):
     @property
     def altitudeDeviation(self) -> float | None: "[m] standard deviation of the altitude"
 
+@final
 class GbsRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -237,6 +253,7 @@ class GbsRecord(Record):
     @property
     def signalId(self) -> int | None: "NMEA signal id, as in GNSSSigIdToName"
 
+@final
 class VtgRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -255,6 +272,7 @@ class VtgRecord(Record):
     @property
     def mode(self) -> int | None: "positioning mode"
 
+@final
 class ZdaRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -269,6 +287,7 @@ class ZdaRecord(Record):
     @property
     def zoneMinutes(self) -> int | None: "[min] local zone"
 
+@final
 class WideRmcRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -295,6 +314,7 @@ class WideRmcRecord(Record):
     @property
     def magneticVariation(self) -> float | None: "[deg] of magnetic north from true north, east positive"
 
+@final
 class WideGsaRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -317,6 +337,7 @@ class WideGsaRecord(Record):
     @property
     def usedSatellites(self) -> list[int | None]: "satellite numbers"
 
+@final
 class WideGbsRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -343,6 +364,7 @@ class WideGbsRecord(Record):
     @property
     def biasDeviation(self) -> float | None: "[m] standard deviation of the bias"
 
+@final
 class WideZdaRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -355,6 +377,7 @@ class WideZdaRecord(Record):
     @property
     def zoneMinutes(self) -> int | None: "[min] local zone"
 
+@final
 class GnsRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -387,6 +410,7 @@ class GnsRecord(Record):
     @property
     def modes(self) -> list[int | None]: "positioning mode of GPS, GLONASS, Galileo, BeiDou, QZSS and NavIC, in this order"
 
+@final
 class ThsRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -399,6 +423,7 @@ class ThsRecord(Record):
     @property
     def heading(self) -> float | None: "[deg] from true north"
 
+@final
 class HdtRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -409,6 +434,7 @@ class HdtRecord(Record):
     @property
     def heading(self) -> float | None: "[deg] from true north"
 
+@final
 class RotRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -421,6 +447,7 @@ class RotRecord(Record):
     @property
     def rate(self) -> float | None: "[deg/min] negative when the bow turns to port"
 
+@final
 class TextRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -439,6 +466,7 @@ class TextRecord(Record):
     @property
     def text(self) -> str | None: "ISO 8859-1; characters that were sent as ^ and two digits are decoded"
 
+@final
 class DtmRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -459,6 +487,7 @@ class DtmRecord(Record):
     @property
     def altitudeOffset(self) -> float | None: "[m] of the altitude"
 
+@final
 class GrsRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -477,6 +506,7 @@ class GrsRecord(Record):
     @property
     def residuals(self) -> list[float | None]: "[m] in the order of the satellites of GSA"
 
+@final
 class GfaRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the stream's GPS time when the sentence was decoded"
@@ -505,6 +535,7 @@ class GfaRecord(Record):
     @property
     def integrity(self) -> list[int | None]: "integrity by RAIM, SBAS and Galileo, in this order"
 
+@final
 class NavPosRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
@@ -537,6 +568,7 @@ class NavPosRecord(Record):
     @property
     def sigmaZ(self) -> float | None: "[m] standard deviation of Z"
 
+@final
 class NavVelRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
@@ -561,6 +593,7 @@ class NavVelRecord(Record):
     @property
     def speedAccuracy(self) -> float | None: "[m/s] accuracy of the velocity"
 
+@final
 class NavTimeGroup(Entry):
     @property
     def status(self) -> int | None: "state of the time"
@@ -569,12 +602,14 @@ class NavTimeGroup(Entry):
     @property
     def seconds(self) -> float | None: "[s] the time"
 
+@final
 class NavTimeRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
     @property
     def groups(self) -> list[NavTimeGroup]: "times with their states"
 
+@final
 class NavAccRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
@@ -587,6 +622,7 @@ class NavAccRecord(Record):
     @property
     def values(self) -> list[int | None]: "accuracies"
 
+@final
 class PNavMsgRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
@@ -597,6 +633,7 @@ class PNavMsgRecord(Record):
     @property
     def values(self) -> list[int]: "diagnostic bytes"
 
+@final
 class CwOutRecord(Record):
     @property
     def gpsTime(self) -> GPSTIME: "the decoder's GPS time when the sentence was decoded"
@@ -605,6 +642,7 @@ class CwOutRecord(Record):
     @property
     def values(self) -> list[int]: "interference values"
 
+@final
 class GyoAccRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -619,6 +657,7 @@ class GyoAccRecord(Record):
     @property
     def acceleration(self) -> list[float | None]: "accelerations along x, y and z"
 
+@final
 class SnrStatRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -633,6 +672,7 @@ class SnrStatRecord(Record):
     @property
     def levels(self) -> list[int | None]: "signed numbers"
 
+@final
 class NavAttRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -645,6 +685,7 @@ class NavAttRecord(Record):
     @property
     def values(self) -> list[float | None]: "angles and their deviations"
 
+@final
 class ImuRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -659,6 +700,7 @@ class ImuRecord(Record):
     @property
     def values(self) -> list[float | None]: "measurements"
 
+@final
 class InsPvaRecord(Record):
     @property
     def tag(self) -> int: "the sentence stood behind a tag block, which is never the case"
@@ -681,6 +723,7 @@ class InsPvaRecord(Record):
     @property
     def attitude(self) -> list[float | None]: "[deg] angles of the attitude"
 
+@final
 class StationPositionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week when the message was decoded"
@@ -703,6 +746,7 @@ class StationPositionRecord(Record):
     @property
     def z(self) -> int: "[0.0001 m] ECEF Z without its sign"
 
+@final
 class MessageAnnouncement(Entry):
     @property
     def messageId(self) -> int: "message number"
@@ -711,6 +755,7 @@ class MessageAnnouncement(Entry):
     @property
     def interval(self) -> int: "[0.1 s] interval of transmission"
 
+@final
 class SystemParametersRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week when the message was decoded"
@@ -727,6 +772,7 @@ class SystemParametersRecord(Record):
     @property
     def announcements(self) -> list[MessageAnnouncement]: "messages that the station sends"
 
+@final
 class MsmObservation(Entry):
     @property
     def system(self) -> int | None: "satellite system"
@@ -753,6 +799,7 @@ class MsmObservation(Entry):
     @property
     def lockTime(self) -> int: "[ms] time of continuous lock, at least"
 
+@final
 class MsmRecord(Record):
     @property
     def epochTime(self) -> int | None: "[ms] GPS time of week; BeiDou and GLONASS epochs are converted"
@@ -769,6 +816,7 @@ class MsmRecord(Record):
     @property
     def observations(self) -> list[MsmObservation]: "by satellite, then signal"
 
+@final
 class RtcmSnrStatRecord(Record):
     @property
     def count(self) -> int: "always 1"
@@ -777,6 +825,7 @@ class RtcmSnrStatRecord(Record):
     @property
     def levels(self) -> list[int]: "the others"
 
+@final
 class TimeStatusRecord(Record):
     @property
     def tow(self) -> int: "[ms] GPS time of week, 0 when the message has none"
@@ -787,12 +836,14 @@ class TimeStatusRecord(Record):
     @property
     def status(self) -> list[int | None]: "states"
 
+@final
 class Sub249Record(Record):
     @property
     def tow(self) -> int | None: "[ms] always unknown"
     @property
     def week(self) -> int | None: "always unknown"
 
+@final
 class ClockOrbitRecord(Record):
     @property
     def system(self) -> int | None: "satellite system, always unknown"
@@ -805,10 +856,12 @@ class ClockOrbitRecord(Record):
     @property
     def integers(self) -> list[float | None]: "whole numbers, always unknown"
 
+@final
 class SystemCount(Entry):
     @property
     def values(self) -> list[int]: "always 0, where 0 as the first stands for no entry"
 
+@final
 class SystemCountsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] always unknown"
@@ -821,6 +874,7 @@ class SystemCountsRecord(Record):
     @property
     def entries(self) -> list[SystemCount]: "always 0"
 
+@final
 class SignalObservationsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week"
@@ -833,6 +887,7 @@ class SignalObservationsRecord(Record):
     @property
     def satellites(self) -> list[SatelliteInView]: "satellites with their signals"
 
+@final
 class IntegerSetRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week"
@@ -847,6 +902,7 @@ class IntegerSetRecord(Record):
     @property
     def integers(self) -> list[int]: "always 0"
 
+@final
 class Sub17Record(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week when the message was decoded"
@@ -855,12 +911,14 @@ class Sub17Record(Record):
     @property
     def second(self) -> list[int]: "the bytes behind them"
 
+@final
 class Sub33Record(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week when the message was decoded"
     @property
     def values(self) -> list[int]: "numbers, 0 to 15"
 
+@final
 class Sub34Record(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week"
@@ -873,6 +931,7 @@ class Sub34Record(Record):
     @property
     def values(self) -> list[int]: "bytes, 0 where a short message does not reach"
 
+@final
 class Sub21Record(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week"
@@ -881,6 +940,7 @@ class Sub21Record(Record):
     @property
     def body(self) -> list[int]: "bytes of the message"
 
+@final
 class Binary55AaRecord(Record):
     @property
     def payloadLength(self) -> int: "bytes of the payload"
@@ -897,6 +957,7 @@ class Binary55AaRecord(Record):
     @property
     def tenths(self) -> list[float | None]: "i32 * 0.1 at payload offsets 28 and 32"
 
+@final
 class UbxProtectionLevelsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -939,6 +1000,7 @@ class UbxProtectionLevelsRecord(Record):
     @property
     def reservedAtEnd(self) -> int: "last bytes of the message, reserved there"
 
+@final
 class UbxNavigationRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1029,6 +1091,7 @@ class UbxNavigationRecord(Record):
     @property
     def vehicleHeading(self) -> int: "[1e-5 deg] low 16 bits of the heading of the vehicle"
 
+@final
 class UbxSatellite(Entry):
     @property
     def systemId(self) -> int | None: "satellite system"
@@ -1079,6 +1142,7 @@ class UbxSatellite(Entry):
     @property
     def dopplerCorrections(self) -> int | None: "corrections of the range rate were used"
 
+@final
 class UbxSatellitesRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1093,6 +1157,7 @@ class UbxSatellitesRecord(Record):
     @property
     def satellites(self) -> list[UbxSatellite]: "satellites in the order of the message, unknown values behind the last one"
 
+@final
 class UbxRawMeasurement(Entry):
     @property
     def pseudorange(self) -> float | None: "[m] pseudorange"
@@ -1127,6 +1192,7 @@ class UbxRawMeasurement(Entry):
     @property
     def halfCycleSubtracted(self) -> int | None: "a half cycle was subtracted from the phase"
 
+@final
 class UbxRawMeasurementsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the receiver's time of week rounded; unknown when it is no time of a week"
@@ -1147,6 +1213,7 @@ class UbxRawMeasurementsRecord(Record):
     @property
     def measurements(self) -> list[UbxRawMeasurement]: "measurements in the order of the message, unknown values behind the last one"
 
+@final
 class UbxAttitudeRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1169,6 +1236,7 @@ class UbxAttitudeRecord(Record):
     @property
     def headingAccuracy(self) -> float | None: "[deg] accuracy of the heading"
 
+@final
 class DiagnosticRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -1177,6 +1245,7 @@ class DiagnosticRecord(Record):
     @property
     def text(self) -> str | None: "the same in words"
 
+@final
 class UbxFullNavigationRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1271,6 +1340,7 @@ class UbxFullNavigationRecord(Record):
     @property
     def magAccuracy(self) -> float | None: "[deg] accuracy of the magnetic declination; unknown without magValid"
 
+@final
 class UbxHighPrecisionPositionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1295,6 +1365,7 @@ class UbxHighPrecisionPositionRecord(Record):
     @property
     def verticalAccuracy(self) -> float | None: "[m] accuracy of the height"
 
+@final
 class UbxHighPrecisionEcefRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1315,6 +1386,7 @@ class UbxHighPrecisionEcefRecord(Record):
     @property
     def accuracy(self) -> float | None: "[m] accuracy of the position"
 
+@final
 class UbxPositionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1335,6 +1407,7 @@ class UbxPositionRecord(Record):
     @property
     def verticalAccuracy(self) -> float | None: "[m] accuracy of the height"
 
+@final
 class UbxEcefRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1351,6 +1424,7 @@ class UbxEcefRecord(Record):
     @property
     def accuracy(self) -> float | None: "[m] accuracy of the position"
 
+@final
 class UbxVelocityRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1375,6 +1449,7 @@ class UbxVelocityRecord(Record):
     @property
     def headingAccuracy(self) -> float | None: "[deg] accuracy of the heading"
 
+@final
 class UbxEcefVelocityRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1391,6 +1466,7 @@ class UbxEcefVelocityRecord(Record):
     @property
     def accuracy(self) -> float | None: "[m/s] accuracy of the speed"
 
+@final
 class UbxDopRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1413,6 +1489,7 @@ class UbxDopRecord(Record):
     @property
     def eastDop(self) -> float | None: "DOP to the east"
 
+@final
 class UbxStatusRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1447,6 +1524,7 @@ class UbxStatusRecord(Record):
     @property
     def sinceStart(self) -> int | None: "[ms] since the receiver started"
 
+@final
 class UbxSolutionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1489,6 +1567,7 @@ class UbxSolutionRecord(Record):
     @property
     def positionDop(self) -> float | None: "position DOP"
 
+@final
 class UbxClockRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1505,6 +1584,7 @@ class UbxClockRecord(Record):
     @property
     def frequencyAccuracy(self) -> int | None: "[ps/s] accuracy of the frequency"
 
+@final
 class UbxCovarianceRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1523,6 +1603,7 @@ class UbxCovarianceRecord(Record):
     @property
     def velocity(self) -> list[float | None]: "[m2/s2] of the velocity, in the same order"
 
+@final
 class UbxEndOfEpochRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1531,6 +1612,7 @@ class UbxEndOfEpochRecord(Record):
     @property
     def timeText(self) -> str | None: "the decoder's time of day when the message was decoded"
 
+@final
 class UbxGpsTimeRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1553,6 +1635,7 @@ class UbxGpsTimeRecord(Record):
     @property
     def timeAccuracy(self) -> int | None: "[ns] accuracy of the time"
 
+@final
 class UbxUtcRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1587,6 +1670,7 @@ class UbxUtcRecord(Record):
     @property
     def utcStandard(self) -> int | None: "whose UTC"
 
+@final
 class UbxLeapSecondsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1615,6 +1699,7 @@ class UbxLeapSecondsRecord(Record):
     @property
     def changeValid(self) -> int | None: "untilChange, changeWeek and changeDay are valid"
 
+@final
 class UbxRelativePositionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1665,6 +1750,7 @@ class UbxRelativePositionRecord(Record):
     @property
     def headingAccuracy(self) -> float | None: "[deg] accuracy of the heading"
 
+@final
 class UbxSurveyInRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1691,6 +1777,7 @@ class UbxSurveyInRecord(Record):
     @property
     def accuracy(self) -> float | None: "[m] accuracy of the mean"
 
+@final
 class UbxVehicleNavigationRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1793,6 +1880,7 @@ class UbxVehicleNavigationRecord(Record):
     @property
     def ellipseMinor(self) -> float | None: "[m] smaller half axis of the horizontal error ellipse"
 
+@final
 class UbxFullSatellite(Entry):
     @property
     def systemId(self) -> int | None: "satellite system"
@@ -1847,6 +1935,7 @@ class UbxFullSatellite(Entry):
     @property
     def hasCorrections(self) -> int | None: "Galileo HAS corrections were used"
 
+@final
 class UbxFullSatellitesRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1861,6 +1950,7 @@ class UbxFullSatellitesRecord(Record):
     @property
     def satellites(self) -> list[UbxFullSatellite]: "satellites in the order of the message, unknown values behind the last one"
 
+@final
 class UbxSignal(Entry):
     @property
     def systemId(self) -> int | None: "satellite system"
@@ -1899,6 +1989,7 @@ class UbxSignal(Entry):
     @property
     def authenticated(self) -> int | None: "the navigation message was authenticated"
 
+@final
 class UbxSignalsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1913,6 +2004,7 @@ class UbxSignalsRecord(Record):
     @property
     def signals(self) -> list[UbxSignal]: "signals in the order of the message, unknown values behind the last one"
 
+@final
 class UbxChannel(Entry):
     @property
     def channel(self) -> int | None: "number of the channel"
@@ -1945,6 +2037,7 @@ class UbxChannel(Entry):
     @property
     def residual(self) -> int | None: "[0.01 m] residual of the pseudorange"
 
+@final
 class UbxChannelsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -1959,6 +2052,7 @@ class UbxChannelsRecord(Record):
     @property
     def channels(self) -> list[UbxChannel]: "channels in the order of the message, unknown values behind the last one"
 
+@final
 class UbxSubframeRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -1983,6 +2077,7 @@ class UbxSubframeRecord(Record):
     @property
     def words(self) -> list[int | None]: "words as the receiver arranges them, unknown values behind the last one"
 
+@final
 class UbxRtcmInputRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2003,6 +2098,7 @@ class UbxRtcmInputRecord(Record):
     @property
     def messageType(self) -> int | None: "RTCM message number"
 
+@final
 class UbxMeasurement(Entry):
     @property
     def systemId(self) -> int | None: "satellite system"
@@ -2027,6 +2123,7 @@ class UbxMeasurement(Entry):
     @property
     def rangeErrorIndex(self) -> int | None: "deviation of the pseudorange, the receiver's code, 0 to 63"
 
+@final
 class UbxMeasurementsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2059,6 +2156,7 @@ class UbxMeasurementsRecord(Record):
     @property
     def measurements(self) -> list[UbxMeasurement]: "measurements in the order of the message, unknown values behind the last one"
 
+@final
 class UbxTimePulseRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2089,6 +2187,7 @@ class UbxTimePulseRecord(Record):
     @property
     def utcStandard(self) -> int | None: "whose UTC"
 
+@final
 class UbxTimeMarkRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2129,6 +2228,7 @@ class UbxTimeMarkRecord(Record):
     @property
     def accuracy(self) -> int | None: "[ns] accuracy of the times"
 
+@final
 class UbxSensorStatus(Entry):
     @property
     def type(self) -> int | None: "kind of the sensor"
@@ -2151,6 +2251,7 @@ class UbxSensorStatus(Entry):
     @property
     def noisy(self) -> int | None: "measurements are noisy"
 
+@final
 class UbxFusionStatusRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -2175,12 +2276,14 @@ class UbxFusionStatusRecord(Record):
     @property
     def sensors(self) -> list[UbxSensorStatus]: "sensors in the order of the message, unknown values behind the last one"
 
+@final
 class UbxSensorMeasurement(Entry):
     @property
     def data(self) -> int | None: "number of 24 bits"
     @property
     def type(self) -> int | None: "what it measures"
 
+@final
 class UbxSensorMeasurementsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2205,6 +2308,7 @@ class UbxSensorMeasurementsRecord(Record):
     @property
     def measurements(self) -> list[UbxSensorMeasurement]: "data in the order of the message, unknown values behind the last one"
 
+@final
 class UbxRawSensor(Entry):
     @property
     def sensorTime(self) -> int | None: "time of the measurement, in the sensor's own ticks"
@@ -2213,6 +2317,7 @@ class UbxRawSensor(Entry):
     @property
     def type(self) -> int | None: "what it measures"
 
+@final
 class UbxRawSensorsRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2225,6 +2330,7 @@ class UbxRawSensorsRecord(Record):
     @property
     def measurements(self) -> list[UbxRawSensor]: "data in the order of the message, unknown values behind the last one"
 
+@final
 class UbxInertialRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -2259,6 +2365,7 @@ class UbxInertialRecord(Record):
     @property
     def accelerationZ(self) -> float | None: "[m/s2] acceleration along Z, without gravity"
 
+@final
 class UbxMountingRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the message"
@@ -2285,6 +2392,7 @@ class UbxMountingRecord(Record):
     @property
     def roll(self) -> float | None: "[deg] -180 to 180"
 
+@final
 class UbxVersionRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2301,6 +2409,7 @@ class UbxVersionRecord(Record):
     @property
     def extensions(self) -> list[str | None]: "further texts in the order of the message, unknown values behind the last one"
 
+@final
 class UbxInformationRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2313,6 +2422,7 @@ class UbxInformationRecord(Record):
     @property
     def text(self) -> str | None: "up to the first byte 0 of the message"
 
+@final
 class UbxAcknowledgeRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] the decoder's GPS time of week"
@@ -2327,6 +2437,7 @@ class UbxAcknowledgeRecord(Record):
     @property
     def messageId(self) -> int | None: "id of the message"
 
+@final
 class Observation(Entry):
     @property
     def system(self) -> int | None: "satellite system"
@@ -2367,6 +2478,7 @@ class Observation(Entry):
     @property
     def halfCycleSubtracted(self) -> int | None: "half a cycle was subtracted from the phase (UBX)"
 
+@final
 class ObservationsRecord(Record):
     @property
     def tow(self) -> float | None: "[s] GPS time of week, the receiver's; epochs of BeiDou and GLONASS are converted, the latter by the leap seconds in use"
@@ -2405,6 +2517,7 @@ class ObservationsRecord(Record):
     @property
     def observations(self) -> list[Observation]: "in the order of the message, unknown values behind the last one"
 
+@final
 class StationAntennaPointRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2437,6 +2550,7 @@ class StationAntennaPointRecord(Record):
     @property
     def antennaHeight(self) -> float | None: "[m] of the reference point above the marker; unknown in 1005"
 
+@final
 class StationEquipmentRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2459,6 +2573,7 @@ class StationEquipmentRecord(Record):
     @property
     def receiverSerial(self) -> str | None: "serial number of the receiver"
 
+@final
 class StationGlonassBiasesRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2477,6 +2592,7 @@ class StationGlonassBiasesRecord(Record):
     @property
     def l2P(self) -> float | None: "[m] bias of L2 P"
 
+@final
 class StationTextRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2495,6 +2611,7 @@ class StationTextRecord(Record):
     @property
     def text(self) -> str | None: "UTF-8"
 
+@final
 class KeplerEphemerisRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2579,6 +2696,7 @@ class KeplerEphemerisRecord(Record):
     @property
     def groupDelay(self) -> list[float | None]: "[s] of GPS, QZSS and NavIC TGD; of Galileo BGD E5a/E1 and E5b/E1; of BeiDou TGD1 and TGD2"
 
+@final
 class GlonassEphemerisRecord(Record):
     @property
     def tow(self) -> int | None: "[ms] GPS time of week of the stream when the message came"
@@ -2647,6 +2765,7 @@ class GlonassEphemerisRecord(Record):
     @property
     def tauGps(self) -> float | None: "[s] correction of system time to GPS time, as in the message"
 
+@final
 class AsciiLogHeader(Entry):
     @property
     def sync(self) -> list[int]: "always 0xAA 0x44 0x12"
@@ -2675,6 +2794,7 @@ class AsciiLogHeader(Entry):
     @property
     def softwareBuild(self) -> int: "build number of the software"
 
+@final
 class SolutionSatellites(Entry):
     @property
     def tracked(self) -> int: "satellites tracked"
@@ -2691,6 +2811,7 @@ class SolutionSatellites(Entry):
     @property
     def gpsGlonassSignals(self) -> int: "bit mask of the signals used"
 
+@final
 class PositionLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2723,6 +2844,7 @@ class PositionLogRecord(Record):
     @property
     def satellites(self) -> SolutionSatellites: "satellites and signals behind the solution"
 
+@final
 class VelocityLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2741,6 +2863,7 @@ class VelocityLogRecord(Record):
     @property
     def verticalSpeed(self) -> float | None: "[m/s] positive up"
 
+@final
 class DopLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2761,6 +2884,7 @@ class DopLogRecord(Record):
     @property
     def satellites(self) -> list[int]: "satellite numbers"
 
+@final
 class TimeLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2787,6 +2911,7 @@ class TimeLogRecord(Record):
     @property
     def utcStatus(self) -> int: "state of UTC"
 
+@final
 class CartesianLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2817,6 +2942,7 @@ class CartesianLogRecord(Record):
     @property
     def satellites(self) -> SolutionSatellites: "satellites and signals behind the solution"
 
+@final
 class HeadingLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2839,6 +2965,7 @@ class HeadingLogRecord(Record):
     @property
     def satellites(self) -> SolutionSatellites: "satellites and signals behind the solution"
 
+@final
 class RangeObservation(Entry):
     @property
     def satellite(self) -> int: "satellite number"
@@ -2861,6 +2988,7 @@ class RangeObservation(Entry):
     @property
     def trackingStatus(self) -> int: "channel tracking status word"
 
+@final
 class RangeLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2869,6 +2997,7 @@ class RangeLogRecord(Record):
     @property
     def observations(self) -> list[RangeObservation]: "observations in the order of the line"
 
+@final
 class SatelliteVisibility(Entry):
     @property
     def satellite(self) -> int: "satellite number, in log 1043 the slot of GLONASS"
@@ -2885,6 +3014,7 @@ class SatelliteVisibility(Entry):
     @property
     def apparentDoppler(self) -> float | None: "[Hz] Doppler with the receiver's clock drift"
 
+@final
 class VisibilityLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2897,6 +3027,7 @@ class VisibilityLogRecord(Record):
     @property
     def satellites(self) -> list[SatelliteVisibility]: "satellites in the order of the line"
 
+@final
 class SystemVisibilityLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2911,6 +3042,7 @@ class SystemVisibilityLogRecord(Record):
     @property
     def satellites(self) -> list[SatelliteVisibility]: "satellites in the order of the line"
 
+@final
 class ListedSatellite(Entry):
     @property
     def system(self) -> int: "satellite system"
@@ -2923,6 +3055,7 @@ class ListedSatellite(Entry):
     @property
     def signals(self) -> int: "bit mask of the signals used"
 
+@final
 class SatelliteListLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2931,6 +3064,7 @@ class SatelliteListLogRecord(Record):
     @property
     def satellites(self) -> list[ListedSatellite]: "satellites in the order of the line"
 
+@final
 class NavigationSolutionLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2963,6 +3097,7 @@ class NavigationSolutionLogRecord(Record):
     @property
     def satellites(self) -> SolutionSatellites: "satellites and signals behind the solution"
 
+@final
 class AgriculturalLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -2983,10 +3118,12 @@ class AgriculturalLogRecord(Record):
     @property
     def utcSecond(self) -> int: "[s] 0 to 60"
 
+@final
 class HeaderLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
 
+@final
 class GpsEphemerisLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -3055,6 +3192,7 @@ class GpsEphemerisLogRecord(Record):
     @property
     def ura(self) -> float | None: "[m^2] variance of the user range accuracy"
 
+@final
 class GlonassEphemerisLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -3099,6 +3237,7 @@ class GlonassEphemerisLogRecord(Record):
     @property
     def flags(self) -> int: "bit mask"
 
+@final
 class GalileoEphemerisLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -3169,12 +3308,14 @@ class GalileoEphemerisLogRecord(Record):
     @property
     def e1E5bBgd(self) -> float | None: "[s] broadcast group delay of E1 and E5b"
 
+@final
 class BdsEphemerisLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
     @property
     def satellite(self) -> int: "satellite number"
 
+@final
 class IonosphereLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
@@ -3183,12 +3324,14 @@ class IonosphereLogRecord(Record):
     @property
     def beta(self) -> list[float | None]: "coefficients of the period, seconds by powers of semicircles"
 
+@final
 class GalileoIonosphereLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"
     @property
     def effectiveIonisation(self) -> list[float | None]: "a_i0, a_i1 and a_i2"
 
+@final
 class UtcLogRecord(Record):
     @property
     def header(self) -> AsciiLogHeader: "header of the line"

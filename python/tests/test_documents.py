@@ -7,7 +7,6 @@ import sys
 
 import pytest
 
-import navframe
 from conftest import ROOT, SAMPLE
 
 PACKAGE = ROOT / "python"
@@ -47,11 +46,21 @@ for record in navframe.read("drive.ubx"):
     assert "Found 1 error" in said
 
 
-def test_stubs_have_what_the_types_have():
-    text = (PACKAGE / "navframe/records.pyi").read_text()
-    classes = dict(re.findall(r"^class (\w+)\(\w+\):\n(.*?)(?=^class |\Z)", text, re.M | re.S))
-    assert sorted(classes) == sorted(navframe.records.__all__)
-    for name, body in classes.items():
-        declared = re.findall(r"def (\w+)\(self\)", body)
-        type_ = getattr(navframe.records, name)
-        assert declared == [n for n in vars(type_) if n[0] != "_"], name
+# What pybind11 makes otherwise than a class in Python: the metaclass, and constructors that refuse;
+# and names that type checkers alone have.
+DIFFERENT = r"""
+navframe\.(_navframe\.)?(Options|Part|Reader|Stream|Time)
+navframe\.(_navframe\.)?(Part|Reader|Time)\.__init__
+navframe\.(pandas|numpy|_tables\.Table)
+"""
+
+
+def test_stubs_have_what_the_types_have(tmp_path):
+    pytest.importorskip("mypy")
+    allowed = tmp_path / "allowed"
+    allowed.write_text(DIFFERENT)
+    done = subprocess.run([sys.executable, "-m", "mypy.stubtest", "navframe", "--concise",
+                           "--mypy-config-file", str(PACKAGE / "pyproject.toml"), "--allowlist",
+                           str(allowed), "--ignore-unused-allowlist"], cwd=tmp_path,
+                          stdout=subprocess.PIPE, check=False)
+    assert done.returncode == 0, done.stdout.decode()
