@@ -27,10 +27,15 @@ if(TARGET navframe_tool)
   if(NOT APPLE AND NOT WIN32)
     file(RELATIVE_PATH navframe_bin_to_lib "${CMAKE_INSTALL_FULL_BINDIR}"
          "${CMAKE_INSTALL_FULL_LIBDIR}")
-    # The same in the build tree, where the library lies beside the tool: a run path that CMake
-    # changes at installation ends in an empty entry until then, which means the current directory.
-    set_target_properties(navframe_tool PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH
-                                                   "$ORIGIN;$ORIGIN/${navframe_bin_to_lib}")
+    if(CMAKE_INSTALL_FULL_LIBDIR IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
+      # The system finds it there: no run path but in the build tree.
+      set_target_properties(navframe_tool PROPERTIES BUILD_RPATH_USE_ORIGIN ON)
+    else()
+      # The same in the build tree, where the library lies beside the tool: a run path that CMake
+      # changes at installation ends in an empty entry until then, which means the current directory.
+      set_target_properties(navframe_tool PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH
+                                                     "$ORIGIN;$ORIGIN/${navframe_bin_to_lib}")
+    endif()
   endif()
   install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 

@@ -50,6 +50,21 @@ ci_packages=(
   "util-linux:command unshare"
 )
 
+# For scripts/build-debian-packages, beside what the library and the tool need.
+debian_packages=(
+  "g++:command g++"
+  "cmake:cmake_at_least 3.25"
+  "libcli11-dev:header CLI/CLI.hpp"
+  "zlib1g-dev:header zlib.h"
+  "libzstd-dev:header zstd.h"
+  "pkg-config:command pkg-config"
+  "libcurl4-openssl-dev:header curl/curl.h"
+  "dpkg-dev:command dpkg-buildpackage"
+  "debhelper:command dh"
+  "fakeroot:command fakeroot"
+  "lintian:command lintian"
+)
+
 have_command() { command -v "$1" >/dev/null; }
 
 have_header() {
@@ -87,9 +102,8 @@ missing_of() {
   done
 }
 
-# Installs what is missing of a list of packages, or names it and ends the script.
-require_packages() {
-  local missing
+# Installs what is missing of a list of packages; 1 when some of it, then in `missing`, cannot be had.
+provide_packages() {
   mapfile -t missing < <(missing_of "$@")
   ((${#missing[@]} == 0)) && return
   if have_command apt-get; then
@@ -98,8 +112,14 @@ require_packages() {
     become_root env DEBIAN_FRONTEND=noninteractive \
       apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2 || true
     mapfile -t missing < <(missing_of "$@")
-    ((${#missing[@]} == 0)) && return
   fi
+  ((${#missing[@]} == 0))
+}
+
+# Installs what is missing of a list of packages, or names it and ends the script.
+require_packages() {
+  local missing
+  provide_packages "$@" && return
   echo "Needed and not there: ${missing[*]} (names of Debian and Ubuntu)." >&2
   echo "Install them and start again." >&2
   exit 1
