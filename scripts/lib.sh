@@ -61,6 +61,12 @@ debian_packages=(
   "libcurl4-openssl-dev:header curl/curl.h"
   "dpkg-dev:command dpkg-buildpackage"
   "debhelper:command dh"
+  "dh-python:command dh_python3"
+  "python3-dev:python_headers"
+  "pybind11-dev:file /usr/include/pybind11/pybind11.h"
+  "python3-setuptools:python_module setuptools"
+  "python3-wheel:python_module wheel"
+  "python3-numpy:python_module numpy"
   "fakeroot:command fakeroot"
   "lintian:command lintian"
 )
