@@ -20,12 +20,19 @@ constexpr std::uint32_t NoTow = 0xFFFFFFFF;
 // Numbers that TIME SYSTEM CORR has for what UTC is by.
 enum UtcNumber : std::uint8_t { NoUtc = 0, UtcOfUsno = 2, UtcOfRussia = 3, UtcOfEurope = 5 };
 
+// Records of logs are packed: their numbers need not lie where a double does.
+template <std::size_t Count>
+std::array<double, Count> Unpacked(const void* numbers) {
+  std::array<double, Count> values;
+  std::memcpy(values.data(), numbers, sizeof values);
+  return values;
+}
+
 // Galileo's only coefficients are those of one line.
 template <std::size_t Count>
-void PutIonosphericLine(std::string& out, const char* name, const double (&values)[Count],
-                        const char* mark) {
+void PutIonosphericLine(std::string& out, const char* name, const void* numbers, const char* mark) {
   std::string line = std::string(name) + ' ';
-  for (const double value : values) PutExponent(line, value, 4, 12);
+  for (const double value : Unpacked<Count>(numbers)) PutExponent(line, value, 4, 12);
   line.append((4 - Count) * 12, ' ');
   PutLine(out, line + ' ' + mark, "IONOSPHERIC CORR");
 }
@@ -69,8 +76,8 @@ void PutIonosphere(std::string& out, const char* of, std::int64_t epoch,
 }
 
 std::array<double, 9> KlobucharRows(const IonosphereLogRecord& from) {
-  const auto& a = from.alpha;
-  const auto& b = from.beta;
+  const auto a = Unpacked<4>(&from.alpha);
+  const auto b = Unpacked<4>(&from.beta);
   return {a[0], a[1], a[2], a[3], b[0], b[1], b[2], b[3], Blank};
 }
 
@@ -138,17 +145,17 @@ void Corrections::Take(const GlonassEphemerisRecord& record) {
 
 void Corrections::PutHeaderLines(std::string& out) const {
   if (gpsIonosphere_) {
-    PutIonosphericLine(out, "GPSA", gpsIonosphere_->record.alpha, "");
-    PutIonosphericLine(out, "GPSB", gpsIonosphere_->record.beta, "");
+    PutIonosphericLine<4>(out, "GPSA", &gpsIonosphere_->record.alpha, "");
+    PutIonosphericLine<4>(out, "GPSB", &gpsIonosphere_->record.beta, "");
   }
   if (galileoIonosphere_) {
-    PutIonosphericLine(out, "GAL ", galileoIonosphere_->record.effectiveIonisation, "");
+    PutIonosphericLine<3>(out, "GAL ", &galileoIonosphere_->record.effectiveIonisation, "");
   }
   if (beiDouIonosphere_) {  // with the hour in which it was sent, A to X
     const std::int64_t seconds = beiDouIonosphere_->gpsSeconds - BeiDouBehindGps;
     const char hour[] = {static_cast<char>('A' + seconds / 3600 % 24), '\0'};
-    PutIonosphericLine(out, "BDSA", beiDouIonosphere_->record.alpha, hour);
-    PutIonosphericLine(out, "BDSB", beiDouIonosphere_->record.beta, hour);
+    PutIonosphericLine<4>(out, "BDSA", &beiDouIonosphere_->record.alpha, hour);
+    PutIonosphericLine<4>(out, "BDSB", &beiDouIonosphere_->record.beta, hour);
   }
   if (gpsUtc_) PutTimeLine(out, OffsetOf("GPUT", gpsUtc_->record, UtcOfUsno));
   if (galileoUtc_) PutTimeLine(out, OffsetOf("GAUT", galileoUtc_->record, UtcOfEurope));
@@ -165,7 +172,7 @@ void Corrections::PutRecords(std::string& out) const {
                   KlobucharRows(gpsIonosphere_->record));
   }
   if (galileoIonosphere_) {
-    const auto& values = galileoIonosphere_->record.effectiveIonisation;
+    const auto values = Unpacked<3>(&galileoIonosphere_->record.effectiveIonisation);
     PutIonosphere(out, "E   IFNV", galileoIonosphere_->gpsSeconds,
                   {values[0], values[1], values[2], 0, Blank, Blank, Blank, Blank, Blank});
   }
