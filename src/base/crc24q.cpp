@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/big_endian.h"
+#include "base/carryless.h"
 
 namespace navframe {
 namespace {
@@ -67,9 +68,76 @@ std::uint64_t Product(std::uint64_t a, std::uint64_t b) {
   return product;
 }
 
+#ifdef NAVFRAME_CARRYLESS
+
+// x to the power of `bits`, modulo the polynomial.
+constexpr std::uint32_t Power(std::size_t bits) { return ZeroBytes[bits / 8]; }
+
+// Blocks of 16 bytes are numbers of 128 bits, the first byte on top. One that has n bits behind it
+// is replaced by one of 88 bits with the same remainder at that place: each half times the power of
+// its place. `Constants` are those of n.
+using Block = __m128i;
+template <std::size_t N>
+NAVFRAME_CARRYLESS Block Constants() {
+  return _mm_set_epi64x(Power(N + 64), Power(N));
+}
+NAVFRAME_CARRYLESS inline Block Fold(Block block, Block constants, Block onto) {
+  const Block high = _mm_clmulepi64_si128(block, constants, 0x11);
+  const Block low = _mm_clmulepi64_si128(block, constants, 0x00);
+  return _mm_xor_si128(_mm_xor_si128(high, low), onto);
+}
+
+// The first `count` bytes, 1 to 16, as the lowest ones of a block; 16 are read.
+NAVFRAME_CARRYLESS inline Block LoadFirst(const std::uint8_t* bytes, std::size_t count) {
+  static constexpr auto Order = [] {
+    std::array<std::uint8_t, 32> order{};
+    for (std::uint8_t i = 0; i < 32; ++i) order[i] = i < 16 ? 15 - i : 0x80;
+    return order;
+  }();
+  const auto load = [](const std::uint8_t* at) {
+    return _mm_loadu_si128(reinterpret_cast<const Block*>(at));
+  };
+  return _mm_shuffle_epi8(load(bytes), load(Order.data() + 16 - count));
+}
+
+// A block with the same remainder as all of `bytes`, 16 or more of them. Four blocks are folded
+// side by side while there are as many, since a product takes longer than the next one waits.
+NAVFRAME_CARRYLESS Block FoldAll(const std::uint8_t* bytes, std::size_t length) {
+  const std::uint8_t* const end = bytes + length;
+  const std::size_t first = (length - 1) % 16 + 1;
+  Block all = LoadFirst(bytes, first);
+  bytes += first;
+  const Block byOne = Constants<128>();
+  if (end - bytes >= 48 + 64) {
+    Block lanes[4] = {all, LoadFirst(bytes, 16), LoadFirst(bytes + 16, 16),
+                      LoadFirst(bytes + 32, 16)};
+    bytes += 48;
+    const Block byFour = Constants<512>();
+    for (; end - bytes >= 64; bytes += 64) {
+      for (int i = 0; i < 4; ++i) lanes[i] = Fold(lanes[i], byFour, LoadFirst(bytes + 16 * i, 16));
+    }
+    all = lanes[0];
+    for (int i = 1; i < 4; ++i) all = Fold(all, byOne, lanes[i]);
+  }
+  for (; bytes != end; bytes += 16) all = Fold(all, byOne, LoadFirst(bytes, 16));
+  return all;
+}
+
+NAVFRAME_CARRYLESS Crc24q::Value OfMany(const std::uint8_t* bytes, std::size_t length) {
+  const Block all = FoldAll(bytes, length);
+  const auto low = static_cast<std::uint64_t>(_mm_cvtsi128_si64(all));
+  const auto high = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(all, all)));
+  return (OfEightBytes<8>(high) ^ OfEightBytes<0>(low)) >> 8;
+}
+
+#endif
+
 }  // namespace
 
 Crc24q::Value Crc24q::Of(const std::uint8_t* bytes, std::size_t length) {
+#ifdef NAVFRAME_CARRYLESS
+  if (length >= 16 && HasCarrylessMultiplication()) return OfMany(bytes, length);
+#endif
   std::uint32_t value = 0;
   for (; length >= Slices; bytes += Slices, length -= Slices) {
     const std::uint64_t head = LoadBigEndian64(bytes) ^ std::uint64_t{value} << 32;
