@@ -5,49 +5,13 @@
 #include <cstring>
 #include <unordered_map>
 
-#include "printable.h"
+#include "json_text.h"
 #include "records/item_text.h"
 #include "records/record_shape.h"
 #include "sinks/sink.h"
 
 namespace navframe::tool {
 namespace {
-
-void AppendEscaped(unsigned char byte, std::string& out) {
-  constexpr char Digits[] = "0123456789abcdef";
-  out.append("\\u00") += {Digits[byte >> 4], Digits[byte & 0xF]};
-}
-
-// Bytes that are no UTF-8 are the characters of these numbers, as in records.
-void AppendString(std::string_view text, std::string& out) {
-  out += '"';
-  while (!text.empty()) {
-    const auto byte = static_cast<unsigned char>(text.front());
-    const std::size_t length = std::max<std::size_t>(Utf8Length(text), 1);
-    if (byte == '"' || byte == '\\') {
-      out += {'\\', text.front()};
-    } else if (byte < 0x20 || byte == 0x7F || (length == 1 && byte >= 0x80)) {
-      AppendEscaped(byte, out);
-    } else {
-      out.append(text.substr(0, length));
-    }
-    text.remove_prefix(length);
-  }
-  out += '"';
-}
-
-// Control characters of two bytes are escaped, too: records have them as they were sent.
-void EscapeLongControls(std::string& out, std::size_t from) {
-  for (std::size_t at = from; (at = out.find('\xC2', at)) != std::string::npos;) {
-    const auto second = static_cast<unsigned char>(out[at + 1]);
-    if (IsLongControl(0xC2, second)) {
-      std::string escaped;
-      AppendEscaped(second, escaped);
-      out.replace(at, 2, escaped);
-    }
-    at += 2;
-  }
-}
 
 void AppendNumber(std::uint64_t number, std::string& out) {
   std::array<char, 24> digits;
@@ -87,7 +51,7 @@ class Json : public Sink {
     }
     if (options_.withSource) {
       out.append(",\"source\":");
-      AppendString(wanted.source, out);
+      AppendJsonString(wanted.source, out);
     }
     out.append(",\"offset\":");
     AppendNumber(wanted.item.offset, out);
@@ -157,7 +121,7 @@ class Json : public Sink {
     const std::string_view text(room_.data(), std::min(length, room_.size() - 1));
     const bool isText = member.type == NavframeText || member.type == NavframeRecordText;
     if (isText && (!text.empty() || member.unknownRule != NavframeUnknownEmpty)) {
-      AppendString(text, Out());
+      AppendJsonString(text, Out());
     } else if (text.empty() || text.find_first_of("if") != std::string_view::npos) {
       Out().append("null");  // infinite numbers too
     } else {
@@ -170,11 +134,11 @@ class Json : public Sink {
     out.append(",\"part\":\"").append(PartOf(item)).append("\",\"length\":");
     AppendNumber(item.length, out);
     out.append(",\"message\":");
-    AppendString(MessageOf(item), out);
+    AppendJsonString(MessageOf(item), out);
     out.append(",\"name\":");
-    AppendString(navframe_message_name(&item), out);
+    AppendJsonString(navframe_message_name(&item), out);
     out.append(",\"reason\":");
-    AppendString(navframe_reason_text(item.reason), out);
+    AppendJsonString(navframe_reason_text(item.reason), out);
     if (item.badField != 0) {
       out.append(",\"field\":");
       AppendNumber(item.badField, out);

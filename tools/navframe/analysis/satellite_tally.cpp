@@ -1,0 +1,334 @@
+#include "analysis/satellite_tally.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <map>
+#include <string_view>
+#include <utility>
+
+#include "navframe/records.h"
+
+namespace navframe::analysis {
+namespace {
+
+// Systems by the numbers of observations, which those of NMEA are too but for SBAS.
+constexpr char Letters[] = "?GRECJIS";
+constexpr const char* Names[] = {"not known", "GPS",  "GLONASS", "Galileo",
+                                 "BeiDou",    "QZSS", "NavIC",   "SBAS"};
+constexpr std::size_t Qzss = 5;
+constexpr std::size_t Sbas = 7;
+constexpr std::uint32_t OfUbx[] = {1, 7, 3, 4, 0, 5, 2, 6};
+
+std::uint32_t SystemOfUbx(std::uint8_t id) { return id < std::size(OfUbx) ? OfUbx[id] : 0; }
+
+// Signals of the numbers from a first one on, as RINEX calls them; "--" has no name there.
+struct CodeRow {
+  std::size_t system;
+  std::uint32_t first;
+  std::string_view codes;
+};
+constexpr CodeRow UbxCodes[] = {
+    {1, 0, "1C -- -- 2L 2S -- 5I 5Q"},
+    {2, 0, "1C -- 2C"},
+    {3, 0, "1C 1B -- 5I 5Q 7I 7Q -- 6B 6C 6A"},
+    {4, 0, "2I 2I 7I 7I 6I 1P 1D 5P 5D -- 6I"},
+    {5, 0, "1C 1Z -- -- 2S 2L -- -- 5I 5Q -- -- 1E"},
+    {6, 0, "5A"},
+    {7, 0, "1C"},
+};
+constexpr CodeRow NmeaCodes[] = {
+    {1, 1, "1C 1W 1M 2W 2S 2L 5I 5Q"},       {2, 1, "1C 1P 2C 2P"},
+    {3, 1, "5X 7X 8X 6A 6X 1A 1X"},          {4, 1, "2I 2Q 1X -- 5X 7D 8X 6I 6Q -- 7I 7Q"},
+    {5, 1, "1C 1S 1L 1Z 2S 2L 5I 5Q 6S 6E"}, {6, 1, "5A 9A"},
+};
+
+template <std::size_t Count>
+std::string_view CodeOf(const CodeRow (&rows)[Count], std::size_t system, std::size_t number) {
+  for (const CodeRow& row : rows) {
+    const std::size_t at = 3 * (number - row.first);
+    if (row.system == system && number >= row.first && at < row.codes.size()) {
+      return row.codes.substr(at, 2);
+    }
+  }
+  return "--";
+}
+
+std::string SignalName(std::string_view code, std::size_t number) {
+  if (code[0] >= '0' && code[0] <= '9') return std::string(code);
+  return "signal " + std::to_string(number);
+}
+
+// Numbers of SBAS and QZSS as their signals have them.
+std::size_t NumberInSystem(std::size_t system, std::size_t number) {
+  constexpr std::size_t FirstQzss = 193;
+  constexpr std::size_t FirstSbas = 100;
+  if (system == Sbas && number > FirstSbas) return number - FirstSbas;
+  if (system == Qzss && number >= FirstQzss) return number - FirstQzss + 1;
+  return number;
+}
+
+struct Satellite {
+  std::size_t system;
+  std::size_t number;
+};
+
+// Numbers that tell a system by where they lie; `as` is the first one in its system.
+struct Range {
+  std::size_t among;  // the system that they are counted with; 0 of all
+  std::size_t first;
+  std::size_t last;
+  std::size_t system;
+  std::size_t as;
+};
+constexpr Range NmeaRanges[] = {{1, 33, 64, 7, 20},  {1, 120, 158, 7, 20}, {1, 193, 202, 5, 1},
+                                {2, 65, 99, 2, 1},   {3, 301, 336, 3, 1},  {4, 201, 263, 4, 1},
+                                {4, 401, 463, 4, 1}, {5, 193, 202, 5, 1}};
+constexpr Range UbxRanges[] = {{0, 1, 32, 1, 1},     {0, 33, 64, 4, 6},   {0, 65, 96, 2, 1},
+                               {0, 120, 158, 7, 20}, {0, 159, 163, 4, 1}, {0, 193, 202, 5, 1},
+                               {0, 211, 246, 3, 1}};
+
+template <std::size_t Count>
+Satellite InRanges(const Range (&ranges)[Count], std::size_t system, std::size_t number) {
+  for (const Range& range : ranges) {
+    if (range.among == system && number >= range.first && number <= range.last) {
+      return {range.system, number - range.first + range.as};
+    }
+  }
+  return {system, number};
+}
+Satellite OfNmea(std::size_t system, std::size_t number) {
+  return InRanges(NmeaRanges, system < Sbas ? system : 0, number);
+}
+Satellite OverAll(std::size_t number) { return InRanges(UbxRanges, 0, number); }
+
+// Sums by satellite and by signal.
+class Gathered {
+ public:
+  // `signal` is empty where it is not told.
+  void Add(const Satellite& satellite, const std::string& signal, const Strength& strength) {
+    // What belongs to no system stands behind them.
+    const std::size_t system = satellite.system == 0 ? std::size(Names) : satellite.system;
+    satellites_[{system, satellite.number}].Add(strength);
+    if (!signal.empty()) signals_[{system, signal}].Add(strength);
+  }
+
+  Seen Found() const {
+    Seen seen;
+    for (const auto& [key, strength] : satellites_) {
+      const char letter = LetterOf(key.first);
+      if (seen.systems.empty() || seen.systems.back().system != letter) {
+        seen.systems.push_back({letter, std::string(1, letter), {}});
+      }
+      seen.systems.back().strength.Add(strength);
+      const std::string digits = std::to_string(key.second);
+      const std::string zero(digits.size() < 2 ? 1 : 0, '0');
+      seen.satellites.push_back({letter, letter + zero + digits, strength});
+    }
+    for (const auto& [key, strength] : signals_) {
+      seen.signals.push_back({LetterOf(key.first), key.second, strength});
+    }
+    return seen;
+  }
+
+ private:
+  static char LetterOf(std::size_t system) {
+    return Letters[system < std::size(Names) ? system : 0];
+  }
+
+  std::map<std::pair<std::size_t, std::size_t>, Strength> satellites_;
+  std::map<std::pair<std::size_t, std::string>, Strength> signals_;
+};
+
+bool IsKind(const NavframeKind& kind, std::uint32_t id) {
+  return kind.source == SourceStream && kind.id == id;
+}
+
+std::vector<NamedStrength>::iterator PlaceOf(std::vector<NamedStrength>& list,
+                                             const NamedStrength& one) {
+  return std::ranges::find_if(list, [&](const NamedStrength& other) {
+    return other.system == one.system && other.name == one.name;
+  });
+}
+
+void AddTo(std::vector<NamedStrength>& list, const std::vector<NamedStrength>& others) {
+  for (const NamedStrength& one : others) {
+    const auto place = PlaceOf(list, one);
+    if (place == list.end()) {
+      list.push_back(one);
+    } else {
+      place->strength.Add(one.strength);
+    }
+  }
+}
+
+}  // namespace
+
+void Strength::Add(const Strength& others) {
+  count += others.count;
+  measured += others.measured;
+  sum += others.sum;
+}
+
+double Strength::Mean() const {
+  return measured == 0 ? std::numeric_limits<double>::quiet_NaN()
+                       : sum / static_cast<double>(measured);
+}
+
+void Seen::Add(const Seen& others) {
+  if (others.in > in) return;
+  if (others.in < in) *this = {};
+  in = others.in;
+  AddTo(systems, others.systems);
+  AddTo(satellites, others.satellites);
+  AddTo(signals, others.signals);
+}
+
+const char* NameOf(SeenIn in) {
+  constexpr const char* SeenNames[] = {"observations", "NAV-SIG", "NAV-SAT",
+                                       "NAV-SVINFO",   "GSV",     ""};
+  return SeenNames[static_cast<std::size_t>(in)];
+}
+
+const char* SystemName(char letter) {
+  const std::size_t at = std::string_view(Letters).find(letter);
+  return Names[at < std::size(Names) ? at : 0];
+}
+
+SeenIn SatelliteTally::PartOf(const NavframeKind& kind) {
+  if (IsKind(kind, MsgIdObservations)) return SeenIn::Observations;
+  if (IsKind(kind, MsgIdUbxSignals)) return SeenIn::NavSig;
+  if (IsKind(kind, MsgIdUbxSatellites) || IsKind(kind, MsgIdUbxFullSatellites)) {
+    return SeenIn::NavSat;
+  }
+  if (IsKind(kind, MsgIdUbxChannels)) return SeenIn::NavSvInfo;
+  return IsKind(kind, MsgIdGsv) || IsKind(kind, MsgIdWideGsv) ? SeenIn::Gsv : SeenIn::Nothing;
+}
+
+void SatelliteTally::TakeMore(SeenIn in, const NavframeItem& item) {
+  if (in == SeenIn::Nothing) return;
+  if (in != in_) {
+    inView_.reset();
+    if (in != SeenIn::Observations) inView_.emplace();
+  }
+  in_ = in;
+  switch (in) {
+    case SeenIn::Observations:
+      return Observations(item.record);
+    case SeenIn::NavSig:
+      return NavSig(item.record);
+    case SeenIn::NavSat:
+      return IsKind(*item.kind, MsgIdUbxSatellites) ? NavSat<UbxSatellitesRecord>(item.record)
+                                                    : NavSat<UbxFullSatellitesRecord>(item.record);
+    case SeenIn::NavSvInfo:
+      return SvInfo(item.record);
+    default:
+      return IsKind(*item.kind, MsgIdGsv) ? Gsv<GsvRecord>(item.record)
+                                          : Gsv<WideGsvRecord>(item.record);
+  }
+}
+
+void SatelliteTally::Observations(const void* data) {
+  constexpr std::uint16_t LastRtk = 1012;
+  const auto& record = *static_cast<const ObservationsRecord*>(data);
+  if (record.protocol == NavframeUbx) return Count<UbxRaw>(data);
+  return record.message <= LastRtk ? Count<Rtk>(data) : Count<Msm>(data);
+}
+
+template <SatelliteTally::Numbering Rule>
+void SatelliteTally::Count(const void* data) {
+  const auto& record = *static_cast<const ObservationsRecord*>(data);
+  if (!observed_[Rule]) observed_[Rule].emplace();
+  SignalCells& cells = *observed_[Rule];
+  const Observation* const end = record.observations + record.count;
+  for (const Observation* one = record.observations; one != end; ++one) {
+    std::uint32_t signal = one->signal;
+    // Code indicators are those of a band.
+    if (Rule == Rtk && one->code[0] == '2') signal += SignalCells::Signals / 2;
+    const double cn0 = static_cast<double>(one->cn0);  // NaN, which is above nothing: not known
+    if (!cells.Add(one->system, one->satellite, signal, cn0)) [[likely]]
+      continue;
+    if (one->system < SignalCells::Systems && signal < SignalCells::Signals) {
+      codes_[Rule][one->system][signal] = {{one->code[0], one->code[1]}};
+    }
+  }
+}
+
+// Of satellites in view those count that a signal came from.
+void SatelliteTally::NavSig(const void* data) {
+  const auto& record = *static_cast<const UbxSignalsRecord*>(data);
+  for (std::size_t i = 0; i < record.count; ++i) {
+    const UbxSignal& one = record.signals[i];
+    if (one.cn0 == 0 || one.cn0 == 255) continue;
+    inView_->Add(SystemOfUbx(one.systemId), one.satelliteId, one.signalId, one.cn0);
+  }
+}
+
+template <class Record>
+void SatelliteTally::NavSat(const void* data) {
+  const auto& record = *static_cast<const Record*>(data);
+  for (std::size_t i = 0; i < record.count; ++i) {
+    const auto& one = record.satellites[i];
+    if (one.cn0 == 0 || one.cn0 == 255) continue;
+    inView_->Add(SystemOfUbx(one.systemId), one.satelliteId, 0, one.cn0);
+  }
+}
+
+void SatelliteTally::SvInfo(const void* data) {
+  const auto& record = *static_cast<const UbxChannelsRecord*>(data);
+  for (std::size_t i = 0; i < record.count; ++i) {
+    const UbxChannel& one = record.channels[i];
+    if (one.cn0 == 0 || one.cn0 == 255) continue;
+    inView_->Add(0, one.satelliteId, 0, one.cn0);
+  }
+}
+
+template <class Record>
+void SatelliteTally::Gsv(const void* data) {
+  constexpr bool IsWide = sizeof(Record) == sizeof(WideGsvRecord);
+  constexpr double Unit = IsWide ? 0.01 : 1;
+  const auto& record = *static_cast<const Record*>(data);
+  SignalCells& cells = *inView_;
+  const auto* const end = record.satellites + record.satelliteCount;
+  for (const auto* one = record.satellites; one != end; ++one) {
+    for (std::size_t s = 0; s < one->signalCount; ++s) {
+      const auto& signal = one->signals[s];
+      if (signal.cn0 == 0 || signal.cn0 == (IsWide ? 0xFFFF : 0xFF)) continue;
+      cells.Add(one->systemId, one->number, signal.signalId, signal.cn0 * Unit);
+    }
+  }
+}
+
+Seen SatelliteTally::Found() const {
+  Gathered gathered;
+  for (std::size_t rule = 0; rule < Numberings; ++rule) {
+    if (!observed_[rule]) continue;
+    observed_[rule]->ForEach([&](std::size_t system, std::size_t number, std::size_t signal,
+                                 const SignalCells::Cell& cell, std::uint64_t unmeasured) {
+      const Code code = codes_[rule][system][signal];
+      gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
+                   {cell.count, cell.count - unmeasured, cell.sum});
+    });
+  }
+  if (inView_) {
+    inView_->ForEach([&](std::size_t system, std::size_t number, std::size_t signal,
+                         const SignalCells::Cell& cell, std::uint64_t unmeasured) {
+      Satellite satellite{system, NumberInSystem(system, number)};
+      std::string name;  // of a signal that is told
+      if (in_ == SeenIn::NavSig) {
+        name = SignalName(CodeOf(UbxCodes, system, signal), signal);
+      } else if (in_ == SeenIn::NavSvInfo) {
+        satellite = OverAll(number);
+      } else if (in_ == SeenIn::Gsv) {
+        satellite = OfNmea(system, number);
+        if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
+      }
+      gathered.Add(satellite, name, {cell.count, cell.count - unmeasured, cell.sum});
+    });
+  }
+  Seen seen = gathered.Found();
+  seen.in = in_;
+  return seen;
+}
+
+}  // namespace navframe::analysis
