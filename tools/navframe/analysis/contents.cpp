@@ -81,9 +81,13 @@ std::uint64_t Contents::Frames() const {
 // Among bytes of chance there is a frame with a check of 8 bits now and then, whatever the size: it
 // stands alone among many false starts.
 bool Contents::IsRecognised() const {
+  constexpr std::uint32_t Strong = NavframeRtcm3 | NavframeUbx | NavframeAsciiLog;
   constexpr std::uint64_t ByChance = 1000;  // bytes for one that a frame has
   std::uint64_t inFrames = 0;
-  for (const ProtocolShare& share : protocols) inFrames += share.bytes;
+  for (const ProtocolShare& share : protocols) {
+    if ((share.protocol & Strong) != 0) return true;
+    inFrames += share.bytes;
+  }
   return inFrames != 0 && inFrames * ByChance >= bytes;
 }
 

@@ -18,25 +18,13 @@ constexpr std::pair<NavframeProtocol, NavframeProtocolStatistics NavframeStatist
 
 }  // namespace
 
-// The kinds of the catalogue are fewer than the places.
-const Inventory::Role& Inventory::RoleOf(const NavframeKind* kind) {
-  std::size_t place = (reinterpret_cast<std::uintptr_t>(kind) >> 4) % RolePlaces;
-  while (roles_[place].kind != kind) {
-    if (roles_[place].kind == nullptr) {
-      Role role{SatelliteTally::PartOf(*kind), Epochs::IsOf(*kind), Announced::IsOf(*kind)};
-      role.isNone = role.seen == SeenIn::Nothing && !role.isFix && !role.announces;
-      roles_[place] = {kind, role};
-      break;
-    }
-    place = (place + 1) % RolePlaces;
-  }
-  return roles_[place].role;
+void Inventory::AddRole(const NavframeKind& kind) {
+  Role role{SatelliteTally::PartOf(kind), Epochs::IsOf(kind), Announced::IsOf(kind)};
+  role.isNone = role.seen == SeenIn::Nothing && !role.isFix && !role.announces;
+  roles_.push_back(role);
 }
 
-void Inventory::Record(const NavframeItem& item, std::int64_t time) {
-  messages_.Record(item, time);
-  const Role& role = RoleOf(item.kind);
-  if (role.isNone) return;
+void Inventory::Use(const Role& role, const NavframeItem& item, std::int64_t time) {
   if (role.isFix) Note(epochs_.Take(item, time, timeline_));
   if (role.seen != SeenIn::Nothing) satellites_.Take(role.seen, item);
   if (role.announces) announced_.Take(item);

@@ -44,16 +44,17 @@ class Inventory {
     bool announces = false;
     bool isNone = false;  // nothing of that
   };
-  struct KindRole {
-    const NavframeKind* kind = nullptr;
-    Role role;
-  };
-  static constexpr std::size_t RolePlaces = 1024;
   static constexpr std::size_t Reasons = 9;
   static constexpr std::size_t Protocols = 8;  // bits of NavframeProtocol
 
-  void Record(const NavframeItem& item, std::int64_t time);
-  const Role& RoleOf(const NavframeKind* kind);
+  void Record(const NavframeItem& item, std::int64_t time) {
+    const std::size_t kind = messages_.Record(item, time);
+    if (kind == roles_.size()) AddRole(*item.kind);
+    const Role& role = roles_[kind];
+    if (!role.isNone) Use(role, item, time);
+  }
+  void AddRole(const NavframeKind& kind);
+  void Use(const Role& role, const NavframeItem& item, std::int64_t time);
   void Go(std::int64_t time);
   void NotInFrame(const NavframeItem& item);
   void Note(const Fix* fix);
@@ -64,7 +65,7 @@ class Inventory {
   Announced announced_;
   Epochs epochs_;
   PositionFound position_;
-  std::vector<KindRole> roles_ = std::vector<KindRole>(RolePlaces);
+  std::vector<Role> roles_;  // by the numbers that kinds have in messages_
   std::int64_t time_ = NoTime;
   std::int64_t earliest_ = NoTime;
   std::int64_t latest_ = NoTime;

@@ -61,29 +61,26 @@ MessageTable::Row& MessageTable::Find(const Key& key, const NavframeItem& item) 
   return rows_[current_];
 }
 
-void MessageTable::Relate(Row& row, const NavframeKind* kind) const {
-  row.lastKind = kind;
-  if (IsGsv(*kind) == row.isGsv && std::ranges::find(row.kinds, kind) == row.kinds.end()) {
-    row.kinds.push_back(kind);
-  }
+// A record of another kind than the last one of the message. Without a frame of its own it is none
+// of the message's: satellites in view that were waiting.
+void MessageTable::Relate(Row& row, const NavframeItem& item) {
+  row.lastKind = item.kind;
+  row.lastKindRow = RowOf(item.kind);
+  if (item.length == 0 || IsGsv(*item.kind) != row.isGsv) return;
+  if (std::ranges::find(row.kinds, item.kind) == row.kinds.end()) row.kinds.push_back(item.kind);
 }
 
-Pace& MessageTable::PaceOf(const NavframeKind* kind) {
+// There are fewer kinds than places.
+std::size_t MessageTable::RowOf(const NavframeKind* kind) {
   std::size_t place = Mixed(reinterpret_cast<std::uintptr_t>(kind)) % Places;
   while (kindPlaces_[place] != 0 && kindRows_[kindPlaces_[place] - 1U].kind != kind) {
     place = (place + 1) % Places;
   }
-  if (kindPlaces_[place] == 0) {  // there are fewer kinds than places
+  if (kindPlaces_[place] == 0) {
     kindRows_.push_back({kind, {}});
     kindPlaces_[place] = static_cast<std::uint16_t>(kindRows_.size());
   }
-  return kindRows_[kindPlaces_[place] - 1U].pace;
-}
-
-void MessageTable::Record(const NavframeItem& item, std::int64_t time) {
-  Row& row = rows_[current_];
-  if (item.length != 0 && row.lastKind != item.kind) Relate(row, item.kind);
-  PaceOf(item.kind).Take(time);
+  return kindPlaces_[place] - 1U;
 }
 
 std::vector<Message> MessageTable::Messages(std::int64_t origin) const {

@@ -46,8 +46,14 @@ class MessageTable {
     row.pace.Take(time);
   }
 
-  // Behind the frame that the record is of.
-  void Record(const NavframeItem& item, std::int64_t time);
+  // Behind the frame that the record is of. Kinds have numbers from 0 on as they come; that of the
+  // record's is returned.
+  std::size_t Record(const NavframeItem& item, std::int64_t time) {
+    Row& row = rows_[current_];
+    if (row.lastKind != item.kind) Relate(row, item);
+    kindRows_[row.lastKindRow].pace.Take(time);
+    return row.lastKindRow;
+  }
 
   std::vector<Message> Messages(std::int64_t origin) const;
   std::vector<KindCount> Kinds(std::int64_t origin) const;
@@ -67,7 +73,8 @@ class MessageTable {
     std::uint64_t bytes = 0;
     std::array<std::uint64_t, 16> reasons{};  // by NavframeReason
     std::vector<const NavframeKind*> kinds;
-    const NavframeKind* lastKind = nullptr;  // known to be among them, or not to be of it
+    const NavframeKind* lastKind = nullptr;  // of the record that came last behind it
+    std::size_t lastKindRow = 0;
     bool isGsv = false;
     std::string message;
     std::string name;
@@ -100,8 +107,8 @@ class MessageTable {
     return Find(key, item);
   }
   Row& Find(const Key& key, const NavframeItem& item);
-  void Relate(Row& row, const NavframeKind* kind) const;
-  Pace& PaceOf(const NavframeKind* kind);
+  void Relate(Row& row, const NavframeItem& item);
+  std::size_t RowOf(const NavframeKind* kind);
 
   std::vector<Row> rows_;              // the first one is none
   std::vector<std::uint16_t> places_;  // of rows, by a hash of their keys; 0 of none

@@ -20,7 +20,9 @@ constexpr std::size_t Qzss = 5;
 constexpr std::size_t Sbas = 7;
 constexpr std::uint32_t OfUbx[] = {1, 7, 3, 4, 0, 5, 2, 6};
 
-std::uint32_t SystemOfUbx(std::uint8_t id) { return id < std::size(OfUbx) ? OfUbx[id] : 0; }
+// Values of C/N0 as they are summed up, in parts of a dB-Hz: the finest that MSM has, and GSV.
+constexpr float ObservedUnits = 16;
+constexpr double GsvUnits = 100;
 
 // Signals of the numbers from a first one on, as RINEX calls them; "--" has no name there.
 struct CodeRow {
@@ -102,8 +104,32 @@ Satellite OfNmea(std::size_t system, std::size_t number) {
 }
 Satellite OverAll(std::size_t number) { return InRanges(UbxRanges, 0, number); }
 
+bool IsKind(const NavframeKind& kind, std::uint32_t id) {
+  return kind.source == SourceStream && kind.id == id;
+}
+
+std::vector<NamedStrength>::iterator PlaceOf(std::vector<NamedStrength>& list,
+                                             const NamedStrength& one) {
+  return std::ranges::find_if(list, [&](const NamedStrength& other) {
+    return other.system == one.system && other.name == one.name;
+  });
+}
+
+void AddTo(std::vector<NamedStrength>& list, const std::vector<NamedStrength>& others) {
+  for (const NamedStrength& one : others) {
+    const auto place = PlaceOf(list, one);
+    if (place == list.end()) {
+      list.push_back(one);
+    } else {
+      place->strength.Add(one.strength);
+    }
+  }
+}
+
+}  // namespace
+
 // Sums by satellite and by signal.
-class Gathered {
+class SatelliteTally::Gathered {
  public:
   // `signal` is empty where it is not told.
   void Add(const Satellite& satellite, const std::string& signal, const Strength& strength) {
@@ -140,30 +166,6 @@ class Gathered {
   std::map<std::pair<std::size_t, std::string>, Strength> signals_;
 };
 
-bool IsKind(const NavframeKind& kind, std::uint32_t id) {
-  return kind.source == SourceStream && kind.id == id;
-}
-
-std::vector<NamedStrength>::iterator PlaceOf(std::vector<NamedStrength>& list,
-                                             const NamedStrength& one) {
-  return std::ranges::find_if(list, [&](const NamedStrength& other) {
-    return other.system == one.system && other.name == one.name;
-  });
-}
-
-void AddTo(std::vector<NamedStrength>& list, const std::vector<NamedStrength>& others) {
-  for (const NamedStrength& one : others) {
-    const auto place = PlaceOf(list, one);
-    if (place == list.end()) {
-      list.push_back(one);
-    } else {
-      place->strength.Add(one.strength);
-    }
-  }
-}
-
-}  // namespace
-
 void Strength::Add(const Strength& others) {
   count += others.count;
   measured += others.measured;
@@ -193,6 +195,16 @@ const char* NameOf(SeenIn in) {
 const char* SystemName(char letter) {
   const std::size_t at = std::string_view(Letters).find(letter);
   return Names[at < std::size(Names) ? at : 0];
+}
+
+// Of a place that was not used yet, or whose cell is full.
+void SignalCells::Sort(std::uint32_t place) {
+  Sum& sum = sums_[place];
+  const std::uint64_t cell = cells_[place];
+  if (cell % (2 * Full) < Full) return;
+  sum.count += cell % (2 * Full);
+  sum.values += cell >> CountBits;
+  cells_[place] = 0;
 }
 
 SeenIn SatelliteTally::PartOf(const NavframeKind& kind) {
@@ -238,15 +250,22 @@ void SatelliteTally::Observations(const void* data) {
 template <SatelliteTally::Numbering Rule>
 void SatelliteTally::Count(const void* data) {
   const auto& record = *static_cast<const ObservationsRecord*>(data);
-  if (!observed_[Rule]) observed_[Rule].emplace();
+  if (!observed_[Rule]) {
+    observed_[Rule].emplace();
+    unmeasured_[Rule].emplace();
+  }
   SignalCells& cells = *observed_[Rule];
   const Observation* const end = record.observations + record.count;
   for (const Observation* one = record.observations; one != end; ++one) {
     std::uint32_t signal = one->signal;
     // Code indicators are those of a band.
     if (Rule == Rtk && one->code[0] == '2') signal += SignalCells::Signals / 2;
-    const double cn0 = static_cast<double>(one->cn0);  // NaN, which is above nothing: not known
-    if (!cells.Add(one->system, one->satellite, signal, cn0)) [[likely]]
+    const std::uint32_t place = SignalCells::PlaceOf(one->system, one->satellite, signal);
+    const bool isMeasured = one->cn0 > 0;  // which NaN is not: not known
+    const bool isNew = isMeasured
+                           ? cells.Add(place, static_cast<std::uint32_t>(one->cn0 * ObservedUnits))
+                           : unmeasured_[Rule]->Add(place, 0);
+    if (!isNew) [[likely]]
       continue;
     if (one->system < SignalCells::Systems && signal < SignalCells::Signals) {
       codes_[Rule][one->system][signal] = {{one->code[0], one->code[1]}};
@@ -260,17 +279,18 @@ void SatelliteTally::NavSig(const void* data) {
   for (std::size_t i = 0; i < record.count; ++i) {
     const UbxSignal& one = record.signals[i];
     if (one.cn0 == 0 || one.cn0 == 255) continue;
-    inView_->Add(SystemOfUbx(one.systemId), one.satelliteId, one.signalId, one.cn0);
+    inView_->Add(SignalCells::PlaceOf(one.systemId, one.satelliteId, one.signalId), one.cn0);
   }
 }
 
 template <class Record>
 void SatelliteTally::NavSat(const void* data) {
   const auto& record = *static_cast<const Record*>(data);
-  for (std::size_t i = 0; i < record.count; ++i) {
-    const auto& one = record.satellites[i];
-    if (one.cn0 == 0 || one.cn0 == 255) continue;
-    inView_->Add(SystemOfUbx(one.systemId), one.satelliteId, 0, one.cn0);
+  SignalCells& cells = *inView_;
+  const auto* const end = record.satellites + record.count;
+  for (const auto* one = record.satellites; one != end; ++one) {
+    if (one->cn0 == 0 || one->cn0 == 255) continue;
+    cells.Add(SignalCells::PlaceOf(one->systemId, one->satelliteId, 0), one->cn0);
   }
 }
 
@@ -279,14 +299,14 @@ void SatelliteTally::SvInfo(const void* data) {
   for (std::size_t i = 0; i < record.count; ++i) {
     const UbxChannel& one = record.channels[i];
     if (one.cn0 == 0 || one.cn0 == 255) continue;
-    inView_->Add(0, one.satelliteId, 0, one.cn0);
+    inView_->Add(SignalCells::PlaceOf(0, one.satelliteId, 0), one.cn0);
   }
 }
 
 template <class Record>
 void SatelliteTally::Gsv(const void* data) {
   constexpr bool IsWide = sizeof(Record) == sizeof(WideGsvRecord);
-  constexpr double Unit = IsWide ? 0.01 : 1;
+  constexpr std::uint32_t Unit = IsWide ? 1 : 100;  // GsvUnits
   const auto& record = *static_cast<const Record*>(data);
   SignalCells& cells = *inView_;
   const auto* const end = record.satellites + record.satelliteCount;
@@ -294,37 +314,49 @@ void SatelliteTally::Gsv(const void* data) {
     for (std::size_t s = 0; s < one->signalCount; ++s) {
       const auto& signal = one->signals[s];
       if (signal.cn0 == 0 || signal.cn0 == (IsWide ? 0xFFFF : 0xFF)) continue;
-      cells.Add(one->systemId, one->number, signal.signalId, signal.cn0 * Unit);
+      cells.Add(SignalCells::PlaceOf(one->systemId, one->number, signal.signalId),
+                signal.cn0 * Unit);
     }
   }
 }
 
+// Where the names of what was observed by one numbering come from.
+void SatelliteTally::Gather(std::size_t rule, Gathered& gathered) const {
+  const auto add = [&](bool isMeasured) {
+    return [&gathered, &codes = codes_[rule], isMeasured](
+               std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {
+      const Code code = codes[system][signal];
+      gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
+                   {sum.count, isMeasured ? sum.count : 0,
+                    static_cast<double>(sum.values) / static_cast<double>(ObservedUnits)});
+    };
+  };
+  if (!observed_[rule]) return;
+  observed_[rule]->ForEach(add(true));
+  unmeasured_[rule]->ForEach(add(false));
+}
+
 Seen SatelliteTally::Found() const {
   Gathered gathered;
-  for (std::size_t rule = 0; rule < Numberings; ++rule) {
-    if (!observed_[rule]) continue;
-    observed_[rule]->ForEach([&](std::size_t system, std::size_t number, std::size_t signal,
-                                 const SignalCells::Cell& cell, std::uint64_t unmeasured) {
-      const Code code = codes_[rule][system][signal];
-      gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
-                   {cell.count, cell.count - unmeasured, cell.sum});
-    });
-  }
+  for (std::size_t rule = 0; rule < Numberings; ++rule) Gather(rule, gathered);
   if (inView_) {
-    inView_->ForEach([&](std::size_t system, std::size_t number, std::size_t signal,
-                         const SignalCells::Cell& cell, std::uint64_t unmeasured) {
-      Satellite satellite{system, NumberInSystem(system, number)};
-      std::string name;  // of a signal that is told
-      if (in_ == SeenIn::NavSig) {
-        name = SignalName(CodeOf(UbxCodes, system, signal), signal);
-      } else if (in_ == SeenIn::NavSvInfo) {
-        satellite = OverAll(number);
-      } else if (in_ == SeenIn::Gsv) {
-        satellite = OfNmea(system, number);
-        if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
-      }
-      gathered.Add(satellite, name, {cell.count, cell.count - unmeasured, cell.sum});
-    });
+    inView_->ForEach(
+        [&](std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {
+          const bool isUbx = in_ != SeenIn::Gsv;
+          if (isUbx) system = system < std::size(OfUbx) ? OfUbx[system] : 0;
+          Satellite satellite{system, NumberInSystem(system, number)};
+          std::string name;  // of a signal that is told
+          if (in_ == SeenIn::NavSig) {
+            name = SignalName(CodeOf(UbxCodes, system, signal), signal);
+          } else if (in_ == SeenIn::NavSvInfo) {
+            satellite = OverAll(number);
+          } else if (in_ == SeenIn::Gsv) {
+            satellite = OfNmea(system, number);
+            if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
+          }
+          const double cn0 = static_cast<double>(sum.values) / (isUbx ? 1 : GsvUnits);
+          gathered.Add(satellite, name, {sum.count, sum.count, cn0});
+        });
   }
   Seen seen = gathered.Found();
   seen.in = in_;

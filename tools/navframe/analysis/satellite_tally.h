@@ -5,11 +5,11 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <map>
 #include <memory>
 #include <new>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "navframe/stream.h"
@@ -65,48 +65,13 @@ class SignalCells {
   static constexpr std::uint32_t Numbers = 512;
   static constexpr std::uint32_t Signals = 32;
 
-  struct Cell {
-    std::uint64_t count;
-    double sum;
-  };
-
   // Pages of memory are taken as they are used.
-  SignalCells() : cells_(static_cast<Cell*>(std::calloc(Places, sizeof(Cell)))) {
+  SignalCells() : cells_(static_cast<std::uint64_t*>(std::calloc(Places, sizeof(std::uint64_t)))) {
     if (cells_ == nullptr) throw std::bad_alloc();
   }
 
-  // Adds what was measured. What is out of range counts as the last one there is, a system as the
-  // first, which is none. Whether it is the first time.
-  bool Add(std::uint32_t system, std::uint32_t number, std::uint32_t signal, double cn0) {
-    const std::uint32_t place = PlaceOf(system, number, signal);
-    Cell& cell = cells_[place];
-    if (cn0 > 0) [[likely]] {
-      cell.sum += cn0;
-    } else {
-      ++unmeasured_[place];
-    }
-    if (cell.count++ != 0) [[likely]] return false;
-    used_.push_back(place);
-    return true;
-  }
-
-  // Cells that were used, with their numbers and how often nothing was measured.
-  template <class Take>
-  void ForEach(Take take) const {
-    for (const std::uint32_t place : used_) {
-      const auto found = unmeasured_.find(place);
-      take(place / (Numbers * Signals), place / Signals % Numbers, place % Signals, cells_[place],
-           found == unmeasured_.end() ? 0 : found->second);
-    }
-  }
-
- private:
-  static constexpr std::uint32_t Places = Systems * Numbers * Signals;
-
-  struct Free {
-    void operator()(Cell* cells) const { std::free(cells); }
-  };
-
+  // The place of what was seen. What is out of range counts as the last one there is, a system as
+  // the first, which is none.
   static std::uint32_t PlaceOf(std::uint32_t system, std::uint32_t number, std::uint32_t signal) {
     if (system >= Systems || number >= Numbers || signal >= Signals) [[unlikely]] {
       system = system < Systems ? system : 0;
@@ -116,9 +81,44 @@ class SignalCells {
     return (system * Numbers + number) * Signals + signal;
   }
 
-  std::unique_ptr<Cell[], Free> cells_;
-  std::vector<std::uint32_t> used_;
-  std::unordered_map<std::uint32_t, std::uint64_t> unmeasured_;
+  // Counts one with that value, below 65536. Whether it may be the first.
+  bool Add(std::uint32_t place, std::uint32_t value) {
+    const std::uint64_t cell = cells_[place] += std::uint64_t{value} << CountBits | 1;
+    if ((cell & (Full - 1)) > 1) [[likely]]
+      return false;
+    Sort(place);
+    return true;
+  }
+
+  // Places that were used, with counts and sums.
+  template <class Take>
+  void ForEach(Take take) const {
+    for (const auto& [place, sum] : sums_) {
+      const std::uint64_t cell = cells_[place];
+      take(place / (Numbers * Signals), place / Signals % Numbers, place % Signals,
+           Sum{sum.count + cell % (2 * Full), sum.values + (cell >> CountBits)});
+    }
+  }
+  struct Sum {
+    std::uint64_t count = 0;
+    std::uint64_t values = 0;
+  };
+
+ private:
+  static constexpr std::uint32_t Places = Systems * Numbers * Signals;
+  // A cell has a count and, above it, the sum of the values. Before either can overflow they go to
+  // the sums.
+  static constexpr int CountBits = 21;
+  static constexpr std::uint64_t Full = std::uint64_t{1} << (CountBits - 1);
+
+  struct Free {
+    void operator()(std::uint64_t* cells) const { std::free(cells); }
+  };
+
+  void Sort(std::uint32_t place);
+
+  std::unique_ptr<std::uint64_t[], Free> cells_;
+  std::map<std::uint32_t, Sum> sums_;
 };
 
 class SatelliteTally {
@@ -141,6 +141,8 @@ class SatelliteTally {
     char text[2];  // 0 of one that is not listed
   };
 
+  class Gathered;
+
   void TakeMore(SeenIn in, const NavframeItem& item);
   void Observations(const void* record);
   template <Numbering Rule>
@@ -151,9 +153,11 @@ class SatelliteTally {
   void SvInfo(const void* record);
   template <class Record>
   void Gsv(const void* record);
+  void Gather(std::size_t rule, Gathered& gathered) const;
 
   SeenIn in_ = SeenIn::Nothing;
   std::array<std::optional<SignalCells>, Numberings> observed_;
+  std::array<std::optional<SignalCells>, Numberings> unmeasured_;  // of those without a C/N0
   std::array<std::array<std::array<Code, SignalCells::Signals>, SignalCells::Systems>, Numberings>
       codes_{};  // of their signals
   std::optional<SignalCells> inView_;

@@ -21,5 +21,6 @@ Command AddInfo(CLI::App& app);
 Command AddKinds(CLI::App& app);
 Command AddSources(CLI::App& app);
 Command AddRinex(CLI::App& app);
+Command AddTrack(CLI::App& app);
 
 }  // namespace navframe::tool
