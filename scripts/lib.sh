@@ -45,6 +45,7 @@ ci_packages=(
   "python3:command python3"
   "rtklib:command convbin"
   "socat:command socat"
+  "gpsbabel:command gpsbabel"
   "openssl:command openssl"
   "iproute2:command ip"
   "util-linux:command unshare"

@@ -29,6 +29,9 @@ constexpr Example Examples[] = {
      "a receiver, whose bytes are kept"},
     {"navframe tcp://localhost:5017 ntrip://user@caster.example/BASE",
      "a server beside a mountpoint of a caster"},
+    {"navframe info drive.ubx base.rtcm3", "what they hold, each and together"},
+    {"navframe info --json drive.ubx", "the same for programs"},
+    {"navframe track drive.ubx --output drive.gpx", "where the receiver was"},
     {"navframe sources ntrip://caster.example", "the mountpoints of a caster"},
     {"navframe rinex drive.ubx --station-id ubx -o drive", "RINEX: drive.obs and drive.nav"},
     {"navframe rinex base.rtcm3 --station-id 120 --station ABCD00CHE --split hour --gzip -o files",
@@ -44,7 +47,7 @@ constexpr Status Statuses[] = {
     {"0", "decoded"},
     {"1", "the input could not be read, or the output not be made or written"},
     {"2", "wrong usage"},
-    {"3", "nothing was recognised"},
+    {"3", "nothing was recognised; for a track, there are no positions"},
 };
 
 // Text of the page itself: no commands of roff.
@@ -74,7 +77,8 @@ std::string NameOf(const CLI::Option& option) {
 
 void AppendOptions(const CLI::App& app, std::string& out) {
   for (const CLI::Option* option : app.get_options()) {
-    if (!IsShown(*option)) continue;
+    const bool isHelp = app.get_parent() != nullptr && option == app.get_help_ptr();
+    if (!IsShown(*option) || isHelp) continue;
     out.append(".TP\n.B ").append(Escaped(NameOf(*option)));
     const std::string shown = option->get_option_text();
     if (!shown.empty()) out.append(" \\fI").append(Escaped(shown)).append("\\fP");
@@ -127,6 +131,10 @@ std::string ManualPage(const CLI::App& app) {
   for (const CLI::App* command : commands) {
     out.append(".TP\n.B ").append(command->get_name()).append("\n");
     out.append(Escaped(command->get_description())).append("\n");
+    if (command->get_name() == "decode") continue;  // whose options stand above
+    out.append(".RS\n");
+    AppendOptions(*command, out);
+    out.append(".RE\n");
   }
   out.append(".SH FORMS\n");
   for (const FormRow& form : Forms) {
