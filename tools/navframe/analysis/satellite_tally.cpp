@@ -1,6 +1,8 @@
 #include "analysis/satellite_tally.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <limits>
 #include <map>
@@ -226,7 +228,7 @@ void SatelliteTally::TakeMore(SeenIn in, const NavframeItem& item) {
   in_ = in;
   switch (in) {
     case SeenIn::Observations:
-      return Observations(item.record);
+      return Observe(item.record);
     case SeenIn::NavSig:
       return NavSig(item.record);
     case SeenIn::NavSat:
@@ -240,37 +242,46 @@ void SatelliteTally::TakeMore(SeenIn in, const NavframeItem& item) {
   }
 }
 
-void SatelliteTally::Observations(const void* data) {
+void SatelliteTally::Observe(const void* data) {
   constexpr std::uint16_t LastRtk = 1012;
   const auto& record = *static_cast<const ObservationsRecord*>(data);
   if (record.protocol == NavframeUbx) return Count<UbxRaw>(data);
   return record.message <= LastRtk ? Count<Rtk>(data) : Count<Msm>(data);
 }
 
+// A receiver tells the same signals in the same order, epoch for epoch: what stood at a place of a
+// message last time is looked at first.
 template <SatelliteTally::Numbering Rule>
 void SatelliteTally::Count(const void* data) {
   const auto& record = *static_cast<const ObservationsRecord*>(data);
-  if (!observed_[Rule]) {
-    observed_[Rule].emplace();
-    unmeasured_[Rule].emplace();
-  }
-  SignalCells& cells = *observed_[Rule];
+  if (!observed_[Rule]) observed_[Rule] = std::make_unique<Observed>();
+  Observed& observed = *observed_[Rule];
+  Expected* expected = observed.expected[record.message / 10 % Messages].data();
   const Observation* const end = record.observations + record.count;
-  for (const Observation* one = record.observations; one != end; ++one) {
-    std::uint32_t signal = one->signal;
-    // Code indicators are those of a band.
-    if (Rule == Rtk && one->code[0] == '2') signal += SignalCells::Signals / 2;
-    const std::uint32_t place = SignalCells::PlaceOf(one->system, one->satellite, signal);
-    const bool isMeasured = one->cn0 > 0;  // which NaN is not: not known
-    const bool isNew = isMeasured
-                           ? cells.Add(place, static_cast<std::uint32_t>(one->cn0 * ObservedUnits))
-                           : unmeasured_[Rule]->Add(place, 0);
-    if (!isNew) [[likely]]
-      continue;
-    if (one->system < SignalCells::Systems && signal < SignalCells::Signals) {
-      codes_[Rule][one->system][signal] = {{one->code[0], one->code[1]}};
+  for (const Observation* one = record.observations; one != end; ++one, ++expected) {
+    std::uint32_t head = 0;  // system, satellite, signal and channel
+    static_assert(offsetof(Observation, code) == sizeof head);
+    std::memcpy(&head, one, sizeof head);
+    if (head != expected->head) [[unlikely]] {
+      *expected = {head, PlaceOf<Rule>(*one)};
+    }
+    if (one->cn0 > 0) {  // which NaN is not: not known
+      observed.measured.Add(expected->place, static_cast<std::uint32_t>(one->cn0 * ObservedUnits));
+    } else {
+      observed.unmeasured.Add(expected->place, 0);
     }
   }
+}
+
+template <SatelliteTally::Numbering Rule>
+std::uint32_t SatelliteTally::PlaceOf(const Observation& one) {
+  std::uint32_t signal = one.signal;
+  // Code indicators are those of a band.
+  if (Rule == Rtk && one.code[0] == '2') signal += SignalCells::Signals / 2;
+  if (one.system < SignalCells::Systems && signal < SignalCells::Signals) {
+    observed_[Rule]->codes[one.system][signal] = {{one.code[0], one.code[1]}};
+  }
+  return SignalCells::PlaceOf(one.system, one.satellite, signal);
 }
 
 // Of satellites in view those count that a signal came from.
@@ -307,15 +318,17 @@ template <class Record>
 void SatelliteTally::Gsv(const void* data) {
   constexpr bool IsWide = sizeof(Record) == sizeof(WideGsvRecord);
   constexpr std::uint32_t Unit = IsWide ? 1 : 100;  // GsvUnits
+  constexpr std::uint32_t Unknown = IsWide ? 0xFFFF : 0xFF;
   const auto& record = *static_cast<const Record*>(data);
   SignalCells& cells = *inView_;
   const auto* const end = record.satellites + record.satelliteCount;
   for (const auto* one = record.satellites; one != end; ++one) {
-    for (std::size_t s = 0; s < one->signalCount; ++s) {
-      const auto& signal = one->signals[s];
-      if (signal.cn0 == 0 || signal.cn0 == (IsWide ? 0xFFFF : 0xFF)) continue;
-      cells.Add(SignalCells::PlaceOf(one->systemId, one->number, signal.signalId),
-                signal.cn0 * Unit);
+    const std::uint32_t place = SignalCells::PlaceOf(one->systemId, one->number, 0);
+    const auto* const last = one->signals + one->signalCount;
+    for (const auto* signal = one->signals; signal != last; ++signal) {
+      if (signal->cn0 == 0 || signal->cn0 == Unknown) continue;
+      cells.Add(place + std::min<std::uint32_t>(signal->signalId, SignalCells::Signals - 1),
+                signal->cn0 * Unit);
     }
   }
 }
@@ -323,7 +336,7 @@ void SatelliteTally::Gsv(const void* data) {
 // Where the names of what was observed by one numbering come from.
 void SatelliteTally::Gather(std::size_t rule, Gathered& gathered) const {
   const auto add = [&](bool isMeasured) {
-    return [&gathered, &codes = codes_[rule], isMeasured](
+    return [&gathered, &codes = observed_[rule]->codes, isMeasured](
                std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {
       const Code code = codes[system][signal];
       gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
@@ -331,14 +344,15 @@ void SatelliteTally::Gather(std::size_t rule, Gathered& gathered) const {
                     static_cast<double>(sum.values) / static_cast<double>(ObservedUnits)});
     };
   };
-  if (!observed_[rule]) return;
-  observed_[rule]->ForEach(add(true));
-  unmeasured_[rule]->ForEach(add(false));
+  observed_[rule]->measured.ForEach(add(true));
+  observed_[rule]->unmeasured.ForEach(add(false));
 }
 
 Seen SatelliteTally::Found() const {
   Gathered gathered;
-  for (std::size_t rule = 0; rule < Numberings; ++rule) Gather(rule, gathered);
+  for (std::size_t rule = 0; rule < Numberings; ++rule) {
+    if (observed_[rule] != nullptr) Gather(rule, gathered);
+  }
   if (inView_) {
     inView_->ForEach(
         [&](std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "navframe/records_observations.h"
 #include "navframe/stream.h"
 
 namespace navframe::analysis {
@@ -140,13 +141,27 @@ class SatelliteTally {
   struct Code {
     char text[2];  // 0 of one that is not listed
   };
+  struct Expected {
+    std::uint32_t head = 0xFFFFFFFF;  // of nothing
+    std::uint32_t place = 0;
+  };
+  static constexpr std::size_t Messages = 8;        // that come in turn
+  static constexpr std::size_t Observations = 255;  // of one of them
+  struct Observed {
+    SignalCells measured;
+    SignalCells unmeasured;
+    std::array<std::array<Code, SignalCells::Signals>, SignalCells::Systems> codes{};
+    std::array<std::array<Expected, Observations>, Messages> expected{};
+  };
 
   class Gathered;
 
   void TakeMore(SeenIn in, const NavframeItem& item);
-  void Observations(const void* record);
+  void Observe(const void* record);
   template <Numbering Rule>
   void Count(const void* record);
+  template <Numbering Rule>
+  std::uint32_t PlaceOf(const Observation& one);
   void NavSig(const void* record);
   template <class Record>
   void NavSat(const void* record);
@@ -156,10 +171,7 @@ class SatelliteTally {
   void Gather(std::size_t rule, Gathered& gathered) const;
 
   SeenIn in_ = SeenIn::Nothing;
-  std::array<std::optional<SignalCells>, Numberings> observed_;
-  std::array<std::optional<SignalCells>, Numberings> unmeasured_;  // of those without a C/N0
-  std::array<std::array<std::array<Code, SignalCells::Signals>, SignalCells::Systems>, Numberings>
-      codes_{};  // of their signals
+  std::array<std::unique_ptr<Observed>, Numberings> observed_;
   std::optional<SignalCells> inView_;
 };
 

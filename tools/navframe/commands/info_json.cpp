@@ -4,6 +4,7 @@
 #include <rapidjson/stringbuffer.h>
 
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -15,6 +16,8 @@ namespace {
 
 using analysis::Contents;
 using analysis::Rhythm;
+
+constexpr double NotKnown = std::numeric_limits<double>::quiet_NaN();
 
 // What members have: objects, arrays, and values under their names. What is not known is null.
 class Writer {
@@ -74,7 +77,7 @@ class Writer {
     }
   }
   void Seconds(const char* name, const std::optional<std::int64_t>& milliseconds) {
-    Number(name, milliseconds ? static_cast<double>(*milliseconds) / 1e3 : NAN);
+    Number(name, milliseconds ? static_cast<double>(*milliseconds) / 1e3 : NotKnown);
   }
 
   std::string Done() const { return {text_.GetString(), text_.GetSize()}; }
@@ -165,11 +168,11 @@ class Page {
   void Rates(const Rhythm& rhythm) {
     const std::optional<double> hertz = rhythm.Hertz();
     json_.Count("count", rhythm.count);
-    json_.Number("rate_hz", hertz ? Rounded(*hertz, TenThousandth) : NAN);
+    json_.Number("rate_hz", hertz ? Rounded(*hertz, TenThousandth) : NotKnown);
     Moment("first_utc", "first_s", rhythm.first);
     Moment("last_utc", "last_s", rhythm.last);
     json_.Number("usual_interval_s",
-                 rhythm.usual ? Rounded(*rhythm.usual / 1e3, TenThousandth) : NAN);
+                 rhythm.usual ? Rounded(*rhythm.usual / 1e3, TenThousandth) : NotKnown);
     json_.Seconds("longest_gap_s", rhythm.gap);
     Moment("longest_gap_from_utc", "longest_gap_from_s", rhythm.gapFrom);
     json_.Count("jumps", rhythm.jumps);
@@ -284,7 +287,7 @@ class Page {
       const analysis::Cloud::Spread spread = found.cloud.Deviations();
       json_.Number("east_m", Rounded(spread.east, TenThousandth));
       json_.Number("north_m", Rounded(spread.north, TenThousandth));
-      json_.Number("up_m", found.hasHeight ? Rounded(spread.up, TenThousandth) : NAN);
+      json_.Number("up_m", found.hasHeight ? Rounded(spread.up, TenThousandth) : NotKnown);
     });
     json_.Object("quality_shares", [&] {
       for (std::size_t i = 0; i < analysis::FixQualities; ++i) {
