@@ -164,6 +164,12 @@ class Info(unittest.TestCase):
         info = Look(data + Gga(Ms(0)))
         listed = sum(m["count"] for m in info["messages"])
         self.assertEqual((len(info["messages"]), listed + info["unlisted_frames"]), (1024, 4001))
+        with tempfile.TemporaryDirectory() as folder:
+            halves = [Path(folder, name) for name in "ab"]
+            for i, path in enumerate(halves):
+                path.write_bytes(b"".join(wire.nmea_sentence(name) for name in names[i::2]))
+            total = json.loads(Run("info", "--json", *halves)[1])["total"]
+        self.assertEqual((len(total["messages"]), total["unlisted_frames"]), (1024, 3000 - 1024))
         texts = Look(data[-40_000:])["texts"]
         self.assertEqual(len(texts), 32)
 

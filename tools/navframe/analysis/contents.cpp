@@ -93,15 +93,17 @@ bool Contents::IsRecognised() const {
 
 void Contents::Add(const Contents& others) {
   Contents theirs = others;
-  const bool isFirst = bytes == 0 && messages.empty();
-  if (isFirst) {
+  if (theirs.known != TimeKnown::Nothing && known == TimeKnown::Nothing && hasOneCalendar) {
     known = theirs.known;
-  } else if (theirs.known != TimeKnown::Date || known != TimeKnown::Date) {
+  } else if (theirs.known != TimeKnown::Nothing) {
+    hasOneCalendar &= known == TimeKnown::Date && theirs.known == TimeKnown::Date;
+  }
+  if (!hasOneCalendar) {
     ForgetTimes(*this);
     ForgetTimes(theirs);
   }
   bytes += theirs.bytes;
-  leapSeconds = theirs.leapSeconds;
+  if (theirs.known != TimeKnown::Nothing) leapSeconds = theirs.leapSeconds;
   Take(first, theirs.first, std::less{});
   Take(last, theirs.last, std::greater{});
   jumps += theirs.jumps;

@@ -54,6 +54,7 @@ struct PositionFound {
 struct Contents {
   std::uint64_t bytes = 0;
   TimeKnown known = TimeKnown::Nothing;
+  bool hasOneCalendar = true;    // else times of several recordings stand for different things
   std::int32_t leapSeconds = 0;  // GPS time less UTC, as of the end
   std::optional<std::int64_t> first;
   std::optional<std::int64_t> last;

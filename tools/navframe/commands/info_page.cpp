@@ -316,8 +316,10 @@ class Page {
       shares.append(" ").append(analysis::NameOf(static_cast<analysis::FixQuality>(i)));
     }
     Line("position", std::string("of ") + analysis::NameOf(found.source) + ", " +
-                         std::to_string(found.cloud.Count()) + " fixes in " +
-                         std::to_string(epochs) + " epochs: " + shares);
+                         std::to_string(found.cloud.Count()) +
+                         (found.cloud.Count() == 1 ? " fix in " : " fixes in ") +
+                         std::to_string(epochs) + (epochs == 1 ? " epoch: " : " epochs: ") +
+                         shares);
     if (found.cloud.Count() == 0) return;
     const analysis::Cloud::Spread spread = found.cloud.Deviations();
     Line("mean", Place(found.cloud.Mean(), found.hasHeight));
