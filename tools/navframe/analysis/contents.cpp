@@ -1,6 +1,9 @@
 #include "analysis/contents.h"
 
 #include <algorithm>
+#include <functional>
+#include <string_view>
+#include <utility>
 
 namespace navframe::analysis {
 namespace {
@@ -120,12 +123,20 @@ void Contents::Add(const Contents& others) {
         return one.protocol == other.protocol && one.message == other.message;
       },
       [](auto& to, const auto& from) { analysis::Add(from, to); });
-  std::ranges::stable_sort(messages, {},
-                           [](const Message& one) { return std::pair(one.protocol, one.message); });
+  std::ranges::stable_sort(messages, {}, [](const Message& one) {
+    return std::pair(one.protocol, std::string_view(one.message));
+  });
+  while (messages.size() > MessageTable::MostMessages) {
+    unlistedFrames += messages.back().rhythm.count;
+    messages.pop_back();
+  }
   AddTo(
       kinds, theirs.kinds,
       [](const auto& one, const auto& other) { return one.kind == other.kind; },
       [](auto& to, const auto& from) { analysis::Add(from.rhythm, to.rhythm); });
+  std::ranges::sort(protocols, {}, &ProtocolShare::protocol);
+  std::ranges::sort(kinds, {},
+                    [](const KindCount& one) { return std::pair(one.kind->source, one.kind->id); });
   AddTo(
       rejections, theirs.rejections,
       [](const auto& one, const auto& other) {
