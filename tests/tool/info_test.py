@@ -252,6 +252,13 @@ class Track(unittest.TestCase):
         self.assertEqual((points[0]["latitude"], points[0]["longitude"]),
                          ("45.500000000", "7.500000000"))
 
+    def test_MidnightAndLastLongitude(self):
+        night = 86_400 + 18  # of the week, GPS
+        data = b"".join(Gga((night + i) * 1000, longitude="18000.0000000,E") for i in range(-30, 30))
+        self.assertEqual(Look(data)["time"]["duration_s"], 59)
+        self.assertEqual(self.Pieces(data), [("GGA", 60)])
+        self.assertIn('lon="-180.000000000"', Run("track", data=data)[1])
+
     def test_GeoJsonAtTheDateLine(self):
         longitudes = [179.9998, 179.9999, -179.9999, -179.9998, 179.9999]
         data = b"".join(Pvt(Ms(i), -17, longitude) for i, longitude in enumerate(longitudes))

@@ -58,7 +58,9 @@ class Gpx : public TrackForm {
     if (isFirst) Begin(fix.source);
     std::string& out = output_.Buffer();
     out.append("<trkpt lat=\"").append(Fixed(fix.latitude, 9)).append("\" lon=\"");
-    out.append(Fixed(fix.longitude, 9)).append("\">");
+    // The schema ends in front of 180 degrees.
+    const std::string longitude = Fixed(fix.longitude, 9);
+    out.append(longitude == "180.000000000" ? "-" : "").append(longitude).append("\">");
     Number("ele", fix.heightSea, 4);
     if (point.hasDate) Element("time", point.time);
     Number("geoidheight", fix.height - fix.heightSea, 4);
