@@ -70,7 +70,8 @@ def CountFrames(data):
     while at < len(data):
         key, size = None, 0
         if data[at] == 0x24:
-            found = re.match(rb"\$([^$*\r\n,]+)(,[^$*\r\n]*)?\*([0-9A-F]{2})(?:\r?\n)?", data[at:at + 4096])
+            found = re.match(rb"\$([^$*\r\n,]+)(,[^$*\r\n]*)?\*([0-9A-F]{2})(?:\r?\n)?",
+                             data[at:at + 4096])
             if found:
                 check = 0
                 for byte in found[0][1:found[0].index(b"*")]:
@@ -157,8 +158,8 @@ class Info(unittest.TestCase):
         self.assertEqual((deviation["north_m"], deviation["up_m"]), (0, 1))
 
     def test_TablesDoNotGrow(self):
-        names = ["P" + "".join(letters) for letters in itertools.product("ABCDEFGHIJKLMNO", repeat=3)]
-        names = names[:3000]
+        letters = itertools.product("ABCDEFGHIJKLMNO", repeat=3)
+        names = ["P" + "".join(three) for three in letters][:3000]
         data = b"".join(wire.nmea_sentence(f"{name},1") for name in names)
         data += b"".join(wire.nmea_sentence(f"GPTXT,01,01,02,text {i}") for i in range(1000))
         info = Look(data + Gga(Ms(0)))
@@ -179,7 +180,7 @@ class Info(unittest.TestCase):
         self.assertEqual(info["texts"], [
             {"from": "GPTXT", "text": '<script>"\\\x1b[31m\xe9\x9b', "count": 2}])
         page = Run("info", data=data)[1]
-        self.assertIn('text        GPTXT: <script>"\\\\x1B[31m'.replace("\\\\", "\\\\", 1), page)
+        self.assertIn('text        GPTXT: <script>"\\\\x1B[31m', page)
         self.assertNotRegex(page, "[\x00-\x09\x0b-\x1f\x7f-\x9f]")
 
     def test_NothingRecognised(self):
@@ -189,7 +190,8 @@ class Info(unittest.TestCase):
             status, out, err = Run("info", data=data)
             self.assertEqual((status, err), (3, "navframe: nothing was recognised\n"))
             self.assertIn(said, out)
-            self.assertFalse(json.loads(Run("info", "--json", data=data)[1])["files"][0]["recognised"])
+            info = json.loads(Run("info", "--json", data=data)[1])["files"][0]
+            self.assertFalse(info["recognised"])
             self.assertEqual(Run("track", data=data)[:2], (3, ""))
 
     def test_WhateverIsCutOff(self):
@@ -199,7 +201,8 @@ class Info(unittest.TestCase):
                 self.assertIn(Run(*command, data=sample[:length])[0], (0, 3))
 
     def test_ReadmeShowsWhatIsPrinted(self):
-        shown = re.search(r"\$ navframe info (\S+)\n(.*?)```", (Root / "README.md").read_text(), re.S)
+        readme = (Root / "README.md").read_text()
+        shown = re.search(r"\$ navframe info (\S+)\n(.*?)```", readme, re.S)
         printed = subprocess.run([Tool, "info", shown[1]], cwd=Root, capture_output=True,
                                  check=True).stdout.decode().splitlines()
         lines = shown[2].splitlines()
@@ -254,7 +257,8 @@ class Track(unittest.TestCase):
 
     def test_MidnightAndLastLongitude(self):
         night = 86_400 + 18  # of the week, GPS
-        data = b"".join(Gga((night + i) * 1000, longitude="18000.0000000,E") for i in range(-30, 30))
+        data = b"".join(Gga((night + i) * 1000, longitude="18000.0000000,E")
+                        for i in range(-30, 30))
         self.assertEqual(Look(data)["time"]["duration_s"], 59)
         self.assertEqual(self.Pieces(data), [("GGA", 60)])
         self.assertIn('lon="-180.000000000"', Run("track", data=data)[1])

@@ -15,25 +15,32 @@
 namespace navframe::tool {
 namespace {
 
-using analysis::Fix;
 using analysis::FixSource;
 
 // A point as it waits in a temporary file: what is told of the points of a line stands behind all
 // of their coordinates.
 struct Waiting {
-  Fix fix;
-  std::array<char, 32> time;
+  double latitude;
+  double longitude;
+  double height;
+  double heightSea;
+  double horizontalAccuracy;
+  double verticalAccuracy;
+  double satellites;
+  std::array<char, 29> time;
+  FixSource source;
+  analysis::FixQuality quality;
   bool isFirst;
 };
+static_assert(sizeof(Waiting) == 7 * sizeof(double) + 32);  // nothing lies between
 
 // Text of the members of a point, appended; null of what is not known.
 void AppendNumber(double value, int digits, std::string& out) {
   out.append(std::isfinite(value) ? Fixed(value, digits) : "null");
 }
 void AppendCoordinates(const Waiting& point, std::string& out) {
-  const Fix& fix = point.fix;
-  out.append("[").append(Fixed(fix.longitude, 9)).append(",").append(Fixed(fix.latitude, 9));
-  if (std::isfinite(fix.height)) out.append(",").append(Fixed(fix.height, 4));
+  out.append("[").append(Fixed(point.longitude, 9)).append(",").append(Fixed(point.latitude, 9));
+  if (std::isfinite(point.height)) out.append(",").append(Fixed(point.height, 4));
   out += ']';
 }
 struct Property {
@@ -49,20 +56,18 @@ constexpr Property Properties[] = {
          AppendJsonString(point.time.data(), out);
        }
      }},
-    {"quality", [](const Waiting& point,
-                   std::string& out) { AppendJsonString(NameOf(point.fix.quality), out); }},
+    {"quality",
+     [](const Waiting& point, std::string& out) { AppendJsonString(NameOf(point.quality), out); }},
     {"satellites",
-     [](const Waiting& point, std::string& out) { AppendNumber(point.fix.satellites, 0, out); }},
+     [](const Waiting& point, std::string& out) { AppendNumber(point.satellites, 0, out); }},
     {"height_sea_m",
-     [](const Waiting& point, std::string& out) { AppendNumber(point.fix.heightSea, 4, out); }},
+     [](const Waiting& point, std::string& out) { AppendNumber(point.heightSea, 4, out); }},
     {"horizontal_accuracy_m",
      [](const Waiting& point, std::string& out) {
-       AppendNumber(point.fix.horizontalAccuracy, 4, out);
+       AppendNumber(point.horizontalAccuracy, 4, out);
      }},
     {"vertical_accuracy_m",
-     [](const Waiting& point, std::string& out) {
-       AppendNumber(point.fix.verticalAccuracy, 4, out);
-     }},
+     [](const Waiting& point, std::string& out) { AppendNumber(point.verticalAccuracy, 4, out); }},
 };
 
 class PointFile {
@@ -108,13 +113,24 @@ class GeoJson : public TrackForm {
 
   void Take(const TrackPoint& point, bool isFirst) override {
     constexpr double HalfAround = 180;
-    Waiting next{point.fix, {}, isFirst};
+    const analysis::Fix& fix = point.fix;
+    Waiting next{fix.latitude,
+                 fix.longitude,
+                 fix.height,
+                 fix.heightSea,
+                 fix.horizontalAccuracy,
+                 fix.verticalAccuracy,
+                 fix.satellites,
+                 {},
+                 fix.source,
+                 fix.quality,
+                 isFirst};
     std::memcpy(next.time.data(), point.time.data(),
                 std::min(point.time.size(), next.time.size() - 1));
     // A line does not cross the date line, it ends there.
-    next.isFirst |= hasLast_ && std::fabs(last_.fix.longitude - next.fix.longitude) > HalfAround;
+    next.isFirst |= hasLast_ && std::fabs(last_.longitude - next.longitude) > HalfAround;
     if (hasLast_) Put(next.isFirst);
-    if (hasLast_ && next.fix.source != last_.fix.source) Lines();
+    if (hasLast_ && next.source != last_.source) Lines();
     last_ = next;
     hasLast_ = true;
   }
@@ -133,7 +149,7 @@ class GeoJson : public TrackForm {
     Begin("Point");
     std::string& out = output_.Buffer();
     AppendCoordinates(last_, out);
-    Describe(last_.fix.source);
+    Describe(last_.source);
     for (const Property& property : Properties) {
       out.append(",\"").append(property.name).append("\":");
       property.append(last_, out);
@@ -146,7 +162,7 @@ class GeoJson : public TrackForm {
   void Lines() {
     if (lines_.IsEmpty()) return;
     FixSource source = FixSource::Nothing;
-    lines_.ForEach([&](const Waiting& point) { source = point.fix.source; });
+    lines_.ForEach([&](const Waiting& point) { source = point.source; });
     Begin("MultiLineString");
     Lists(AppendCoordinates);
     Describe(source);
