@@ -237,9 +237,12 @@ class Track(unittest.TestCase):
         self.assertEqual(self.Pieces(b"".join(both[:10] + [Gga(Ms(i)) for i in range(10, 16)] +
                                               [Pvt(Ms(16))])),
                          [("NAV-PVT", 11)])
+        self.assertEqual(self.Pieces(b"".join(both + alone[:5])), [("NAV-PVT", 30)])
         slow = b"".join(Pvt(Ms(30 * i)) for i in range(20))
         self.assertEqual(self.Pieces(slow), [("NAV-PVT", 20)])
         self.assertEqual(self.Pieces(slow, "--gap", "10"), 20 * [("NAV-PVT", 1)])
+        rare = b"".join(Gga(Ms(600 + 30 * i)) for i in range(10))
+        self.assertEqual(self.Pieces(b"".join(later) + rare), [("NAV-PVT", 10), ("GGA", 10)])
         self.assertEqual([p["gpsTow"] for p in self.Points(slow, "--every", "5min")],
                          ["100000.000", "100210.000", "100510.000"])
         self.assertEqual(self.Points(b"".join(both))[0], {

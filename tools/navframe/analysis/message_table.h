@@ -46,8 +46,8 @@ class MessageTable {
     row.pace.Take(time);
   }
 
-  // Behind the frame that the record is of. Kinds have numbers from 0 on as they come; that of the
-  // record's is returned.
+  // Behind the frame that the record is of. Kinds have numbers from 0 on, as they come; the one of
+  // this record is returned.
   std::size_t Record(const NavframeItem& item, std::int64_t time) {
     Row& row = rows_[current_];
     if (row.lastKind != item.kind) Relate(row, item);

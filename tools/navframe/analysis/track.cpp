@@ -24,8 +24,7 @@ void Track::Take(const Fix& fix) {
   if (!fix.HasPosition() || fix.quality == FixQuality::NoFix) return;
   if (source_ != FixSource::Nothing && fix.source <= source_) {
     waiting_.clear();
-    if (fix.source < source_) isNew_ = true;
-    source_ = fix.source;
+    if (fix.source < source_) Begin(fix.source);
     return Put(fix);
   }
   // A lesser source: in place of one that is silent, or before any was chosen.
@@ -42,14 +41,28 @@ void Track::Wait(const Fix& fix) {
   waiting_.push_back(fix);
 }
 
-// The best of the sources that wait.
+// The best of the sources that wait; what came behind its points waits on, and has its turn where
+// that is a gap.
 void Track::Choose() {
-  if (waiting_.empty()) return;
-  source_ = std::ranges::min(waiting_, {}, &Fix::source).source;
+  do {
+    const std::vector<Fix> waiting = std::exchange(waiting_, {});
+    if (waiting.empty()) return;
+    Begin(std::ranges::min(waiting, {}, &Fix::source).source);
+    for (const Fix& fix : waiting) {
+      if (fix.source == source_) {
+        waiting_.clear();
+        Put(fix);
+      } else {
+        waiting_.push_back(fix);
+      }
+    }
+  } while (!waiting_.empty() && IsGap(last_, waiting_.back().time));
+}
+
+void Track::Begin(FixSource source) {
+  source_ = source;
   isNew_ = true;
-  for (const Fix& fix : std::exchange(waiting_, {})) {
-    if (fix.source == source_) Put(fix);
-  }
+  shortest_ = 0;
 }
 
 void Track::Put(const Fix& fix) {
@@ -68,6 +81,9 @@ void Track::Put(const Fix& fix) {
   isNew_ = false;
 }
 
-void Track::End() { Choose(); }
+// What waited in place of a source that may have come again is given up.
+void Track::End() {
+  if (source_ == FixSource::Nothing) Choose();
+}
 
 }  // namespace navframe::analysis

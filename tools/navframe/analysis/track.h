@@ -33,12 +33,13 @@ class Track {
   void End();
 
  private:
-  // More points do not wait: the first ones are given up.
+  // When so many wait, the best of their sources is chosen.
   static constexpr std::size_t MostWaiting = 8192;
 
   bool IsGap(std::int64_t from, std::int64_t to) const;
   void Wait(const Fix& fix);
   void Choose();
+  void Begin(FixSource source);
   void Put(const Fix& fix);
 
   const TrackRules rules_;
