@@ -157,6 +157,18 @@ class Info(unittest.TestCase):
         self.assertAlmostEqual(deviation["east_m"], 6378148 * math.radians(offset), 3)
         self.assertEqual((deviation["north_m"], deviation["up_m"]), (0, 1))
 
+    def test_TotalsHaveTheTimesWithADate(self):
+        with tempfile.TemporaryDirectory() as folder:
+            parts = Gga(Ms(5)), Pvt(Ms(0)), b"", Gga(Ms(9)), Pvt(Ms(7)) + Gga(Ms(8))
+            for i, part in enumerate(parts):
+                Path(folder, str(i)).write_bytes(part)
+            for count, span in (1, 0), (2, 0), (4, 0), (5, 8):
+                paths = [Path(folder, str(i)) for i in range(count)]
+                info = json.loads(Run("info", "--json", folder + "/2", *paths)[1])["total"]
+                self.assertEqual(info["time"]["duration_s"], span)
+                self.assertEqual(info["time"]["first_utc"],
+                                 "2026-03-02T03:46:22.000Z" if count > 1 else None)
+
     def test_TablesDoNotGrow(self):
         letters = itertools.product("ABCDEFGHIJKLMNO", repeat=3)
         names = ["P" + "".join(three) for three in letters][:3000]

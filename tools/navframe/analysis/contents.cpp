@@ -94,19 +94,28 @@ bool Contents::IsRecognised() const {
   return inFrames != 0 && inFrames * ByChance >= bytes;
 }
 
-void Contents::Add(const Contents& others) {
-  Contents theirs = others;
-  if (theirs.known != TimeKnown::Nothing && known == TimeKnown::Nothing && hasOneCalendar) {
+// Only with dates do times of two recordings stand for the same.
+void Contents::MatchTimes(Contents& theirs) {
+  if (theirs.known == TimeKnown::Nothing) return;
+  const bool isFirst = known == TimeKnown::Nothing && hasOneCalendar;
+  if (isFirst || (known == TimeKnown::Date && theirs.known == TimeKnown::Date)) {
     known = theirs.known;
-  } else if (theirs.known != TimeKnown::Nothing) {
-    hasOneCalendar &= known == TimeKnown::Date && theirs.known == TimeKnown::Date;
+    return;
   }
-  if (!hasOneCalendar) {
-    ForgetTimes(*this);
+  if (known != TimeKnown::Date) ForgetTimes(*this);
+  if (theirs.known == TimeKnown::Date) {
+    known = TimeKnown::Date;
+  } else {
     ForgetTimes(theirs);
   }
+  hasOneCalendar = false;
+}
+
+void Contents::Add(const Contents& others) {
+  Contents theirs = others;
+  MatchTimes(theirs);
   bytes += theirs.bytes;
-  if (theirs.known != TimeKnown::Nothing) leapSeconds = theirs.leapSeconds;
+  if (theirs.known == known) leapSeconds = theirs.leapSeconds;
   Take(first, theirs.first, std::less{});
   Take(last, theirs.last, std::greater{});
   jumps += theirs.jumps;

@@ -74,8 +74,11 @@ struct Contents {
   // Whether anything was recognised that is not to be expected of bytes that mean nothing.
   bool IsRecognised() const;
   // Another recording, as if it followed: nothing is between the two. Usual intervals are those of
-  // the one that has more of them.
+  // the one that has more of them. Beside times with a date others are left out.
   void Add(const Contents& others);
+
+ private:
+  void MatchTimes(Contents& theirs);
 };
 
 }  // namespace navframe::analysis
