@@ -49,8 +49,8 @@ int Main(int argc, char** argv) {
   app.add_flag("--completion", wantsCompletion)->group("");
   app.require_subcommand(0, 1);  // behind one of them its name is that of a source
   const Command decode = AddDecode(app);
-  const Command others[] = {AddInfo(app), AddKinds(app), AddRinex(app), AddSources(app),
-                            AddTrack(app)};
+  const Command others[] = {AddDoctor(app), AddInfo(app),    AddKinds(app),
+                            AddRinex(app),  AddSources(app), AddTrack(app)};
   try {
     app.parse(argc, argv);
     if (wantsManual) return Say(ManualPage(app));

@@ -17,6 +17,7 @@ struct Command {
 
 // Each adds one to the command line.
 Command AddDecode(CLI::App& app);  // `navframe SOURCE...` takes what `navframe decode` takes
+Command AddDoctor(CLI::App& app);
 Command AddInfo(CLI::App& app);
 Command AddKinds(CLI::App& app);
 Command AddSources(CLI::App& app);

@@ -32,6 +32,8 @@ constexpr Example Examples[] = {
     {"navframe info drive.ubx base.rtcm3", "what they hold, each and together"},
     {"navframe info --json drive.ubx", "the same for programs"},
     {"navframe track drive.ubx --output drive.gpx", "where the receiver was"},
+    {"navframe doctor drive.nmea", "whether it is healthy"},
+    {"navframe doctor drive.nmea --repair whole.nmea", "without added CRs and heads of chunks"},
     {"navframe sources ntrip://caster.example", "the mountpoints of a caster"},
     {"navframe rinex drive.ubx --station-id ubx -o drive", "RINEX: drive.obs and drive.nav"},
     {"navframe rinex base.rtcm3 --station-id 120 --station ABCD00CHE --split hour --gzip -o files",
@@ -45,7 +47,9 @@ struct Status {
 };
 constexpr Status Statuses[] = {
     {"0", "decoded"},
-    {"1", "the input could not be read, or the output not be made or written"},
+    {"1",
+     "the input could not be read, or the output not be made or written; of doctor: it is not "
+     "healthy"},
     {"2", "wrong usage"},
     {"3", "nothing was recognised; for a track, there are no positions"},
 };

@@ -1,0 +1,320 @@
+#include "analysis/outside_run.h"
+
+#include <algorithm>
+
+namespace navframe::analysis {
+namespace {
+
+constexpr std::size_t LongestFrame = 65543;
+// When so much of a run is there, frames in the first half are whole, even with CRs in them.
+constexpr std::size_t MostKept = 4 * LongestFrame;
+constexpr std::size_t WorkPerByte = 16;
+
+bool IsPrintable(std::uint8_t byte) { return byte >= 0x20 && byte < 0x7F; }
+bool IsUpper(std::uint8_t byte) { return byte >= 'A' && byte <= 'Z'; }
+
+bool BeginsSentence(Bytes bytes) {
+  return bytes.size() >= 3 && (bytes[0] == '$' || bytes[0] == '!') && IsUpper(bytes[1]) &&
+         IsUpper(bytes[2]);
+}
+
+bool IsHex(std::uint8_t byte) {
+  return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'F') ||
+         (byte >= 'a' && byte <= 'f');
+}
+
+// "*" and two digits at the end.
+bool HasChecksum(Bytes line) {
+  return line.size() >= 3 && line[line.size() - 3] == '*' && IsHex(line[line.size() - 2]) &&
+         IsHex(line[line.size() - 1]);
+}
+
+}  // namespace
+
+const OutsideRun::Head* OutsideRun::HeadAt(std::size_t at) const {
+  const std::size_t i = HeadBehind(at);
+  return i < heads_.size() && heads_[i].offset == begin_ + at ? &heads_[i] : nullptr;
+}
+
+std::size_t OutsideRun::HeadBehind(std::size_t at) const {
+  const auto head = std::ranges::lower_bound(heads_, begin_ + at, {}, &Head::offset);
+  return static_cast<std::size_t>(head - heads_.begin());
+}
+
+// Whether the bytes behind the head could be those of a frame.
+bool OutsideRun::IsSound(const Head& head) const {
+  const std::size_t at = static_cast<std::size_t>(head.offset - begin_);
+  if (head.protocol == NavframeNmea) return BeginsSentence(From(at));
+  return (head.protocol == NavframeUbx || head.protocol == NavframeRtcm3) && head.claimed != 0;
+}
+
+bool OutsideRun::BeginsSoundly(std::size_t at) const {
+  if (at == Size()) return isFinal_;
+  const Head* const head = HeadAt(at);
+  return head != nullptr && IsSound(*head);
+}
+
+Place OutsideRun::Here(std::size_t length) const {
+  Place place;
+  place.offset = begin_ + at_;
+  place.length = length;
+  place.time = time_;
+  return place;
+}
+
+// Of the heads in the next bytes those that are more than one byte of chance, and what stands right
+// in front of the next frame.
+std::vector<HeadInside> OutsideRun::Inside(std::size_t length) const {
+  constexpr std::size_t Most = 4;
+  std::vector<HeadInside> inside;
+  const std::uint64_t end = begin_ + at_ + length;
+  for (std::size_t i = HeadBehind(at_ + 1); i < heads_.size() && inside.size() < Most; ++i) {
+    const Head& head = heads_[i];
+    if (head.offset >= end) break;
+    if (head.reason == NavframeBadHeader && head.offset + 1 != end) continue;
+    inside.push_back({head.protocol, findings_.Map(head.offset)});
+  }
+  return inside;
+}
+
+void OutsideRun::Take(const NavframeItem& item, std::int64_t time) {
+  if (bytes_.empty()) {
+    begin_ = item.offset;
+    time_ = time;
+  }
+  if (item.type == NavframeItemRejected) {
+    heads_.push_back({item.offset, item.protocol, item.reason, item.claimedLength});
+  }
+  bytes_.insert(bytes_.end(), item.bytes, item.bytes + item.length);
+  budget_ += WorkPerByte * item.length;
+  if (Size() >= MostKept) {
+    isFull_ = true;
+    Diagnose();
+    isFull_ = false;
+  }
+}
+
+void OutsideRun::End(bool isEndOfAll) {
+  if (bytes_.empty()) return;
+  isFinal_ = true;
+  isEndOfAll_ = isEndOfAll;
+  Diagnose();
+  FinishJunk();
+  isFinal_ = false;
+  bytes_.clear();
+  heads_.clear();
+  at_ = 0;
+  isBehindSentence_ = false;
+}
+
+// Takes the run apart from its beginning; of one that goes on, the first half.
+void OutsideRun::Diagnose() {
+  const std::size_t end = isFinal_ ? Size() : Size() / 2;
+  while (at_ < end) {
+    if (LineEnd() || TextLine()) continue;
+    const std::size_t next = HeadBehind(at_);
+    const std::uint64_t begin = next < heads_.size() ? heads_[next].offset : begin_ + Size();
+    const std::size_t length = static_cast<std::size_t>(begin - begin_) - at_;
+    if (length != 0) {
+      // Up to the end of the line, behind which a comment may stand.
+      const auto lineEnd = std::ranges::find(From(at_).first(length), std::uint8_t{'\n'});
+      const auto ofLine = static_cast<std::size_t>(lineEnd - From(at_).begin());
+      Junk(std::min(length, ofLine + 1));
+      continue;
+    }
+    const Head head = heads_[next];
+    if (Piece(head) == Next::Junk) {
+      Count(head.protocol, head.reason, junkHeads_);
+      Junk(1);
+    }
+  }
+  const auto gone = static_cast<std::ptrdiff_t>(std::min(at_, Size()));
+  bytes_.erase(bytes_.begin(), bytes_.begin() + gone);
+  begin_ += static_cast<std::uint64_t>(gone);
+  at_ -= static_cast<std::size_t>(gone);
+  std::erase_if(heads_, [this](const Head& head) { return head.offset < begin_; });
+}
+
+// Of the sentence in front of the run.
+bool OutsideRun::LineEnd() {
+  const bool isBehind = isBehindSentence_ && at_ == 0;
+  isBehindSentence_ = false;
+  const Bytes bytes = From(at_);
+  if (!isBehind || bytes.size() < 3 || bytes[0] != '\r' || bytes[1] != '\r' || bytes[2] != '\n') {
+    return false;
+  }
+  lineEnds_.Added(begin_ + at_, begin_ + at_ + 3);
+  Place place = Here(3);
+  place.protocol = NavframeNmea;
+  place.count = 1;
+  Explain(Cause::CrAdded, std::move(place));
+  return true;
+}
+
+// A comment, or nothing but a line end.
+bool OutsideRun::TextLine() {
+  constexpr std::size_t LongestLine = 1024;
+  const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestLine));
+  const bool isBlank =
+      bytes[0] == '\n' || (bytes.size() > 1 && bytes[0] == '\r' && bytes[1] == '\n');
+  const bool isComment = bytes[0] == '#' || bytes[0] == '%' || bytes[0] == ';' ||
+                         (bytes.size() > 1 && bytes[0] == '/' && bytes[1] == '/');
+  if (!isAnchored_ || (!isBlank && !isComment)) return false;
+  std::size_t length = 0;
+  while (length < bytes.size() && (IsPrintable(bytes[length]) || bytes[length] == '\t')) ++length;
+  if (length < bytes.size() && bytes[length] == '\r') ++length;
+  const bool isLine = length < bytes.size() && bytes[length] == '\n';
+  if (!isLine || HasChecksum(bytes.first(length - (bytes[length - (length != 0)] == '\r')))) {
+    return false;
+  }
+  lineEnds_.Unknown(bytes.first(length + 1));
+  Place place = Here(length + 1);
+  place.count = 1;
+  Explain(Cause::Text, std::move(place));
+  return true;
+}
+
+void OutsideRun::Explain(Cause cause, Place place) {
+  FinishJunk();
+  at_ += static_cast<std::size_t>(place.length);
+  findings_.Add(cause, std::move(place));
+  isAnchored_ = true;
+  isAtBeginning_ = false;
+}
+
+void OutsideRun::Junk(std::size_t length) {
+  if (junkLength_ == 0) {
+    junkBegin_ = begin_ + at_;
+    isJunkAnchored_ = isAnchored_;
+    if (isAnchored_ && Size() - at_ >= 2 && !isAtBeginning_) {
+      findings_.AddBeginning(bytes_[at_], bytes_[at_ + 1]);
+    }
+  }
+  lineEnds_.Unknown(From(at_).first(length));
+  junkLength_ += length;
+  at_ += length;
+  isAnchored_ = false;
+}
+
+void OutsideRun::FinishJunk() {
+  if (junkLength_ == 0) return;
+  Place place;
+  place.offset = junkBegin_;
+  place.length = junkLength_;
+  place.time = time_;
+  const bool isTail = junkBegin_ == 0 && junkLength_ <= LongestFrame;
+  findings_.Add(isTail ? Cause::BeginsInside : Cause::Unexplained, std::move(place));
+  if (!isTail) findings_.AddHeads(junkHeads_);
+  junkHeads_ = {};
+  junkLength_ = 0;
+}
+
+OutsideRun::Next OutsideRun::Piece(const Head& head) {
+  const Next translated = Untranslated();
+  if (translated != Next::Junk) return translated;
+  if (!IsSound(head)) return Next::Junk;
+  return head.protocol == NavframeNmea ? Sentence(head) : Binary(head);
+}
+
+OutsideRun::Next OutsideRun::Untranslated() {
+  if (budget_ == 0) return Next::Junk;
+  const Translated found = TryWithoutCr(From(at_), scratch_);
+  Spend(scratch_.size());
+  if (found.state != Translated::State::Holds) return Next::Junk;
+  lineEnds_.Added(begin_ + at_, begin_ + at_ + found.length);
+  Place place = Here(found.length);
+  place.protocol = bytes_[at_] == 0xD3 ? NavframeRtcm3 : NavframeUbx;
+  place.message = MessageOf(From(at_));
+  place.claimed = scratch_.size();
+  place.count = found.added;
+  Explain(Cause::CrAdded, std::move(place));
+  return Next::Explained;
+}
+
+// A sentence ends with its line, or where it cannot go on.
+OutsideRun::Next OutsideRun::Sentence(const Head& head) {
+  constexpr std::size_t LongestSentence = 4096;
+  const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestSentence));
+  std::size_t length = 1;
+  while (length < bytes.size() && IsPrintable(bytes[length]) && bytes[length] != '$') ++length;
+  std::size_t lineEnd = length;
+  while (lineEnd < bytes.size() && bytes[lineEnd] == '\r') ++lineEnd;
+  const bool isLine = lineEnd < bytes.size() && bytes[lineEnd] == '\n';
+  Place place = Here(isLine ? lineEnd + 1 : length);
+  place.protocol = head.protocol;
+  place.message = MessageOf(bytes);
+  Spend(length);
+  if (!isLine && isEndOfAll_ && length == From(at_).size()) {
+    Explain(Cause::EndsInside, std::move(place));
+  } else if (HasChecksum(bytes.first(length))) {
+    lineEnds_.Unknown(bytes.first(static_cast<std::size_t>(place.length)));
+    Explain(Cause::WrongChecksum, std::move(place));
+  } else if (isLine) {
+    lineEnds_.Unknown(bytes.first(static_cast<std::size_t>(place.length)));
+    Explain(Cause::NoChecksum, std::move(place));
+  } else {
+    if (!isAnchored_) return Next::Junk;
+    Explain(Cause::BytesLost, std::move(place));
+  }
+  return Next::Explained;
+}
+
+// A frame that tells its length.
+OutsideRun::Next OutsideRun::Binary(const Head& head) {
+  const std::size_t length = head.claimed;
+  const std::size_t there = Size() - at_;
+  if (length <= there && BeginsSoundly(at_ + length)) {
+    Place place = Here(length);
+    place.protocol = head.protocol;
+    place.message = MessageOf(From(at_));
+    place.claimed = length;
+    place.inside = Inside(length);
+    Explain(Cause::WrongChecksum, std::move(place));
+    return Next::Explained;
+  }
+  return isAnchored_ ? Cut(head) : Next::Junk;
+}
+
+// A frame that something begins inside of, or that the recording ends in.
+OutsideRun::Next OutsideRun::Cut(const Head& head) {
+  constexpr std::size_t MostLooks = 16;
+  const std::size_t length = head.claimed;
+  const std::size_t there = Size() - at_;
+  std::size_t present = length > there && isFinal_ ? there : 0;
+  const std::size_t first = HeadBehind(at_) + 1;
+  for (std::size_t i = first; i < std::min(heads_.size(), first + MostLooks); ++i) {
+    const auto at = static_cast<std::size_t>(heads_[i].offset - begin_);
+    if (at - at_ >= length) break;
+    const bool isWhole = heads_[i].protocol != NavframeNmea && IsSound(heads_[i]) &&
+                         at + heads_[i].claimed <= Size() && BeginsSoundly(at + heads_[i].claimed);
+    if (isWhole) {
+      present = at - at_;
+      break;
+    }
+  }
+  if (present == 0) return Next::Junk;
+  Place place = Here(present);
+  place.protocol = head.protocol;
+  place.message = MessageOf(From(at_));
+  place.claimed = length;
+  place.lost = length - present;
+  if (isEndOfAll_ && present == there) {
+    Explain(Cause::EndsInside, std::move(place));
+    return Next::Explained;
+  }
+  if (place.lost == 1 && budget_ > MostTries * length) {
+    Spend(MostTries * length);
+    if (HoldsWithCr(From(at_).first(present), scratch_)) {
+      ++lostCrCount_;
+      if (lostCrs_.size() < MostPlaces) {
+        lostCrs_.push_back(place);
+        lostCrs_.back().offset = findings_.Map(place.offset);
+        lostCrs_.back().count = 1;
+      }
+    }
+  }
+  Explain(Cause::BytesLost, std::move(place));
+  return Next::Explained;
+}
+
+}  // namespace navframe::analysis
