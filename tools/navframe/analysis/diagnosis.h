@@ -51,6 +51,7 @@ struct Place {
   std::uint64_t count = 0;            // CRs, heads, frames, missing epochs
   std::int64_t step = 0;              // ms by which time goes on, or back
   std::uint64_t firstOffset = 0;      // of the block that is repeated
+  std::optional<std::uint8_t> fill;   // all bytes are this one
   std::vector<HeadInside> inside;     // the first ones
   std::vector<std::string> messages;  // those that stay away
   bool isAll = false;                 // that come regularly

@@ -1,6 +1,7 @@
 #include "analysis/outside_run.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace navframe::analysis {
 namespace {
@@ -13,9 +14,15 @@ constexpr std::size_t WorkPerByte = 16;
 bool IsPrintable(std::uint8_t byte) { return byte >= 0x20 && byte < 0x7F; }
 bool IsUpper(std::uint8_t byte) { return byte >= 'A' && byte <= 'Z'; }
 
+// A sentence of NMEA, or an ASCII log, the name of which is followed by a comma.
 bool BeginsSentence(Bytes bytes) {
-  return bytes.size() >= 3 && (bytes[0] == '$' || bytes[0] == '!') && IsUpper(bytes[1]) &&
-         IsUpper(bytes[2]);
+  if (bytes.size() < 3 || !IsUpper(bytes[1]) || !IsUpper(bytes[2])) return false;
+  if (bytes[0] != '#') return bytes[0] == '$' || bytes[0] == '!';
+  constexpr std::size_t LongestName = 32;
+  const Bytes name = bytes.subspan(1, std::min(bytes.size() - 1, LongestName));
+  const auto end = std::ranges::find_if_not(
+      name, [](std::uint8_t byte) { return IsUpper(byte) || (byte >= '0' && byte <= '9'); });
+  return end == name.end() || *end == ',';
 }
 
 bool IsHex(std::uint8_t byte) {
@@ -23,10 +30,15 @@ bool IsHex(std::uint8_t byte) {
          (byte >= 'a' && byte <= 'f');
 }
 
-// "*" and two digits at the end.
+// "*" and two digits at the end, of an ASCII log eight.
 bool HasChecksum(Bytes line) {
-  return line.size() >= 3 && line[line.size() - 3] == '*' && IsHex(line[line.size() - 2]) &&
-         IsHex(line[line.size() - 1]);
+  const std::size_t digits = !line.empty() && line[0] == '#' ? 8 : 2;
+  return line.size() > digits && line[line.size() - digits - 1] == '*' &&
+         std::ranges::all_of(line.last(digits), IsHex);
+}
+
+bool Begins(Bytes bytes, std::string_view text) {
+  return bytes.size() >= text.size() && std::equal(text.begin(), text.end(), bytes.begin());
 }
 
 }  // namespace
@@ -44,8 +56,8 @@ std::size_t OutsideRun::HeadBehind(std::size_t at) const {
 // Whether the bytes behind the head could be those of a frame.
 bool OutsideRun::IsSound(const Head& head) const {
   const std::size_t at = static_cast<std::size_t>(head.offset - begin_);
-  if (head.protocol == NavframeNmea) return BeginsSentence(From(at));
-  return (head.protocol == NavframeUbx || head.protocol == NavframeRtcm3) && head.claimed != 0;
+  if (IsLine(head)) return BeginsSentence(From(at));
+  return head.protocol != NavframeNmeaTagBlock && head.claimed != 0;
 }
 
 bool OutsideRun::BeginsSoundly(std::size_t at) const {
@@ -111,7 +123,7 @@ void OutsideRun::End(bool isEndOfAll) {
 void OutsideRun::Diagnose() {
   const std::size_t end = isFinal_ ? Size() : Size() / 2;
   while (at_ < end) {
-    if (LineEnd() || TextLine()) continue;
+    if (LineEnd() || TextLine() || SentenceEnd()) continue;
     const std::size_t next = HeadBehind(at_);
     const std::uint64_t begin = next < heads_.size() ? heads_[next].offset : begin_ + Size();
     const std::size_t length = static_cast<std::size_t>(begin - begin_) - at_;
@@ -151,15 +163,18 @@ bool OutsideRun::LineEnd() {
   return true;
 }
 
-// A comment, or nothing but a line end.
+// A comment, nothing but a line end, or the reply of a server that the recording begins with.
 bool OutsideRun::TextLine() {
   constexpr std::size_t LongestLine = 1024;
   const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestLine));
   const bool isBlank =
       bytes[0] == '\n' || (bytes.size() > 1 && bytes[0] == '\r' && bytes[1] == '\n');
-  const bool isComment = bytes[0] == '#' || bytes[0] == '%' || bytes[0] == ';' ||
+  if (isAtBeginning_ && begin_ + at_ == 0) {
+    isReply_ = Begins(bytes, "HTTP/1.") || Begins(bytes, "ICY ");
+  }
+  const bool isComment = isReply_ || bytes[0] == '#' || bytes[0] == '%' || bytes[0] == ';' ||
                          (bytes.size() > 1 && bytes[0] == '/' && bytes[1] == '/');
-  if (!isAnchored_ || (!isBlank && !isComment)) return false;
+  if (!isAnchored_ || (!isBlank && !isComment) || BeginsSentence(bytes)) return false;
   std::size_t length = 0;
   while (length < bytes.size() && (IsPrintable(bytes[length]) || bytes[length] == '\t')) ++length;
   if (length < bytes.size() && bytes[length] == '\r') ++length;
@@ -168,9 +183,27 @@ bool OutsideRun::TextLine() {
     return false;
   }
   lineEnds_.Unknown(bytes.first(length + 1));
+  isReply_ &= !isBlank;
   Place place = Here(length + 1);
   place.count = 1;
   Explain(Cause::Text, std::move(place));
+  return true;
+}
+
+// Of a sentence whose beginning is lost.
+bool OutsideRun::SentenceEnd() {
+  constexpr std::size_t LongestSentence = 512;
+  if (!isAnchored_ || isAtBeginning_) return false;
+  const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestSentence));
+  std::size_t length = 0;
+  while (length < bytes.size() && IsPrintable(bytes[length]) && bytes[length] != '$') ++length;
+  const bool isLine =
+      length + 1 < bytes.size() && bytes[length] == '\r' && bytes[length + 1] == '\n';
+  if (!isLine || BeginsSentence(bytes) || !HasChecksum(bytes.first(length))) return false;
+  lineEnds_.Unknown(bytes.first(length + 2));
+  Place place = Here(length + 2);
+  place.protocol = NavframeNmea;
+  Explain(Cause::BytesLost, std::move(place));
   return true;
 }
 
@@ -185,12 +218,14 @@ void OutsideRun::Explain(Cause cause, Place place) {
 void OutsideRun::Junk(std::size_t length) {
   if (junkLength_ == 0) {
     junkBegin_ = begin_ + at_;
-    isJunkAnchored_ = isAnchored_;
     if (isAnchored_ && Size() - at_ >= 2 && !isAtBeginning_) {
       findings_.AddBeginning(bytes_[at_], bytes_[at_ + 1]);
     }
   }
   lineEnds_.Unknown(From(at_).first(length));
+  if (junkLength_ == 0) junkFill_ = bytes_[at_];
+  const auto isFill = [this](std::uint8_t byte) { return byte == junkFill_; };
+  if (junkFill_ && !std::ranges::all_of(From(at_).first(length), isFill)) junkFill_.reset();
   junkLength_ += length;
   at_ += length;
   isAnchored_ = false;
@@ -202,6 +237,7 @@ void OutsideRun::FinishJunk() {
   place.offset = junkBegin_;
   place.length = junkLength_;
   place.time = time_;
+  if (junkLength_ > 1) place.fill = junkFill_;
   const bool isTail = junkBegin_ == 0 && junkLength_ <= LongestFrame;
   findings_.Add(isTail ? Cause::BeginsInside : Cause::Unexplained, std::move(place));
   if (!isTail) findings_.AddHeads(junkHeads_);
@@ -213,7 +249,7 @@ OutsideRun::Next OutsideRun::Piece(const Head& head) {
   const Next translated = Untranslated();
   if (translated != Next::Junk) return translated;
   if (!IsSound(head)) return Next::Junk;
-  return head.protocol == NavframeNmea ? Sentence(head) : Binary(head);
+  return IsLine(head) ? Sentence(head) : Binary(head);
 }
 
 OutsideRun::Next OutsideRun::Untranslated() {
@@ -236,7 +272,10 @@ OutsideRun::Next OutsideRun::Sentence(const Head& head) {
   constexpr std::size_t LongestSentence = 4096;
   const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestSentence));
   std::size_t length = 1;
-  while (length < bytes.size() && IsPrintable(bytes[length]) && bytes[length] != '$') ++length;
+  while (length < bytes.size() && IsPrintable(bytes[length]) && bytes[length] != '$' &&
+         (bytes[length] != '#' || bytes[0] != '#')) {
+    ++length;
+  }
   std::size_t lineEnd = length;
   while (lineEnd < bytes.size() && bytes[lineEnd] == '\r') ++lineEnd;
   const bool isLine = lineEnd < bytes.size() && bytes[lineEnd] == '\n';
@@ -285,19 +324,21 @@ OutsideRun::Next OutsideRun::Cut(const Head& head) {
   for (std::size_t i = first; i < std::min(heads_.size(), first + MostLooks); ++i) {
     const auto at = static_cast<std::size_t>(heads_[i].offset - begin_);
     if (at - at_ >= length) break;
-    const bool isWhole = heads_[i].protocol != NavframeNmea && IsSound(heads_[i]) &&
+    const bool isWhole = !IsLine(heads_[i]) && IsSound(heads_[i]) &&
                          at + heads_[i].claimed <= Size() && BeginsSoundly(at + heads_[i].claimed);
     if (isWhole) {
       present = at - at_;
       break;
     }
   }
-  if (present == 0) return Next::Junk;
-  Place place = Here(present);
+  // Neither whole, nor does anything begin where it should end: it and what follows lack bytes.
+  const bool isOpen = present == 0 && isFinal_ && !isEndOfAll_ && there - length <= LongestFrame;
+  if (present == 0 && !isOpen) return Next::Junk;
+  Place place = Here(isOpen ? there : present);
   place.protocol = head.protocol;
   place.message = MessageOf(From(at_));
   place.claimed = length;
-  place.lost = length - present;
+  place.lost = isOpen ? 0 : length - present;
   if (isEndOfAll_ && present == there) {
     Explain(Cause::EndsInside, std::move(place));
     return Next::Explained;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "analysis/finding_list.h"
@@ -45,12 +46,16 @@ class OutsideRun {
   Bytes From(std::size_t at) const { return Bytes(bytes_).subspan(at); }
   const Head* HeadAt(std::size_t at) const;
   std::size_t HeadBehind(std::size_t at) const;  // an index of heads_
+  static bool IsLine(const Head& head) {
+    return head.protocol == NavframeNmea || head.protocol == NavframeAsciiLog;
+  }
   bool IsSound(const Head& head) const;
   bool BeginsSoundly(std::size_t at) const;
 
   void Diagnose();
   bool LineEnd();
   bool TextLine();
+  bool SentenceEnd();
   Next Piece(const Head& head);
   Next Untranslated();
   Next Sentence(const Head& head);
@@ -75,10 +80,11 @@ class OutsideRun {
   bool isFull_ = false;
   bool isAtBeginning_ = true;
   bool isBehindSentence_ = false;
+  bool isReply_ = false;    // in the header of one
   bool isAnchored_ = true;  // whether something known ends at at_
   std::uint64_t junkBegin_ = 0;
   std::uint64_t junkLength_ = 0;
-  bool isJunkAnchored_ = false;
+  std::optional<std::uint8_t> junkFill_;  // when all of it is that
   HeadCounts junkHeads_{};
   // Work on trials that is left, so that all of it stays in proportion to the bytes.
   std::size_t budget_ = std::size_t{1} << 22;

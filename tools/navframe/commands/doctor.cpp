@@ -239,6 +239,10 @@ ExitStatus Doctor(const DoctorOptions& options) {
     messages.Add(options.repaired + " is the recording itself, which is left as it is");
     return WrongUsage;
   }
+  if (!options.repaired.empty() && options.target == options.repaired) {
+    messages.Add(options.repaired + " cannot be both the page and the repaired recording");
+    return WrongUsage;
+  }
   try {
     return Run(options).Tell();
   } catch (const ReaderLeft&) {

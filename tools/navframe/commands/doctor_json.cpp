@@ -67,6 +67,7 @@ class Page {
       if (place.count != 0) json_.Count("count", place.count);
       if (place.step != 0) json_.Seconds("step_s", place.step);
       if (cause == Cause::Repeated) json_.Count("first_offset_bytes", place.firstOffset);
+      if (place.fill) json_.Count("all_bytes", *place.fill);
       if (!place.inside.empty()) {
         json_.Array("heads_inside", place.inside, [this](const analysis::HeadInside& head) {
           json_.Object(nullptr, [&] {

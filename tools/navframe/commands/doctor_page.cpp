@@ -175,7 +175,13 @@ class Page {
         return Count(place.count, "head") + ", each where the length of the one before says";
       case Cause::EndsInside:
       case Cause::BytesLost:
-        if (place.claimed == 0) return Name(place);
+        if (place.claimed == 0) {
+          return Name(place) + (place.message.empty() ? ", the end of a sentence" : "");
+        }
+        if (place.lost == 0) {
+          return Name(place) + " of " + std::to_string(place.claimed) +
+                 " bytes is not whole, and nothing begins where it should end";
+        }
         return Name(place) + ", " + Count(place.lost, "byte") + " of " +
                std::to_string(place.claimed) + " missing";
       case Cause::WrongChecksum:
@@ -191,7 +197,7 @@ class Page {
       case Cause::Gap:
         return "nothing for " + Duration(place.step) + ": " + Absent(place);
       default:
-        return "";
+        return place.fill ? "all of them " + Hex(*place.fill) : "";
     }
   }
 
