@@ -94,6 +94,8 @@ class Causes(unittest.TestCase):
         back = bytes(Recording(start=Start - 500))
         ahead = bytes(Recording(start=Start + 2 * 86400))
         foreign = b"".join(Data[at(i):at(i + 1)] + b"\xba\xce" + bytes(30) for i in range(40))
+        irregular = [Epoch(Start + i * i % 7 + 6 * i + 900 * (i >= 25), random.Random(i))[0]
+                     for i in range(40)]
         cases = {
             "nothing": (Data, {}),
             "comments": (b"# a station\r\n" + Data + b"\r\n", {"text": [0, len(Data) + 13]}),
@@ -120,6 +122,8 @@ class Causes(unittest.TestCase):
             "time back": (Data + back, {"clock-back": [len(Data)]}),
             "time ahead": (Data + ahead, {"clock-ahead": [len(Data)]}),
             "a gap": (Cut(Data, at(12), at(17) - at(12)), {"gap": [at(12)]}),
+            "a gap of what comes irregularly": (
+                b"".join(irregular), {"gap": [sum(map(len, irregular[:25]))]}),
             "a gap of one message": (
                 Cut(Cut(Data, at(7, 2), at(7, 3) - at(7, 2)), at(6, 2), at(6, 3) - at(6, 2)),
                 {"gap": [at(8, 2) - (at(7, 3) - at(7, 2)) - (at(6, 3) - at(6, 2))]}),

@@ -11,6 +11,9 @@ namespace {
 constexpr std::size_t MostIntervals = 32;  // the longest ones of a message
 constexpr std::uint64_t FewestIntervals = 8;
 constexpr double GapFactor = 1.5;
+// Of the stream as a whole, some messages of which may come irregularly.
+constexpr double LongStep = 10'000;  // ms
+constexpr double ManySteps = 10;
 
 std::size_t BinOf(std::int64_t interval) {
   const auto value = static_cast<std::uint64_t>(interval);
@@ -46,20 +49,26 @@ void ClockWatch::Row::Add(const Interval& interval) {
   }
 }
 
-// The median, when most intervals are like it.
-double ClockWatch::Row::Usual() const {
+double ClockWatch::Row::Median() const {
   if (count < FewestIntervals) return 0;
   std::uint64_t before = 0;
   for (std::size_t bin = 0; bin < BinsOfIntervals; ++bin) {
     before += bins[bin];
-    if (2 * before < count) continue;
-    std::uint64_t alike = bins[bin];
-    if (bin != 0) alike += bins[bin - 1];
-    if (bin + 1 != BinsOfIntervals) alike += bins[bin + 1];
-    if (4 * alike < 3 * count) return 0;
-    return static_cast<double>(sums[bin]) / static_cast<double>(bins[bin]);
+    if (2 * before >= count) {
+      return static_cast<double>(sums[bin]) / static_cast<double>(bins[bin]);
+    }
   }
   return 0;
+}
+
+double ClockWatch::Row::Usual() const {
+  const double median = Median();
+  if (median <= 0) return 0;
+  const std::size_t bin = BinOf(std::llround(median));
+  std::uint64_t alike = bins[bin];
+  if (bin != 0) alike += bins[bin - 1];
+  if (bin + 1 != BinsOfIntervals) alike += bins[bin + 1];
+  return 4 * alike < 3 * count ? 0 : median;
 }
 
 ClockWatch::Row* ClockWatch::RowOf(const NavframeItem& frame) {
@@ -118,16 +127,20 @@ bool ClockWatch::Take(const NavframeItem& frame, std::uint64_t offset, std::int6
   time_ = time;
   first_ = std::min(first_, time);
   last_ = std::max(last_, time);
-  Row* const row = RowOf(frame);
-  if (row == nullptr) return isOther;
-  if (row->last != NoTime && row->part == part_) {
-    if (time <= row->last) return isOther;
-    row->Add({time - row->last, row->last, offset, damage_ > row->lastOffset});
-  }
-  row->last = time;
-  row->lastOffset = offset;
-  row->part = part_;
+  if (isOther) Note(offset, time, all_);
+  if (Row* const row = RowOf(frame)) Note(offset, time, *row);
   return isOther;
+}
+
+// It comes at this time.
+void ClockWatch::Note(std::uint64_t offset, std::int64_t time, Row& row) const {
+  if (row.last != NoTime && row.part == part_) {
+    if (time <= row.last) return;
+    row.Add({time - row.last, row.last, offset, damage_ > row.lastOffset});
+  }
+  row.last = time;
+  row.lastOffset = offset;
+  row.part = part_;
 }
 
 // Of all messages that come regularly, one for those that stay away together.
@@ -146,6 +159,13 @@ std::vector<ClockWatch::Gap> ClockWatch::Gaps(std::size_t& regular) const {
   std::ranges::sort(all, {}, [](const Gap& gap) {
     return std::pair(gap.interval.offset, gap.rows.front()->message);
   });
+  // Whatever comes, and however irregularly.
+  for (const Interval& interval : all_.longest) {
+    const double length = static_cast<double>(interval.length);
+    if (all_.Median() > 0 && length > LongStep && length > ManySteps * all_.Median()) {
+      all.push_back({interval, 0, {}});
+    }
+  }
   std::ranges::stable_sort(all, {}, [](const Gap& gap) { return gap.interval.from; });
   std::vector<Gap> together;
   for (Gap& gap : all) {
@@ -160,8 +180,8 @@ std::vector<ClockWatch::Gap> ClockWatch::Gaps(std::size_t& regular) const {
     }
     last->interval.hasDamage |= gap.interval.hasDamage;
     last->missing = std::max(last->missing, gap.missing);
-    if (std::ranges::find(last->rows, gap.rows.front()) == last->rows.end()) {
-      last->rows.push_back(gap.rows.front());
+    for (const Row* const row : gap.rows) {
+      if (std::ranges::find(last->rows, row) == last->rows.end()) last->rows.push_back(row);
     }
   }
   std::ranges::stable_sort(together, {}, [](const Gap& gap) { return gap.interval.offset; });
@@ -172,9 +192,9 @@ void ClockWatch::End() {
   TellBack();
   std::size_t regular = 0;
   for (const Gap& gap : Gaps(regular)) {
-    const bool isAll = gap.rows.size() == regular;
+    const bool isAll = gap.rows.empty() || gap.rows.size() == regular;
     // What a damaged frame leaves open is told as its damage.
-    if (gap.interval.hasDamage && (!isAll || gap.missing < 2)) continue;
+    if (gap.interval.hasDamage && (!isAll || gap.missing == 1)) continue;
     Place place;
     place.offset = gap.interval.offset;
     place.time = gap.interval.from;

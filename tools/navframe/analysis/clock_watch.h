@@ -63,22 +63,26 @@ class ClockWatch {
     std::vector<Interval> longest;
 
     void Add(const Interval& interval);
-    // ms; 0 when it does not come regularly.
+    // ms; 0 of too few intervals.
+    double Median() const;
+    // The same; 0 when most of them are unlike it, too.
     double Usual() const;
   };
   struct Gap {
     Interval interval;
     std::uint64_t missing = 0;
-    std::vector<const Row*> rows;
+    std::vector<const Row*> rows;  // none: nothing at all comes, however irregularly
   };
 
   void Jump(const NavframeItem& frame, std::uint64_t offset, std::int64_t time);
   void TellBack();
   Row* RowOf(const NavframeItem& frame);
+  void Note(std::uint64_t offset, std::int64_t time, Row& row) const;
   std::vector<Gap> Gaps(std::size_t& regular) const;
 
   FindingList& findings_;
   std::unordered_map<std::string, Row> rows_;
+  Row all_;  // times of the stream
   std::string key_;
   std::int64_t time_ = NoTime;
   std::int64_t first_ = NoTime;

@@ -320,21 +320,20 @@ OutsideRun::Next OutsideRun::Cut(const Head& head) {
   const std::size_t length = head.claimed;
   const std::size_t there = Size() - at_;
   std::size_t present = length > there && isFinal_ ? there : 0;
+  std::size_t behind = there;  // where something begins behind its end
   const std::size_t first = HeadBehind(at_) + 1;
   for (std::size_t i = first; i < std::min(heads_.size(), first + MostLooks); ++i) {
     const auto at = static_cast<std::size_t>(heads_[i].offset - begin_);
-    if (at - at_ >= length) break;
     const bool isWhole = !IsLine(heads_[i]) && IsSound(heads_[i]) &&
                          at + heads_[i].claimed <= Size() && BeginsSoundly(at + heads_[i].claimed);
-    if (isWhole) {
-      present = at - at_;
-      break;
-    }
+    if (!isWhole) continue;
+    (at - at_ < length ? present : behind) = at - at_;
+    break;
   }
   // Neither whole, nor does anything begin where it should end: it and what follows lack bytes.
-  const bool isOpen = present == 0 && isFinal_ && !isEndOfAll_ && there - length <= LongestFrame;
+  const bool isOpen = present == 0 && isFinal_ && !isEndOfAll_ && behind - length <= LongestFrame;
   if (present == 0 && !isOpen) return Next::Junk;
-  Place place = Here(isOpen ? there : present);
+  Place place = Here(isOpen ? behind : present);
   place.protocol = head.protocol;
   place.message = MessageOf(From(at_));
   place.claimed = length;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <new>
 #include <optional>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -100,7 +101,12 @@ class Run {
   ExitStatus Tell() {
     Examine();
     const bool isRecognised = diagnosis_.isRecognised;
-    if (!options_.repaired.empty() && isGood_ && isRecognised) Repair();
+    try {
+      if (!options_.repaired.empty() && isGood_ && isRecognised) Repair();
+    } catch (const std::runtime_error& fault) {  // of the copy: what was found is told
+      messages_.Add(fault.what());
+      isGood_ = false;
+    }
     const std::string name = options_.source == "-" ? "standard input" : ShownName(options_.source);
     if (options_.json) {
       output_.Buffer() = DoctorJson(name, diagnosis_, repaired_);

@@ -128,7 +128,7 @@ class Page {
       case Cause::BytesLost:
         return "Bytes are lost" +
                (finding.lost == 0 ? "" : ", " + std::to_string(finding.lost) + " at least") + ": " +
-               Count(places, "frame ends", "frames end") + " early, where another begins.";
+               Count(places, "frame is", "frames are") + " cut off.";
       case Cause::WrongChecksum:
         return Count(places, "frame does", "frames do") +
                " not hold what was sent: the checksum is wrong.";
@@ -141,7 +141,7 @@ class Page {
       case Cause::Repeated:
         return Count(places, "block comes", "blocks come") + " a second time.";
       case Cause::Gap:
-        return "Messages that come regularly stay away" + Times(places) + ".";
+        return "Messages stay away" + Times(places) + ".";
       case Cause::Unexplained:
         return Count(finding.bytes, "byte is", "bytes are") + " part of no frame, in " +
                Count(places, "place") + Beginning(finding) + ".";
@@ -195,7 +195,7 @@ class Page {
         return Count(place.count, "frame") + ", which stood at byte " +
                std::to_string(place.firstOffset) + " before";
       case Cause::Gap:
-        return "nothing for " + Duration(place.step) + ": " + Absent(place);
+        return "nothing for " + Duration(place.step) + Absent(place);
       default:
         return place.fill ? "all of them " + Hex(*place.fill) : "";
     }
@@ -223,7 +223,8 @@ class Page {
 
   static std::string Absent(const Place& place) {
     constexpr std::size_t Most = 6;
-    std::string text = Count(place.count, "epoch", "epochs") + " of ";
+    if (place.messages.empty()) return "";
+    std::string text = ": " + Count(place.count, "epoch") + " of ";
     for (std::size_t i = 0; i < std::min(Most, place.messages.size()); ++i) {
       text.append(i == 0 ? "" : ", ");
       AppendPrintable(place.messages[i], text);
