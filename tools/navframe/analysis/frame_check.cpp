@@ -81,13 +81,13 @@ std::string MessageOf(Bytes bytes) {
   return text.data();
 }
 
-Translated TryWithoutCr(Bytes bytes, std::vector<std::uint8_t>& scratch) {
+std::optional<Translated> TryWithoutCr(Bytes bytes, std::vector<std::uint8_t>& scratch) {
   Translated found;
   scratch.clear();
   std::size_t wanted = UbxHead;
   std::size_t at = 0;
   while (scratch.size() < wanted) {
-    if (at == bytes.size()) return {Translated::State::NeedsBytes, at, found.added};
+    if (at == bytes.size()) return std::nullopt;
     const bool isAdded = bytes[at] == Cr && at + 1 < bytes.size() && bytes[at + 1] == Lf;
     if (isAdded) {
       ++found.added;
@@ -95,13 +95,12 @@ Translated TryWithoutCr(Bytes bytes, std::vector<std::uint8_t>& scratch) {
       scratch.push_back(bytes[at]);
     }
     ++at;
-    if (scratch.size() == 2 && !IsUbx(scratch) && !IsRtcm(scratch)) return {};
+    if (scratch.size() == 2 && !IsUbx(scratch) && !IsRtcm(scratch)) return std::nullopt;
     if (scratch.size() == UbxHead && wanted == UbxHead) wanted = BinaryLength(scratch);
   }
   found.length = at;
   const bool holds = found.added != 0 && scratch.size() == wanted && ChecksumHolds(scratch);
-  found.state = holds ? Translated::State::Holds : Translated::State::No;
-  return found;
+  return holds ? std::optional(found) : std::nullopt;
 }
 
 bool HoldsWithCr(Bytes cut, std::vector<std::uint8_t>& scratch) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -20,14 +21,13 @@ bool ChecksumHolds(Bytes frame);
 // What the message of a frame is called, as far as its head is there.
 std::string MessageOf(Bytes bytes);
 
-// A frame each LF of which became CR LF.
+// A frame each LF of which became CR LF: whole without these CRs.
 struct Translated {
-  enum class State : std::uint8_t { No, Holds, NeedsBytes };
-  State state = State::No;
   std::size_t length = 0;  // bytes that it takes now
   std::size_t added = 0;   // CRs among them
 };
-Translated TryWithoutCr(Bytes bytes, std::vector<std::uint8_t>& scratch);
+// The one that the bytes begin. `scratch` has the frame then, as it was sent.
+std::optional<Translated> TryWithoutCr(Bytes bytes, std::vector<std::uint8_t>& scratch);
 
 // Whether a frame is whole when a CR is put in front of one of its LFs, of the first few of them.
 inline constexpr std::size_t MostTries = 64;

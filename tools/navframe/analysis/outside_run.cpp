@@ -99,11 +99,10 @@ void OutsideRun::Take(const NavframeItem& item, std::int64_t time) {
   }
   bytes_.insert(bytes_.end(), item.bytes, item.bytes + item.length);
   budget_ += WorkPerByte * item.length;
-  if (Size() >= MostKept) {
-    isFull_ = true;
-    Diagnose();
-    isFull_ = false;
-  }
+  const std::size_t lf =
+      std::string_view(reinterpret_cast<const char*>(item.bytes), item.length).rfind('\n');
+  if (lf != std::string_view::npos) lastLf_ = item.offset + lf;
+  if (Size() >= MostKept) Diagnose();
 }
 
 void OutsideRun::End(bool isEndOfAll) {
@@ -135,7 +134,7 @@ void OutsideRun::Diagnose() {
       continue;
     }
     const Head head = heads_[next];
-    if (Piece(head) == Next::Junk) {
+    if (!Piece(head)) {
       Count(head.protocol, head.reason, junkHeads_);
       Junk(1);
     }
@@ -177,11 +176,10 @@ bool OutsideRun::TextLine() {
   if (!isAnchored_ || (!isBlank && !isComment) || BeginsSentence(bytes)) return false;
   std::size_t length = 0;
   while (length < bytes.size() && (IsPrintable(bytes[length]) || bytes[length] == '\t')) ++length;
+  const Bytes text = bytes.first(length);
   if (length < bytes.size() && bytes[length] == '\r') ++length;
   const bool isLine = length < bytes.size() && bytes[length] == '\n';
-  if (!isLine || HasChecksum(bytes.first(length - (bytes[length - (length != 0)] == '\r')))) {
-    return false;
-  }
+  if (!isLine || HasChecksum(text)) return false;
   lineEnds_.Unknown(bytes.first(length + 1));
   isReply_ &= !isBlank;
   Place place = Here(length + 1);
@@ -245,30 +243,29 @@ void OutsideRun::FinishJunk() {
   junkLength_ = 0;
 }
 
-OutsideRun::Next OutsideRun::Piece(const Head& head) {
-  const Next translated = Untranslated();
-  if (translated != Next::Junk) return translated;
-  if (!IsSound(head)) return Next::Junk;
+bool OutsideRun::Piece(const Head& head) {
+  if (Untranslated()) return true;
+  if (!IsSound(head)) return false;
   return IsLine(head) ? Sentence(head) : Binary(head);
 }
 
-OutsideRun::Next OutsideRun::Untranslated() {
-  if (budget_ == 0) return Next::Junk;
-  const Translated found = TryWithoutCr(From(at_), scratch_);
+bool OutsideRun::Untranslated() {
+  if (budget_ == 0 || lastLf_ < begin_ + at_) return false;
+  const auto found = TryWithoutCr(From(at_), scratch_);
   Spend(scratch_.size());
-  if (found.state != Translated::State::Holds) return Next::Junk;
-  lineEnds_.Added(begin_ + at_, begin_ + at_ + found.length);
-  Place place = Here(found.length);
+  if (!found) return false;
+  lineEnds_.Added(begin_ + at_, begin_ + at_ + found->length);
+  Place place = Here(found->length);
   place.protocol = bytes_[at_] == 0xD3 ? NavframeRtcm3 : NavframeUbx;
   place.message = MessageOf(From(at_));
   place.claimed = scratch_.size();
-  place.count = found.added;
+  place.count = found->added;
   Explain(Cause::CrAdded, std::move(place));
-  return Next::Explained;
+  return true;
 }
 
 // A sentence ends with its line, or where it cannot go on.
-OutsideRun::Next OutsideRun::Sentence(const Head& head) {
+bool OutsideRun::Sentence(const Head& head) {
   constexpr std::size_t LongestSentence = 4096;
   const Bytes bytes = From(at_).first(std::min(From(at_).size(), LongestSentence));
   std::size_t length = 1;
@@ -292,14 +289,14 @@ OutsideRun::Next OutsideRun::Sentence(const Head& head) {
     lineEnds_.Unknown(bytes.first(static_cast<std::size_t>(place.length)));
     Explain(Cause::NoChecksum, std::move(place));
   } else {
-    if (!isAnchored_) return Next::Junk;
+    if (!isAnchored_) return false;
     Explain(Cause::BytesLost, std::move(place));
   }
-  return Next::Explained;
+  return true;
 }
 
 // A frame that tells its length.
-OutsideRun::Next OutsideRun::Binary(const Head& head) {
+bool OutsideRun::Binary(const Head& head) {
   const std::size_t length = head.claimed;
   const std::size_t there = Size() - at_;
   if (length <= there && BeginsSoundly(at_ + length)) {
@@ -309,13 +306,13 @@ OutsideRun::Next OutsideRun::Binary(const Head& head) {
     place.claimed = length;
     place.inside = Inside(length);
     Explain(Cause::WrongChecksum, std::move(place));
-    return Next::Explained;
+    return true;
   }
-  return isAnchored_ ? Cut(head) : Next::Junk;
+  return isAnchored_ ? Cut(head) : false;
 }
 
 // A frame that something begins inside of, or that the recording ends in.
-OutsideRun::Next OutsideRun::Cut(const Head& head) {
+bool OutsideRun::Cut(const Head& head) {
   constexpr std::size_t MostLooks = 16;
   const std::size_t length = head.claimed;
   const std::size_t there = Size() - at_;
@@ -332,7 +329,7 @@ OutsideRun::Next OutsideRun::Cut(const Head& head) {
   }
   // Neither whole, nor does anything begin where it should end: it and what follows lack bytes.
   const bool isOpen = present == 0 && isFinal_ && !isEndOfAll_ && behind - length <= LongestFrame;
-  if (present == 0 && !isOpen) return Next::Junk;
+  if (present == 0 && !isOpen) return false;
   Place place = Here(isOpen ? behind : present);
   place.protocol = head.protocol;
   place.message = MessageOf(From(at_));
@@ -340,7 +337,7 @@ OutsideRun::Next OutsideRun::Cut(const Head& head) {
   place.lost = isOpen ? 0 : length - present;
   if (isEndOfAll_ && present == there) {
     Explain(Cause::EndsInside, std::move(place));
-    return Next::Explained;
+    return true;
   }
   if (place.lost == 1 && budget_ > MostTries * length) {
     Spend(MostTries * length);
@@ -354,7 +351,7 @@ OutsideRun::Next OutsideRun::Cut(const Head& head) {
     }
   }
   Explain(Cause::BytesLost, std::move(place));
-  return Next::Explained;
+  return true;
 }
 
 }  // namespace navframe::analysis

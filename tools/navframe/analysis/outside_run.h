@@ -25,7 +25,7 @@ class OutsideRun {
   // Behind that: what the next run stands behind.
   void Behind(const NavframeItem& frame) {
     isBehindSentence_ = frame.protocol == NavframeNmea || frame.protocol == NavframeAsciiLog;
-    isAtBeginning_ = false;
+    isAtBeginning_ = isReply_ = false;
     isAnchored_ = true;
   }
   // Frames that lack one byte and hold with a CR: those were LFs that had one.
@@ -39,8 +39,6 @@ class OutsideRun {
     std::uint32_t reason;
     std::uint32_t claimed;
   };
-  // What becomes of the bytes that a head begins.
-  enum class Next : std::uint8_t { Explained, Junk, Waits };
 
   std::size_t Size() const { return bytes_.size(); }
   Bytes From(std::size_t at) const { return Bytes(bytes_).subspan(at); }
@@ -53,14 +51,15 @@ class OutsideRun {
   bool BeginsSoundly(std::size_t at) const;
 
   void Diagnose();
+  // Each explains what stands at at_ and goes on behind it, or is not the one to.
   bool LineEnd();
   bool TextLine();
   bool SentenceEnd();
-  Next Piece(const Head& head);
-  Next Untranslated();
-  Next Sentence(const Head& head);
-  Next Binary(const Head& head);
-  Next Cut(const Head& head);
+  bool Piece(const Head& head);
+  bool Untranslated();
+  bool Sentence(const Head& head);
+  bool Binary(const Head& head);
+  bool Cut(const Head& head);
   void Explain(Cause cause, Place place);
   void Junk(std::size_t length);
   void FinishJunk();
@@ -72,12 +71,12 @@ class OutsideRun {
   LineEnds& lineEnds_;
   std::vector<std::uint8_t> bytes_;
   std::vector<Head> heads_;
-  std::uint64_t begin_ = 0;  // offset of the first one
-  std::size_t at_ = 0;       // what was taken apart so far
+  std::uint64_t begin_ = 0;   // offset of the first one
+  std::uint64_t lastLf_ = 0;  // offset
+  std::size_t at_ = 0;        // what was taken apart so far
   std::int64_t time_ = NoTime;
   bool isFinal_ = false;
   bool isEndOfAll_ = false;
-  bool isFull_ = false;
   bool isAtBeginning_ = true;
   bool isBehindSentence_ = false;
   bool isReply_ = false;    // in the header of one
