@@ -201,13 +201,19 @@ class Repair(unittest.TestCase):
                     self.assertEqual({cause: one["count"] for cause, one in found.items()}, causes)
 
     def test_OffsetsAreThoseOfTheRecording(self):
-        """Also of what is found behind bytes that are taken out, and from a pipe."""
+        """Also of what is found behind bytes that are taken out, and from standard input."""
         flipped = bytearray(Data)
         flipped[Whole.At(30, 0) + 20] ^= 1
         for make in (lambda data: data.replace(b"\n", b"\r\n"), Chunked):
             data = make(bytes(flipped))
             offset = data.index(Whole.epochs[30][0][:12])
             self.assertEqual(Offsets(Found(data))["wrong-checksum"], [offset])
+            (self.folder / "in").write_bytes(data)
+            with open(self.folder / "in", "rb") as file:
+                out = subprocess.run([Tool, "doctor", "--repair", self.folder / "out"], stdin=file,
+                                     capture_output=True, timeout=60)
+            self.assertEqual((out.returncode, out.stderr), (1, b""))
+            self.assertTrue((self.folder / "out").read_bytes() == bytes(flipped))
 
     def test_WhatIsLostIsNamed(self):
         """CR LF that became LF: where frames of binary protocols tell."""

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
+
+#include "analysis/pace.h"
 
 namespace navframe::analysis {
 namespace {
 
 constexpr std::size_t MostIntervals = 32;  // the longest ones of a message
 constexpr std::uint64_t FewestIntervals = 8;
-constexpr double GapFactor = 1.5;
 // Of the stream as a whole, some messages of which may come irregularly.
 constexpr double LongStep = 10'000;  // ms
 constexpr double ManySteps = 10;

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -40,7 +41,10 @@ class Kept {
     }
   }
   // Source::Read from its beginning; one reader at a time.
-  void Rewind() { std::rewind(file_.get()); }
+  void Rewind() {
+    if (std::fflush(file_.get()) != 0) throw CannotWrite("a temporary file", errno);
+    std::rewind(file_.get());
+  }
   std::size_t Read(std::uint8_t* to, std::size_t room) {
     return std::fread(to, 1, room, file_.get());
   }
@@ -130,7 +134,7 @@ class Run {
       source = std::make_unique<KeptSource>(*kept_);
     } else {
       source = OpenSource(options_.source);
-      if (source->IsLive()) {
+      if (source->IsLive() || options_.source == "-") {
         kept_.emplace();
         source = std::make_unique<KeepingSource>(std::move(source), *kept_);
       }
