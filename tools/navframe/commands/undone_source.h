@@ -1,4 +1,4 @@
-// A source without what an Undoing takes out of it.
+// A source without what an Undoing takes out of it. Its progress is not told: it is read again.
 #pragma once
 
 #include <memory>
@@ -16,8 +16,6 @@ class UndoneSource : public Source {
 
   Reading Read(std::uint8_t* to, std::size_t room) override;
   bool IsLive() const override { return source_->IsLive(); }
-  std::uint64_t Taken() const override { return source_->Taken(); }
-  std::uint64_t Total() const override { return source_->Total(); }
 
   const analysis::Undoing& Done() const { return undoing_; }
 
