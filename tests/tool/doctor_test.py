@@ -151,8 +151,8 @@ class Causes(unittest.TestCase):
         self.assertEqual(Found(Data + bytes(Recording(start=Start - 500)))["clock-back"]["first"][0]
                          ["step_s"], -539)
         nothing = Found(Data[:at(4)] + b"\xd3\xf2\x03" + Data[at(4):])["unexplained"]
-        self.assertEqual((nothing["bytes"], [(h["protocol"], h["count"]) for h in nothing["heads"]]),
-                         (3, [("RTCM 3", 1)]))
+        heads = [(head["protocol"], head["count"]) for head in nothing["heads"]]
+        self.assertEqual((nothing["bytes"], heads), (3, [("RTCM 3", 1)]))
 
     def test_WhatIsNoRecording(self):
         status, out, err = Run(data=b"")
@@ -189,6 +189,7 @@ class Repair(unittest.TestCase):
                 ("nothing", Data, Data, {}),
                 ("translated", translated, Data, {"cr-added": crs}),
                 ("chunks", chunked, Data, {"chunk-heads": heads}),
+                ("chunks, from inside of one", chunked[40:], Data[40 - chunked.index(b"\n") - 1:], None),
                 ("chunks, translated", chunked.replace(b"\n", b"\r\n"), Data, None),
                 ("translated, in chunks", Chunked(translated), Data, None),
                 ("the second half translated", Data[:half] + translated[translated.index(
