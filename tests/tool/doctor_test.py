@@ -94,6 +94,8 @@ class Causes(unittest.TestCase):
         back = bytes(Recording(start=Start - 500))
         ahead = bytes(Recording(start=Start + 2 * 86400))
         foreign = b"".join(Data[at(i):at(i + 1)] + b"\xba\xce" + bytes(30) for i in range(40))
+        drive = (Root / "samples/drive.nmea").read_bytes()
+        begin, end = drive.index(b"$GNGGA,120020"), drive.index(b"$GNGGA,120030")
         irregular = [Epoch(Start + i * i % 7 + 6 * i + 900 * (i >= 25), random.Random(i))[0]
                      for i in range(40)]
         cases = {
@@ -119,6 +121,10 @@ class Causes(unittest.TestCase):
                                  {"unexplained": [at(4)]}),
             "another protocol": (foreign, {"unexplained": [at(i + 1) + 32 * i for i in range(40)]}),
             "a block twice": (Data[:at(20)] + block + Data[at(20):], {"repeated-block": [at(20)]}),
+            "a block twice, inside of an epoch": (Data[:at(20, 1)] + block + Data[at(20, 1):],
+                                                  {"repeated-block": [at(20, 1)]}),
+            "a block twice that begins behind its time": (drive[:end] + drive[begin:],
+                                                          {"repeated-block": [end]}),
             "time back": (Data + back, {"clock-back": [len(Data)]}),
             "time ahead": (Data + ahead, {"clock-ahead": [len(Data)]}),
             "a gap": (Cut(Data, at(12), at(17) - at(12)), {"gap": [at(12)]}),
@@ -189,7 +195,7 @@ class Repair(unittest.TestCase):
                 ("nothing", Data, Data, {}),
                 ("translated", translated, Data, {"cr-added": crs}),
                 ("chunks", chunked, Data, {"chunk-heads": heads}),
-                ("chunks, from inside of one", chunked[40:], Data[40 - chunked.index(b"\n") - 1:], None),
+                ("chunks, from inside of one", chunked[40:], Data[39 - chunked.index(b"\n"):], None),
                 ("chunks, translated", chunked.replace(b"\n", b"\r\n"), Data, None),
                 ("translated, in chunks", Chunked(translated), Data, None),
                 ("the second half translated", Data[:half] + translated[translated.index(
