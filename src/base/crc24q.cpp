@@ -114,7 +114,9 @@ NAVFRAME_CARRYLESS Block FoldAll(const std::uint8_t* bytes, std::size_t length) 
     bytes += 48;
     const Block byFour = Constants<512>();
     for (; end - bytes >= 64; bytes += 64) {
-      for (int i = 0; i < 4; ++i) lanes[i] = Fold(lanes[i], byFour, LoadFirst(bytes + 16 * i, 16));
+      for (std::size_t i = 0; i < 4; ++i) {
+        lanes[i] = Fold(lanes[i], byFour, LoadFirst(bytes + 16 * i, 16));
+      }
     }
     all = lanes[0];
     for (int i = 1; i < 4; ++i) all = Fold(all, byOne, lanes[i]);
