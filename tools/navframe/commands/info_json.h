@@ -1,16 +1,13 @@
-// What a recording holds, as JSON. docs/info.md has the members.
+// What recordings hold, as JSON.
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "analysis/contents.h"
+#include "commands/info_members.h"
 
 namespace navframe::tool {
 
-// Recordings by the names of their sources, and all of them together when they are several.
-using NamedContents = std::pair<std::string, analysis::Contents>;
 std::string InfoJson(const std::vector<NamedContents>& files, const analysis::Contents& total);
 
 }  // namespace navframe::tool

@@ -1,5 +1,5 @@
 # What the tool and the Python package have in common: files, compressed or not, names
-# of kinds and of messages.
+# of kinds and of messages; and what recordings hold.
 find_package(ZLIB)
 find_package(PkgConfig)
 if(PkgConfig_FOUND)
@@ -40,3 +40,15 @@ if(ZSTD_FOUND)
 else()
   message(STATUS "navframe: zstd is not read without libzstd (libzstd-dev, pkg-config)")
 endif()
+
+add_subdirectory("${CMAKE_CURRENT_LIST_DIR}/analysis")
+
+# What was found, by names: JSON to the tool, dictionaries to Python.
+add_library(navframe_members STATIC "${CMAKE_CURRENT_LIST_DIR}/commands/info_members.cpp"
+                                    "${CMAKE_CURRENT_LIST_DIR}/commands/moments.cpp")
+set_target_properties(
+  navframe_members
+  PROPERTIES POSITION_INDEPENDENT_CODE ON
+             CXX_VISIBILITY_PRESET hidden
+             VISIBILITY_INLINES_HIDDEN ON)
+target_link_libraries(navframe_members PUBLIC navframe_analysis PRIVATE navframe_warnings)
