@@ -27,7 +27,7 @@ if typing.TYPE_CHECKING:
 
 __version__ = _navframe.version
 __all__ = ["DamagedFile", "Entry", "Kind", "Part", "Reader", "Record", "Stream", "Time", "arrays",
-           "frame", "groups", "kinds", "read", "records", "unknown_values"]
+           "frame", "groups", "info", "kinds", "read", "records", "unknown_values"]
 
 _PROTOCOLS = {"nmea": 0x01, "tagblock": 0x02, "rtcm": 0x04, "ubx": 0x08, "55aa": 0x20, "log": 0x40}
 _GPS_START = datetime.date(1980, 1, 6)
@@ -178,6 +178,24 @@ def frame(source: typing.Any, table: str, *, protocols: Names = None, start: Sta
     from ._tables import frame as as_frame
 
     return as_frame(source, table, protocols=protocols, start=start, legacy=legacy)
+
+
+def info(source: typing.Any, *more: typing.Any) -> dict[str, typing.Any]:
+    """What recordings hold, as `navframe info --json` of the tool tells it.
+
+        found = navframe.info("drive.ubx")["files"][0]
+        for message in found["messages"]:
+            print(message["protocol"], message["message"], message["count"], message["rate_hz"])
+
+    `files` is a list with a dict for each source: times, protocols, messages and kinds of records
+    with rates and gaps, stations and receivers, satellites and signals, the position, bytes outside
+    of frames; `total`, of several sources, such a dict for all of them. docs/info.md tells what is
+    in them. What is not known is None.
+
+    Sources are those of read; `source` in the dict is the path, None of what has none. One that is
+    empty, or in which nothing is recognised, is no error: `recognised` is False.
+    """
+    return _navframe.info([source, *more])
 
 
 def unknown_values(table: str) -> dict[str, int]:

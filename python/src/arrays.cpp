@@ -2,17 +2,15 @@
 
 #include <pybind11/numpy.h>
 
-#include <chrono>
 #include <memory>
-#include <new>
 #include <string>
 #include <vector>
 
 #include "batch.h"
-#include "inputs.h"
 #include "records.h"
 #include "tables.h"
 #include "values.h"
+#include "whole_input.h"
 
 namespace py = pybind11;
 
@@ -101,76 +99,14 @@ py::array ArrayOf(Table& table) {
   return py::array(type, {count}, {size}, rows, owner);
 }
 
-// Decodes a source into tables, without the GIL but for now and then.
-class Collecting {
- public:
-  Collecting(const py::object& source, const Options& options)
-      : input_(OpenInput(source)), stream_(OpenStream(options)) {
-    for (const NavframeKind* const kind : options.kinds) tables_.OfKind(*kind);
-  }
-
-  Tables& Run() {
-    try {
-      while (WorkForAWhile()) {
-        if (PyErr_CheckSignals() != 0) throw py::error_already_set();
-      }
-    } catch (const tool::Fault& fault) {
-      RaiseFault(fault, input_.name);
-    }
-    return tables_;
-  }
-
- private:
-  static constexpr std::size_t ChunkLength = std::size_t{1} << 15;
-  static constexpr std::chrono::milliseconds While{50};
-
-  // False behind the end.
-  bool WorkForAWhile() {
-    const py::gil_scoped_release withoutPython;
-    const auto end = std::chrono::steady_clock::now() + While;
-    do {
-      const tool::Reading reading = input_.source->Read(chunk_.data(), chunk_.size());
-      if (reading.state == tool::Reading::State::Quiet) return true;
-      if (reading.state == tool::Reading::State::End) {
-        stream_.flush();
-        Drain();
-        return false;
-      }
-      Put({chunk_.data(), reading.length});
-    } while (std::chrono::steady_clock::now() < end);
-    return true;
-  }
-
-  void Put(std::span<const std::uint8_t> bytes) {
-    while (!bytes.empty()) {
-      bytes = bytes.subspan(stream_.put(bytes));
-      Drain();
-    }
-  }
-
-  void Drain() {
-    NavframeItem item{};
-    item.size = sizeof item;
-    NavframeStatus status = NavframeNeedsBytes;
-    while ((status = navframe_next(stream_.handle(), &item)) == NavframeItemReady) {
-      tables_.Take(item);
-    }
-    if (status < 0) throw std::bad_alloc();
-  }
-
-  Input input_;
-  Stream stream_;
-  Tables tables_;
-  std::vector<std::uint8_t> chunk_ = std::vector<std::uint8_t>(ChunkLength);
-};
-
 py::dict Arrays(const py::object& source, const Options& options) {
   py::module_::import("numpy");  // before the work, which would be in vain without it
-  Collecting collecting(source, options);
+  WholeInput input(source, OpenStream(options));
+  Tables tables;
+  for (const NavframeKind* const kind : options.kinds) tables.OfKind(*kind);
+  input.Read([&tables](const NavframeItem& item) { tables.Take(item); });
   py::dict arrays;
-  for (const auto& table : collecting.Run().All()) {
-    arrays[py::str(table->Name())] = ArrayOf(*table);
-  }
+  for (const auto& table : tables.All()) arrays[py::str(table->Name())] = ArrayOf(*table);
   return arrays;
 }
 

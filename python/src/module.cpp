@@ -7,6 +7,7 @@
 
 #include "arrays.h"
 #include "batch.h"
+#include "info.h"
 #include "parts.h"
 #include "records.h"
 #include "records/kind_names.h"
@@ -103,5 +104,6 @@ PYBIND11_MODULE(_navframe, module) {
   BindPart(module);
   BindStreams(module, types);
   BindArrays(module);
+  BindInfo(module);
   BindCatalogue(module, types);
 }

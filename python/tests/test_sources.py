@@ -95,6 +95,13 @@ def test_sources_of_arrays(name, tmp_path):
     assert {n: t.tobytes() for n, t in tables.items()} == {n: t.tobytes() for n, t in wanted.items()}
 
 
+@pytest.mark.parametrize("name", ["pipe", "pieces", "file that has nothing yet", "gzip"])
+def test_sources_of_info(name, tmp_path):
+    source = SOURCES[name](tmp_path)
+    path = str(source) if name in ("pipe", "gzip") else None
+    assert navframe.info(source)["files"] == [{**navframe.info(DATA)["files"][0], "source": path}]
+
+
 def raises(error):
     def read(*_):
         raise error
@@ -138,10 +145,12 @@ BAD = [  # source, options, exception, what stands in its text
 ]
 
 
-@pytest.mark.parametrize("function", [lambda *a, **k: list(navframe.read(*a, **k)), navframe.arrays],
-                         ids=["read", "arrays"])
+@pytest.mark.parametrize("function", [lambda *a, **k: list(navframe.read(*a, **k)), navframe.arrays,
+                                      navframe.info], ids=["read", "arrays", "info"])
 @pytest.mark.parametrize("make, options, error, text", BAD)
 def test_bad_input(function, make, options, error, text, tmp_path):
+    if options and function is navframe.info:
+        error, text = TypeError, "keyword"  # it has no options
     with pytest.raises(error, match=text):
         function(make(tmp_path), **options)
 
@@ -203,10 +212,11 @@ def interrupt(*_):
 @pytest.mark.parametrize("work", [
     lambda: navframe.arrays("/dev/zero"),
     lambda: navframe.arrays(itertools.repeat(DATA), kinds="ACK"),
+    lambda: navframe.info("/dev/zero"),
     lambda: next(navframe.read("/dev/zero")),
     lambda: list(navframe.read(itertools.repeat(DATA), kinds="ACK")),
     lambda: navframe.Stream(kinds="ACK").feed(DATA * 28000),
-], ids=["zeros", "endless", "records of zeros", "no records", "gigabytes at once"])
+], ids=["zeros", "endless", "info", "records of zeros", "no records", "gigabytes at once"])
 def test_interrupts(work):
     handler = signal.signal(signal.SIGALRM, interrupt)
     signal.setitimer(signal.ITIMER_REAL, 0.2)

@@ -71,11 +71,12 @@ def in_threads(works):
     return results
 
 
-def test_others_run_meanwhile():
+@pytest.mark.parametrize("work", [lambda data: navframe.Stream(kinds="ACK").feed(data),
+                                  navframe.info], ids=["feed", "info"])
+def test_others_run_meanwhile(work):
     """Python goes on in another thread while bytes are decoded."""
-    stream = navframe.Stream(kinds="ACK")
     data = DATA * 8000
-    thread = threading.Thread(target=lambda: stream.feed(data))
+    thread = threading.Thread(target=lambda: work(data))
     thread.start()
     turns = 0
     while thread.is_alive():

@@ -2,6 +2,7 @@
 
 import json
 import math
+import random
 import sys
 
 import numpy
@@ -38,6 +39,19 @@ def test_records_are_the_tools(stream, tool, legacy):
         assert (record.kind, record.offset, time_text(record.time)) == \
                (line["kind"], line["offset"], line["time"])
         assert same(record.asdict(), line["record"]), (record.asdict(), line["record"])
+
+
+def test_info_is_the_tools(stream, tool, tmp_path):
+    """Every member in its place and of its type; also of what has nothing, and of all together."""
+    empty, noise = tmp_path / "empty", tmp_path / "noise"
+    empty.touch()
+    noise.write_bytes(random.Random(19).randbytes(100_000))
+    for sources in ([stream], [empty], [noise], [stream, empty, SAMPLE]):
+        found = navframe.info(*sources)
+        told = json.loads("\n".join(tool("info", "--json", *sources)))
+        assert json.dumps(found) == json.dumps(told)
+        assert [one["recognised"] for one in found["files"]] == \
+               [one in (stream, SAMPLE) for one in sources]
 
 
 def test_parts_are_the_tools(stream, tool):
