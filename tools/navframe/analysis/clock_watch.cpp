@@ -1,7 +1,6 @@
 #include "analysis/clock_watch.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 
 #include "analysis/pace.h"
@@ -15,13 +14,6 @@ constexpr std::uint64_t FewestIntervals = 8;
 constexpr double LongStep = 10'000;  // ms
 constexpr double ManySteps = 10;
 
-std::size_t BinOf(std::int64_t interval) {
-  const auto value = static_cast<std::uint64_t>(interval);
-  const auto octave = static_cast<std::size_t>(std::bit_width(value)) - 1;
-  const std::size_t quarter = octave < 2 ? (value << 2 >> octave) & 3 : (value >> (octave - 2)) & 3;
-  return std::min(octave * 4 + quarter, BinsOfIntervals - 1);
-}
-
 std::string NameOf(const NavframeItem& frame) {
   if (frame.address[0] != '\0') return frame.address;
   if (frame.protocol == NavframeRtcm3 && frame.subType != 0) {
@@ -34,10 +26,7 @@ std::string NameOf(const NavframeItem& frame) {
 }  // namespace
 
 void ClockWatch::Row::Add(const Interval& interval) {
-  const std::size_t bin = BinOf(interval.length);
-  ++count;
-  ++bins[bin];
-  sums[bin] += interval.length;
+  intervals.Add(interval.length);
   const auto longer = [](const Interval& a, const Interval& b) { return a.length > b.length; };
   if (longest.size() < MostIntervals) {
     longest.push_back(interval);
@@ -50,25 +39,12 @@ void ClockWatch::Row::Add(const Interval& interval) {
 }
 
 double ClockWatch::Row::Median() const {
-  if (count < FewestIntervals) return 0;
-  std::uint64_t before = 0;
-  for (std::size_t bin = 0; bin < BinsOfIntervals; ++bin) {
-    before += bins[bin];
-    if (2 * before >= count) {
-      return static_cast<double>(sums[bin]) / static_cast<double>(bins[bin]);
-    }
-  }
-  return 0;
+  return intervals.Count() < FewestIntervals ? 0 : intervals.Median().value_or(0);
 }
 
 double ClockWatch::Row::Usual() const {
   const double median = Median();
-  if (median <= 0) return 0;
-  const std::size_t bin = BinOf(std::llround(median));
-  std::uint64_t alike = bins[bin];
-  if (bin != 0) alike += bins[bin - 1];
-  if (bin + 1 != BinsOfIntervals) alike += bins[bin + 1];
-  return 4 * alike < 3 * count ? 0 : median;
+  return 4 * intervals.About(median) < 3 * intervals.Count() ? 0 : median;
 }
 
 ClockWatch::Row* ClockWatch::RowOf(const NavframeItem& frame) {

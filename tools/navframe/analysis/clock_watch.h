@@ -1,7 +1,6 @@
 // Where the time of a recording jumps, and where messages that come regularly stay away.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,12 +9,10 @@
 
 #include "analysis/finding_list.h"
 #include "analysis/frame_check.h"
+#include "analysis/intervals.h"
 #include "navframe/stream.h"
 
 namespace navframe::analysis {
-
-// Of intervals, by their length: four for each power of two.
-inline constexpr std::size_t BinsOfIntervals = 4 * 28;
 
 class ClockWatch {
  public:
@@ -57,9 +54,7 @@ class ClockWatch {
     std::int64_t last = NoTime;
     std::uint64_t lastOffset = 0;
     std::uint64_t part = 0;
-    std::uint64_t count = 0;
-    std::array<std::uint64_t, BinsOfIntervals> bins{};
-    std::array<std::int64_t, BinsOfIntervals> sums{};
+    Intervals intervals;
     std::vector<Interval> longest;
 
     void Add(const Interval& interval);

@@ -1,10 +1,10 @@
 // How often something comes, and where it stays away.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 
+#include "analysis/intervals.h"
 #include "analysis/timeline.h"
 
 namespace navframe::analysis {
@@ -36,37 +36,38 @@ class Pace {
  public:
   void Take(std::int64_t time) {
     ++count_;
-    if (time != last_) Burst(time);
+    if (time == last_) return;
+    // As long after the last burst as that was after the one before: counted together later.
+    const std::uint64_t interval =
+        static_cast<std::uint64_t>(time) - static_cast<std::uint64_t>(last_);
+    if (interval == interval_) {
+      last_ = time;
+      ++alike_;
+    } else {
+      Burst(time);
+    }
   }
   std::uint64_t Count() const { return count_; }
 
   Rhythm Found(std::int64_t origin) const;
 
  private:
-  // Intervals of similar length: four bins for each power of two.
-  struct Bin {
-    std::uint64_t count = 0;
-    std::int64_t sum = 0;
-  };
-  static constexpr std::size_t Octaves = 27;  // up to the longest interval
-
   void Burst(std::int64_t time);
-  static std::size_t BinOf(std::int64_t interval);
-  std::optional<double> Median() const;
+  void Settle();
 
   std::uint64_t count_ = 0;
-  std::uint64_t timed_ = 0;    // of those before the last burst
-  std::uint64_t atBurst_ = 0;  // count_ when the last burst began
-  std::uint64_t bursts_ = 0;
-  std::uint64_t intervals_ = 0;
-  std::int64_t elapsed_ = 0;
+  std::int64_t last_ = NoTime;
+  std::uint64_t interval_ = 0;  // ms, the last one; 0 of none
+  std::uint64_t alike_ = 0;     // of that length, and not in intervals_ yet
+  std::uint64_t untimed_ = 0;
+  std::uint64_t untimedFrom_ = 0;  // count_ when the time was not known any more
+  std::uint64_t bursts_ = 0;       // but for those that are alike
   std::uint64_t jumps_ = 0;
   std::int64_t first_ = NoTime;
-  std::int64_t last_ = NoTime;
-  std::int64_t known_ = NoTime;  // the last time that was known
+  std::int64_t known_ = NoTime;  // the last time that was known, before last_
   std::int64_t longest_ = 0;
   std::int64_t longestFrom_ = 0;
-  std::array<Bin, 4 * Octaves> bins_{};
+  Intervals intervals_;
 };
 
 }  // namespace navframe::analysis
