@@ -81,19 +81,6 @@ std::uint64_t Contents::Frames() const {
   return frames;
 }
 
-// Among bytes of chance there is a frame with a check of 8 bits now and then, whatever the size: it
-// stands alone among many false starts.
-bool Contents::IsRecognised() const {
-  constexpr std::uint32_t Strong = NavframeRtcm3 | NavframeUbx | NavframeAsciiLog;
-  constexpr std::uint64_t ByChance = 1000;  // bytes for one that a frame has
-  std::uint64_t inFrames = 0;
-  for (const ProtocolShare& share : protocols) {
-    if ((share.protocol & Strong) != 0) return true;
-    inFrames += share.bytes;
-  }
-  return inFrames != 0 && inFrames * ByChance >= bytes;
-}
-
 // Only with dates do times of two recordings stand for the same.
 void Contents::MatchTimes(Contents& theirs) {
   if (theirs.known == TimeKnown::Nothing) return;

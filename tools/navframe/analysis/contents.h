@@ -11,17 +11,11 @@
 #include "analysis/fixes.h"
 #include "analysis/geodesy.h"
 #include "analysis/message_table.h"
+#include "analysis/protocols.h"
 #include "analysis/satellite_tally.h"
 #include "analysis/timeline.h"
 
 namespace navframe::analysis {
-
-// Of a protocol.
-struct ProtocolShare {
-  std::uint32_t protocol = 0;  // a NavframeProtocol
-  std::uint64_t frames = 0;
-  std::uint64_t bytes = 0;  // of them
-};
 
 // Heads of a protocol that were no frame.
 struct Rejections {
@@ -71,8 +65,7 @@ struct Contents {
   std::vector<Rejections> rejections;
 
   std::uint64_t Frames() const;
-  // Whether anything was recognised that is not to be expected of bytes that mean nothing.
-  bool IsRecognised() const;
+  bool IsRecognised() const { return analysis::IsRecognised(protocols, bytes); }
   // Another recording, as if it followed: nothing is between the two. Usual intervals are those of
   // the one that has more of them. Beside times with a date others are left out.
   void Add(const Contents& others);

@@ -1,21 +1,8 @@
 #include "analysis/examination.h"
 
-#include <algorithm>
+#include "analysis/protocols.h"
 
 namespace navframe::analysis {
-namespace {
-
-// Among bytes of chance there is a frame with a check of 8 bits now and then, whatever the size.
-bool IsRecognised(const NavframeStatistics& statistics) {
-  constexpr std::uint64_t ByChance = 1000;  // bytes for one that a frame has
-  if (statistics.rtcm3.frames + statistics.ubx.frames + statistics.asciiLog.frames != 0)
-    return true;
-  const std::uint64_t inFrames = statistics.nmea.frameBytes + statistics.tagBlock.frameBytes +
-                                 statistics.binary55Aa.frameBytes;
-  return inFrames != 0 && inFrames * ByChance >= statistics.bytes;
-}
-
-}  // namespace
 
 void Examination::Take(const NavframeItem& item) {
   if (item.type == NavframeItemRecord) return;
@@ -66,7 +53,7 @@ Examination::Result Examination::End(const NavframeStatistics& statistics) {
   Diagnosis& diagnosis = result.diagnosis;
   diagnosis.bytes = statistics.bytes;
   diagnosis.frames = frames_;
-  diagnosis.isRecognised = IsRecognised(statistics);
+  diagnosis.isRecognised = IsRecognised(SharesOf(statistics), statistics.bytes);
   diagnosis.known = timeline_.Known();
   diagnosis.leapSeconds = timeline_.LeapSeconds();
   const std::int64_t origin = timeline_.Origin();

@@ -3,20 +3,8 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <utility>
 
 namespace navframe::analysis {
-namespace {
-
-constexpr std::pair<NavframeProtocol, NavframeProtocolStatistics NavframeStatistics::*>
-    StatisticsOf[] = {{NavframeNmea, &NavframeStatistics::nmea},
-                      {NavframeNmeaTagBlock, &NavframeStatistics::tagBlock},
-                      {NavframeRtcm3, &NavframeStatistics::rtcm3},
-                      {NavframeUbx, &NavframeStatistics::ubx},
-                      {Navframe55Aa, &NavframeStatistics::binary55Aa},
-                      {NavframeAsciiLog, &NavframeStatistics::asciiLog}};
-
-}  // namespace
 
 void Inventory::AddRole(const NavframeKind& kind) {
   Role role{SatelliteTally::PartOf(kind), Epochs::IsOf(kind), Announced::IsOf(kind)};
@@ -97,11 +85,7 @@ Contents Inventory::End(const NavframeStatistics& statistics) {
     contents.last = latest_ + origin;
   }
   contents.jumps = jumps_;
-  for (const auto& [protocol, member] : StatisticsOf) {
-    const NavframeProtocolStatistics& counts = statistics.*member;
-    if (counts.frames == 0) continue;
-    contents.protocols.push_back({protocol, counts.frames, counts.frameBytes});
-  }
+  contents.protocols = SharesOf(statistics);
   contents.messages = messages_.Messages(origin);
   contents.unlistedFrames = messages_.Unlisted();
   contents.kinds = messages_.Kinds(origin);
