@@ -199,16 +199,6 @@ const char* SystemName(char letter) {
   return Names[at < std::size(Names) ? at : 0];
 }
 
-// Of a place that was not used yet, or whose cell is full.
-void SignalCells::Sort(std::uint32_t place) {
-  Sum& sum = sums_[place];
-  const std::uint64_t cell = cells_[place];
-  if (cell % (2 * Full) < Full) return;
-  sum.count += cell % (2 * Full);
-  sum.values += cell >> CountBits;
-  cells_[place] = 0;
-}
-
 SeenIn SatelliteTally::PartOf(const NavframeKind& kind) {
   if (IsKind(kind, MsgIdObservations)) return SeenIn::Observations;
   if (IsKind(kind, MsgIdUbxSignals)) return SeenIn::NavSig;
@@ -223,7 +213,7 @@ void SatelliteTally::TakeMore(SeenIn in, const NavframeItem& item) {
   if (in == SeenIn::Nothing) return;
   if (in != in_) {
     inView_.reset();
-    if (in != SeenIn::Observations) inView_.emplace();
+    if (in != SeenIn::Observations) inView_ = std::make_unique<Counted>();
   }
   in_ = in;
   switch (in) {
@@ -249,69 +239,80 @@ void SatelliteTally::Observe(const void* data) {
   return record.message <= LastRtk ? Count<Rtk>(data) : Count<Msm>(data);
 }
 
-// A receiver tells the same signals in the same order, epoch for epoch: what stood at a place of a
-// message last time is looked at first.
 template <SatelliteTally::Numbering Rule>
 void SatelliteTally::Count(const void* data) {
   const auto& record = *static_cast<const ObservationsRecord*>(data);
-  if (!observed_[Rule]) observed_[Rule] = std::make_unique<Observed>();
-  Observed& observed = *observed_[Rule];
-  Expected* expected = observed.expected[record.message / 10 % Messages].data();
+  if (!observed_[Rule]) observed_[Rule] = std::make_unique<Counted>();
+  Counted& observed = *observed_[Rule];
+  SignalOrder& order = observed.orders[record.message / 10 % Messages];
+  SignalOrder::Position* position = order.Begin(record.count);
   const Observation* const end = record.observations + record.count;
-  for (const Observation* one = record.observations; one != end; ++one, ++expected) {
+  for (const Observation* one = record.observations; one != end; ++one, ++position) {
     std::uint32_t head = 0;  // system, satellite, signal and channel
     static_assert(offsetof(Observation, code) == sizeof head);
     std::memcpy(&head, one, sizeof head);
-    if (head != expected->head) [[unlikely]] {
-      *expected = {head, PlaceOf<Rule>(*one)};
+    if (head != position->head) [[unlikely]] {
+      order.Renew(*position, head, PlaceOf<Rule>(*one), observed.sums);
     }
-    if (one->cn0 > 0) {  // which NaN is not: not known
-      observed.measured.Add(expected->place, static_cast<std::uint32_t>(one->cn0 * ObservedUnits));
+    if (one->cn0 > 0) [[likely]] {  // which NaN is not: not known
+      position->values += static_cast<std::uint32_t>(one->cn0 * ObservedUnits);
     } else {
-      observed.unmeasured.Add(expected->place, 0);
+      ++position->without;
     }
   }
+  order.End(position, observed.sums);
 }
 
 template <SatelliteTally::Numbering Rule>
 std::uint32_t SatelliteTally::PlaceOf(const Observation& one) {
   std::uint32_t signal = one.signal;
   // Code indicators are those of a band.
-  if (Rule == Rtk && one.code[0] == '2') signal += SignalCells::Signals / 2;
-  if (one.system < SignalCells::Systems && signal < SignalCells::Signals) {
+  if (Rule == Rtk && one.code[0] == '2') signal += SignalSums::Signals / 2;
+  if (one.system < SignalSums::Systems && signal < SignalSums::Signals) {
     observed_[Rule]->codes[one.system][signal] = {{one.code[0], one.code[1]}};
   }
-  return SignalCells::PlaceOf(one.system, one.satellite, signal);
+  return SignalSums::PlaceOf(one.system, one.satellite, signal);
 }
 
 // Of satellites in view those count that a signal came from.
+template <class One, class Head, class Where>
+void SatelliteTally::InView(const One* list, std::size_t count, Head headOf, Where placeOf) {
+  constexpr std::uint8_t Unknown = 255;
+  SignalOrder& order = inView_->orders[0];
+  SignalOrder::Position* position = order.Begin(count);
+  for (const One* one = list; one != list + count; ++one, ++position) {
+    const std::uint32_t head = headOf(*one);
+    if (head != position->head) [[unlikely]] {
+      order.Renew(*position, head, placeOf(*one), inView_->sums);
+    }
+    SignalOrder::Add(*position, one->cn0 == Unknown ? 0 : one->cn0);
+  }
+  order.End(position, inView_->sums);
+}
+
 void SatelliteTally::NavSig(const void* data) {
   const auto& record = *static_cast<const UbxSignalsRecord*>(data);
-  for (std::size_t i = 0; i < record.count; ++i) {
-    const UbxSignal& one = record.signals[i];
-    if (one.cn0 == 0 || one.cn0 == 255) continue;
-    inView_->Add(SignalCells::PlaceOf(one.systemId, one.satelliteId, one.signalId), one.cn0);
-  }
+  const auto place = [](const UbxSignal& one) {
+    return SignalSums::PlaceOf(one.systemId, one.satelliteId, one.signalId);
+  };
+  InView(record.signals, record.count, place, place);
 }
 
 template <class Record>
 void SatelliteTally::NavSat(const void* data) {
   const auto& record = *static_cast<const Record*>(data);
-  SignalCells& cells = *inView_;
-  const auto* const end = record.satellites + record.count;
-  for (const auto* one = record.satellites; one != end; ++one) {
-    if (one->cn0 == 0 || one->cn0 == 255) continue;
-    cells.Add(SignalCells::PlaceOf(one->systemId, one->satelliteId, 0), one->cn0);
-  }
+  InView(
+      record.satellites, record.count,
+      [](const auto& one) { return one.systemId << 8U | one.satelliteId; },
+      [](const auto& one) { return SignalSums::PlaceOf(one.systemId, one.satelliteId, 0); });
 }
 
 void SatelliteTally::SvInfo(const void* data) {
   const auto& record = *static_cast<const UbxChannelsRecord*>(data);
-  for (std::size_t i = 0; i < record.count; ++i) {
-    const UbxChannel& one = record.channels[i];
-    if (one.cn0 == 0 || one.cn0 == 255) continue;
-    inView_->Add(SignalCells::PlaceOf(0, one.satelliteId, 0), one.cn0);
-  }
+  const auto place = [](const UbxChannel& one) {
+    return SignalSums::PlaceOf(0, one.satelliteId, 0);
+  };
+  InView(record.channels, record.count, place, place);
 }
 
 template <class Record>
@@ -320,57 +321,70 @@ void SatelliteTally::Gsv(const void* data) {
   constexpr std::uint32_t Unit = IsWide ? 1 : 100;  // GsvUnits
   constexpr std::uint32_t Unknown = IsWide ? 0xFFFF : 0xFF;
   const auto& record = *static_cast<const Record*>(data);
-  SignalCells& cells = *inView_;
+  SignalOrder& order = inView_->orders[0];
+  SignalOrder::Position* position =
+      order.Begin(record.satelliteCount * std::size(record.satellites[0].signals));
   const auto* const end = record.satellites + record.satelliteCount;
   for (const auto* one = record.satellites; one != end; ++one) {
-    const std::uint32_t place = SignalCells::PlaceOf(one->systemId, one->number, 0);
+    const std::uint32_t satellite = SignalSums::PlaceOf(one->systemId, one->number, 0);
     const auto* const last = one->signals + one->signalCount;
-    for (const auto* signal = one->signals; signal != last; ++signal) {
-      if (signal->cn0 == 0 || signal->cn0 == Unknown) continue;
-      cells.Add(place + std::min<std::uint32_t>(signal->signalId, SignalCells::Signals - 1),
-                signal->cn0 * Unit);
+    for (const auto* signal = one->signals; signal != last; ++signal, ++position) {
+      const std::uint32_t place =
+          satellite + std::min<std::uint32_t>(signal->signalId, SignalSums::Signals - 1);
+      if (place != position->head) [[unlikely]] {
+        order.Renew(*position, place, place, inView_->sums);
+      }
+      SignalOrder::Add(*position, signal->cn0 == Unknown ? 0 : signal->cn0 * Unit);
     }
   }
+  order.End(position, inView_->sums);
 }
 
-// Where the names of what was observed by one numbering come from.
-void SatelliteTally::Gather(std::size_t rule, Gathered& gathered) const {
-  const auto add = [&](bool isMeasured) {
-    return [&gathered, &codes = observed_[rule]->codes, isMeasured](
-               std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {
-      const Code code = codes[system][signal];
-      gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
-                   {sum.count, isMeasured ? sum.count : 0,
-                    static_cast<double>(sum.values) / static_cast<double>(ObservedUnits)});
-    };
-  };
-  observed_[rule]->measured.ForEach(add(true));
-  observed_[rule]->unmeasured.ForEach(add(false));
+// By one numbering.
+void SatelliteTally::GatherObserved(const Counted& counted, Gathered& gathered) {
+  counted.sums.ForEach(
+      [&](std::size_t system, std::size_t number, std::size_t signal, const SignalSums::Sum& sum) {
+        const Code code = counted.codes[system][signal];
+        gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
+                     {sum.count, sum.measured,
+                      static_cast<double>(sum.values) / static_cast<double>(ObservedUnits)});
+      });
 }
 
-Seen SatelliteTally::Found() const {
+void SatelliteTally::GatherInView(Gathered& gathered) const {
+  inView_->sums.ForEach(
+      [&](std::size_t system, std::size_t number, std::size_t signal, const SignalSums::Sum& sum) {
+        if (sum.measured == 0) return;
+        const bool isUbx = in_ != SeenIn::Gsv;
+        if (isUbx) system = system < std::size(OfUbx) ? OfUbx[system] : 0;
+        Satellite satellite{system, NumberInSystem(system, number)};
+        std::string name;  // of a signal that is told
+        if (in_ == SeenIn::NavSig) {
+          name = SignalName(CodeOf(UbxCodes, system, signal), signal);
+        } else if (in_ == SeenIn::NavSvInfo) {
+          satellite = OverAll(number);
+        } else if (in_ == SeenIn::Gsv) {
+          satellite = OfNmea(system, number);
+          if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
+        }
+        const double cn0 = static_cast<double>(sum.values) / (isUbx ? 1 : GsvUnits);
+        gathered.Add(satellite, name, {sum.measured, sum.measured, cn0});
+      });
+}
+
+Seen SatelliteTally::Found() {
   Gathered gathered;
-  for (std::size_t rule = 0; rule < Numberings; ++rule) {
-    if (observed_[rule] != nullptr) Gather(rule, gathered);
+  const auto settle = [](Counted& counted) {
+    for (SignalOrder& order : counted.orders) order.Settle(counted.sums);
+  };
+  for (const auto& observed : observed_) {
+    if (observed == nullptr) continue;
+    settle(*observed);
+    GatherObserved(*observed, gathered);
   }
   if (inView_) {
-    inView_->ForEach(
-        [&](std::size_t system, std::size_t number, std::size_t signal, SignalCells::Sum sum) {
-          const bool isUbx = in_ != SeenIn::Gsv;
-          if (isUbx) system = system < std::size(OfUbx) ? OfUbx[system] : 0;
-          Satellite satellite{system, NumberInSystem(system, number)};
-          std::string name;  // of a signal that is told
-          if (in_ == SeenIn::NavSig) {
-            name = SignalName(CodeOf(UbxCodes, system, signal), signal);
-          } else if (in_ == SeenIn::NavSvInfo) {
-            satellite = OverAll(number);
-          } else if (in_ == SeenIn::Gsv) {
-            satellite = OfNmea(system, number);
-            if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
-          }
-          const double cn0 = static_cast<double>(sum.values) / (isUbx ? 1 : GsvUnits);
-          gathered.Add(satellite, name, {sum.count, sum.count, cn0});
-        });
+    settle(*inView_);
+    GatherInView(gathered);
   }
   Seen seen = gathered.Found();
   seen.in = in_;
