@@ -210,19 +210,22 @@ class Repair(unittest.TestCase):
         cut = Cut(Data, Whole.At(5, 1) + 20, 7)
         for name, data, sent, causes in (
                 ("nothing", Data, Data, {}),
-                ("translated", translated, Data, {"cr-added": crs}),
-                ("chunks", chunked, Data, {"chunk-heads": heads}),
+                ("translated", translated, Data, {"cr-added": (crs, Whole.At(0, 1))}),
+                ("chunks", chunked, Data, {"chunk-heads": (heads, 0)}),
                 ("chunks, from inside of one", chunked[40:], Data[39 - chunked.index(b"\n"):], None),
                 ("chunks, translated", chunked.replace(b"\n", b"\r\n"), Data, None),
                 ("translated, in chunks", Chunked(translated), Data, None),
                 ("the second half translated", Data[:half] + translated[translated.index(
-                    Whole.epochs[20][0][:20]):], Data, {"cr-added": Data[half:].count(b"\n")}),
+                    Whole.epochs[20][0][:20]):], Data,
+                 {"cr-added": (Data[half:].count(b"\n"), Whole.At(20, 1))}),
                 ("more damage", cut.replace(b"\n", b"\r\n"), cut, None)):
             with self.subTest(name):
                 found, repaired = self.Repaired(data)
                 self.assertTrue(repaired == sent)
                 if causes is not None:
-                    self.assertEqual({cause: one["count"] for cause, one in found.items()}, causes)
+                    told = {cause: (one["count"], one["first"][0]["offset_bytes"])
+                            for cause, one in found.items()}
+                    self.assertEqual(told, causes)
 
     def test_OffsetsAreThoseOfTheRecording(self):
         """Also of what is found behind bytes that are taken out, and from standard input."""
