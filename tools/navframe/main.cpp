@@ -3,12 +3,11 @@
 
 #include <CLI/CLI.hpp>
 #include <csignal>
-#include <cstdio>
 #include <string>
 
 #include "command_line/commands.h"
 #include "command_line/manual.h"
-#include "fault.h"
+#include "commands/run_command.h"
 #include "outputs/output_file.h"
 
 namespace navframe::tool {
@@ -16,17 +15,12 @@ namespace {
 
 // What the tool says of itself.
 ExitStatus Say(const std::string& text) {
-  try {
+  return RunCommand([&text] {
     OutputFile output("-");
     output.Buffer() = text;
     output.Close();
-  } catch (const ReaderLeft&) {
     return Success;
-  } catch (const WriteFault& fault) {
-    std::fprintf(stderr, "navframe: %s\n", fault.what());
-    return Failure;
-  }
-  return Success;
+  });
 }
 
 // What is opened later must not take the place of a standard stream that is closed.

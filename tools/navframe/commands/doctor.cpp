@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <exception>
 #include <memory>
 #include <new>
 #include <optional>
@@ -16,6 +15,7 @@
 #include "commands/doctor_page.h"
 #include "commands/items.h"
 #include "commands/messages.h"
+#include "commands/run_command.h"
 #include "commands/undone_source.h"
 #include "outputs/output_file.h"
 #include "sources/address.h"
@@ -253,16 +253,7 @@ ExitStatus Doctor(const DoctorOptions& options) {
     messages.Add(options.repaired + " cannot be both the page and the repaired recording");
     return WrongUsage;
   }
-  try {
-    return Run(options).Tell();
-  } catch (const ReaderLeft&) {
-    return Success;
-  } catch (const std::bad_alloc&) {
-    messages.Add(navframe_status_text(NavframeOutOfMemory));
-  } catch (const std::exception& fault) {
-    messages.Add(fault.what());
-  }
-  return Failure;
+  return RunCommand([&options] { return Run(options).Tell(); });
 }
 
 }  // namespace navframe::tool

@@ -1,7 +1,6 @@
 #include "commands/info.h"
 
 #include <algorithm>
-#include <exception>
 #include <memory>
 #include <new>
 #include <optional>
@@ -14,6 +13,7 @@
 #include "commands/info_page.h"
 #include "commands/items.h"
 #include "commands/messages.h"
+#include "commands/run_command.h"
 #include "outputs/output_file.h"
 #include "sources/address.h"
 #include "sources/folders.h"
@@ -127,21 +127,12 @@ class Run {
 
 ExitStatus Info(const InfoOptions& options) {
   NoteInterrupts();
-  Progress none(0);
-  Messages messages(none, false);
-  try {
+  return RunCommand([&options] {
     std::vector<std::string> sources = options.sources;
     if (sources.empty()) sources.emplace_back("-");
     if (options.recursive) sources = WithFilesOfFolders(sources);
     return Run(options, std::move(sources)).Tell();
-  } catch (const ReaderLeft&) {
-    return Success;
-  } catch (const std::bad_alloc&) {
-    messages.Add(navframe_status_text(NavframeOutOfMemory));
-  } catch (const std::exception& fault) {
-    messages.Add(fault.what());
-  }
-  return Failure;
+  });
 }
 
 }  // namespace navframe::tool

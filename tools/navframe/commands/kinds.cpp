@@ -1,9 +1,8 @@
 #include "commands/kinds.h"
 
-#include <cstdio>
 #include <string_view>
 
-#include "fault.h"
+#include "commands/run_command.h"
 #include "outputs/output_file.h"
 #include "records/kind_names.h"
 #include "records/record_shape.h"
@@ -61,7 +60,7 @@ void Members(const Level& level, const std::string& indent, std::string& out) {
 }  // namespace
 
 ExitStatus ListKinds(const std::vector<std::string>& names) {
-  try {
+  return RunCommand([&names] {
     OutputFile file("-");
     if (names.empty()) List(file.Buffer());
     for (const std::string& name : names) {
@@ -72,13 +71,8 @@ ExitStatus ListKinds(const std::vector<std::string>& names) {
       }
     }
     file.Close();
-  } catch (const ReaderLeft&) {
     return Success;
-  } catch (const WriteFault& fault) {
-    std::fprintf(stderr, "navframe: %s\n", fault.what());
-    return Failure;
-  }
-  return Success;
+  });
 }
 
 }  // namespace navframe::tool

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <memory>
 #include <string_view>
 #include <vector>
 
+#include "commands/run_command.h"
 #include "fault.h"
 #include "interrupt.h"
 #include "outputs/output_file.h"
@@ -132,19 +132,14 @@ std::string Readable(std::string_view table) {
 
 ExitStatus ListSources(const std::string& caster) {
   NoteInterrupts();
-  try {
+  return RunCommand([&caster] {
     const std::string list = Readable(Fetch(caster));
     if (list.empty()) throw Fault("cannot read " + ShownName(caster) + ": answers with no list");
     OutputFile file("-");
     file.Buffer() = list;
     file.Close();
-  } catch (const ReaderLeft&) {
     return Success;
-  } catch (const std::exception& fault) {
-    std::fprintf(stderr, "navframe: %s\n", fault.what());
-    return Failure;
-  }
-  return Success;
+  });
 }
 
 }  // namespace navframe::tool

@@ -1,13 +1,13 @@
 #include "commands/track.h"
 
 #include <cmath>
-#include <exception>
 #include <new>
 
 #include "analysis/track.h"
 #include "commands/items.h"
 #include "commands/messages.h"
 #include "commands/moments.h"
+#include "commands/run_command.h"
 #include "commands/track_form.h"
 #include "outputs/output_file.h"
 #include "sources/address.h"
@@ -105,18 +105,7 @@ class Run {
 
 ExitStatus WriteTrack(const TrackOptions& options) {
   NoteInterrupts();
-  Progress none(0);
-  Messages messages(none, false);
-  try {
-    return Run(options).Write();
-  } catch (const ReaderLeft&) {
-    return Success;
-  } catch (const std::bad_alloc&) {
-    messages.Add(navframe_status_text(NavframeOutOfMemory));
-  } catch (const std::exception& fault) {
-    messages.Add(fault.what());
-  }
-  return Failure;
+  return RunCommand([&options] { return Run(options).Write(); });
 }
 
 }  // namespace navframe::tool
