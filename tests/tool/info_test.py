@@ -4,6 +4,7 @@ import itertools
 import json
 import math
 import os
+import random
 import re
 import shutil
 import struct
@@ -156,6 +157,27 @@ class Info(unittest.TestCase):
         self.assertAlmostEqual(mean["height_ellipsoid_m"], 11, 3)
         self.assertAlmostEqual(deviation["east_m"], 6378148 * math.radians(offset), 3)
         self.assertEqual((deviation["north_m"], deviation["up_m"]), (0, 1))
+
+    def test_SatellitesComeAndGo(self):
+        rng, data, cn0s = random.Random(5), b"", {}
+        view = [(0, 3), (0, 7), (6, 1), (2, 33), (3, 12)]
+        for epoch in range(300):
+            if rng.random() < 0.2:
+                view = rng.sample(view, rng.randrange(1, len(view) + 1))
+            if rng.random() < 0.2:
+                view.insert(rng.randrange(len(view) + 1), (0, rng.randrange(1, 32)))
+            payload = struct.pack("<IBBH", Ms(epoch), 1, len(view), 0)
+            for system, number in view:
+                cn0 = rng.choice((0, 255, 30, 41, 50))
+                payload += struct.pack("<BBBbhhI", system, number, cn0, 10, 20, 0, 0)
+                if cn0 not in (0, 255):
+                    cn0s.setdefault(f"{'GSECBJR'[system]}{number:02}", []).append(cn0)
+            data += wire.ubx_frame(1, 0x35, payload)
+        seen = Look(data)["satellites"]
+        self.assertEqual({one["satellite"]: (one["count"], one["mean_cn0_dbhz"])
+                          for one in seen["satellites"]},
+                         {name: (len(all), math.floor(1000 * sum(all) / len(all) + 0.5) / 1000)
+                          for name, all in cn0s.items()})
 
     def test_TotalsHaveTheTimesWithADate(self):
         with tempfile.TemporaryDirectory() as folder:

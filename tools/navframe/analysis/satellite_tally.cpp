@@ -303,7 +303,7 @@ void SatelliteTally::NavSat(const void* data) {
   const auto& record = *static_cast<const Record*>(data);
   InView(
       record.satellites, record.count,
-      [](const auto& one) { return one.systemId << 8U | one.satelliteId; },
+      [](const auto& one) { return std::uint32_t{one.systemId} << 8 | one.satelliteId; },
       [](const auto& one) { return SignalSums::PlaceOf(one.systemId, one.satelliteId, 0); });
 }
 
