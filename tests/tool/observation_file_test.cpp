@@ -17,12 +17,10 @@ namespace {
 
 // Empty for what does not fit.
 std::string Written(double value) {
-  const auto thousandths = ThousandthsOf(value);
-  EXPECT_EQ(HasThousandths(value), thousandths.has_value()) << value;
   std::array<char, 14> text{};
-  if (!thousandths) return "";
-  PutThousandths(*thousandths, text.data());
-  return {text.data(), text.size()};
+  const bool fits = PutRounded(value, text.data());
+  EXPECT_EQ(HasThousandths(value), fits) << value;
+  return fits ? std::string(text.data(), text.size()) : "";
 }
 
 std::string Printed(double value) {

@@ -17,8 +17,9 @@ inline bool HasThousandths(double value) {
   return std::fabs(value) < SurelySmall || ThousandthsOf(value).has_value();
 }
 
-// Writes F14.3 to 14 places.
+// Writes F14.3 to 14 places, nothing of a value that does not fit, for which it returns false.
 void PutThousandths(std::int64_t thousandths, char* to);
+bool PutRounded(double value, char* to);
 
 // Writes a number of at most `width` digits, filled with zeros or blanks in front.
 void PutDigits(std::uint64_t number, int width, char* to);

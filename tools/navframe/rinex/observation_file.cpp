@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -23,15 +24,8 @@ char StrengthDigit(float strength) {
 }
 
 // Strengths stand in the middle of two thousandths again and again; those are rounded up.
-double HalfUp(float strength) {
-  constexpr double Thousand = 1000;
-  return std::floor(static_cast<double>(strength) * Thousand + 0.5) / Thousand;
-}
-
-bool PutValue(double value, char* to) {
-  const auto thousandths = ThousandthsOf(value);
-  if (thousandths) PutThousandths(*thousandths, to);
-  return thousandths.has_value();
+std::int64_t HalfUp(float strength) {
+  return static_cast<std::int64_t>(static_cast<double>(strength) * 1000 + 0.5);
 }
 
 }  // namespace
@@ -43,7 +37,7 @@ void ObservationFile::FindPlaces(const SystemColumns& columns) {
     for (std::size_t i = 0; i < columns[system].size(); ++i) {
       const TypeColumn& column = columns[system][i];
       places_[system][column.signal][static_cast<std::size_t>(column.value)] =
-          static_cast<std::uint8_t>(i + 1);
+          static_cast<std::uint16_t>(SatelliteWidth + i * ValueWidth);
     }
   }
 }
@@ -135,43 +129,49 @@ void ObservationFile::PutEpoch(const Epoch& epoch, std::string& out) const {
 }
 
 std::size_t ObservationFile::PutSatellites(const Epoch& epoch, std::string& out) const {
+  constexpr unsigned ToSatellite = std::bit_width(SignalRoom - 1);
   std::size_t count = 0;
-  for (auto observed = epoch.observations.begin(); observed != epoch.observations.end();) {
+  const auto end = epoch.observations.end();
+  for (auto observed = epoch.observations.begin(); observed != end;) {
+    const unsigned satellite = observed->key >> ToSatellite;
     const std::size_t system = SystemOf(observed->key);
-    const std::size_t satellite = SatelliteOf(observed->key);
     const std::size_t start = out.size();
     out.append(lengths_[system], ' ');
     char* const line = out.data() + start;
     line[0] = SystemLetters[system];
-    PutDigits(satellite, 2, line + 1);
-    bool isAny = false;
-    for (; observed != epoch.observations.end() && SystemOf(observed->key) == system &&
-           SatelliteOf(observed->key) == satellite;
-         ++observed) {
-      isAny |= PutSignal(*observed, system, line);
+    PutDigits(SatelliteOf(observed->key), 2, line + 1);
+    const char* lineEnd = line;
+    for (; observed != end && observed->key >> ToSatellite == satellite; ++observed) {
+      lineEnd = std::max(lineEnd, PutSignal(*observed, system, line));
     }
-    if (!isAny) {
+    if (lineEnd == line) {
       out.resize(start);
       continue;
     }
     ++count;
-    std::size_t end = out.size();
-    while (out[end - 1] == ' ') --end;
-    out.resize(end);
+    while (lineEnd[-1] == ' ') --lineEnd;
+    out.resize(static_cast<std::size_t>(lineEnd - out.data()));
     out += '\n';
   }
   return count;
 }
 
-bool ObservationFile::PutSignal(const Observed& observed, std::size_t system, char* line) const {
+// Returns where the last column of its values ends, `line` where it has none.
+const char* ObservationFile::PutSignal(const Observed& observed, std::size_t system,
+                                       char* line) const {
+  constexpr float TooStrong = 1000;
   const auto& places = places_[system][SignalOf(observed.key)];
-  const char strength = std::isnan(observed.strength) ? ' ' : StrengthDigit(observed.strength);
-  const auto put = [&](Value which, double value) -> char* {
-    const std::size_t place = places[static_cast<std::size_t>(which)];
-    if (place == 0) return nullptr;
-    char* const at = line + SatelliteWidth + (place - 1) * ValueWidth;
-    return PutValue(value, at) ? at + NumberWidth : nullptr;
+  const char* end = line;
+  // Where the two digits behind the number stand.
+  const auto behind = [&](char* number) {
+    end = std::max<const char*>(end, number + ValueWidth);
+    return number + NumberWidth;
   };
+  const auto put = [&](Value which, double value) -> char* {
+    char* const number = line + places[static_cast<std::size_t>(which)];
+    return number != line && PutRounded(value, number) ? behind(number) : nullptr;
+  };
+  const char strength = std::isnan(observed.strength) ? ' ' : StrengthDigit(observed.strength);
   char* const behindRange = put(Value::Pseudorange, observed.pseudorange);
   if (behindRange != nullptr) behindRange[1] = strength;
   char* const behindPhase = put(Value::Phase, observed.phase);
@@ -179,9 +179,13 @@ bool ObservationFile::PutSignal(const Observed& observed, std::size_t system, ch
     if (observed.lossOfLock != 0) behindPhase[0] = static_cast<char>('0' + observed.lossOfLock);
     behindPhase[1] = strength;
   }
-  const bool hasDoppler = put(Value::Doppler, observed.doppler) != nullptr;
-  const bool hasStrength = put(Value::Strength, HalfUp(observed.strength)) != nullptr;
-  return behindRange != nullptr || behindPhase != nullptr || hasDoppler || hasStrength;
+  put(Value::Doppler, observed.doppler);
+  char* const shown = line + places[static_cast<std::size_t>(Value::Strength)];
+  if (shown != line && observed.strength < TooStrong) {
+    PutThousandths(HalfUp(observed.strength), shown);
+    behind(shown);
+  }
+  return end;
 }
 
 }  // namespace navframe::tool

@@ -45,7 +45,7 @@ class ObservationFile {
  private:
   void PutEpoch(const Epoch& epoch, std::string& out) const;
   std::size_t PutSatellites(const Epoch& epoch, std::string& out) const;
-  bool PutSignal(const Observed& observed, std::size_t system, char* line) const;
+  const char* PutSignal(const Observed& observed, std::size_t system, char* line) const;
   std::uint64_t ResolvePhases(const StationNotes& notes);
   void Resolve(Observed& observed, const SignalNames& names) const;
   void FindPlaces(const SystemColumns& columns);
@@ -54,8 +54,8 @@ class ObservationFile {
   ObservationSummary summary_;
   Ticks shift_ = 0;  // of all that is in the spool
 
-  // When it is written: the columns of values, 0 for none, and the length of lines.
-  std::array<std::array<std::array<std::uint8_t, ValueCount>, SignalRoom>, SystemCount> places_{};
+  // When it is written: where in a line values begin, 0 for nowhere, and how long lines are.
+  std::array<std::array<std::array<std::uint16_t, ValueCount>, SignalRoom>, SystemCount> places_{};
   std::array<std::size_t, SystemCount> lengths_{};
   std::array<double, SatelliteRoom> channels_{};  // NaN for an unknown one
 };
