@@ -105,9 +105,10 @@ void Epochs::Add(const NavframeItem& item, const ObservationsRecord& record) {
     leftOut_.ambiguous += record.count;
     return;
   }
+  const Sender sender = {record.protocol == NavframeUbx, LongestLock(record)};
   for (std::uint32_t i = 0; i < record.count; ++i) {
     const auto key = KeyOf(record.observations[i]);
-    if (key) Put(record, record.observations[i], *key);
+    if (key) Put(sender, record.observations[i], *key);
   }
 }
 
@@ -240,22 +241,24 @@ std::optional<SignalKey> Epochs::KeyOf(const Observation& observation) {
 
 // Several messages may have the same signal: what the first of them does not tell is taken from
 // those behind it.
-void Epochs::Put(const ObservationsRecord& record, const Observation& observation, SignalKey key) {
-  constexpr double None = std::numeric_limits<double>::quiet_NaN();
+void Epochs::Put(const Sender& sender, const Observation& observation, SignalKey key) {
   std::uint16_t& place = places_[key];
   if (place == 0) {
-    const bool isInMetres = std::isnan(observation.frequency) && record.protocol != NavframeUbx;
-    epoch_.observations.push_back(
-        {key, 0, isInMetres, std::numeric_limits<float>::quiet_NaN(), None, None, None});
+    const bool isInMetres = std::isnan(observation.frequency) && !sender.isUbx;
+    epoch_.observations.push_back({key, 0, isInMetres, observation.cn0, observation.pseudorange,
+                                   isInMetres ? observation.phaseRange : observation.carrierPhase,
+                                   isInMetres ? observation.rangeRate : observation.doppler});
     place = static_cast<std::uint16_t>(epoch_.observations.size());
-  } else {
-    ++leftOut_.repeated;
+    Observed& to = epoch_.observations.back();
+    if (!std::isnan(to.phase)) NoteLock(sender, observation, to);
+    return;
   }
+  ++leftOut_.repeated;
   Observed& to = epoch_.observations[place - 1];
   const double phase = to.inMetres ? observation.phaseRange : observation.carrierPhase;
   if (std::isnan(to.phase) && !std::isnan(phase)) {
     to.phase = phase;
-    NoteLock(record, observation, to);
+    NoteLock(sender, observation, to);
   }
   if (std::isnan(to.pseudorange)) to.pseudorange = observation.pseudorange;
   if (std::isnan(to.strength)) to.strength = observation.cn0;
@@ -264,10 +267,9 @@ void Epochs::Put(const ObservationsRecord& record, const Observation& observatio
   }
 }
 
-void Epochs::NoteLock(const ObservationsRecord& record, const Observation& observation,
-                      Observed& to) {
+void Epochs::NoteLock(const Sender& sender, const Observation& observation, Observed& to) {
   if (observation.lockTime != UnknownLock) {
-    locks_.Note(to.key, epoch_.time, observation.lockTime, LongestLock(record));
+    locks_.Note(to.key, epoch_.time, observation.lockTime, sender.longestLock);
   } else if (observation.lossOfLock == 1) {
     locks_.NoteLost(to.key);
   }

@@ -69,6 +69,12 @@ class Epochs {
   bool AreDated() const { return isDated_; }
 
  private:
+  // What all observations of a message have in common.
+  struct Sender {
+    bool isUbx;
+    std::uint32_t longestLock;  // ms; stands for longer ones
+  };
+
   bool IsOfStation(const ObservationsRecord& record);
   Ticks TimeOf(const ObservationsRecord& record);
   bool IsInOrder(const NavframeItem& item, Ticks time);
@@ -76,8 +82,8 @@ class Epochs {
   void LeaveOpenOne();
   bool IsWanted(Ticks time, int leapSeconds);
   std::optional<SignalKey> KeyOf(const Observation& observation);
-  void Put(const ObservationsRecord& record, const Observation& observation, SignalKey key);
-  void NoteLock(const ObservationsRecord& record, const Observation& observation, Observed& to);
+  void Put(const Sender& sender, const Observation& observation, SignalKey key);
+  void NoteLock(const Sender& sender, const Observation& observation, Observed& to);
   bool GoesOn(Ticks time) const;
   void ShiftAll(Ticks ticks);
   void Clean(Observed& observed);
