@@ -34,57 +34,78 @@ std::uint32_t AlignedLike(std::uint32_t end, std::uint32_t offset) {
   return end + (offset - end) % Word;
 }
 
-template <std::size_t Width>
-void CopyFixed(std::uint8_t* to, const std::uint8_t* from) {
-  std::memcpy(to, from, Width);
+// Members of rows that follow each other: where the first one is, and how far the next one is
+// behind it.
+template <class Byte>
+struct Strided {
+  Byte* first;
+  std::size_t stride;
+
+  Byte* operator[](std::size_t i) const { return first + i * stride; }
+};
+using Column = Strided<std::uint8_t>;
+using ConstColumn = Strided<const std::uint8_t>;
+
+// In blocks, and one more that ends where the bytes end: of a width of a block at least.
+template <std::size_t Block>
+void CopyBlocks(Column to, ConstColumn from, std::size_t count, std::size_t width) {
+  const auto copy = [](std::uint8_t* into, const std::uint8_t* bytes) {
+    std::memcpy(into, bytes, Block);
+  };
+  const std::size_t last = width - Block;
+  for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t at = 0; at < last; at += Block) copy(to[i] + at, from[i] + at);
+    copy(to[i] + last, from[i] + last);
+  }
 }
 
-// memcpy without a call for what most rows are made of: blocks, and one more that ends where the
-// bytes end.
-void Copy(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
-  constexpr std::size_t Block = 16;
-  constexpr std::size_t MostInBlocks = 16 * Block;
-  if (length > MostInBlocks) {
-    std::memcpy(to, from, length);
-  } else if (length >= Block) {
-    for (std::size_t at = 0; at + Block <= length; at += Block) {
-      CopyFixed<Block>(to + at, from + at);
-    }
-    CopyFixed<Block>(to + length - Block, from + length - Block);
-  } else if (length >= Block / 2) {
-    CopyFixed<Block / 2>(to, from);
-    CopyFixed<Block / 2>(to + length - Block / 2, from + length - Block / 2);
-  } else {
-    for (std::size_t at = 0; at < length; ++at) to[at] = from[at];
-  }
+// memcpy without a call for what most rows are made of.
+void Copy(Column to, ConstColumn from, std::size_t count, std::size_t width) {
+  constexpr std::size_t MostInBlocks = 256;
+  if (width < 8) return CopyBlocks<1>(to, from, count, width);
+  if (width < 16) return CopyBlocks<8>(to, from, count, width);
+  if (width < 32) return CopyBlocks<16>(to, from, count, width);
+  if (width <= MostInBlocks) return CopyBlocks<32>(to, from, count, width);
+  for (std::size_t i = 0; i < count; ++i) std::memcpy(to[i], from[i], width);
 }
 
 template <class Float>
-void MendFloat(const NavframeMember& member, std::uint8_t* at) {
-  Float value;
-  std::memcpy(&value, at, sizeof value);
-  if (value != static_cast<Float>(member.unknown)) return;
-  value = std::numeric_limits<Float>::quiet_NaN();
-  std::memcpy(at, &value, sizeof value);
-}
-
-// Of a text of four bytes, as each observation has one.
-void ClearBehindNul(std::uint8_t* text) {
-  bool isText = true;
-  for (int i = 0; i < 4; ++i) {
-    isText = isText && text[i] != 0;
-    text[i] = isText ? text[i] : 0;
+void MendFloats(Column column, std::size_t count, const NavframeMember& member) {
+  constexpr Float Nan = std::numeric_limits<Float>::quiet_NaN();
+  const auto unknown = static_cast<Float>(member.unknown);
+  for (std::size_t i = 0; i < count; ++i) {
+    Float value;
+    std::memcpy(&value, column[i], sizeof value);
+    if (value == unknown) std::memcpy(column[i], &Nan, sizeof Nan);
   }
 }
 
-inline void MendElement(const NavframeMember& member, std::uint8_t* at) {
-  if (member.type == NavframeF32) return MendFloat<float>(member, at);
-  if (member.type == NavframeF64) return MendFloat<double>(member, at);
+// Of texts of four bytes, as each observation has one.
+void ClearBehindNul(Column column, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    std::uint8_t* const text = column[i];
+    bool isText = true;
+    for (int k = 0; k < 4; ++k) {
+      isText = isText && text[k] != 0;
+      text[k] = isText ? text[k] : 0;
+    }
+  }
+}
+
+void MendTexts(Column column, std::size_t count, const NavframeMember& member) {
   const TextPlace place = TextPlaceOf(member);
-  if (place.width == sizeof(std::uint32_t)) return ClearBehindNul(at);
-  const std::size_t length = TextAt(member, at).size();
-  std::memset(at + place.offset + length, 0, place.width - length);
-  std::memset(at, 0, place.offset);  // an address
+  if (place.offset == 0 && place.width == 4) return ClearBehindNul(column, count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t length = TextAt(member, column[i]).size();
+    std::memset(column[i] + place.offset + length, 0, place.width - length);
+    std::memset(column[i], 0, place.offset);  // an address
+  }
+}
+
+void Mend(Column column, std::size_t count, const NavframeMember& member) {
+  if (member.type == NavframeF32) return MendFloats<float>(column, count, member);
+  if (member.type == NavframeF64) return MendFloats<double>(column, count, member);
+  MendTexts(column, count, member);
 }
 
 bool IsMended(const NavframeMember& member) {
@@ -170,16 +191,20 @@ void Table::Add(const NavframeItem& item) {
 
 void Table::AddRows(const std::uint8_t* data, std::size_t count, std::size_t stride,
                     const Prefix& prefix) {
-  std::size_t number = rows_.Count();
+  const std::size_t before = rows_.Count();
   const std::size_t rowSize = rows_.RowSize();
-  std::uint8_t* row = rows_.Add(count);
-  for (std::size_t i = 0; i < count; ++i, ++number, row += rowSize, data += stride) {
-    std::memcpy(row, &prefix, sizeof prefix);  // the members of some entries begin inside
-    for (const Segment& segment : segments_) {
-      Copy(row + segment.to, data + segment.from, segment.length);
-    }
-    for (const Mending& mending : mendings_) MendElement(*mending.member, row + mending.offset);
-    if (!lists_.empty()) AddEntries(data, number, prefix);
+  std::uint8_t* const rows = rows_.Add(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    std::memcpy(rows + i * rowSize, &prefix, sizeof prefix);  // members of some begin inside
+  }
+  for (const Segment& segment : segments_) {
+    Copy({rows + segment.to, rowSize}, {data + segment.from, stride}, count, segment.length);
+  }
+  for (const Mending& mending : mendings_) {
+    Mend({rows + mending.offset, rowSize}, count, *mending.member);
+  }
+  for (std::size_t i = 0; !lists_.empty() && i < count; ++i) {
+    AddEntries(data + i * stride, before + i, prefix);
   }
 }
 
