@@ -7,7 +7,7 @@ namespace navframe::tool {
 namespace {
 
 constexpr std::size_t MostInMemory = 4 << 20;
-constexpr std::size_t ReadAtOnce = 1 << 18;
+constexpr std::size_t AtOnce = 1 << 18;  // to the file and from it: what stays in the caches
 
 struct Head {
   Ticks time;
@@ -23,7 +23,7 @@ void EpochSpool::Put(const Epoch& epoch, Ticks time) {
   memory_.append(reinterpret_cast<const char*>(&head), sizeof head);
   memory_.append(reinterpret_cast<const char*>(epoch.observations.data()),
                  epoch.observations.size() * sizeof(Observed));
-  if (memory_.size() < MostInMemory) return;
+  if (memory_.size() < (file_.Size() == 0 ? MostInMemory : AtOnce)) return;
   file_.Append(memory_.data(), memory_.size());
   memory_.clear();
 }
@@ -52,7 +52,7 @@ void EpochSpool::Take(void* to, std::size_t length) {
   auto* place = static_cast<char*>(to);
   while (length != 0) {
     if (at_ == memory_.size()) {
-      memory_.resize(std::min<std::uint64_t>(ReadAtOnce, file_.Size() - read_));
+      memory_.resize(std::min<std::uint64_t>(AtOnce, file_.Size() - read_));
       file_.Read(read_, memory_.data(), memory_.size());
       read_ += memory_.size();
       at_ = 0;
