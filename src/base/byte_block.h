@@ -33,6 +33,12 @@ class PlainByteBlock {
     return bits;
   }
 
+  std::uint64_t AtMost(std::uint8_t byte) const {
+    std::uint64_t bits = 0;
+    for (std::size_t i = 0; i < Size; ++i) bits |= std::uint64_t{bytes_[i] <= byte} << i;
+    return bits;
+  }
+
   // The XOR of the first `count` bytes, 0 to Size of them.
   std::uint8_t XorOfFirst(std::size_t count) const {
     std::uint8_t sum = 0;
@@ -71,6 +77,11 @@ class Sse2ByteBlock {
       }
       return hits;
     });
+  }
+
+  std::uint64_t AtMost(std::uint8_t byte) const {
+    const __m128i most = _mm_set1_epi8(static_cast<char>(byte));
+    return Bits([&](__m128i part) { return _mm_cmpeq_epi8(_mm_min_epu8(part, most), part); });
   }
 
   std::uint8_t XorOfFirst(std::size_t count) const {

@@ -40,6 +40,7 @@ class FieldReader {
   FieldReader(const Fields& fields, const Dialect& dialect) : fields_(fields), dialect_(dialect) {}
 
   std::string_view operator[](std::size_t index) const { return fields_[index]; }
+  const Fields& All() const { return fields_; }
   std::size_t Count() const { return fields_.Count(); }
   std::string_view Talker() const { return fields_[0].substr(1, 2); }
   const Dialect& HasDialect() const { return dialect_; }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 #include <optional>
 #include <span>
 #include <type_traits>
@@ -116,7 +118,39 @@ std::uint8_t SignalId(std::string_view field) {
          fields[index + 3].empty();
 }
 
-inline GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
+// What nearly all blocks are: two digits, two, three, and two or none. The first three fields are
+// read by one load. False for blocks of another shape.
+inline bool ReadPaddedBlock(const Fields& fields, std::size_t index, GsvBlock& block) {
+  if constexpr (std::endian::native == std::endian::big) return false;
+  constexpr std::uint32_t Lengths = 0x00'03'02'02;
+  constexpr std::uint64_t NoDigits = 0x3030'2C30'302C'3030;  // "00,00,00"
+  const std::uint32_t lengths = fields.FourLengths(index);
+  if ((lengths & ~0x02'00'00'00U) != Lengths) return false;
+  const char* const text = fields.Present(index).data();
+  std::uint64_t digits;
+  std::memcpy(&digits, text, sizeof digits);
+  digits ^= NoDigits;
+  const unsigned lastOfAzimuth = static_cast<unsigned char>(text[8]) - unsigned{'0'};
+  if ((((digits + 0x7676767676767676) | digits) & 0x8080808080808080) != 0 || lastOfAzimuth > 9) {
+    return false;
+  }
+  block.cn0 = Unknown<std::uint8_t>();
+  if (lengths != Lengths) {
+    const unsigned tens = static_cast<unsigned char>(text[10]) - unsigned{'0'};
+    const unsigned ones = static_cast<unsigned char>(text[11]) - unsigned{'0'};
+    if (tens > 9 || ones > 9) return false;
+    block.cn0 = static_cast<std::uint8_t>(tens * 10 + ones);
+  }
+  const std::uint64_t pairs = digits * 10 + (digits >> 8);
+  block.number = static_cast<std::uint8_t>(pairs);
+  block.elevation = static_cast<std::uint8_t>(pairs >> 24);
+  block.azimuth = static_cast<std::uint16_t>((pairs >> 48 & 0xFF) * 10 + lastOfAzimuth);
+  block.cn0Hundredths = 0;
+  block.numbered = block.isWhole = block.hasElevation = block.hasAzimuth = true;
+  return true;
+}
+
+[[gnu::noinline]] GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
   GsvBlock block{};
   const std::string_view number = fields[index];
   block.numbered = !number.empty();
@@ -165,6 +199,10 @@ void Accumulate(NmeaContext& context, FieldReader& fields, const TimeManager& ti
   std::array<GsvBlock, LongestStarOffset / BlockFields> blocks;
   std::size_t blockCount = 0;
   for (std::size_t i = FirstBlock; systemId && i < end; i += BlockFields) {
+    if (ReadPaddedBlock(fields.All(), i, blocks[blockCount])) [[likely]] {
+      ++blockCount;
+      continue;
+    }
     const bool isSatellite =
         !fields[i].empty() || *systemId == Glonass || (KeepsAll && !IsEmptyBlock(fields, i));
     if (!isSatellite) continue;

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string_view>
 
@@ -23,9 +25,11 @@ struct SentenceSweep {
   Outcome outcome = Outcome::Neither;
   bool holdsNul = false;      // between "$" and "*"
   std::uint8_t checksum = 0;  // XOR of the bytes between "$" and "*"
-  std::uint16_t commaCount = 0;
-  std::uint32_t starOffset = 0;                             // distance from "$" to "*"
-  std::array<std::uint8_t, LongestStarOffset + 64> commas;  // offsets of the first commaCount
+  std::uint16_t fieldCount = 0;
+  std::uint32_t starOffset = 0;  // distance from "$" to "*"
+  // Where each field begins, and where one behind the "*" would: a field ends a byte in front of
+  // the next. Behind them is room to load several at once.
+  std::array<std::uint8_t, LongestStarOffset + 8> begins;
 };
 
 // Looks at `length` bytes (at most LongestStarOffset + 1), the first of which may be a "$". Up to
@@ -38,29 +42,49 @@ class Fields {
  public:
   Fields(const char* text, const SentenceSweep& sweep) : text_(text), sweep_(sweep) {}
 
-  std::size_t Count() const { return sweep_.commaCount + std::size_t{1}; }
+  std::size_t Count() const { return sweep_.fieldCount; }
 
   std::string_view operator[](std::size_t index) const {
-    if (index > sweep_.commaCount) return {};
-    const std::size_t begin = index == 0 ? 0 : sweep_.commas[index - 1] + std::size_t{1};
-    const std::size_t end = index == sweep_.commaCount ? sweep_.starOffset : sweep_.commas[index];
-    return {text_ + begin, end - begin};
+    if (index >= sweep_.fieldCount) return {};
+    return Present(index);
+  }
+  // Of a field that there is.
+  std::string_view Present(std::size_t index) const {
+    const std::size_t begin = sweep_.begins[index];
+    return {text_ + begin, sweep_.begins[index + 1] - begin - 1};
+  }
+
+  // The lengths of four fields from this one on, all of which there are, a byte each, the first one
+  // lowest.
+  std::uint32_t FourLengths(std::size_t index) const {
+    const std::uint8_t* const begins = &sweep_.begins[index];
+    if constexpr (std::endian::native == std::endian::little) {
+      // Bytes of the one word are above those of the other: none borrows.
+      std::uint32_t from, to;
+      std::memcpy(&from, begins, sizeof from);
+      std::memcpy(&to, begins + 1, sizeof to);
+      return to - from - 0x01010101;
+    }
+    std::uint32_t lengths = 0;
+    for (std::size_t i = 4; i-- > 0;) {
+      lengths = lengths << 8 | static_cast<std::uint32_t>(begins[i + 1] - begins[i] - 1);
+    }
+    return lengths;
   }
 
   // Whether one of these fields, all of which there are, has more than so many characters.
   bool HasLonger(std::size_t first, std::size_t count, int length) const {
     bool longer = false;
     for (std::size_t i = first; i < first + count; ++i) {
-      longer |= sweep_.commas[i] - sweep_.commas[i - 1] > length + 1;
+      longer |= sweep_.begins[i + 1] - sweep_.begins[i] > length + 1;
     }
     return longer;
   }
 
   // From a field to the end, with the commas between.
   std::string_view From(std::size_t index) const {
-    if (index > sweep_.commaCount) return {};
-    const char* const begin = (*this)[index].data();
-    return {begin, static_cast<std::size_t>(text_ + sweep_.starOffset - begin)};
+    if (index >= sweep_.fieldCount) return {};
+    return Text().substr(sweep_.begins[index]);
   }
 
   // The whole text from "$" through the last character before "*".
