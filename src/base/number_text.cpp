@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -82,6 +84,71 @@ bool ReadPlainNumber(std::string_view text, PlainNumber& number) {
   return at == last && count != 0 && count <= MostDigits;
 }
 
+constexpr std::uint64_t InAllBytes(std::uint64_t byte) { return byte * 0x0101010101010101; }
+
+// 1 to 8 characters of such a number.
+struct PlainPart {
+  std::uint64_t digits;
+  std::size_t count;     // of them
+  std::size_t decimals;  // behind the point
+  bool hasPoint;
+};
+
+// Reads them as one word, for machines that load the first character into the lowest byte. False
+// for other characters than digits and one point, and for a point alone.
+bool ReadPlainPart(const char* text, std::size_t length, PlainPart& part) {
+  std::uint64_t word;
+  std::memcpy(&word, text, sizeof word);
+  word <<= 64 - 8 * length;  // the last character in the highest byte, zeros in front of the first
+  const std::uint64_t unlike = word ^ InAllBytes('.');
+  const std::uint64_t points = (unlike - InAllBytes(1)) & ~unlike & InAllBytes(0x80);
+  part.hasPoint = points != 0;
+  part.decimals = 0;
+  if (part.hasPoint) {
+    // What stands in front of the point moves up over it.
+    const int top = std::countr_zero(points);
+    const std::uint64_t throughPoint = (std::uint64_t{2} << top) - 1;
+    word = (word & ~throughPoint) | (word & throughPoint >> 8) << 8;
+    part.decimals = static_cast<std::size_t>(63 - top) / 8;
+    if (--length == 0) return false;
+  }
+  part.count = length;
+  word ^= InAllBytes('0') << (64 - 8 * length);
+  if ((((word + InAllBytes(0x76)) | word) & InAllBytes(0x80)) != 0) return false;
+  word = word * 10 + (word >> 8);  // pairs, fours and all eight of them
+  constexpr std::uint64_t Pairs = 0x000000FF000000FF;
+  const std::uint64_t odd = (word & Pairs) * (100 + (std::uint64_t{1000000} << 32));
+  const std::uint64_t even = (word >> 16 & Pairs) * (1 + (std::uint64_t{10000} << 32));
+  part.digits = (odd + even) >> 32;
+  return true;
+}
+
+// ReadPlainNumber of a text behind which 8 bytes more may be loaded.
+bool ReadRoomyNumber(std::string_view text, PlainNumber& number) {
+  constexpr std::size_t PartLength = 8;
+  constexpr std::size_t MostDigits = 15;
+  number.negative = text.starts_with('-');
+  if (number.negative) text.remove_prefix(1);
+  if constexpr (std::endian::native == std::endian::big) return ReadPlainNumber(text, number);
+  PlainPart last;
+  if (text.size() - 1 < PartLength) {
+    if (!ReadPlainPart(text.data(), text.size(), last)) return false;
+    number.digits = last.digits;
+    number.decimals = last.decimals;
+    return true;
+  }
+  PlainPart first;
+  const std::size_t firstLength = text.size() - PartLength;
+  if (firstLength - 1 >= PartLength || !ReadPlainPart(text.data(), firstLength, first) ||
+      !ReadPlainPart(text.data() + firstLength, PartLength, last)) {
+    return false;
+  }
+  if ((first.hasPoint && last.hasPoint) || first.count + last.count > MostDigits) return false;
+  number.digits = first.digits * (last.hasPoint ? 10'000'000 : 100'000'000) + last.digits;
+  number.decimals = last.decimals + (first.hasPoint ? first.decimals + PartLength : 0);
+  return true;
+}
+
 // Whether decimal digits name a value below the normal range of float exactly. Both are known to
 // be the same double, so that only the digits are left to compare.
 bool NamesExactly(float value, const char* first, const char* last) {
@@ -141,15 +208,10 @@ Number<T> ToFloatingPoint(std::string_view text, NumberFault none, NumberFault r
   return {negative ? -magnitude : magnitude};
 }
 
-}  // namespace
-
-Number<int> ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
-
-Number<int> ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
-
-Number<double> ToDouble(std::string_view text) {
+template <bool (*Read)(std::string_view, PlainNumber&)>
+inline Number<double> ToDoubleBy(std::string_view text) {
   PlainNumber number;
-  if (ReadPlainNumber(text, number)) {
+  if (Read(text, number)) {
     // Digits and power of ten are exact, so the one division rounds as the general conversion.
     const double magnitude = static_cast<double>(number.digits) / PowersOfTen[number.decimals];
     return {number.negative ? -magnitude : magnitude};
@@ -158,18 +220,29 @@ Number<double> ToDouble(std::string_view text) {
                                               NumberFault::DoubleRange);
 }
 
-Number<float> ToFloat(std::string_view text) {
+template <bool (*Read)(std::string_view, PlainNumber&)>
+inline Number<float> ToFloatBy(std::string_view text) {
   constexpr std::uint64_t ExactDigits = 1U << 24;
   constexpr std::size_t ExactPowers = 10;
   PlainNumber number;
-  if (ReadPlainNumber(text, number) && number.digits <= ExactDigits &&
-      number.decimals <= ExactPowers) {
+  if (Read(text, number) && number.digits <= ExactDigits && number.decimals <= ExactPowers) {
     const float magnitude =
         static_cast<float>(number.digits) / static_cast<float>(PowersOfTen[number.decimals]);
     return {number.negative ? -magnitude : magnitude};
   }
   return ToFloatingPoint<float, double>(text, NumberFault::NoFloat, NumberFault::FloatRange);
 }
+
+}  // namespace
+
+Number<int> ToIntOfAnyShape(std::string_view text) { return ToIntInBase(text, 10); }
+
+Number<int> ToIntBase16(std::string_view text) { return ToIntInBase(text, 16); }
+
+Number<double> ToDouble(std::string_view text) { return ToDoubleBy<ReadPlainNumber>(text); }
+Number<float> ToFloat(std::string_view text) { return ToFloatBy<ReadPlainNumber>(text); }
+Number<double> RoomyToDouble(std::string_view text) { return ToDoubleBy<ReadRoomyNumber>(text); }
+Number<float> RoomyToFloat(std::string_view text) { return ToFloatBy<ReadRoomyNumber>(text); }
 
 std::int32_t ToIntOrMinimum(std::string_view text) {
   const auto [value, fault] = ToInt(text);

@@ -48,6 +48,11 @@ Number<int> ToIntBase16(std::string_view text);
 Number<double> ToDouble(std::string_view text);
 Number<float> ToFloat(std::string_view text);
 
+// The same, and quicker, for texts behind whose begin 8 bytes may be loaded, however short they
+// are.
+Number<double> RoomyToDouble(std::string_view text);
+Number<float> RoomyToFloat(std::string_view text);
+
 // ToInt for fields that must not stop a parse: INT32_MIN for every fault.
 std::int32_t ToIntOrMinimum(std::string_view text);
 

@@ -120,7 +120,7 @@ void FieldReader::Directed(std::size_t index, Hemispheres letters, double& membe
   const std::string_view field = fields_[index];
   if (field.empty()) return;
   const std::optional<bool> positive = IsPositive(index + 1, letters);
-  if (positive && Take(index, ToDouble(field), value)) member = *positive ? value : -value;
+  if (positive && Take(index, RoomyToDouble(field), value)) member = *positive ? value : -value;
 }
 
 void FieldReader::Digit(std::size_t index, std::uint8_t& member) {
@@ -180,7 +180,7 @@ void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres
   if (!Take(index, ToInt(field.substr(0, degreeDigits)), whole)) return;
   if (field.size() < degreeDigits) return Note(index, NumberFault::TooShort);
   double minutes = 0;
-  if (!Take(index, ToDouble(field.substr(degreeDigits)), minutes)) return;
+  if (!Take(index, RoomyToDouble(field.substr(degreeDigits)), minutes)) return;
   const double value = minutes / 60.0 + whole;
   // Negative unless the letter says otherwise, also when it is missing: hosts of the exports rely
   // on that.

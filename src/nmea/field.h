@@ -33,8 +33,9 @@ inline Number<int> FieldToInt(std::string_view field) {
   return {static_cast<int>((pairs & 0xFF) * 100 + (pairs >> 16))};
 }
 
-// The fields of a sentence while its parser reads them. An empty field leaves its member as it is,
-// and so does one that does not convert; the first of these is remembered.
+// The fields of a sentence while its parser reads them; behind it is room to load more. An empty
+// field leaves its member as it is, and so does one that does not convert; the first of these is
+// remembered.
 class FieldReader {
  public:
   FieldReader(const Fields& fields, const Dialect& dialect) : fields_(fields), dialect_(dialect) {}
@@ -75,17 +76,18 @@ class FieldReader {
   }
   void Float(std::size_t index, float& member) {
     const std::string_view field = fields_[index];
-    if (!field.empty()) Take(index, ToFloat(field), member);
+    if (!field.empty()) Take(index, RoomyToFloat(field), member);
   }
   void Double(std::size_t index, double& member) {
     const std::string_view field = fields_[index];
-    if (!field.empty()) Take(index, ToDouble(field), member);
+    if (!field.empty()) Take(index, RoomyToDouble(field), member);
   }
   // Converted as a double, then rounded again: not always what Float gives.
   void DoubleAsFloat(std::size_t index, float& member) {
     double value;
     const std::string_view field = fields_[index];
-    if (!field.empty() && Take(index, ToDouble(field), value)) member = static_cast<float>(value);
+    if (!field.empty() && Take(index, RoomyToDouble(field), value))
+      member = static_cast<float>(value);
   }
 
   // A decimal number, or one hexadecimal digit.

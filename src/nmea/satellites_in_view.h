@@ -41,11 +41,26 @@ class SatellitesInView {
   void StampHeader(const TimeManager& time);
 
   // Adds a signal. Satellites beyond the room of the record and signals beyond the three of an
-  // entry are dropped: false.
-  bool AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
+  // entry are dropped: false. Inline, as what follows it: this is done for each signal of a cycle.
+  bool AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block) {
+    if (!block.numbered || KeyOf(systemId, block.number) == UnnumberedKey) [[unlikely]] {
+      return AddUnnumbered(systemId, signalId, block);
+    }
+    SatelliteInView* const entry = Entry(systemId, block.number);
+    if (entry == nullptr) return false;
+    entry->systemId = static_cast<std::uint8_t>(systemId);
+    entry->number = static_cast<std::uint8_t>(block.number);
+    return AddSignalTo(*entry, signalId, block);
+  }
 
   // Marks a satellite that a GSA sentence lists, adding it when it is new. False without room.
-  bool MarkUsed(int systemId, int number);
+  bool MarkUsed(int systemId, int number) {
+    SatelliteInView* const entry = Entry(systemId, number);
+    if (entry == nullptr) return false;
+    entry->systemId = static_cast<std::uint8_t>(systemId);
+    entry->used = 1;
+    return true;
+  }
 
   void SetCycleComplete() { cycleComplete_ = true; }
   bool CycleComplete() const { return cycleComplete_; }
@@ -66,11 +81,35 @@ class SatellitesInView {
   }
 
  private:
-  // The entry of a numbered satellite, a new one when it is not there; null without room.
-  SatelliteInView* Entry(int systemId, int number);
-  static bool AddSignalTo(SatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block);
-
+  // What satellites are told apart by. Those without a number have a key too, and a GSV block with
+  // a (negative) number that gives it counts as one without.
+  static constexpr std::int64_t KeyOf(int systemId, int number) {
+    return std::int64_t{systemId} * 1000 + number;
+  }
+  static constexpr std::int64_t UnnumberedKey = -1;
   static constexpr std::size_t Slots = 256;  // a power of two above twice the satellites
+
+  // The entry of a numbered satellite, a new one when it is not there; null without room.
+  SatelliteInView* Entry(int systemId, int number) {
+    const std::int64_t key = KeyOf(systemId, number);
+    std::size_t slot = static_cast<std::size_t>(key * 37) % Slots;
+    for (; slots_[slot] != 0; slot = (slot + 1) % Slots) {
+      const std::size_t place = slots_[slot] - std::size_t{1};
+      if (keys_[place] == key) return &numbered_[place];
+    }
+    return NewEntry(slot, key, number);
+  }
+  SatelliteInView* NewEntry(std::size_t slot, std::int64_t key, int number);
+  bool AddUnnumbered(int systemId, std::uint8_t signalId, const GsvBlock& block);
+  static bool AddSignalTo(SatelliteInView& entry, std::uint8_t signalId, const GsvBlock& block) {
+    if (block.hasElevation) entry.elevation = static_cast<std::uint16_t>(block.elevation);
+    if (block.hasAzimuth) entry.azimuth = block.azimuth;
+    if (entry.signalCount >= std::size(entry.signals)) return false;
+    SatelliteSignal& signal = entry.signals[entry.signalCount++];
+    signal.signalId = signalId;
+    signal.cn0 = block.cn0;
+    return true;
+  }
 
   std::array<SatelliteInView, MostSatellites> numbered_;
   std::array<SatelliteInView, MostSatellites> unnumbered_;

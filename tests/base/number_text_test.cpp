@@ -56,6 +56,13 @@ void ExpectLikeStandard(const std::string& text) {
          "stoi");
   expect([&] { return ValueOf(ToDouble(text)); }, [&] { return std::stod(text); }, "stod");
   expect([&] { return ValueOf(ToFloat(text)); }, [&] { return std::stof(text); }, "stof");
+  // What stands behind a text is none of it, be it digits.
+  for (const char* behind : {"12345678", ",-.5e+01"}) {
+    const std::string roomy = text + behind;
+    const std::string_view field = std::string_view(roomy).substr(0, text.size());
+    expect([&] { return ValueOf(RoomyToDouble(field)); }, [&] { return std::stod(text); }, "stod");
+    expect([&] { return ValueOf(RoomyToFloat(field)); }, [&] { return std::stof(text); }, "stof");
+  }
 }
 
 class Generator {
