@@ -66,7 +66,7 @@ struct CarrierToNoise {
 [[gnu::noinline]] CarrierToNoise ReadDecimals(FieldReader& fields, std::size_t index) {
   double value;
   CarrierToNoise cn0;
-  if (!fields.Take(index, ToDouble(fields[index]), value)) return cn0;
+  if (!fields.Take(index, RoomyToDouble(fields[index]), value)) return cn0;
   cn0.whole = static_cast<std::uint8_t>(Truncated(value));
   const double fraction = value - cn0.whole;
   if (fields.HasDialect().wholeGsv && fraction > 0 && fraction < 1) {
@@ -279,7 +279,8 @@ void ReadGsa(NmeaContext& context, FieldReader& fields, Record& record) {
 
 }  // namespace
 
-void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
+// Flattened, as GSV: three of four sentences are one of them.
+[[gnu::flatten]] void ParseGsa(NmeaContext& context, FieldReader& fields, GsaRecord& record) {
   ReadGsa(context, fields, record);
 }
 void ParseWideGsa(NmeaContext& context, FieldReader& fields, WideGsaRecord& record) {
@@ -287,7 +288,8 @@ void ParseWideGsa(NmeaContext& context, FieldReader& fields, WideGsaRecord& reco
 }
 
 // $GPGSV,3,1,11,03,03,111,00,04,15,270,00,06,01,010,00,13,06,292,00,1*hh
-void AccumulateGsv(NmeaContext& context, FieldReader& fields, const TimeManager& time) {
+[[gnu::flatten]] void AccumulateGsv(NmeaContext& context, FieldReader& fields,
+                                    const TimeManager& time) {
   if (fields.HasDialect().wholeGsv) return Accumulate<true>(context, fields, time);
   Accumulate<false>(context, fields, time);
 }

@@ -29,7 +29,8 @@ bool LooksLikeTagBlock(const InputRing& ring) {
 
 }  // namespace
 
-Framing FrameSentence(const Head& head, SentenceSweep& sweep) {
+// Flattened: what it calls for each sentence belongs to one path.
+[[gnu::flatten]] Framing FrameSentence(const Head& head, SentenceSweep& sweep) {
   // A "*" further away changes nothing, and neither does the sentence's length once a byte more
   // than the longest sentence is there: the head is then rejected or taken, never waited for.
   const std::uint8_t* const text = head.bytes;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <sstream>
 
 #include "navframe/records.h"
@@ -46,6 +47,30 @@ TEST(SatellitesInView, OneEntryPerSatelliteWithItsSignals) {
   const std::string one = Sentence("GPGSV,1,1,01,03,10,111,40,1");
   EXPECT_EQ(ListedIn(one + one + one + one), "1/3 az111 el10 used0[1:40 1:40 1:40] ")
       << "a fourth signal has no slot";
+}
+
+// Blocks of padded numbers are read as a whole, all others field by field: a zero more in front of
+// each field changes nothing but that.
+TEST(SatellitesInView, PaddedBlocksAreReadAsAnyOther) {
+  std::mt19937 random(20);
+  for (int round = 0; round < 2000; ++round) {
+    std::string padded;
+    std::string longer;
+    for (int i = 0; i < 12; ++i) {
+      std::string field;
+      for (std::size_t length = i % 4 == 2 ? 3 : 2; field.size() < length;) {
+        field += static_cast<char>('0' + random() % 10);
+      }
+      if (random() % 40 == 0) field.back() = "x-:/ ."[random() % 6];
+      if (random() % 40 == 0) field.pop_back();
+      if (i % 4 != 0 && random() % 6 == 0) field.clear();
+      padded += "," + field;
+      longer += (field.empty() ? "," : ",0") + field;
+    }
+    EXPECT_EQ(ListedIn(Sentence("GPGSV,1,1,03" + padded + ",1")),
+              ListedIn(Sentence("GPGSV,1,1,03" + longer + ",1")))
+        << padded;
+  }
 }
 
 TEST(SatellitesInView, SignalIdsAndStrengths) {
