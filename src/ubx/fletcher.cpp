@@ -3,6 +3,8 @@
 #include <array>
 #include <cstring>
 
+#include "base/wide_vectors.h"
+
 namespace navframe::ubx {
 namespace {
 
@@ -17,12 +19,95 @@ FletcherSum ByteByByte(const std::uint8_t* bytes, std::size_t length) {
   return sum;
 }
 
+#ifdef NAVFRAME_WIDE
+
+// How often each of the last 32 bytes counts in the sum `b`.
+constexpr auto Weights = [] {
+  std::array<std::uint8_t, Lanes> weights{};
+  for (std::uint8_t i = 0; i < Lanes; ++i) weights[i] = Lanes - i;
+  return weights;
+}();
+// A window on this that begins so many bytes in keeps so many of its last bytes: of 32, and of 16
+// from the 16th byte on.
+constexpr auto KeepLast = [] {
+  std::array<std::uint8_t, 2 * Lanes> window{};
+  for (std::size_t i = Lanes; i < 2 * Lanes; ++i) window[i] = 0xFF;
+  return window;
+}();
+
+NAVFRAME_WIDE inline __m128i Load16(const std::uint8_t* bytes) {
+  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
+}
+NAVFRAME_WIDE inline __m256i Load32(const std::uint8_t* bytes) {
+  return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(bytes));
+}
+
+// The sum of 16 numbers of 16 bits, of which the low 16 bits count.
+NAVFRAME_WIDE inline std::uint32_t SumOf(__m256i numbers) {
+  __m128i sum =
+      _mm_add_epi16(_mm256_castsi256_si128(numbers), _mm256_extracti128_si256(numbers, 1));
+  sum = _mm_madd_epi16(sum, _mm_set1_epi16(1));
+  sum = _mm_add_epi32(sum, _mm_unpackhi_epi64(sum, sum));
+  return static_cast<std::uint32_t>(_mm_cvtsi128_si32(sum)) +
+         static_cast<std::uint32_t>(_mm_extract_epi32(sum, 1));
+}
+
+// The sum of 32 bytes.
+NAVFRAME_WIDE inline std::uint32_t SumOfBytes(__m256i bytes) {
+  return SumOf(_mm256_sad_epu8(bytes, _mm256_setzero_si256()));
+}
+
+inline FletcherSum Sums(std::uint32_t a, std::uint32_t b) {
+  return {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b)};
+}
+
+// Registers filled by overlapping loads, since frames are often shorter than what lanes in memory
+// take to be set up and summed.
+
+// Of 16 to 31 bytes: the first 16, and the last ones behind these.
+NAVFRAME_WIDE FletcherSum OfFew(const std::uint8_t* bytes, std::size_t length) {
+  const __m128i last = _mm_and_si128(Load16(bytes + length - 16), Load16(KeepLast.data() + length));
+  const __m256i all = _mm256_set_m128i(last, Load16(bytes));
+  const __m256i weights =
+      _mm256_set_m128i(Load16(Weights.data() + 16), Load16(Weights.data() + Lanes - length));
+  return Sums(SumOfBytes(all), SumOf(_mm256_maddubs_epi16(all, weights)));
+}
+
+// Of 32 bytes and more: whole blocks from the first byte on, and the `rest` behind them.
+NAVFRAME_WIDE FletcherSum OfMany(const std::uint8_t* bytes, std::size_t length) {
+  const std::size_t rest = length % Lanes;
+  const std::uint8_t* const end = bytes + length;
+  const __m256i last = _mm256_and_si256(Load32(end - Lanes), Load32(KeepLast.data() + rest));
+  __m256i a = _mm256_setzero_si256();
+  __m256i b = a;
+  for (; bytes != end - rest; bytes += Lanes) {
+    a = _mm256_add_epi8(a, Load32(bytes));
+    b = _mm256_add_epi8(b, a);
+  }
+  const __m256i weights = Load32(Weights.data());
+  const std::uint32_t sumOfBlocks = SumOfBytes(a);
+  // A block counts 32 times in every later one, itself by its weights, and all in the rest.
+  const __m256i blocks =
+      _mm256_slli_epi64(_mm256_sad_epu8(_mm256_sub_epi8(b, a), _mm256_setzero_si256()), 5);
+  const __m256i weighted =
+      _mm256_add_epi16(_mm256_maddubs_epi16(a, weights), _mm256_maddubs_epi16(last, weights));
+  return Sums(sumOfBlocks + SumOfBytes(last), SumOf(_mm256_add_epi16(blocks, weighted)) +
+                                                  static_cast<std::uint32_t>(rest) * sumOfBlocks);
+}
+
+#endif
+
 }  // namespace
 
 // Each lane sums every 32nd byte. A byte that is the k-th last of its lane counts k times in the
 // lane's b, and 32 k - lane times in the whole b. Zero bytes in front change neither sum, so that
 // they fill up the first block.
 FletcherSum Fletcher::Of(const std::uint8_t* bytes, std::size_t length) {
+#ifdef NAVFRAME_WIDE
+  if (length >= 16 && HasWideVectors()) {
+    return length < Lanes ? OfFew(bytes, length) : OfMany(bytes, length);
+  }
+#endif
   if (length < ShortestInLanes) return ByteByByte(bytes, length);
   std::array<std::uint8_t, Lanes> a{};
   const std::size_t first = length % Lanes;

@@ -31,6 +31,17 @@ class OverlappingChecksums : public testing::Test {};
 using AllChecksums = testing::Types<Crc24q, ubx::Fletcher>;
 TYPED_TEST_SUITE(OverlappingChecksums, AllChecksums);
 
+// Whichever way the processor takes, in memory that ends with the bytes.
+TYPED_TEST(OverlappingChecksums, OfManyBytesAreThoseOfTheBytesOneByOne) {
+  for (std::size_t length = 0; length <= TypeParam::LongestProtected; ++length) {
+    Bytes bytes = NoiseBytes(length, length + 1);
+    if (length % 7 == 0) std::ranges::fill(bytes, 0xFF);
+    typename TypeParam::Value expected{};
+    for (const std::uint8_t byte : bytes) expected = TypeParam::With(expected, byte);
+    ASSERT_EQ(TypeParam::Of(bytes.data(), length), expected) << length;
+  }
+}
+
 // Any heads, long and short, close together and far apart. A byte is read once by a frame that
 // begins behind all bytes read so far, at most, and once for all the other frames that have it.
 TYPED_TEST(OverlappingChecksums, AreThoseOfTheFramesAloneAndReadNoByteAThirdTime) {
