@@ -31,6 +31,21 @@ class InputRing {
   // Appends a chunk, or drops it whole when it is larger than the free space.
   void Append(const std::uint8_t* data, std::uint32_t length);
 
+  // Before a chunk of `length` bytes comes: the content goes to the front of the buffer when it is
+  // shorter than that, as is the rest that waits in a stream that is consumed as it arrives. So
+  // such a stream stays in the first, cached pages, too. Positions and the read index stay what
+  // they are.
+  void MoveToFront(std::uint32_t length) {
+    const std::uint32_t begin = Masked(read_);
+    const std::uint32_t rest = Available();
+    if (rest >= length || begin == 0 || begin + rest > Capacity) return;
+    std::memmove(buffer_.get(), buffer_.get() + begin, rest);
+    origin_ += read_;
+    moved_ += read_;
+    read_ = 0;
+    write_ = rest;
+  }
+
   std::uint8_t operator[](std::uint32_t offset) const { return buffer_[Masked(read_ + offset)]; }
 
   // The first `length` available bytes as one piece: in place where they do not wrap, else copied
@@ -57,6 +72,7 @@ class InputRing {
 
   void Clear() {
     origin_ = Position() + Available();
+    moved_ = 0;
     read_ = 0;
     write_ = 0;
   }
@@ -65,7 +81,7 @@ class InputRing {
   // and no two bytes have the same.
   std::uint64_t Position() const { return origin_ + read_; }
   // The read index in 32 bits: begins again behind 4 GiB, unless the ring was emptied meanwhile.
-  std::uint32_t ReadIndex() const { return static_cast<std::uint32_t>(read_); }
+  std::uint32_t ReadIndex() const { return static_cast<std::uint32_t>(moved_ + read_); }
 
  private:
   static constexpr std::uint32_t Masked(std::uint64_t index) {
@@ -77,6 +93,7 @@ class InputRing {
   std::unique_ptr<std::uint8_t[]> buffer_;   // Capacity + Slack bytes
   std::unique_ptr<std::uint8_t[]> wrapped_;  // LongestWrappedView + Slack bytes
   std::uint64_t origin_ = 0;                 // position in the stream of index 0
+  std::uint64_t moved_ = 0;                  // by how much indices fell since the ring was empty
   std::uint64_t read_ = 0;
   std::uint64_t write_ = 0;
 };

@@ -14,6 +14,7 @@ namespace navframe {
 template <class CallFramer>
 void RunInputStep(RingInput& input, const SyncBytes& syncBytes, const std::uint8_t* data,
                   std::uint32_t length, CallFramer&& callFramer) {
+  input.ring.MoveToFront(length);
   input.ring.Append(data, length);
   for (;;) {
     if (input.state != ParserState::Scanning) {

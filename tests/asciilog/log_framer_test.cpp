@@ -109,9 +109,9 @@ TEST(LogFramer, LineAcrossTheEndOfTheRingIsTakenAndOfTheIndicesIsNot) {
       ring.Append(half.data(), InputRing::Capacity / 2);
       ring.Advance(InputRing::Capacity / 2);
     }
-    ring.Append(ToBytes(line).data(), 1);
+    ring.Append(ToBytes(line).data(), static_cast<std::uint32_t>(line.size()));
     ring.Advance(1);
-    PushAs(*decoder, AsciiLogLine, std::string_view(line).substr(1));
+    PushAs(*decoder, AsciiLogLine, Bytes());
     EXPECT_EQ(OutcomeOf(*decoder),
               halves == 0 ? Accepted(line, line.size() - 2, 1) : Abandoned(line));
   }

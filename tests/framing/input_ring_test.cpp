@@ -38,6 +38,28 @@ TEST(InputRing, BytesStayInOrderAcrossTheEndOfTheBuffer) {
   }
 }
 
+// Where the bytes lie is all that changes: not their places in the stream, nor the read index.
+TEST(InputRing, LessThanWhatComesGoesToTheFront) {
+  RingInput stream;
+  InputRing& ring = stream.ring;
+  const Bytes bytes = NoiseBytes(300, 1);
+  for (const auto& [inFront, waiting, coming, piece] :
+       {std::array{200U, 100U, 101U, 300U}, {200U, 100U, 100U, 200U}, {50U, 100U, 200U, 50U}}) {
+    PlaceHead(stream, InputRing::Capacity - 1 - inFront);
+    Append(ring, First(bytes, waiting));
+    ring.Advance(1);
+    const std::uint64_t position = ring.Position();
+    ring.MoveToFront(coming);
+    Append(ring, Bytes(bytes.begin() + waiting, bytes.end()));
+    EXPECT_EQ(ring.Piece(0).size(), piece);
+    EXPECT_EQ(ring.Position(), position);
+    EXPECT_EQ(ring.ReadIndex(), InputRing::Capacity - inFront);
+    EXPECT_EQ(Bytes(ring.View(300), ring.View(300) + 300), bytes);
+    ring.Clear();
+    EXPECT_EQ(ring.ReadIndex(), 0U);
+  }
+}
+
 TEST(InputRing, ChunkTooLargeIsDroppedWholeAndExactFillLosesTheContent) {
   InputRing ring;
   const auto after = [&](const Bytes& bytes) {

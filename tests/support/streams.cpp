@@ -71,6 +71,11 @@ void PlaceHead(RingInput& stream, std::uint32_t position) {
   stream.ring.Advance(position);
 }
 
+void PutInPlace(Decoder& decoder, const Bytes& bytes) {
+  decoder.input.ring.Append(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+  decoder.PutData(nullptr, 0);
+}
+
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records) {
   std::vector<std::uint32_t> ids;
   for (const Record& record : records) ids.push_back(record.id);

@@ -62,6 +62,8 @@ std::vector<Record> Decoded(std::string_view text, std::size_t chunk = SIZE_MAX)
 // Empties the ring and moves its head to a place in the buffer, before the last byte of it, with
 // one byte of garbage there that keeps the indices from starting over.
 void PlaceHead(RingInput& stream, std::uint32_t position);
+// Pushes behind what is there, though it could go to the front; pops nothing.
+void PutInPlace(Decoder& decoder, const Bytes& bytes);
 
 // The ids of records, and "id:text" of each with its rendered form.
 std::vector<std::uint32_t> Ids(const std::vector<Record>& records);
