@@ -65,7 +65,7 @@ std::uint32_t SearchedProtocols::FindStart(const Head& head, std::uint32_t at,
   const std::uint8_t* const data = head.bytes + at;
   const std::size_t available = head.available - at;
   const auto mayStart = [&](std::size_t offset) {
-    return offset + 1 == available || (ofFirst_[data[offset]] & ofSecond_[data[offset + 1]]) != 0;
+    return offset + 1 == available || MayStart(data[offset], data[offset + 1]);
   };
   return at + static_cast<std::uint32_t>(FindSyncByte(data, end - at, mayStart));
 }

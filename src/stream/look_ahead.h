@@ -18,6 +18,13 @@ class SearchedProtocols {
   // Null when the byte starts nothing.
   const ProtocolRow* RowOf(std::uint8_t syncByte) const { return rows_[syncByte]; }
 
+  // Whether a frame may begin with these bytes, of which the first is a sync byte. Every framer has
+  // rejected a head of which this is false, for its header, when ShortestJudged bytes are there.
+  bool MayStart(std::uint8_t first, std::uint8_t second) const {
+    return (ofFirst_[first] & ofSecond_[second]) != 0;
+  }
+  static constexpr std::uint32_t ShortestJudged = nmea::LongestSentence;
+
   // The offset of the first sync byte; `length` without one.
   std::size_t Find(const std::uint8_t* data, std::size_t length) const;
 

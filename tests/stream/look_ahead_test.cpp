@@ -1,11 +1,15 @@
-#include "stream/strong_heads.h"
+#include "stream/look_ahead.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "support/binary_frames.h"
 
 namespace navframe::test {
 namespace {
+
+std::uint8_t Printable(std::uint8_t byte) { return static_cast<std::uint8_t>(' ' + byte % 95); }
 
 template <bool WithUbx>
 std::size_t ByteByByte(const Bytes& bytes, std::size_t from, std::size_t end) {
@@ -37,6 +41,31 @@ TEST(StrongHeads, AreThoseFoundByteByByte) {
                 ByteByByte<false>(bytes, from, end));
       ASSERT_EQ(from + StrongHeads<true>::Find(data, end - from),
                 ByteByByte<true>(bytes, from, end));
+    }
+  }
+}
+
+// So that such heads need not be shown to it.
+TEST(SearchedProtocols, HeadThatMayNotStartAFrameIsRejectedForItsHeader) {
+  std::vector<const ProtocolRow*> rows;
+  for (const ProtocolRow& row : Protocols) rows.push_back(&row);
+  for (const ProtocolRow& row : StreamProtocols) rows.push_back(&row);
+  const SearchedProtocols protocols(rows);
+  FramingState state;
+  std::uint64_t position = 1;
+  for (const ProtocolRow* row : rows) {
+    for (unsigned i = 0; i < 256 * 8; ++i) {
+      Bytes bytes = NoiseBytes(SearchedProtocols::ShortestJudged + Head::Slack, i);
+      bytes[0] = row->syncByte;
+      bytes[1] = static_cast<std::uint8_t>(i);
+      // Some of printable characters.
+      if (i >= 1024) std::transform(bytes.begin() + 2, bytes.end(), bytes.begin() + 2, Printable);
+      if (protocols.MayStart(bytes[0], bytes[1])) continue;
+      const Head head{bytes.data(), SearchedProtocols::ShortestJudged, position += bytes.size()};
+      const Framing framing = row->frame(state, i % 3 ? StandardDialect : LegacyDialect, head);
+      ASSERT_EQ(framing.Outcome(), Verdict::Rejected) << i;
+      ASSERT_EQ(framing.Reason(), NavframeBadHeader) << i;
+      ASSERT_EQ(framing.Length(), 0U) << i;
     }
   }
 }
