@@ -1,5 +1,7 @@
 #include "ubx/subframes.h"
 
+#include <tuple>
+
 #include "base/read_le.h"
 
 namespace navframe::ubx {
@@ -11,21 +13,24 @@ std::optional<ephemeris::Subframe> SubframeOf(const std::uint8_t* frame, std::ui
   const std::uint8_t* const payload = frame + HeaderLength;
   const std::uint32_t payloadLength = length - HeaderLength - ChecksumLength;
   if (payloadLength < WordsOffset) return std::nullopt;
-  ephemeris::Subframe subframe{};
-  subframe.count = payload[4];
+  const std::uint32_t count = payload[4];
   const std::uint8_t version = payload[6];
-  if (subframe.count > subframe.words.size() || version < 1 || version > 2 ||
-      payloadLength != WordsOffset + subframe.count * WordLength) {
+  if (count > std::tuple_size_v<decltype(ephemeris::Subframe::words)> || version < 1 ||
+      version > 2 || payloadLength != WordsOffset + count * WordLength) {
     return std::nullopt;
   }
+  // Built in its place: to copy what was just written by smaller stores takes half the time of all.
+  std::optional<ephemeris::Subframe> built(std::in_place);
+  ephemeris::Subframe& subframe = *built;
   subframe.system = static_cast<ephemeris::SubframeSystem>(payload[0]);
   subframe.satellite = payload[1];
   subframe.signal = version > 1 ? payload[2] : std::uint8_t{0};
   subframe.channel = static_cast<std::int8_t>(payload[3] + FirstChannel);
-  for (std::uint32_t i = 0; i < subframe.count; ++i) {
+  subframe.count = count;
+  for (std::uint32_t i = 0; i < count; ++i) {
     subframe.words[i] = ReadLe<std::uint32_t>(payload, WordsOffset + i * WordLength);
   }
-  return subframe;
+  return built;
 }
 
 }  // namespace navframe::ubx
