@@ -1,8 +1,6 @@
 // What streams cost beside the exports: the same bytes through both in turns, and many streams in
-// several threads. stream_bench [ROUNDS] prints two tables: medians and quartiles of the ratios of
-// that many rounds, and the best of some for threads.
-#include <time.h>
-
+// several threads. stream_bench [ROUNDS] prints two tables: medians and ranges of the ratios of
+// that many rounds, and the best of as many for threads.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -10,6 +8,7 @@
 #include <limits>
 #include <thread>
 
+#include "samples.h"
 #include "streams.h"
 
 namespace navframe::bench {
@@ -17,45 +16,10 @@ namespace {
 
 constexpr std::size_t Chunks[] = {DefaultChunk, 65536, 1 << 20};
 
-double ThreadSeconds() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
-template <class Run>
-double Seconds(Run&& run) {
-  const double start = ThreadSeconds();
-  run();
-  return ThreadSeconds() - start;
-}
-
 constexpr double None = std::numeric_limits<double>::max();
 
-// What was measured once a round.
-class Samples {
- public:
-  void Add(double sample) { samples_.push_back(sample); }
-  double Best() const { return std::ranges::min(samples_); }
-  // Of both turns of a round: what else the machine does concerns them alike.
-  Samples Over(const Samples& other) const {
-    Samples ratios;
-    for (std::size_t i = 0; i < samples_.size(); ++i) ratios.Add(samples_[i] / other.samples_[i]);
-    std::ranges::sort(ratios.samples_);
-    return ratios;
-  }
-  double AtQuarter(std::size_t quarter) const {
-    return samples_[(samples_.size() - 1) * quarter / 4];
-  }
-
- private:
-  std::vector<double> samples_;
-};
-
-void PrintRatio(const Samples& time, const Samples& reference) {
-  const Samples ratios = reference.Over(time);
-  std::printf(" %.2f (%.2f-%.2f) |", ratios.AtQuarter(2), ratios.AtQuarter(1), ratios.AtQuarter(3));
-}
+// Turns of a round: each has the machine as the others have it.
+constexpr int Turns = 6;
 
 void CompareWithExports(const NamedStream& traffic, int rounds) {
   const Bytes& bytes = traffic.bytes;
@@ -63,18 +27,22 @@ void CompareWithExports(const NamedStream& traffic, int rounds) {
   Samples exports;
   Samples ofChunks[std::size(Chunks)];
   for (int round = 0; round < rounds; ++round) {
-    exports.Add(Seconds([&] { DecodeAll(bytes, DefaultChunk); }));
-    for (std::size_t i = 0; i < std::size(Chunks); ++i) {
-      ofChunks[i].Add(Seconds([&] { DecodeAll(stream.get(), bytes, Chunks[i]); }));
+    double ofExports = 0;
+    double ofStreams[std::size(Chunks)] = {};
+    for (int turn = 0; turn < Turns; ++turn) {
+      ofExports += Seconds([&] { DecodeAll(bytes, DefaultChunk); });
+      for (std::size_t i = 0; i < std::size(Chunks); ++i) {
+        ofStreams[i] += Seconds([&] { DecodeAll(stream.get(), bytes, Chunks[i]); });
+      }
     }
+    exports.Add(ofExports);
+    for (std::size_t i = 0; i < std::size(Chunks); ++i) ofChunks[i].Add(ofStreams[i]);
   }
-  const double megabytes = static_cast<double>(bytes.size()) * 1e-6;
-  std::printf("| %s | %.0f | %.0f |", traffic.name.c_str(), megabytes / exports.Best(),
-              megabytes / ofChunks[0].Best());
-  PrintRatio(ofChunks[0], exports);
-  PrintRatio(ofChunks[1], ofChunks[0]);
-  PrintRatio(ofChunks[2], ofChunks[0]);
-  std::printf("\n");
+  const double megabytes = static_cast<double>(bytes.size()) * 1e-6 * Turns;
+  std::printf(
+      "| %s | %.0f | %.0f | %s | %s | %s |\n", traffic.name.c_str(), megabytes / exports.Best(),
+      megabytes / ofChunks[0].Best(), SpeedRatio(ofChunks[0], exports).c_str(),
+      SpeedRatio(ofChunks[1], ofChunks[0]).c_str(), SpeedRatio(ofChunks[2], ofChunks[0]).c_str());
   std::fflush(stdout);
 }
 
@@ -134,7 +102,7 @@ void ScaleOverThreads(const Bytes& bytes, int rounds) {
 
 int main(int argc, char** argv) {
   using namespace navframe::bench;
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 60;
+  const int rounds = argc > 1 ? std::atoi(argv[1]) : 11;
   if (rounds <= 0) {
     std::fprintf(stderr, "usage: stream_bench [ROUNDS]\n");
     return 2;
@@ -145,5 +113,5 @@ int main(int argc, char** argv) {
   for (const NamedStream& stream : Traffic()) CompareWithExports(stream, rounds);
   for (const NamedStream& stream : MakeEphemerides(1)) CompareWithExports(stream, rounds);
   for (const NamedStream& stream : Noises()) CompareWithExports(stream, rounds);
-  ScaleOverThreads(Traffic().back().bytes, std::max(rounds / 6, 1));
+  ScaleOverThreads(Traffic().back().bytes, rounds);
 }
