@@ -1,10 +1,12 @@
 // What the exports and streams reach of the speed of loops by hand that do nothing else:
-// bare_bench [ROUNDS] prints one table. Before that every record of the loops is compared with that
-// of the exports, member by member, but for those that tell the decoder's time.
+// bare_bench [ROUNDS] prints one table; with 0 rounds it only compares, as it always does first,
+// every record of the loops with that of the exports, and observations with those of streams,
+// member by member but for those that tell the decoder's time.
 #include <cstdlib>
 #include <string_view>
 
 #include "bare_nmea.h"
+#include "bare_observations.h"
 #include "bare_rtcm.h"
 #include "bare_ubx.h"
 #include "navframe/catalogue.h"
@@ -22,18 +24,27 @@ struct Part {
   std::span<const std::uint8_t> Frames() const { return {bytes.data(), bytes.size() - Slack}; }
 };
 
-template <class Take>
-void RunLoop(const Part& part, Take&& take) {
-  static BareNmea nmea;
-  static BareRtcm rtcm;
-  static BareUbx ubx;
+// The loops that make the records of the exports, or those of streams.
+struct ExportLoops {
+  BareNmea nmea;
+  BareRtcm<BareMsmRecords> rtcm;
+  BareUbx<BareMeasurements> ubx;
+};
+struct StreamLoops {
+  BareNmea nmea;
+  BareRtcm<BareObservations> rtcm;
+  BareUbx<BareObservations> ubx;
+};
+
+template <class Loops, class Take>
+void RunLoop(Loops& loops, const Part& part, Take&& take) {
   switch (part.syncByte) {
     case '$':
-      return nmea.Decode(part.Frames(), take);
+      return loops.nmea.Decode(part.Frames(), take);
     case 0xD3:
-      return rtcm.Decode(part.Frames(), take);
+      return loops.rtcm.Decode(part.Frames(), take);
     default:
-      return ubx.Decode(part.Frames(), take);
+      return loops.ubx.Decode(part.Frames(), take);
   }
 }
 
@@ -59,7 +70,8 @@ std::string TextOf(std::uint32_t id, const void* record) {
   std::memcpy(copy.data(), record, kind.size);
   for (std::uint32_t i = 0; i < kind.record->memberCount; ++i) {
     const NavframeMember& member = *kind.record->members[i];
-    if (std::string_view(member.description).starts_with("the decoder's")) {
+    const std::string_view name = member.name;
+    if (name == "week" || std::string_view(member.description).starts_with("the decoder's")) {
       std::memset(copy.data() + member.offset, 0, member.size);
     }
   }
@@ -80,27 +92,48 @@ std::vector<std::string> TextsOfExports(std::span<const std::uint8_t> bytes) {
   return texts;
 }
 
-// Whether the loop makes the records that the exports make.
-bool IsSame(const std::string& stream, const Part& part) {
-  const std::vector<std::string> wanted = TextsOfExports(part.Frames());
+// Of observations, the records that are not those of the exports.
+std::vector<std::string> TextsOfStreams(std::span<const std::uint8_t> bytes) {
+  std::vector<std::string> texts;
+  const StreamHandle stream = OpenStream();
+  PutAll(stream.get(), bytes, DefaultChunk, [&texts](const NavframeItem& item) {
+    if (item.kind->id == MsgIdObservations) texts.push_back(TextOf(item.kind->id, item.record));
+  });
+  return texts;
+}
+
+// Whether the loop makes the same records.
+template <class Loops>
+bool IsSame(Loops& loops, const char* stream, const Part& part,
+            const std::vector<std::string>& wanted, std::uint32_t onlyKind = 0) {
+  constexpr std::size_t Shown = 120;
   std::size_t count = 0;
   std::size_t different = 0;
-  RunLoop(part, [&](std::uint32_t id, const void* record) {
+  RunLoop(loops, part, [&](std::uint32_t id, const void* record) {
+    if (onlyKind != 0 && id != onlyKind) return;
     const std::string text = TextOf(id, record);
     if (count < wanted.size() && text != wanted[count] && different++ == 0) {
       const std::string& other = wanted[count];
       const auto at =
           static_cast<std::size_t>(std::ranges::mismatch(text, other).in1 - text.begin());
-      const std::size_t from = at < 60 ? 0 : at - 60;
-      std::fprintf(stderr, "%s, record %zu:\n%s\nin the loop:\n%s\n", stream.c_str(), count,
-                   other.substr(from, 120).c_str(), text.substr(from, 120).c_str());
+      const std::size_t from = at < Shown / 2 ? 0 : at - Shown / 2;
+      std::fprintf(stderr, "%s, record %zu:\n%s\nin the loop:\n%s\n", stream, count,
+                   other.substr(from, Shown).c_str(), text.substr(from, Shown).c_str());
     }
     ++count;
   });
   if (count == wanted.size() && different == 0) return true;
-  std::fprintf(stderr, "%s: %zu records, %zu of them others; %zu of the loop\n", stream.c_str(),
+  std::fprintf(stderr, "%s: %zu records, %zu of them others; %zu of the loop\n", stream,
                wanted.size(), different, count);
   return false;
+}
+
+// The loop of the exports goes on from stream to stream, as they do.
+bool AreSame(ExportLoops& loops, const char* stream, const Part& part) {
+  StreamLoops streamLoops;
+  const bool exports = IsSame(loops, stream, part, TextsOfExports(part.Frames()));
+  return IsSame(streamLoops, stream, part, TextsOfStreams(part.Frames()), MsgIdObservations) &&
+         exports;
 }
 
 struct Row {
@@ -116,48 +149,59 @@ const Bytes& BytesOf(std::string_view name) {
   return found->bytes;
 }
 
+struct Count {
+  std::uint64_t records = 0;
+  void operator()(std::uint32_t /*id*/, const void* record) {
+    asm volatile("" : : "r"(record) : "memory");
+    ++records;
+  }
+};
+template <class Loops>
+double SecondsOf(Loops& loops, const std::vector<Part>& parts) {
+  Count count;
+  double seconds = 0;
+  for (const Part& part : parts) seconds += Seconds([&] { RunLoop(loops, part, count); });
+  return seconds;
+}
+
 // Alternates so often within a round that each has the machine as the others have it.
 void Measure(const Row& row, const std::vector<Part>& parts, int rounds) {
   constexpr int Turns = 12;
   const Bytes& bytes = BytesOf(row.stream);
   const StreamHandle stream = OpenStream();
-  volatile std::uint64_t records = 0;
-  const auto count = [&records](std::uint32_t, const void* record) {
-    asm volatile("" : : "r"(record) : "memory");
-    records = records + 1;
-  };
-  Samples bare;
-  Samples exports;
-  Samples streams;
+  ExportLoops exportLoops;
+  StreamLoops streamLoops;
+  Samples samples[4];
   for (int round = 0; round < rounds; ++round) {
-    double times[3] = {};
+    double times[4] = {};
     for (int turn = 0; turn < Turns; ++turn) {
-      for (const Part& part : parts) times[0] += Seconds([&] { RunLoop(part, count); });
+      times[0] += SecondsOf(exportLoops, parts);
       times[1] += Seconds([&] { DecodeAll(bytes, DefaultChunk); });
-      times[2] += Seconds([&] { DecodeAll(stream.get(), bytes, DefaultChunk); });
+      times[2] += SecondsOf(streamLoops, parts);
+      times[3] += Seconds([&] { DecodeAll(stream.get(), bytes, DefaultChunk); });
     }
-    bare.Add(times[0]);
-    exports.Add(times[1]);
-    streams.Add(times[2]);
+    for (std::size_t i = 0; i < 4; ++i) samples[i].Add(times[i]);
   }
   const double megabytes = static_cast<double>(bytes.size()) * 1e-6 * Turns;
-  std::printf("| %s | %.0f | %s | %s | %s |\n", row.stream, megabytes / bare.Best(), row.aim,
-              SpeedRatio(exports, bare).c_str(), SpeedRatio(streams, bare).c_str());
+  std::printf("| %s | %s | %.0f | %s | %.0f | %s |\n", row.stream, row.aim,
+              megabytes / samples[0].Best(), SpeedRatio(samples[1], samples[0]).c_str(),
+              megabytes / samples[2].Best(), SpeedRatio(samples[3], samples[2]).c_str());
   std::fflush(stdout);
 }
 
 int Main(int rounds) {
   std::vector<std::vector<Part>> parts;
+  ExportLoops loops;
   bool same = true;
   for (const Row& row : Rows) {
     parts.push_back(PartsOf(BytesOf(row.stream)));
-    for (const Part& part : parts.back()) same = IsSame(row.stream, part) && same;
+    for (const Part& part : parts.back()) same = AreSame(loops, row.stream, part) && same;
   }
   if (!same) return 1;
   if (rounds == 0) return 0;
   std::printf(
-      "| stream | bare loop MB/s | aim | exports to it | streams to it |\n"
-      "| --- | --: | --: | --: | --: |\n");
+      "| stream | aim | loop MB/s | exports to it | loop of observations | streams to it |\n"
+      "| --- | --: | --: | --: | --: | --: |\n");
   for (std::size_t i = 0; i < parts.size(); ++i) Measure(Rows[i], parts[i], rounds);
   return 0;
 }

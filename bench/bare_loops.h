@@ -13,6 +13,7 @@
 
 #include "navframe/navframe.h"
 #include "navframe/records.h"
+#include "navframe/stream.h"
 
 namespace navframe::bench {
 

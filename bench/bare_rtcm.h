@@ -63,72 +63,174 @@ struct BareSatellite {
   bool hasRate;
 };
 
-class BareRtcm {
- public:
-  BareRtcm() { std::memset(&record_, 0, sizeof record_); }
+// The fields of a cell.
+struct BareCell {
+  std::int32_t pseudorange;
+  std::int32_t phase;
+  std::uint32_t lock;
+  std::uint32_t half;
+  std::uint32_t cn0;
+  std::int32_t rate;
+};
 
-  template <class Take>
-  void Decode(std::span<const std::uint8_t> bytes, Take&& take) {
-    const std::uint8_t* at = bytes.data();
-    const std::uint8_t* const end = at + bytes.size();
-    while ((at = NextSync(at, end, 0xD3)), end - at >= 6) {
-      const std::size_t length = 6 + 256U * at[1] + at[2];
-      if (at[1] > 3 || static_cast<std::size_t>(end - at) < length ||
-          Crc24q::Of(at, length - 3) !=
-              (std::uint32_t{at[length - 3]} << 16 | at[length - 2] * 256U | at[length - 1])) {
-        ++at;
-        continue;
-      }
-      DecodeMessage(at, static_cast<std::uint32_t>(length), take);
-      at += length;
+// A message of observations: what stands in front of its cells, and where these stand.
+template <bool Msm7>
+struct BareMsm {
+  using Layout = BareLayout<Msm7>;
+
+  // False when the frame does not hold what it announces, or nothing.
+  bool Read(const BareBits& bits, std::uint32_t length) {
+    std::uint64_t satelliteMask = bits.All64(97);
+    std::uint32_t signalMask = bits.Unsigned(161, 32);
+    satelliteCount = static_cast<std::uint32_t>(std::popcount(satelliteMask));
+    signalCount = static_cast<std::uint32_t>(std::popcount(signalMask));
+    const std::uint32_t places = satelliteCount * signalCount;
+    if (length < 3 + 25 + 3 || places == 0 || places > 64) return false;
+    cellMask = bits.All64(193) & ~std::uint64_t{0} << (64 - places);
+    cellCount = static_cast<std::uint32_t>(std::popcount(cellMask));
+    first = 193 + places;
+    cells = first + satelliteCount * Layout::SatelliteBits;
+    if (cells + cellCount * Layout::CellBits > (length - 3) * 8) return false;
+    for (std::uint32_t i = 0; i < signalCount; ++i) {
+      const auto id = static_cast<std::uint32_t>(std::countl_zero(signalMask)) + 1;
+      signalMask &= ~(0x8000'0000U >> (id - 1));
+      signals[i] = static_cast<std::uint8_t>(id);
     }
+    std::uint32_t msBit = first;
+    std::uint32_t moduloBit = first + satelliteCount * Layout::ModuloBehind;
+    std::uint32_t rateBit = moduloBit + satelliteCount * 10;
+    for (std::uint32_t i = 0; i < satelliteCount; ++i) {
+      BareSatellite& satellite = satellites[i];
+      const auto place = static_cast<std::uint32_t>(std::countl_zero(satelliteMask));
+      satelliteMask &= ~(std::uint64_t{1} << (63 - place));
+      const std::uint32_t ms = bits.Unsigned(msBit, 8);
+      const auto modulo = static_cast<std::int32_t>(bits.Unsigned(moduloBit, 10));
+      satellite.id = static_cast<std::uint8_t>(place + 1);
+      satellite.hasRange = ms != 255;
+      satellite.range = ms * Layout::MetresPerMs + modulo * (0x1p-10 * Layout::MetresPerMs);
+      const std::int32_t rate = Msm7 ? bits.Signed(rateBit, 14) : 0;
+      satellite.hasRate = Msm7 && rate != -8192;
+      satellite.rate = rate;
+      msBit += 8;
+      moduloBit += 10;
+      rateBit += 14;
+    }
+    return true;
+  }
+
+  // Calls `write` with satellite, signal and fields of each cell.
+  template <class Write>
+  void ForEachCell(const BareBits& bits, const Write& write) const {
+    std::uint32_t pseudorangeBit = cells;
+    std::uint32_t phaseBit = pseudorangeBit + cellCount * Layout::Pseudorange;
+    std::uint32_t lockBit = phaseBit + cellCount * Layout::Phase;
+    const std::uint32_t halfBit = lockBit + cellCount * Layout::Lock;
+    std::uint32_t cn0Bit = halfBit + cellCount;
+    std::uint32_t rateBit = cn0Bit + cellCount * Layout::Cn0;
+    std::uint64_t halves = bits.All64(halfBit);
+    std::uint64_t mask = cellMask;
+    for (std::uint32_t satellite = 0; satellite < satelliteCount; ++satellite) {
+      for (std::uint32_t signal = 0; signal < signalCount; ++signal) {
+        const bool isThere = (mask >> 63) != 0;
+        mask <<= 1;
+        if (!isThere) continue;
+        write(satellite, signal,
+              BareCell{bits.Signed(pseudorangeBit, Layout::Pseudorange),
+                       bits.Signed(phaseBit, Layout::Phase), bits.Unsigned(lockBit, Layout::Lock),
+                       static_cast<std::uint32_t>(halves >> 63), bits.Unsigned(cn0Bit, Layout::Cn0),
+                       Msm7 ? bits.Signed(rateBit, 15) : 0});
+        pseudorangeBit += Layout::Pseudorange;
+        phaseBit += Layout::Phase;
+        lockBit += Layout::Lock;
+        halves <<= 1;
+        cn0Bit += Layout::Cn0;
+        rateBit += Layout::Rate;
+      }
+    }
+  }
+
+  std::uint32_t satelliteCount;
+  std::uint32_t signalCount;
+  std::uint32_t cellCount;
+  std::uint64_t cellMask;
+  std::uint32_t first;  // bits: of the satellites, of the cells
+  std::uint32_t cells;
+  std::array<BareSatellite, 64> satellites;
+  std::array<std::uint8_t, 32> signals;
+};
+
+// Time of week, ms.
+inline std::uint32_t BareEpoch(const BareBits& bits, std::uint32_t system) {
+  constexpr std::int32_t WeekMs = 604'800'000;
+  if (system == 2) {
+    const auto day = static_cast<std::int32_t>(bits.Unsigned(48, 3));
+    const std::int32_t ms =
+        (day * 86'400 + 18 - 10'800) * 1000 + static_cast<std::int32_t>(bits.Unsigned(51, 27));
+    return static_cast<std::uint32_t>(ms < 0 ? ms + WeekMs : ms);
+  }
+  const std::int32_t ms =
+      static_cast<std::int32_t>(bits.Unsigned(48, 30)) + (system == 4 ? 14'000 : 0);
+  return static_cast<std::uint32_t>(system == 4 && ms >= WeekMs ? ms - WeekMs : ms);
+}
+
+// The record of the exports.
+class BareMsmRecords {
+ public:
+  BareMsmRecords() { std::memset(&record_, 0, sizeof record_); }
+
+  static std::uint32_t KindOf(std::uint32_t system) {
+    constexpr std::uint32_t Kinds[] = {
+        0, MsgIdMsmGps, MsgIdMsmGlonass, MsgIdMsmGalileo, MsgIdMsmBeiDou, MsgIdMsmQzss};
+    return Kinds[system];
+  }
+
+  template <bool Msm7>
+  const void* Fill(const BareBits& bits, const BareMsm<Msm7>& msm, std::uint32_t system) {
+    using Layout = BareLayout<Msm7>;
+    std::array<double, 32> frequencies;
+    for (std::uint32_t i = 0; i < msm.signalCount; ++i) {
+      frequencies[i] = Frequency(system, msm.signals[i]);
+    }
+    record_.epochTime = BareEpoch(bits, system);
+    const std::uint32_t interval = interval_;
+    NoteEpoch(record_.epochTime);
+    record_.epochComplete = bits.Unsigned(78, 1) == 0 ? 1 : 0;
+    record_.system = static_cast<std::uint8_t>(system);
+    record_.count = static_cast<std::uint8_t>(msm.cellCount);
+
+    MsmObservation* out = record_.observations;
+    msm.ForEachCell(bits, [&](std::uint32_t place, std::uint32_t signal, const BareCell& cell) {
+      const BareSatellite& satellite = msm.satellites[place];
+      // A range of no whole millisecond is none.
+      const bool rangeValid = satellite.hasRange & (satellite.range >= Layout::MetresPerMs);
+      const std::uint32_t lock = Layout::LockTime(cell.lock);
+      const bool hasRange = rangeValid & (cell.pseudorange != Layout::NoPseudorange);
+      const bool hasPhase = rangeValid & (cell.phase != Layout::NoPhase);
+      const bool hasRate = satellite.hasRate & (cell.rate != -16384);
+      const bool usable = hasPhase & (frequencies[signal] != 0) & (cell.half == 0);
+      const double pseudorange = satellite.range + cell.pseudorange * Layout::PseudorangeUnit;
+      const double phase = satellite.range + cell.phase * Layout::PhaseUnit;
+      out->system = static_cast<std::uint8_t>(system);
+      out->satellite = satellite.id;
+      out->signal = msm.signals[signal];
+      out->pseudorangeValid = hasRange;
+      out->phaseStatus = static_cast<std::uint8_t>(usable + (usable & (lock > interval)));
+      out->rateValid = hasRate;
+      out->cn0 = static_cast<std::uint8_t>(cell.cn0 >> (Msm7 ? 4 : 0));
+      out->halfCycleAmbiguity = static_cast<std::uint8_t>(cell.half);
+      out->pseudorange = hasRange ? pseudorange : 0;
+      out->carrierPhase = hasPhase ? phase * frequencies[signal] / 299792458 : 0;
+      out->phaseRangeRate = hasRate ? satellite.rate + cell.rate * 0.0001 : 0;
+      out->lockTime = lock;
+      out->reserved = 0;
+      ++out;
+    });
+    std::memset(out, 0, (std::size(record_.observations) - msm.cellCount) * sizeof *out);
+    for (; out != std::end(record_.observations); ++out) out->system = 1;
+    return &record_;
   }
 
  private:
-  template <class Take>
-  void DecodeMessage(const std::uint8_t* frame, std::uint32_t length, Take& take) {
-    const BareBits bits(frame);
-    const std::uint32_t number = bits.Unsigned(24, 12);
-    const std::uint32_t kind = number % 10;
-    switch (number / 10) {
-      case 107:
-        return DecodeMsm(bits, length, kind, 1, MsgIdMsmGps, take);
-      case 108:
-        return DecodeMsm(bits, length, kind, 2, MsgIdMsmGlonass, take);
-      case 109:
-        return DecodeMsm(bits, length, kind, 3, MsgIdMsmGalileo, take);
-      case 111:
-        return DecodeMsm(bits, length, kind, 5, MsgIdMsmQzss, take);
-      case 112:
-        return DecodeMsm(bits, length, kind, 4, MsgIdMsmBeiDou, take);
-      default:
-        break;
-    }
-    if (number == 1005) DecodeStation(bits, take);
-    if (number == 1013) DecodeParameters(bits, length, take);
-  }
-
-  template <class Take>
-  void DecodeMsm(const BareBits& bits, std::uint32_t length, std::uint32_t kind,
-                 std::uint32_t system, std::uint32_t msgId, Take& take) {
-    const bool isWhole = kind == 7   ? Fill<true>(bits, length, system)
-                         : kind == 4 ? Fill<false>(bits, length, system)
-                                     : false;
-    if (isWhole) take(msgId, &record_);
-  }
-
-  static std::uint32_t Epoch(const BareBits& bits, std::uint32_t system) {
-    constexpr std::int32_t WeekMs = 604'800'000;
-    if (system == 2) {
-      const auto day = static_cast<std::int32_t>(bits.Unsigned(48, 3));
-      const std::int32_t ms =
-          (day * 86'400 + 18 - 10'800) * 1000 + static_cast<std::int32_t>(bits.Unsigned(51, 27));
-      return static_cast<std::uint32_t>(ms < 0 ? ms + WeekMs : ms);
-    }
-    auto ms = static_cast<std::int32_t>(bits.Unsigned(48, 30)) + (system == 4 ? 14'000 : 0);
-    return static_cast<std::uint32_t>(system == 4 && ms >= WeekMs ? ms - WeekMs : ms);
-  }
-
   // Hz; what hosts of the exports count on.
   static double Frequency(std::uint32_t system, std::uint32_t signal) {
     static constexpr auto Table = [] {
@@ -161,126 +263,58 @@ class BareRtcm {
     return Table[system][signal];
   }
 
-  template <bool Msm7>
-  bool Fill(const BareBits& bits, std::uint32_t length, std::uint32_t system) {
-    using Layout = BareLayout<Msm7>;
-    if (length < 3 + 25 + 3) return false;
-    std::uint64_t satelliteMask = bits.All64(97);
-    std::uint32_t signalMask = bits.Unsigned(161, 32);
-    const auto satellites = static_cast<std::uint32_t>(std::popcount(satelliteMask));
-    const auto signals = static_cast<std::uint32_t>(std::popcount(signalMask));
-    const std::uint32_t places = satellites * signals;
-    if (places == 0 || places > 64) return false;
-    std::uint64_t cellMask = bits.All64(193) & ~std::uint64_t{0} << (64 - places);
-    const auto cells = static_cast<std::uint32_t>(std::popcount(cellMask));
-    const std::uint32_t first = 193 + places;
-    if (first + satellites * Layout::SatelliteBits + cells * Layout::CellBits > (length - 3) * 8) {
-      return false;
-    }
-
-    std::array<BareSatellite, 64> ofSatellites;
-    ReadSatellites<Msm7>(bits, first, satellites, satelliteMask, ofSatellites.data());
-    std::array<std::uint8_t, 32> ids;
-    std::array<double, 32> frequencies;
-    for (std::uint32_t i = 0; i < signals; ++i) {
-      const auto id = static_cast<std::uint32_t>(std::countl_zero(signalMask)) + 1;
-      signalMask &= ~(0x8000'0000U >> (id - 1));
-      ids[i] = static_cast<std::uint8_t>(id);
-      frequencies[i] = Frequency(system, id);
-    }
-
-    record_.epochTime = Epoch(bits, system);
-    const std::uint32_t interval = interval_;
-    NoteEpoch(record_.epochTime);
-    record_.epochComplete = bits.Unsigned(78, 1) == 0 ? 1 : 0;
-    record_.system = static_cast<std::uint8_t>(system);
-
-    std::uint32_t pseudorangeBit = first + satellites * Layout::SatelliteBits;
-    std::uint32_t phaseBit = pseudorangeBit + cells * Layout::Pseudorange;
-    std::uint32_t lockBit = phaseBit + cells * Layout::Phase;
-    const std::uint32_t halfBit = lockBit + cells * Layout::Lock;
-    std::uint32_t cn0Bit = halfBit + cells;
-    std::uint32_t rateBit = cn0Bit + cells * Layout::Cn0;
-    std::uint64_t halves = bits.All64(halfBit);
-    MsmObservation* out = record_.observations;
-    for (std::uint32_t satellite = 0; satellite < satellites; ++satellite) {
-      const BareSatellite& of = ofSatellites[satellite];
-      for (std::uint32_t signal = 0; signal < signals; ++signal) {
-        const bool isThere = (cellMask >> 63) != 0;
-        cellMask <<= 1;
-        if (!isThere) continue;
-        const std::int32_t fine = bits.Signed(pseudorangeBit, Layout::Pseudorange);
-        const std::int32_t phase = bits.Signed(phaseBit, Layout::Phase);
-        const std::uint32_t lock = Layout::LockTime(bits.Unsigned(lockBit, Layout::Lock));
-        const auto half = static_cast<std::uint8_t>(halves >> 63);
-        const bool hasRange = of.hasRange & (fine != Layout::NoPseudorange);
-        const bool hasPhase = of.hasRange & (phase != Layout::NoPhase);
-        const bool usable = hasPhase & (frequencies[signal] != 0) & (half == 0);
-        out->system = static_cast<std::uint8_t>(system);
-        out->satellite = of.id;
-        out->signal = ids[signal];
-        out->pseudorangeValid = hasRange;
-        out->phaseStatus = static_cast<std::uint8_t>(usable + (usable & (lock > interval)));
-        out->cn0 = static_cast<std::uint8_t>(bits.Unsigned(cn0Bit, Layout::Cn0) >> (Msm7 ? 4 : 0));
-        out->halfCycleAmbiguity = half;
-        out->pseudorange = hasRange ? of.range + fine * Layout::PseudorangeUnit : 0;
-        out->carrierPhase =
-            hasPhase ? (of.range + phase * Layout::PhaseUnit) * frequencies[signal] / 299792458 : 0;
-        out->rateValid = 0;
-        out->phaseRangeRate = 0;
-        if constexpr (Msm7) {
-          const std::int32_t rate = bits.Signed(rateBit, Layout::Rate);
-          const bool hasRate = of.hasRate & (rate != -16384);
-          out->rateValid = hasRate;
-          out->phaseRangeRate = hasRate ? of.rate + rate * 0.0001 : 0;
-        }
-        out->lockTime = lock;
-        out->reserved = 0;
-        ++out;
-        pseudorangeBit += Layout::Pseudorange;
-        phaseBit += Layout::Phase;
-        lockBit += Layout::Lock;
-        halves <<= 1;
-        cn0Bit += Layout::Cn0;
-        rateBit += Layout::Rate;
-      }
-    }
-    std::memset(out, 0, (std::size(record_.observations) - cells) * sizeof *out);
-    for (; out != std::end(record_.observations); ++out) out->system = 1;
-    record_.count = static_cast<std::uint8_t>(cells);
-    return true;
-  }
-
-  template <bool Msm7>
-  static void ReadSatellites(const BareBits& bits, std::uint32_t first, std::uint32_t count,
-                             std::uint64_t mask, BareSatellite* satellites) {
-    using Layout = BareLayout<Msm7>;
-    std::uint32_t msBit = first;
-    std::uint32_t moduloBit = first + count * Layout::ModuloBehind;
-    std::uint32_t rateBit = moduloBit + count * 10;
-    for (std::uint32_t i = 0; i < count; ++i) {
-      BareSatellite& satellite = satellites[i];
-      const auto place = static_cast<std::uint32_t>(std::countl_zero(mask));
-      mask &= ~(std::uint64_t{1} << (63 - place));
-      const std::uint32_t ms = bits.Unsigned(msBit, 8);
-      const auto modulo = static_cast<std::int32_t>(bits.Unsigned(moduloBit, 10));
-      satellite.id = static_cast<std::uint8_t>(place + 1);
-      satellite.hasRange = ms != 0 && ms != 255;
-      satellite.range = ms * Layout::MetresPerMs + modulo * (0x1p-10 * Layout::MetresPerMs);
-      const std::int32_t rate = Msm7 ? bits.Signed(rateBit, 14) : 0;
-      satellite.hasRate = Msm7 && rate != -8192;
-      satellite.rate = rate;
-      msBit += 8;
-      moduloBit += 10;
-      rateBit += 14;
-    }
-  }
-
   // Locks are compared with the last step of less than two seconds.
   void NoteEpoch(std::uint32_t epoch) {
     const auto step = static_cast<std::int32_t>(epoch - lastEpoch_);
     if (step != 0 && step < 2000) interval_ = step > 0 ? static_cast<std::uint32_t>(step) : ~0U;
     lastEpoch_ = epoch;
+  }
+
+  std::uint32_t interval_ = ~0U;
+  std::uint32_t lastEpoch_ = 0;
+  MsmRecord record_;
+};
+
+template <class Observations>
+class BareRtcm {
+ public:
+  template <class Take>
+  void Decode(std::span<const std::uint8_t> bytes, Take&& take) {
+    const std::uint8_t* at = bytes.data();
+    const std::uint8_t* const end = at + bytes.size();
+    while ((at = NextSync(at, end, 0xD3)), end - at >= 6) {
+      const std::size_t length = 6 + 256U * at[1] + at[2];
+      if (at[1] > 3 || static_cast<std::size_t>(end - at) < length ||
+          Crc24q::Of(at, length - 3) !=
+              (std::uint32_t{at[length - 3]} << 16 | at[length - 2] * 256U | at[length - 1])) {
+        ++at;
+        continue;
+      }
+      DecodeMessage(at, static_cast<std::uint32_t>(length), take);
+      at += length;
+    }
+  }
+
+ private:
+  template <class Take>
+  void DecodeMessage(const std::uint8_t* frame, std::uint32_t length, Take& take) {
+    const BareBits bits(frame);
+    const std::uint32_t number = bits.Unsigned(24, 12);
+    constexpr std::uint8_t Systems[] = {1, 2, 3, 0, 5, 4};  // by the tens, from 107 on
+    const std::uint32_t tens = number / 10 - 107;
+    if (number == 1005) return DecodeStation(bits, take);
+    if (number == 1013) return DecodeParameters(bits, length, take);
+    if (tens >= std::size(Systems) || Systems[tens] == 0) return;
+    if (number % 10 == 7) DecodeMsm<true>(bits, length, Systems[tens], take);
+    if (number % 10 == 4) DecodeMsm<false>(bits, length, Systems[tens], take);
+  }
+
+  template <bool Msm7, class Take>
+  void DecodeMsm(const BareBits& bits, std::uint32_t length, std::uint32_t system, Take& take) {
+    BareMsm<Msm7> msm;
+    if (msm.Read(bits, length)) {
+      take(Observations::KindOf(system), observations_.Fill(bits, msm, system));
+    }
   }
 
   template <class Take>
@@ -320,9 +354,7 @@ class BareRtcm {
     take(std::uint32_t{MsgIdSystemParameters}, &record);
   }
 
-  std::uint32_t interval_ = ~0U;
-  std::uint32_t lastEpoch_ = 0;
-  MsmRecord record_;
+  Observations observations_;
 };
 
 }  // namespace navframe::bench

@@ -9,6 +9,16 @@
 
 namespace navframe::bench {
 
+inline std::uint8_t BareFlags(std::uint32_t word, unsigned lowest, unsigned count = 1) {
+  return static_cast<std::uint8_t>(word >> lowest & ((1U << count) - 1));
+}
+
+// Entries behind the last one are unknown.
+template <class Entry, std::size_t Room>
+void ClearRest(std::size_t count, Entry (&entries)[Room]) {
+  std::memset(static_cast<void*>(entries + count), 0xFF, (Room - count) * sizeof(Entry));
+}
+
 // A deviation for each of 16 exponents of two.
 using BareDeviations = std::array<float, 16>;
 constexpr BareDeviations PowersOfTwo(double unit) {
@@ -19,6 +29,53 @@ constexpr BareDeviations PowersOfTwo(double unit) {
   return deviations;
 }
 
+inline constexpr BareDeviations PseudorangeDeviations = PowersOfTwo(0.01);
+inline constexpr BareDeviations DopplerDeviations = PowersOfTwo(0.002);
+
+// The record of the exports.
+class BareMeasurements {
+ public:
+  static std::uint32_t KindOf(std::uint32_t /*system*/) { return MsgIdUbxRawMeasurements; }
+
+  const void* Fill(const std::uint8_t* p, std::size_t count) {
+    UbxRawMeasurementsRecord& record = record_;
+    const double ms = LoadLe<double>(p) * 1000.0 + 0.5;
+    record.tow = ms >= 0 && ms < 604'800'001 ? static_cast<std::uint32_t>(ms) : 0xFFFF'FFFF;
+    record.week = LoadLe<std::uint16_t>(p + 8);
+    record.leapSeconds = LoadLe<std::int8_t>(p + 10);
+    record.leapKnown = BareFlags(p[12], 0);
+    record.clockReset = BareFlags(p[12], 1);
+    record.version = p[13];
+    record.count = static_cast<std::uint8_t>(count);
+    ClearRest(count, record.measurements);
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::uint8_t* const entry = p + 16 + 32 * i;
+      UbxRawMeasurement& measurement = record.measurements[i];
+      measurement.pseudorange = LoadLe<double>(entry);
+      measurement.carrierPhase = LoadLe<double>(entry + 8);
+      measurement.doppler = LoadLe<float>(entry + 16);
+      measurement.pseudorangeDeviation = PseudorangeDeviations[entry[27] & 15];
+      measurement.carrierPhaseDeviation = static_cast<float>(0.004 * (entry[28] & 15));
+      measurement.dopplerDeviation = DopplerDeviations[entry[29] & 15];
+      measurement.systemId = entry[20];
+      measurement.satelliteId = entry[21];
+      measurement.signalId = entry[22];
+      measurement.frequencySlot = entry[23];
+      measurement.lockTime = LoadLe<std::uint16_t>(entry + 24);
+      measurement.cn0 = entry[26];
+      measurement.pseudorangeValid = BareFlags(entry[30], 0);
+      measurement.carrierPhaseValid = BareFlags(entry[30], 1);
+      measurement.halfCycleResolved = BareFlags(entry[30], 2);
+      measurement.halfCycleSubtracted = BareFlags(entry[30], 3);
+    }
+    return &record;
+  }
+
+ private:
+  UbxRawMeasurementsRecord record_{};
+};
+
+template <class Observations>
 class BareUbx {
  public:
   template <class Take>
@@ -43,16 +100,6 @@ class BareUbx {
     return sum.a == frame[payload + 6] && sum.b == frame[payload + 7];
   }
 
-  static std::uint8_t Bits(std::uint32_t word, unsigned lowest, unsigned count = 1) {
-    return static_cast<std::uint8_t>(word >> lowest & ((1U << count) - 1));
-  }
-
-  // Entries behind the last one are unknown.
-  template <class Entry, std::size_t Room>
-  static void ClearRest(std::size_t count, Entry (&entries)[Room]) {
-    std::memset(static_cast<void*>(entries + count), 0xFF, (Room - count) * sizeof(Entry));
-  }
-
   template <class Take>
   void DecodeMessage(std::uint32_t message, const std::uint8_t* p, std::size_t length, Take& take) {
     if (message == 0x0107 && length == 92) {
@@ -65,8 +112,8 @@ class BareUbx {
       DecodeAttitude(p);
       take(std::uint32_t{MsgIdUbxAttitude}, &attitude_);
     } else if (message == 0x0215 && length >= 16) {
-      DecodeMeasurements(p, length);
-      take(std::uint32_t{MsgIdUbxRawMeasurements}, &measurements_);
+      const std::size_t count = std::min(std::size_t{p[11]}, (length - 16) / 32);
+      take(Observations::KindOf(0), observations_.Fill(p, count));
     }
   }
 
@@ -79,22 +126,22 @@ class BareUbx {
     record.hour = p[8];
     record.minute = p[9];
     record.second = p[10];
-    record.dateValid = Bits(p[11], 0);
-    record.timeValid = Bits(p[11], 1);
-    record.fullyResolved = Bits(p[11], 2);
-    record.magValid = Bits(p[11], 3);
+    record.dateValid = BareFlags(p[11], 0);
+    record.timeValid = BareFlags(p[11], 1);
+    record.fullyResolved = BareFlags(p[11], 2);
+    record.magValid = BareFlags(p[11], 3);
     record.timeAccuracy = LoadLe<std::uint32_t>(p + 12);
     record.nanoseconds = LoadLe<std::int32_t>(p + 16);
     record.millisecond = static_cast<std::uint32_t>(record.nanoseconds / 1'000'000);
     record.fixType = p[20];
-    record.fixOk = Bits(p[21], 0);
-    record.diffSolution = Bits(p[21], 1);
-    record.powerSaveState = Bits(p[21], 2, 3);
-    record.headingValid = Bits(p[21], 5);
-    record.carrierSolution = Bits(p[21], 6, 2);
-    record.confirmedAvailable = Bits(p[22], 5);
-    record.confirmedDate = Bits(p[22], 6);
-    record.confirmedTime = Bits(p[22], 7);
+    record.fixOk = BareFlags(p[21], 0);
+    record.diffSolution = BareFlags(p[21], 1);
+    record.powerSaveState = BareFlags(p[21], 2, 3);
+    record.headingValid = BareFlags(p[21], 5);
+    record.carrierSolution = BareFlags(p[21], 6, 2);
+    record.confirmedAvailable = BareFlags(p[22], 5);
+    record.confirmedDate = BareFlags(p[22], 6);
+    record.confirmedTime = BareFlags(p[22], 7);
     record.satellites = p[23];
     record.longitude = LoadLe<std::int32_t>(p + 24) / 1e7;
     record.latitude = LoadLe<std::int32_t>(p + 28) / 1e7;
@@ -117,8 +164,8 @@ class BareUbx {
     record.motionHeading = LoadLe<std::int32_t>(p + 64);
     record.speedAccuracy = LoadLe<std::uint32_t>(p + 68);
     record.headingAccuracy = LoadLe<std::uint32_t>(p + 72);
-    record.invalidHeight = Bits(p[78], 0);
-    record.correctionAge = Bits(p[78], 1, 4);
+    record.invalidHeight = BareFlags(p[78], 0);
+    record.correctionAge = BareFlags(p[78], 1, 4);
     record.reservedWord = LoadLe<std::uint32_t>(p + 80);
     record.vehicleHeading = LoadLe<std::uint16_t>(p + 84);
   }
@@ -142,24 +189,24 @@ class BareUbx {
       satellite.azimuth = hasDirection ? LoadLe<std::uint16_t>(entry + 4) : std::uint16_t{0xFFFF};
       satellite.residual = LoadLe<std::int16_t>(entry + 6);
       const auto flags = LoadLe<std::uint32_t>(entry + 8);
-      satellite.quality = Bits(flags, 0, 3);
-      satellite.used = Bits(flags, 3);
-      satellite.health = Bits(flags, 4, 2);
-      satellite.corrected = Bits(flags, 6);
-      satellite.smoothed = Bits(flags, 7);
-      satellite.orbitSource = Bits(flags, 8, 3);
-      satellite.ephemeris = Bits(flags, 11);
-      satellite.almanac = Bits(flags, 12);
-      satellite.offlinePrediction = Bits(flags, 13);
-      satellite.autonomousPrediction = Bits(flags, 14);
-      satellite.spareFlag = Bits(flags, 15);
-      satellite.sbasCorrections = Bits(flags, 16);
-      satellite.rtcmCorrections = Bits(flags, 17);
-      satellite.slasCorrections = Bits(flags, 18);
-      satellite.spartnCorrections = Bits(flags, 19);
-      satellite.rangeCorrections = Bits(flags, 20);
-      satellite.carrierCorrections = Bits(flags, 21);
-      satellite.dopplerCorrections = Bits(flags, 22);
+      satellite.quality = BareFlags(flags, 0, 3);
+      satellite.used = BareFlags(flags, 3);
+      satellite.health = BareFlags(flags, 4, 2);
+      satellite.corrected = BareFlags(flags, 6);
+      satellite.smoothed = BareFlags(flags, 7);
+      satellite.orbitSource = BareFlags(flags, 8, 3);
+      satellite.ephemeris = BareFlags(flags, 11);
+      satellite.almanac = BareFlags(flags, 12);
+      satellite.offlinePrediction = BareFlags(flags, 13);
+      satellite.autonomousPrediction = BareFlags(flags, 14);
+      satellite.spareFlag = BareFlags(flags, 15);
+      satellite.sbasCorrections = BareFlags(flags, 16);
+      satellite.rtcmCorrections = BareFlags(flags, 17);
+      satellite.slasCorrections = BareFlags(flags, 18);
+      satellite.spartnCorrections = BareFlags(flags, 19);
+      satellite.rangeCorrections = BareFlags(flags, 20);
+      satellite.carrierCorrections = BareFlags(flags, 21);
+      satellite.dopplerCorrections = BareFlags(flags, 22);
     }
   }
 
@@ -175,47 +222,10 @@ class BareUbx {
     record.headingAccuracy = LoadLe<std::uint32_t>(p + 28) / 1e5;
   }
 
-  void DecodeMeasurements(const std::uint8_t* p, std::size_t length) {
-    UbxRawMeasurementsRecord& record = measurements_;
-    const double ms = LoadLe<double>(p) * 1000.0 + 0.5;
-    record.tow = ms >= 0 && ms < 604'800'001 ? static_cast<std::uint32_t>(ms) : 0xFFFF'FFFF;
-    record.week = LoadLe<std::uint16_t>(p + 8);
-    record.leapSeconds = LoadLe<std::int8_t>(p + 10);
-    record.leapKnown = Bits(p[12], 0);
-    record.clockReset = Bits(p[12], 1);
-    record.version = p[13];
-    const std::size_t count = std::min(std::size_t{p[11]}, (length - 16) / 32);
-    record.count = static_cast<std::uint8_t>(count);
-    ClearRest(count, record.measurements);
-    for (std::size_t i = 0; i < count; ++i) {
-      const std::uint8_t* const entry = p + 16 + 32 * i;
-      UbxRawMeasurement& measurement = record.measurements[i];
-      measurement.pseudorange = LoadLe<double>(entry);
-      measurement.carrierPhase = LoadLe<double>(entry + 8);
-      measurement.doppler = LoadLe<float>(entry + 16);
-      measurement.pseudorangeDeviation = PseudorangeDeviations[entry[27] & 15];
-      measurement.carrierPhaseDeviation = static_cast<float>(0.004 * (entry[28] & 15));
-      measurement.dopplerDeviation = DopplerDeviations[entry[29] & 15];
-      measurement.systemId = entry[20];
-      measurement.satelliteId = entry[21];
-      measurement.signalId = entry[22];
-      measurement.frequencySlot = entry[23];
-      measurement.lockTime = LoadLe<std::uint16_t>(entry + 24);
-      measurement.cn0 = entry[26];
-      measurement.pseudorangeValid = Bits(entry[30], 0);
-      measurement.carrierPhaseValid = Bits(entry[30], 1);
-      measurement.halfCycleResolved = Bits(entry[30], 2);
-      measurement.halfCycleSubtracted = Bits(entry[30], 3);
-    }
-  }
-
-  static constexpr BareDeviations PseudorangeDeviations = PowersOfTwo(0.01);
-  static constexpr BareDeviations DopplerDeviations = PowersOfTwo(0.002);
-
   UbxNavigationRecord navigation_{};
   UbxSatellitesRecord satellites_{};
   UbxAttitudeRecord attitude_{};
-  UbxRawMeasurementsRecord measurements_{};
+  Observations observations_;
 };
 
 }  // namespace navframe::bench
