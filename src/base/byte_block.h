@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__) && defined(__x86_64__)
+#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
 #include <emmintrin.h>
 #endif
 
@@ -50,7 +50,7 @@ class PlainByteBlock {
   const std::uint8_t* bytes_;
 };
 
-#if defined(__SSE2__) && defined(__x86_64__)
+#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
 
 // The same in four registers.
 class Sse2ByteBlock {

@@ -8,7 +8,7 @@
 #include "base/wide_vectors.h"
 #include "framing/framing.h"
 
-#if defined(__SSE2__) && defined(__x86_64__)
+#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
 #include <emmintrin.h>
 #endif
 
@@ -71,7 +71,7 @@ class StrongHeads {
   }
 
   // A bit for each of BlockSize bytes that may begin a head.
-#if defined(__SSE2__) && defined(__x86_64__)
+#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
   static std::uint64_t HitsIn(const std::uint8_t* bytes) {
     const auto all = [](std::uint8_t byte) { return _mm_set1_epi8(static_cast<char>(byte)); };
     const auto load = [](const std::uint8_t* at) {
