@@ -2,7 +2,7 @@
 
 Each stream is decoded in turns by the library alone (the program decode_file), into arrays, and
 record by record, all from memory. Prints the best of all rounds, and ratios as medians with
-quartiles, by processor time: what else the machine does concerns the turns of a round alike. The
+their range, by processor time: what else the machine does concerns the turns of a round alike. The
 kernel has to clear the pages that arrays are written to, which depends on the machine more than on
 the program: the second ratio leaves its time out.
 """
@@ -32,8 +32,7 @@ def count(data):
 
 
 def shown(ratios):
-    low, middle, high = statistics.quantiles(ratios, n=4)
-    return f"{middle:.2f} ({low:.2f}-{high:.2f})"
+    return f"{statistics.median(ratios):.2f} ({min(ratios):.2f}-{max(ratios):.2f})"
 
 
 def measure(decode_file, rounds, path):
