@@ -20,7 +20,7 @@ struct BareSentence {
   const std::uint8_t* text;
   std::size_t length;  // up to the "*"
   std::size_t fields;
-  std::array<std::uint8_t, Longest + 1> ends;  // where field i ends
+  std::array<std::uint8_t, 4 * 64 + 1> ends;  // where field i ends; as many as bytes are swept
 
   const std::uint8_t* At(std::size_t field) const {
     return text + (field == 0 ? 0 : ends[field - 1] + 1);
