@@ -48,7 +48,8 @@ def _columns(table: Table, unknown: dict[str, int],
         for column, content in rows:
             content = numpy.ascontiguousarray(content)
             if content.dtype.kind == "S":
-                yield column, [text.decode("utf-8", "replace") for text in content.tolist()]
+                texts = [text.decode("utf-8", "replace") for text in content.tolist()]
+                yield column, numpy.array(texts, object)  # what no rows hold are texts, too
             elif path in unknown:
                 absent = content == content.dtype.type(unknown[path])
                 yield column, pandas.arrays.IntegerArray(content, absent)
