@@ -51,6 +51,16 @@ ci_packages=(
   "util-linux:command unshare"
 )
 
+# What examples/archive run on; their tests are left out without.
+archive_packages=(
+  "slurm-wlm:command sbatch"
+  "munge:file /usr/sbin/munged"
+  "parallel:command parallel"
+  "python3-dask:python_module dask.dataframe"
+  "python3-distributed:python_module distributed"
+  "util-linux:command unshare"
+)
+
 # For scripts/build-debian-packages, beside what the library and the tool need.
 debian_packages=(
   "g++:command g++"
