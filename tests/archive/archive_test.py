@@ -70,7 +70,9 @@ class Archive(unittest.TestCase):
     """18 files of three stations, whose names are in another order than their times."""
 
     def setUp(self):
-        self.place = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        temporary = tempfile.TemporaryDirectory()
+        self.addCleanup(temporary.cleanup)
+        self.place = Path(temporary.name)
         for name in ("examples", "scripts"):
             (self.place / name).symlink_to(Root / name)
         self.folder, self.work = self.place / "archive", self.place / "work"
@@ -377,10 +379,17 @@ class Slurm(Archive):
     def test_Requeued(self):
         """One task is requeued, navframe is killed in another: all is there once, and joined."""
         begin, submit, end = Documented("Slurm")
-        self.addCleanup(self.Run, "bash", "-c", end)
-        self.Shell(begin)
-        self.environment["SLURM_CONF"] = str(self.place / "trial/slurm.conf")
-        self.CheckLoopback()
+        try:
+            self.Shell(begin)
+            self.environment["SLURM_CONF"] = str(self.place / "trial/slurm.conf")
+            self.CheckLoopback()
+            self.CheckRequeued(submit)
+        finally:  # whatever happens, also when the test is interrupted
+            daemons = [int(pid.read_text()) for pid in (self.place / "trial").glob("*.pid")]
+            self.Shell(end)
+        self.assertEqual((len(daemons), [pid for pid in daemons if not HasEnded(pid)]), (4, []))
+
+    def CheckRequeued(self, submit):
         names = ["EFGH/EFGH00CHE_5, odd 'name'.ubx", "ABCD/2026/ABCD_85.nmea"]
         self.Hold(*names)
         merge = self.Shell(submit).split()[-1]
