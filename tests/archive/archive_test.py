@@ -283,21 +283,21 @@ class Tasks(Archive):
 
     def test_FullDisk(self):
         """Of a folder that has room for a part of the outputs, until more is made."""
-        small = "mount -t tmpfs -o size={} tmpfs work"
-        if self.Run("unshare", "-rm", "sh", "-c", "mkdir -p work && " + small.format("1m"))[0] != 0:
+        small = "mkdir -p work && mount -t tmpfs -o size=10000k tmpfs work"
+        if self.Run("unshare", "-rm", "sh", "-c", small)[0] != 0:
             self.skipTest("no small disk: unshare and mount are not allowed here")
         status, out, err = self.Run("unshare", "-rm", "bash", "-c", f"""
             run() {{ for task in 1 2 3; do examples/archive/run-task work $task; echo $?; done; }}
-            {small.format("400k")}
+            {small}; head -c 9600k /dev/zero >work/other
             find archive -type f | examples/archive/make-tasks work 3 decode {' '.join(Kinds)}
             run; examples/archive/merge work; echo $?; ls work/parts work
-            mount -o remount,size=99m work
+            rm work/other
             run; examples/archive/merge work; echo $?
             ls work/parts; cp -r work/merged whole""")
         self.assertIn("No space left on device", err)
         self.assertRegex(err, r"run-task: task [123]: \S+/wxyz.20.gz: ")
         self.assertRegex(err, r"merge: missing: \S+/wxyz.20.gz\n")
-        self.assertRegex(out, "^3\n1\n[01]\n[01]\n1\nwork:\ndone\nparts\ntasks\n\nwork/parts:\n"
+        self.assertRegex(out, "^3\n1\n[01]\n[01]\n1\nwork:\ndone\nother\nparts\ntasks\n\nwork/parts:\n"
                               "(0\n){4}$")
         self.assertLess(err.count("merge: missing"), len(self.files))
         self.assertEqual((status, Hashes(self.place / "whole")), (0, self.SingleRun()))
