@@ -49,7 +49,7 @@ def main():
     parser.add_argument("--processes", type=int, default=os.cpu_count())
     parser.add_argument("--partial", action="store_true")
     chosen = parser.parse_args()
-    paths = [os.fsdecode(line) for line in sys.stdin.buffer.read().splitlines()]
+    paths = list(filter(None, os.fsdecode(sys.stdin.buffer.read()).split("\n")))
     own = chosen.scheduler or LocalCluster(
         n_workers=chosen.processes, threads_per_worker=1, host="127.0.0.1",
         dashboard_address="127.0.0.1:0", silence_logs=logging.ERROR)
