@@ -9,102 +9,15 @@
 #include <string_view>
 #include <utility>
 
+#include "analysis/signal_names.h"
 #include "navframe/records.h"
 
 namespace navframe::analysis {
 namespace {
 
-// Systems by the numbers of observations, which those of NMEA are too but for SBAS.
-constexpr char Letters[] = "?GRECJIS";
-constexpr const char* Names[] = {"not known", "GPS",  "GLONASS", "Galileo",
-                                 "BeiDou",    "QZSS", "NavIC",   "SBAS"};
-constexpr std::size_t Qzss = 5;
-constexpr std::size_t Sbas = 7;
-constexpr std::uint32_t OfUbx[] = {1, 7, 3, 4, 0, 5, 2, 6};
-
 // Values of C/N0 as they are summed up, in parts of a dB-Hz: the finest that MSM has, and GSV.
 constexpr float ObservedUnits = 16;
 constexpr double GsvUnits = 100;
-
-// Signals of the numbers from a first one on, as RINEX calls them; "--" has no name there.
-struct CodeRow {
-  std::size_t system;
-  std::uint32_t first;
-  std::string_view codes;
-};
-constexpr CodeRow UbxCodes[] = {
-    {1, 0, "1C -- -- 2L 2S -- 5I 5Q"},
-    {2, 0, "1C -- 2C"},
-    {3, 0, "1C 1B -- 5I 5Q 7I 7Q -- 6B 6C 6A"},
-    {4, 0, "2I 2I 7I 7I 6I 1P 1D 5P 5D -- 6I"},
-    {5, 0, "1C 1Z -- -- 2S 2L -- -- 5I 5Q -- -- 1E"},
-    {6, 0, "5A"},
-    {7, 0, "1C"},
-};
-constexpr CodeRow NmeaCodes[] = {
-    {1, 1, "1C 1W 1M 2W 2S 2L 5I 5Q"},       {2, 1, "1C 1P 2C 2P"},
-    {3, 1, "5X 7X 8X 6A 6X 1A 1X"},          {4, 1, "2I 2Q 1X -- 5X 7D 8X 6I 6Q -- 7I 7Q"},
-    {5, 1, "1C 1S 1L 1Z 2S 2L 5I 5Q 6S 6E"}, {6, 1, "5A 9A"},
-};
-
-template <std::size_t Count>
-std::string_view CodeOf(const CodeRow (&rows)[Count], std::size_t system, std::size_t number) {
-  for (const CodeRow& row : rows) {
-    const std::size_t at = 3 * (number - row.first);
-    if (row.system == system && number >= row.first && at < row.codes.size()) {
-      return row.codes.substr(at, 2);
-    }
-  }
-  return "--";
-}
-
-std::string SignalName(std::string_view code, std::size_t number) {
-  if (code[0] >= '0' && code[0] <= '9') return std::string(code);
-  return "signal " + std::to_string(number);
-}
-
-// Numbers of SBAS and QZSS as their signals have them.
-std::size_t NumberInSystem(std::size_t system, std::size_t number) {
-  constexpr std::size_t FirstQzss = 193;
-  constexpr std::size_t FirstSbas = 100;
-  if (system == Sbas && number > FirstSbas) return number - FirstSbas;
-  if (system == Qzss && number >= FirstQzss) return number - FirstQzss + 1;
-  return number;
-}
-
-struct Satellite {
-  std::size_t system;
-  std::size_t number;
-};
-
-// Numbers that tell a system by where they lie; `as` is the first one in its system.
-struct Range {
-  std::size_t among;  // the system that they are counted with; 0 of all
-  std::size_t first;
-  std::size_t last;
-  std::size_t system;
-  std::size_t as;
-};
-constexpr Range NmeaRanges[] = {{1, 33, 64, 7, 20},  {1, 120, 158, 7, 20}, {1, 193, 202, 5, 1},
-                                {2, 65, 99, 2, 1},   {3, 301, 336, 3, 1},  {4, 201, 263, 4, 1},
-                                {4, 401, 463, 4, 1}, {5, 193, 202, 5, 1}};
-constexpr Range UbxRanges[] = {{0, 1, 32, 1, 1},     {0, 33, 64, 4, 6},   {0, 65, 96, 2, 1},
-                               {0, 120, 158, 7, 20}, {0, 159, 163, 4, 1}, {0, 193, 202, 5, 1},
-                               {0, 211, 246, 3, 1}};
-
-template <std::size_t Count>
-Satellite InRanges(const Range (&ranges)[Count], std::size_t system, std::size_t number) {
-  for (const Range& range : ranges) {
-    if (range.among == system && number >= range.first && number <= range.last) {
-      return {range.system, number - range.first + range.as};
-    }
-  }
-  return {system, number};
-}
-Satellite OfNmea(std::size_t system, std::size_t number) {
-  return InRanges(NmeaRanges, system < Sbas ? system : 0, number);
-}
-Satellite OverAll(std::size_t number) { return InRanges(UbxRanges, 0, number); }
 
 bool IsKind(const NavframeKind& kind, std::uint32_t id) {
   return kind.source == SourceStream && kind.id == id;
@@ -136,7 +49,7 @@ class SatelliteTally::Gathered {
   // `signal` is empty where it is not told.
   void Add(const Satellite& satellite, const std::string& signal, const Strength& strength) {
     // What belongs to no system stands behind them.
-    const std::size_t system = satellite.system == 0 ? std::size(Names) : satellite.system;
+    const std::size_t system = satellite.system == 0 ? KnownSystems : satellite.system;
     satellites_[{system, satellite.number}].Add(strength);
     if (!signal.empty()) signals_[{system, signal}].Add(strength);
   }
@@ -149,9 +62,7 @@ class SatelliteTally::Gathered {
         seen.systems.push_back({letter, std::string(1, letter), {}});
       }
       seen.systems.back().strength.Add(strength);
-      const std::string digits = std::to_string(key.second);
-      const std::string zero(digits.size() < 2 ? 1 : 0, '0');
-      seen.satellites.push_back({letter, letter + zero + digits, strength});
+      seen.satellites.push_back({letter, SatelliteName({key.first, key.second}), strength});
     }
     for (const auto& [key, strength] : signals_) {
       seen.signals.push_back({LetterOf(key.first), key.second, strength});
@@ -160,10 +71,6 @@ class SatelliteTally::Gathered {
   }
 
  private:
-  static char LetterOf(std::size_t system) {
-    return Letters[system < std::size(Names) ? system : 0];
-  }
-
   std::map<std::pair<std::size_t, std::size_t>, Strength> satellites_;
   std::map<std::pair<std::size_t, std::string>, Strength> signals_;
 };
@@ -192,11 +99,6 @@ const char* NameOf(SeenIn in) {
   constexpr const char* SeenNames[] = {"observations", "NAV-SIG", "NAV-SAT",
                                        "NAV-SVINFO",   "GSV",     ""};
   return SeenNames[static_cast<std::size_t>(in)];
-}
-
-const char* SystemName(char letter) {
-  const std::size_t at = std::string_view(Letters).find(letter);
-  return Names[at < std::size(Names) ? at : 0];
 }
 
 SeenIn SatelliteTally::PartOf(const NavframeKind& kind) {
@@ -345,7 +247,7 @@ void SatelliteTally::GatherObserved(const Counted& counted, Gathered& gathered) 
   counted.sums.ForEach(
       [&](std::size_t system, std::size_t number, std::size_t signal, const SignalSums::Sum& sum) {
         const Code code = counted.codes[system][signal];
-        gathered.Add({system, NumberInSystem(system, number)}, SignalName({code.text, 2}, signal),
+        gathered.Add(SatelliteOfObservation(system, number), SignalName({code.text, 2}, signal),
                      {sum.count, sum.measured,
                       static_cast<double>(sum.values) / static_cast<double>(ObservedUnits)});
       });
@@ -356,16 +258,15 @@ void SatelliteTally::GatherInView(Gathered& gathered) const {
       [&](std::size_t system, std::size_t number, std::size_t signal, const SignalSums::Sum& sum) {
         if (sum.measured == 0) return;
         const bool isUbx = in_ != SeenIn::Gsv;
-        if (isUbx) system = system < std::size(OfUbx) ? OfUbx[system] : 0;
-        Satellite satellite{system, NumberInSystem(system, number)};
+        Satellite satellite = SatelliteOfUbx(system, number);
         std::string name;  // of a signal that is told
         if (in_ == SeenIn::NavSig) {
-          name = SignalName(CodeOf(UbxCodes, system, signal), signal);
+          name = SignalOfUbx(satellite.system, signal);
         } else if (in_ == SeenIn::NavSvInfo) {
-          satellite = OverAll(number);
+          satellite = SatelliteOfChannel(number);
         } else if (in_ == SeenIn::Gsv) {
-          satellite = OfNmea(system, number);
-          if (signal != 0) name = SignalName(CodeOf(NmeaCodes, satellite.system, signal), signal);
+          satellite = SatelliteOfNmea(system, number);
+          if (signal != 0) name = SignalOfNmea(satellite.system, signal);
         }
         const double cn0 = static_cast<double>(sum.values) / (isUbx ? 1 : GsvUnits);
         gathered.Add(satellite, name, {sum.measured, sum.measured, cn0});

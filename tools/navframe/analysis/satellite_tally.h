@@ -50,8 +50,6 @@ struct Seen {
 };
 
 const char* NameOf(SeenIn in);
-// "GPS" of 'G'.
-const char* SystemName(char letter);
 
 class SatelliteTally {
  public:

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "analysis/signal_names.h"
 #include "commands/moments.h"
 
 namespace navframe::tool {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "analysis/signal_names.h"
 #include "commands/moments.h"
 #include "commands/text_table.h"
 #include "printable.h"
