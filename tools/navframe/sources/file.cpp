@@ -50,4 +50,13 @@ std::unique_ptr<Source> OpenFile(const std::string& name) {
   return Decompressed(std::make_unique<FileSource>(std::move(file), shown), shown);
 }
 
+bool IsSameFile(const std::string& one, const std::string& other) {
+  struct stat first {};
+  struct stat second {};
+  const bool isInput = one == "-";
+  return (isInput ? fstat(STDIN_FILENO, &first) : stat(one.c_str(), &first)) == 0 &&
+         stat(other.c_str(), &second) == 0 && first.st_dev == second.st_dev &&
+         first.st_ino == second.st_ino;
+}
+
 }  // namespace navframe::tool
