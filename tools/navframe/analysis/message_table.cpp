@@ -9,21 +9,6 @@ namespace {
 
 constexpr std::size_t Places = 4 * MessageTable::MostMessages;  // a power of two
 
-// What item.message stands for, as documents of the protocol write it.
-std::string MessageText(const NavframeItem& item) {
-  if (item.address[0] != '\0') return item.address;
-  std::array<char, 24> text{};
-  if (item.protocol == NavframeUbx) {
-    std::snprintf(text.data(), text.size(), "%02X-%02X", item.message >> 8 & 0xFF,
-                  item.message & 0xFF);
-  } else if (item.subType != 0) {
-    std::snprintf(text.data(), text.size(), "%u-%u", item.message, item.subType);
-  } else if (item.protocol != NavframeNmea && item.protocol != NavframeNmeaTagBlock) {
-    std::snprintf(text.data(), text.size(), "%u", item.message);
-  }
-  return text.data();
-}
-
 bool IsGsv(const NavframeKind& kind) { return std::string_view(kind.name).starts_with("GSV"); }
 
 std::uint64_t Mixed(std::uint64_t value) {
@@ -33,6 +18,20 @@ std::uint64_t Mixed(std::uint64_t value) {
 }
 
 }  // namespace
+
+std::string MessageText(const NavframeItem& frame) {
+  if (frame.address[0] != '\0') return frame.address;
+  std::array<char, 24> text{};
+  if (frame.protocol == NavframeUbx) {
+    std::snprintf(text.data(), text.size(), "%02X-%02X", frame.message >> 8 & 0xFF,
+                  frame.message & 0xFF);
+  } else if (frame.subType != 0) {
+    std::snprintf(text.data(), text.size(), "%u-%u", frame.message, frame.subType);
+  } else if (frame.protocol != NavframeNmea && frame.protocol != NavframeNmeaTagBlock) {
+    std::snprintf(text.data(), text.size(), "%u", frame.message);
+  }
+  return text.data();
+}
 
 MessageTable::MessageTable() : rows_(1), places_(Places), kindPlaces_(Places) {
   rows_[0].key.number = ~std::uint64_t{0};  // of no message

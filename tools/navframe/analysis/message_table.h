@@ -31,6 +31,9 @@ struct KindCount {
   Rhythm rhythm;
 };
 
+// What the message of a frame is called by the documents of its protocol, as Message::message.
+std::string MessageText(const NavframeItem& frame);
+
 // Messages by name; more of them than there is room for are counted together, as messages without
 // a name. Memory is taken for messages that come.
 class MessageTable {

@@ -1,6 +1,5 @@
 #include "commands/doctor.h"
 
-#include <new>
 #include <stdexcept>
 #include <vector>
 
