@@ -37,6 +37,9 @@ if(TARGET navframe_tool)
                                                      "$ORIGIN;$ORIGIN/${navframe_bin_to_lib}")
     endif()
   endif()
+  if(NAVFRAME_REPORT AND NAVFRAME_UPLOT_DIR) # which the tool contains then
+    install(FILES "${PROJECT_SOURCE_DIR}/NOTICE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+  endif()
   install(TARGETS navframe_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
   if(NOT CMAKE_CROSSCOMPILING)

@@ -49,6 +49,8 @@ ci_packages=(
   "openssl:command openssl"
   "iproute2:command ip"
   "util-linux:command unshare"
+  "npm:command npm"
+  "chromium:command chromium"
 )
 
 # What examples/archive run on; their tests are left out without.
@@ -158,6 +160,8 @@ become_root() {
 # build PRESET [target...]: everything without targets. Says little; output goes to stderr.
 build() {
   local tree=$root/build/$1 target=() said
+  # Without, the tool is built without reports.
+  have_command npm && { "$root/scripts/provide-uplot" || echo "No uPlot: no reports" >&2; }
   if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ]]; then
     echo "Building build/$1" >&2
     said=$(cd "$root" && cmake --preset "$1" 2>&1) || {

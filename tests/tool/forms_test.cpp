@@ -186,6 +186,7 @@ TEST_F(Forms, EveryCommandThatIsShownRuns) {
   readme << std::ifstream(Samples + "/../README.md").rdbuf();
   readme << std::ifstream(Samples + "/../docs/info.md").rdbuf();
   readme << std::ifstream(Samples + "/../docs/doctor.md").rdbuf();
+  readme << std::ifstream(Samples + "/../docs/report.md").rdbuf();
   const std::string help = Run("navframe --help", "").out;
   const std::string manual = Run("navframe --man", "").out;
   std::vector<std::string> commands = Commands(help, "  navframe ");
@@ -196,6 +197,10 @@ TEST_F(Forms, EveryCommandThatIsShownRuns) {
   }
   // Those of live sources are run where there is something that sends.
   std::erase_if(commands, [](const auto& command) { return command.find(":/") != command.npos; });
+#ifndef NAVFRAME_WITH_REPORT
+  std::erase_if(commands,
+                [](const auto& command) { return command.find(" report ") != command.npos; });
+#endif
   EXPECT_GT(commands.size(), 30U);
   const std::string set =
       "mkdir -p $DIR/work/logs && cd $DIR/work && cp " + Samples + "/drive.nmea . && cp " +

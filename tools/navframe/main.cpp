@@ -43,7 +43,7 @@ int Main(int argc, char** argv) {
   app.add_flag("--completion", wantsCompletion)->group("");
   app.require_subcommand(0, 1);  // behind one of them its name is that of a source
   const Command decode = AddDecode(app);
-  const Command others[] = {AddDoctor(app), AddInfo(app),    AddKinds(app),
+  const Command others[] = {AddDoctor(app), AddInfo(app),    AddKinds(app), AddReport(app),
                             AddRinex(app),  AddSources(app), AddTrack(app)};
   try {
     app.parse(argc, argv);

@@ -20,6 +20,7 @@ Command AddDecode(CLI::App& app);  // `navframe SOURCE...` takes what `navframe 
 Command AddDoctor(CLI::App& app);
 Command AddInfo(CLI::App& app);
 Command AddKinds(CLI::App& app);
+Command AddReport(CLI::App& app);
 Command AddSources(CLI::App& app);
 Command AddRinex(CLI::App& app);
 Command AddTrack(CLI::App& app);

@@ -32,6 +32,9 @@ constexpr Example Examples[] = {
     {"navframe info drive.ubx base.rtcm3", "what they hold, each and together"},
     {"navframe info --json drive.ubx", "the same for programs"},
     {"navframe track drive.ubx --output drive.gpx", "where the receiver was"},
+#ifdef NAVFRAME_WITH_REPORT
+    {"navframe report drive.ubx --output drive.html", "all of that as a page with charts"},
+#endif
     {"navframe doctor drive.nmea", "whether it is healthy"},
     {"navframe doctor drive.nmea --repair whole.nmea", "without added CRs and heads of chunks"},
     {"navframe sources ntrip://caster.example", "the mountpoints of a caster"},

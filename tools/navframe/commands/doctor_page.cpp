@@ -105,6 +105,7 @@ class Page {
     }
   }
 
+ public:
   static std::string Sentence(const Finding& finding) {
     const std::uint64_t places = finding.places;
     switch (finding.cause) {
@@ -235,6 +236,7 @@ class Page {
     return text + (place.isAll ? ": of all that come regularly" : "");
   }
 
+ private:
   void Tell(const Repaired& repaired) {
     if (repaired.name.empty()) return;
     out_ += "\n" + repaired.name;
@@ -262,5 +264,8 @@ void AppendDoctorPage(const std::string& heading, const Diagnosis& diagnosis,
                       const Repaired& repaired, std::string& out) {
   Page(diagnosis, out).Append(heading, repaired);
 }
+
+std::string SentenceOf(const Finding& finding) { return Page::Sentence(finding); }
+std::string EvidenceOf(Cause cause, const Place& place) { return Page::What(cause, place); }
 
 }  // namespace navframe::tool

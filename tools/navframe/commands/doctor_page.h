@@ -18,6 +18,10 @@ struct Repaired {
 
 void AppendDoctorPage(const std::string& heading, const analysis::Diagnosis& diagnosis,
                       const Repaired& repaired, std::string& out);
+// What that page says of a finding, and of one of its places.
+std::string SentenceOf(const analysis::Finding& finding);
+std::string EvidenceOf(analysis::Cause cause, const analysis::Place& place);
+
 std::string DoctorJson(const std::string& source, const analysis::Diagnosis& diagnosis,
                        const Repaired& repaired);
 

@@ -3,6 +3,7 @@
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <cstdint>
 #include <string>
@@ -13,10 +14,9 @@
 
 namespace navframe::tool {
 
-class JsonWriter : public Members {
+template <class Writer>
+class BasicJsonWriter : public Members {
  public:
-  JsonWriter() { json_.SetIndent(' ', 2); }
-
   void Text(const char* name, std::string_view text) override {
     Name(name);
     quoted_.clear();
@@ -63,8 +63,18 @@ class JsonWriter : public Members {
   }
 
   rapidjson::StringBuffer text_;
-  rapidjson::PrettyWriter<rapidjson::StringBuffer> json_{text_};
   std::string quoted_;
+
+ protected:
+  Writer json_{text_};
 };
+
+class JsonWriter : public BasicJsonWriter<rapidjson::PrettyWriter<rapidjson::StringBuffer>> {
+ public:
+  JsonWriter() { json_.SetIndent(' ', 2); }
+};
+
+// All of it on one line.
+using DenseJsonWriter = BasicJsonWriter<rapidjson::Writer<rapidjson::StringBuffer>>;
 
 }  // namespace navframe::tool

@@ -5,7 +5,7 @@
 #include "commands/moments.h"
 #include "commands/track.h"
 #include "commands/track_form.h"
-#include "printable.h"
+#include "markup.h"
 
 namespace navframe::tool {
 namespace {
@@ -13,25 +13,6 @@ namespace {
 using analysis::Fix;
 using analysis::FixQuality;
 using analysis::FixSource;
-
-// Text of XML: control characters, which it cannot have, as others show them.
-std::string Escaped(std::string_view text) {
-  std::string printable;
-  AppendPrintable(text, printable);
-  std::string out;
-  for (const char c : printable) {
-    if (c == '&') {
-      out += "&amp;";
-    } else if (c == '<') {
-      out += "&lt;";
-    } else if (c == '>') {
-      out += "&gt;";
-    } else {
-      out += c;
-    }
-  }
-  return out;
-}
 
 // What the schema has for it; empty for others.
 const char* FixOf(const Fix& fix) {
@@ -51,7 +32,7 @@ const char* FixOf(const Fix& fix) {
 
 class Gpx : public TrackForm {
  public:
-  Gpx(const std::string& name, Output& output) : name_(Escaped(name)), output_(output) {}
+  Gpx(const std::string& name, Output& output) : name_(EscapedMarkup(name)), output_(output) {}
 
   void Take(const TrackPoint& point, bool isFirst) override {
     const Fix& fix = point.fix;
