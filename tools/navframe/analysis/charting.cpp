@@ -138,6 +138,7 @@ void Charting::See(SeenIn in, const NavframeItem& item) {
     useIn_ = in;
   }
   const std::size_t bin = BinAt(x_);
+  begins_.Add(bin, {x_});  // which a record at the end is the first one of
   for (const Sighting& sighting : sightings_) {
     if (hasStrengths) {
       Count(sighting.satellite, !std::isnan(sighting.cn0), received_);

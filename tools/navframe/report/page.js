@@ -2,15 +2,16 @@
 // A chart for each system, all of them with one scale.
 function Strengths(together, strengths) {
   const charts = new Map();
+  const values = strengths.signals.flatMap(({cn0}) => [...cn0.least ?? [], ...cn0.most ?? []])
+    .filter((value) => value !== null);
+  if (values.length === 0) return [];
   for (const {system, signal, cn0} of strengths.signals) {
     if (!charts.has(system)) charts.set(system, new Chart(together, system, "C/N0 [dB-Hz]"));
     const chart = charts.get(system);
     chart.AddLine(signal === null ? system : signal, ColourName[system] ?? "other",
       Dashes[chart.lines.length % Dashes.length], cn0);
   }
-  const values = strengths.signals.flatMap(({cn0}) => [...cn0.least, ...cn0.most ?? []])
-    .filter((value) => value !== null);
-  const least = 5 * Math.floor(values.reduce((a, b) => Math.min(a, b), 60) / 5);
+  const least = 5 * Math.floor(values.reduce((a, b) => Math.min(a, b)) / 5);
   const most = 5 * Math.ceil(values.reduce((a, b) => Math.max(a, b), 0) / 5);
   for (const chart of charts.values()) {
     chart.Range = () => [least, Math.max(most, least + 5)];

@@ -84,21 +84,27 @@ function Figures(info) {
       more ? Element("dd", {class: "more"}, more) : null)));
 }
 
-const RateColumns = [
-  ["count", (one) => Count(one.count), true],
-  ["Hz", (one) => Fixed(one.rate_hz, 3), true],
-  ["first (UTC)", (one) => ClockOf(one.first_utc) || Fixed(one.first_s, 1)],
-  ["last (UTC)", (one) => ClockOf(one.last_utc) || Fixed(one.last_s, 1)],
-  ["usual interval, s", (one) => Fixed(one.usual_interval_s, 3), true],
-  ["longest gap, s", (one) => Fixed(one.longest_gap_s, 3), true],
-  ["from (UTC)", (one) => ClockOf(one.longest_gap_from_utc)],
-];
+// Without a date times count from the beginning.
+function RateColumns({time}) {
+  const unit = time.first_utc === null ? "s" : "UTC";
+  const moment = (utc, seconds) => (unit === "s" ? Fixed(seconds, 3) : ClockOf(utc));
+  return [
+    ["count", (one) => Count(one.count), true],
+    ["Hz", (one) => Fixed(one.rate_hz, 3), true],
+    [`first (${unit})`, (one) => moment(one.first_utc, one.first_s), true],
+    [`last (${unit})`, (one) => moment(one.last_utc, one.last_s), true],
+    ["usual interval (s)", (one) => Fixed(one.usual_interval_s, 3), true],
+    ["longest gap (s)", (one) => Fixed(one.longest_gap_s, 3), true],
+    [`from (${unit})`, (one) => moment(one.longest_gap_from_utc, one.longest_gap_from_s), true],
+  ];
+}
 
 function Messages(info) {
   const bad = info.messages.some((one) => one.bad_content + one.bad_field > 0);
   return Table("Messages", [["protocol", (one) => one.protocol], ["message", (one) => one.message],
     ["name", (one) => one.name],
-    ["records", (one) => (one.undecoded ? "not decoded" : one.kinds.join(", "))], ...RateColumns,
+    ["records", (one) => (one.undecoded ? "not decoded" : one.kinds.join(", "))],
+    ...RateColumns(info),
     ["bytes", (one) => Count(one.bytes), true],
     ...(bad ? [["malformed", (one) => one.bad_content + one.bad_field || "", true]] : [])],
   info.messages);
@@ -112,7 +118,7 @@ function Tables(info) {
   };
   if (info.messages.length > 0) tables.push(Section("Messages", Messages(info)));
   add("Kinds of records", [["kind", (one) => one.kind], ["what it is", (one) => one.description],
-    ...RateColumns], info.kinds);
+    ...RateColumns(info)], info.kinds);
   const strength = [["count", (one) => Count(one.count), true],
     ["mean C/N0, dB-Hz", (one) => Fixed(one.mean_cn0_dbhz, 1), true]];
   add("Signals", [["system", (one) => one.system], ["signal", (one) => one.signal], ...strength],
