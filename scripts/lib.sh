@@ -162,7 +162,8 @@ build() {
   local tree=$root/build/$1 target=() said
   # Without, the tool is built without reports.
   have_command npm && { "$root/scripts/provide-uplot" || echo "No uPlot: no reports" >&2; }
-  if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ]]; then
+  if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ||
+    $root/build/npm/package-lock.json -nt $tree/build.ninja ]]; then
     echo "Building build/$1" >&2
     said=$(cd "$root" && cmake --preset "$1" 2>&1) || {
       printf '%s\n' "$said" >&2

@@ -76,6 +76,21 @@ class Content(unittest.TestCase):
             self.assertEqual(recording["info"], json.loads(Run("info", "--json", sample)[1]))
             self.assertEqual(recording["doctor"], json.loads(Run("doctor", "--json", sample)[1]))
 
+    def test_AxisIsTheBestThatIsKnown(self):
+        def Fix(second, days=()):
+            clock = f"{second // 3600:02}{second // 60 % 60:02}{second % 60:02}.00"
+            return b"".join(
+                [wire.nmea_sentence(f"GPZDA,{clock},{day:02},03,2026,00,00") for day in days] +
+                [wire.nmea_sentence(f"GPGGA,{clock},4530.0,N,00730.0,E,1,08,1.0,200.0,M,48.0,M,,")])
+        rest = b"".join(Fix(second) for second in range(41, 50))
+        for data, kind, origin, end in (
+                (Fix(40, [2]) + rest, "utc", 1772409640000, 9000),
+                (Fix(40) + rest, "day", 40000, 9000),
+                (Fix(40, [2]) + rest + Fix(49, [9]) + Fix(40, [2]) + rest, "elapsed", 0, 18000),
+                (10 * wire.ubx_frame(0x0A, 0x38, bytes(8)), "bytes", 0, 144)):
+            axis = Report(data=data).recordings[0]["charts"]["axis"]
+            self.assertEqual((axis["kind"], axis["origin"], axis["x"][-1]), (kind, origin, end))
+
     def test_InputIsNoMarkup(self):
         with tempfile.TemporaryDirectory() as folder:
             path = Path(folder, "<img src=x:y>&amp;\n\xe4.ubx")
