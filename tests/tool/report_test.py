@@ -133,8 +133,8 @@ def Hour(weak, far, few, gap):
     rng = random.Random(1)
     signals = bytearray(8 + 16 * 30)
     for i in range(30):
-        struct.pack_into("<BBBBhBBBBH4x", signals, 8 + 16 * i, (0, 2, 6)[i % 3], 1 + i // 3, 0, 0, 0, 0, 7,
-                         0, 0, 0x29)
+        struct.pack_into("<BBBBhBBBBH4x", signals, 8 + 16 * i, (0, 2, 6)[i % 3], 1 + i // 3, 0, 0, 0,
+                         0, 7, 0, 0, 0x29)
     frames = []
     for epoch in range(36_000):
         if epoch in gap:
@@ -143,8 +143,8 @@ def Hour(weak, far, few, gap):
         second = ms // 1000 - 18 - 86_400
         east = 4000 if epoch == far else rng.randrange(-500, 500)
         frames.append(Ubx(7, struct.pack(
-            "<IHBBBBBBIiBBBBiiii52x", ms, 2026, 3, 2, second // 3600, second // 60 % 60, second % 60,
-            7, 50, ms % 1000 * 10**6, 3, 1, 0, 5 if epoch == few else rng.randrange(20, 26),
+            "<IHBBBBBBIiBBBBiiii52x", ms, 2026, 3, 2, second // 3600, second // 60 % 60,
+            second % 60, 7, 50, ms % 1000 * 10**6, 3, 1, 0, 5 if epoch == few else rng.randrange(20, 26),
             east, rng.randrange(-500, 500), 100_000, 50_000)))
         struct.pack_into("<IBB", signals, 0, ms, 0, 30)
         for i in range(30):
@@ -242,8 +242,8 @@ class Shown(unittest.TestCase):
             self.assertLessEqual(show.value("document.documentElement.scrollWidth"), width)
             back = show.value("getComputedStyle(document.body).backgroundColor")
             self.assertEqual(int(back[4:].split(",")[0]) < 100, scheme == "dark")
-            self.assertEqual([one["request"]["url"] for one in show.of("Network.requestWillBeSent")],
-                             [self.address])
+            requests = show.of("Network.requestWillBeSent")
+            self.assertEqual([one["request"]["url"] for one in requests], [self.address])
             self.assertEqual(show.of("Runtime.exceptionThrown", "Runtime.consoleAPICalled",
                                      "Log.entryAdded"), [])
 

@@ -1,14 +1,14 @@
 // Charts over time, all of them with one axis: what is chosen on one is shown by all.
 const Dashes = [[], [7, 4], [2, 3], [9, 3, 2, 3], [14, 4], [4, 4, 1, 4]];
 
-// The common axis, and the values that stand on it. A break of the recording has a place of its own,
-// where nothing has a value.
+// The common axis, and the values that stand on it. A break of the recording has a place of its
+// own, where nothing has a value.
 class Axis {
   constructor(axis) {
     this.kind = axis.kind;
     const scale = axis.kind === "bytes" ? 1 : 1000;
     const places = axis.x.map((x) => (axis.origin + x) / scale);
-    const pause = 2.5 * Axis.Median(places) + 2 * axis.width / scale;
+    const pause = 2.5 * Axis.Median(places) + (2 * axis.width) / scale;
     this.places = [];
     this.from = []; // the number that each of them has in the recording, -1 of a break
     places.forEach((place, i) => {
@@ -29,13 +29,16 @@ class Axis {
   }
 
   static Median(places) {
-    const steps = places.slice(1).map((place, i) => place - places[i]).sort((a, b) => a - b);
+    const steps = places
+      .slice(1)
+      .map((place, i) => place - places[i])
+      .sort((a, b) => a - b);
     return steps[Math.floor(steps.length / 2)] ?? 0;
   }
 
   // Values on the axis: null where a line breaks, undefined where it goes on without one.
   Values(values) {
-    const on = this.from.map((from) => (from < 0 ? null : values[from] ?? null));
+    const on = this.from.map((from) => (from < 0 ? null : (values[from] ?? null)));
     const known = on.flatMap((value, i) => (value === null ? [] : [i]));
     const pause = 2.5 * Axis.Median(known.map((i) => this.places[i])) + 2 * this.width;
     for (let i = 1; i < known.length; ++i) {
@@ -71,7 +74,7 @@ class Together {
   // Around the middle, or along the axis by a part of what is seen.
   Zoom(factor) {
     const {min, max} = this.charts[0].plot.scales.x;
-    const [middle, half] = [(min + max) / 2, (max - min) / 2 * factor];
+    const [middle, half] = [(min + max) / 2, ((max - min) / 2) * factor];
     this.Show(middle - half, middle + half);
   }
   Move(part) {
@@ -84,8 +87,12 @@ class Together {
 
   Key(event, chart) {
     const keys = {
-      "+": () => this.Zoom(0.5), "=": () => this.Zoom(0.5), "-": () => this.Zoom(2),
-      "0": () => this.All(), ArrowLeft: () => chart.Step(-1), ArrowRight: () => chart.Step(1),
+      "+": () => this.Zoom(0.5),
+      "=": () => this.Zoom(0.5),
+      "-": () => this.Zoom(2),
+      0: () => this.All(),
+      ArrowLeft: () => chart.Step(-1),
+      ArrowRight: () => chart.Step(1),
     };
     if (event.shiftKey) {
       keys.ArrowLeft = () => this.Move(-0.25);
@@ -99,18 +106,27 @@ class Together {
   Tools() {
     const button = (text, label, act) =>
       Element("button", {type: "button", "aria-label": label, title: label, onclick: act}, text);
-    return Element("div", {class: "tools", role: "toolbar", "aria-label": "Time shown by all charts"},
-      button("+", "Zoom in", () => this.Zoom(0.5)), button("−", "Zoom out", () => this.Zoom(2)),
-      button("←", "Earlier", () => this.Move(-0.25)), button("→", "Later", () => this.Move(0.25)),
+    return Element(
+      "div",
+      {class: "tools", role: "toolbar", "aria-label": "Time shown by all charts"},
+      button("+", "Zoom in", () => this.Zoom(0.5)),
+      button("−", "Zoom out", () => this.Zoom(2)),
+      button("←", "Earlier", () => this.Move(-0.25)),
+      button("→", "Later", () => this.Move(0.25)),
       button("All", "All of the recording", () => this.All()),
-      Element("span", {class: "hint"},
-        "Drag over a chart to zoom. Keys on a chart: ← → values, shift ← → move, + − zoom, 0 all."));
+      Element(
+        "span",
+        {class: "hint"},
+        "Drag over a chart to zoom. Keys on a chart: ← → values, shift ← → move, + − zoom, 0 all.",
+      ),
+    );
   }
 
   Draw() {
     const shown = this.charts[0]?.plot?.scales.x;
     const [min, max] = [shown?.min, shown?.max];
-    for (const chart of this.charts) chart.Draw(Math.max(Math.floor(chart.canvas.clientWidth), 260));
+    for (const chart of this.charts)
+      chart.Draw(Math.max(Math.floor(chart.canvas.clientWidth), 260));
     if (min !== undefined && min !== null) this.Show(min, max);
   }
 }
@@ -128,11 +144,19 @@ class Chart {
     this.legend = Element("div", {class: "legend"});
     this.time = Element("span", {class: "time", "aria-live": "off"});
     this.canvas = Element("div", {
-      class: "canvas", tabindex: "0", role: "application", "aria-label": `${title}: chart`,
+      class: "canvas",
+      tabindex: "0",
+      role: "application",
+      "aria-label": `${title}: chart`,
       onkeydown: (event) => together.Key(event, this),
     });
-    this.figure = Element("figure", {class: "chart"},
-      Element("figcaption", {}, Element("h3", {}, title), this.time), this.canvas, this.legend);
+    this.figure = Element(
+      "figure",
+      {class: "chart"},
+      Element("figcaption", {}, Element("h3", {}, title), this.time),
+      this.canvas,
+      this.legend,
+    );
     together.charts.push(this);
   }
 
@@ -141,19 +165,34 @@ class Chart {
     const {axis} = this.together;
     const line = {name, colour, dash, options, isShown: true, isBand: extents.most !== undefined};
     line.at = this.data.length;
-    this.data.push(axis.Values(options.isMost ? extents.most ?? extents.least
-                                              : extents.mean ?? extents.least));
+    this.data.push(
+      axis.Values(
+        options.isMost ? (extents.most ?? extents.least) : (extents.mean ?? extents.least),
+      ),
+    );
     if (line.isBand) this.data.push(axis.Values(extents.least), axis.Values(extents.most));
     line.value = Element("output", {});
-    line.button = Element("button", {type: "button", "aria-pressed": "true", onclick: () => {
-      line.isShown = !line.isShown;
-      line.button.setAttribute("aria-pressed", String(line.isShown));
-      for (let i = 0; i < (line.isBand ? 3 : 1); ++i) {
-        this.plot.setSeries(line.at + i, {show: line.isShown});
-      }
-    }}, Svg("svg", {class: "swatch", width: 26, height: 10, "aria-hidden": "true"},
-      Svg("path", {d: "M1 5H25", class: `line-${colour}`, "stroke-dasharray": dash.join(" ")})),
-    name, line.value);
+    line.button = Element(
+      "button",
+      {
+        type: "button",
+        "aria-pressed": "true",
+        onclick: () => {
+          line.isShown = !line.isShown;
+          line.button.setAttribute("aria-pressed", String(line.isShown));
+          for (let i = 0; i < (line.isBand ? 3 : 1); ++i) {
+            this.plot.setSeries(line.at + i, {show: line.isShown});
+          }
+        },
+      },
+      Svg(
+        "svg",
+        {class: "swatch", width: 26, height: 10, "aria-hidden": "true"},
+        Svg("path", {d: "M1 5H25", class: `line-${colour}`, "stroke-dasharray": dash.join(" ")}),
+      ),
+      name,
+      line.value,
+    );
     this.legend.append(line.button);
     this.lines.push(line);
   }
@@ -161,13 +200,21 @@ class Chart {
   Series() {
     const series = [{}];
     const bands = [];
-    const alpha = Math.round(60 / Math.sqrt(this.lines.length)).toString(16).padStart(2, "0");
+    const alpha = Math.round(60 / Math.sqrt(this.lines.length))
+      .toString(16)
+      .padStart(2, "0");
     for (const line of this.lines) {
       const paths = line.options.isStepped ? uPlot.paths.stepped({align: 1}) : undefined;
       const colour = Style(line.colour);
       const show = line.isShown;
-      series.push({show, paths, stroke: colour, dash: line.dash, width: line.options.width ?? 1.5,
-        points: {show: Chart.IsSparse(this.data[line.at]), size: 4}});
+      series.push({
+        show,
+        paths,
+        stroke: colour,
+        dash: line.dash,
+        width: line.options.width ?? 1.5,
+        points: {show: Chart.IsSparse(this.data[line.at]), size: 4},
+      });
       if (!line.isBand) continue;
       for (let i = 0; i < 2; ++i) {
         series.push({show, paths, stroke: "transparent", width: 0, points: {show: false}});
@@ -187,8 +234,14 @@ class Chart {
     const font = "12px system-ui, sans-serif";
     const common = {stroke, grid, ticks: grid, font, labelFont: font};
     return [
-      {...common, space: 90, label: AxisName[kind], labelSize: 18, size: 30,
-        values: (plot, places) => Chart.Ticks(kind, places)},
+      {
+        ...common,
+        space: 90,
+        label: AxisName[kind],
+        labelSize: 18,
+        size: 30,
+        values: (plot, places) => Chart.Ticks(kind, places),
+      },
       {...common, label: this.label, labelSize: 18, size: 46, incrs: [1, 2, 5, 10, 20, 50]},
     ];
   }
@@ -210,12 +263,26 @@ class Chart {
   Options(width) {
     const {axis} = this.together;
     return {
-      width, height: this.height, padding: [10, 30, 0, 0], ...this.Series(), axes: this.Axes(), legend: {show: false},
+      width,
+      height: this.height,
+      padding: [10, 30, 0, 0],
+      ...this.Series(),
+      axes: this.Axes(),
+      legend: {show: false},
       tzDate: (seconds) => uPlot.tzDate(new Date(seconds * 1000), "Etc/UTC"),
-      scales: {x: {time: axis.kind !== "bytes", range: (plot, min, max) =>
-        [min ?? axis.begin, max ?? axis.end]}, y: {range: this.Range}},
-      cursor: {y: false, drag: {x: true, y: false, setScale: true}, points: {size: 6},
-        sync: {key: "time", setSeries: false}},
+      scales: {
+        x: {
+          time: axis.kind !== "bytes",
+          range: (plot, min, max) => [min ?? axis.begin, max ?? axis.end],
+        },
+        y: {range: this.Range},
+      },
+      cursor: {
+        y: false,
+        drag: {x: true, y: false, setScale: true},
+        points: {size: 6},
+        sync: {key: "time", setSeries: false},
+      },
       hooks: {
         setScale: [(plot, key) => key === "x" && this.plot === plot && this.together.Follow(plot)],
         setCursor: [() => this.Read()],
@@ -259,7 +326,8 @@ class Chart {
   Step(by) {
     const {plot} = this;
     const {places} = this.together.axis;
-    const last = plot.cursor.idx ?? (by > 0 ? plot.series[0].idxs[0] - 1 : plot.series[0].idxs[1] + 1);
+    const last =
+      plot.cursor.idx ?? (by > 0 ? plot.series[0].idxs[0] - 1 : plot.series[0].idxs[1] + 1);
     const at = Math.min(Math.max(last + by, 0), places.length - 1);
     if (places[at] < plot.scales.x.min) this.together.Move(-0.5);
     if (places[at] > plot.scales.x.max) this.together.Move(0.5);

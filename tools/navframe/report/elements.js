@@ -20,11 +20,28 @@ const Style = (name) =>
 
 // The colour of a system, of a protocol or of a quality: a custom property of the style.
 const ColourName = {
-  GPS: "gps", GLONASS: "glonass", Galileo: "galileo", BeiDou: "beidou", QZSS: "qzss", NavIC: "navic",
-  SBAS: "sbas", NMEA: "gps", "NMEA tag block": "qzss", "RTCM 3": "galileo", UBX: "glonass",
-  "55AA": "beidou", "ASCII log": "navic", "RTK fixed": "galileo", "RTK float": "navic",
-  precise: "qzss", differential: "gps", autonomous: "glonass", estimated: "beidou", manual: "other",
-  simulated: "other", "not told": "other",
+  GPS: "gps",
+  GLONASS: "glonass",
+  Galileo: "galileo",
+  BeiDou: "beidou",
+  QZSS: "qzss",
+  NavIC: "navic",
+  SBAS: "sbas",
+  NMEA: "gps",
+  "NMEA tag block": "qzss",
+  "RTCM 3": "galileo",
+  UBX: "glonass",
+  "55AA": "beidou",
+  "ASCII log": "navic",
+  "RTK fixed": "galileo",
+  "RTK float": "navic",
+  precise: "qzss",
+  differential: "gps",
+  autonomous: "beidou",
+  estimated: "glonass",
+  manual: "other",
+  simulated: "other",
+  "not told": "other",
 };
 const ColourOf = (name) => Style(ColourName[name] ?? "other");
 
@@ -34,10 +51,20 @@ const Note = (text) => Element("p", {class: "note"}, text);
 // A table that scrolls by itself. Columns are [heading, text of a row, is a number].
 function Table(label, columns, rows) {
   const head = columns.map(([name, , isNumber]) =>
-    Element("th", {scope: "col", class: isNumber ? "number" : null}, name));
-  const body = rows.map((row) => Element("tr", {}, columns.map(([, text, isNumber]) =>
-    Element("td", {class: isNumber ? "number" : null}, String(text(row) ?? "")))));
-  return Element("div", {class: "scroll", tabindex: "0", role: "region", "aria-label": label},
-    Element("table", {}, Element("thead", {}, Element("tr", {}, head)),
-      Element("tbody", {}, body)));
+    Element("th", {scope: "col", class: isNumber ? "number" : null}, name),
+  );
+  const body = rows.map((row) =>
+    Element(
+      "tr",
+      {},
+      columns.map(([, text, isNumber]) =>
+        Element("td", {class: isNumber ? "number" : null}, String(text(row) ?? "")),
+      ),
+    ),
+  );
+  return Element(
+    "div",
+    {class: "scroll", tabindex: "0", role: "region", "aria-label": label},
+    Element("table", {}, Element("thead", {}, Element("tr", {}, head)), Element("tbody", {}, body)),
+  );
 }

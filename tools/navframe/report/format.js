@@ -1,7 +1,8 @@
 // Numbers and times as texts.
 const Count = (count) => count.toLocaleString("en-US");
 const Plural = (count, one) => `${Count(count)} ${one}${count === 1 ? "" : "s"}`;
-const Fixed = (number, digits) => (number === null || number === undefined ? "" : number.toFixed(digits));
+const Fixed = (number, digits) =>
+  number === null || number === undefined ? "" : number.toFixed(digits);
 const Percent = (share, digits = 1) => `${(100 * share).toFixed(digits)} %`;
 
 function Bytes(bytes) {
@@ -15,7 +16,12 @@ function Bytes(bytes) {
 function Duration(seconds) {
   if (seconds === null) return "";
   if (seconds < 60) return `${Number(seconds.toFixed(3))} s`;
-  const parts = [[86400, "d"], [3600, "h"], [60, "min"], [1, "s"]];
+  const parts = [
+    [86400, "d"],
+    [3600, "h"],
+    [60, "min"],
+    [1, "s"],
+  ];
   const first = parts.findIndex(([size]) => seconds >= size);
   const [large, small] = [parts[first], parts[first + 1]];
   const count = Math.floor(seconds / large[0]);
@@ -36,8 +42,14 @@ function PlaceText(kind, value, step = 0.001) {
   const ms = Math.round(value * 1000);
   const two = (number) => String(number).padStart(2, "0");
   const hours = Math.floor(ms / 3600000);
-  const text = `${two(kind === "day" ? hours % 24 : hours)}:${two(Math.floor(ms / 60000) % 60)}:` +
-      `${two(Math.floor(ms / 1000) % 60)}.${String(ms % 1000).padStart(3, "0")}`;
+  const text =
+    `${two(kind === "day" ? hours % 24 : hours)}:${two(Math.floor(ms / 60000) % 60)}:` +
+    `${two(Math.floor(ms / 1000) % 60)}.${String(ms % 1000).padStart(3, "0")}`;
   return text.slice(0, text.length - 12 + end);
 }
-const AxisName = {utc: "UTC", day: "UTC", elapsed: "since the beginning", bytes: "offset in the file"};
+const AxisName = {
+  utc: "UTC",
+  day: "UTC",
+  elapsed: "since the beginning",
+  bytes: "offset in the file",
+};

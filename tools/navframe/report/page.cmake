@@ -1,5 +1,5 @@
-# The page of `navframe report`: the files of this folder and uPlot's, which comes by npm, become one
-# source file. Builds without a network bring a folder of that package, or do without.
+# The page of `navframe report`: the files of this folder and uPlot's, which comes by npm, become
+# one source file. Builds without a network bring a folder of that package, or do without.
 set(NAVFRAME_REPORT
     AUTO
     CACHE STRING "Build navframe report: AUTO where uPlot is found, ON or OFF")

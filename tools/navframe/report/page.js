@@ -2,14 +2,19 @@
 // A chart for each system, all of them with one scale.
 function Strengths(together, strengths) {
   const charts = new Map();
-  const values = strengths.signals.flatMap(({cn0}) => [...cn0.least ?? [], ...cn0.most ?? []])
+  const values = strengths.signals
+    .flatMap(({cn0}) => [...(cn0.least ?? []), ...(cn0.most ?? [])])
     .filter((value) => value !== null);
   if (values.length === 0) return [];
   for (const {system, signal, cn0} of strengths.signals) {
     if (!charts.has(system)) charts.set(system, new Chart(together, system, "C/N0 [dB-Hz]"));
     const chart = charts.get(system);
-    chart.AddLine(signal === null ? system : signal, ColourName[system] ?? "other",
-      Dashes[chart.lines.length % Dashes.length], cn0);
+    chart.AddLine(
+      signal === null ? system : signal,
+      ColourName[system] ?? "other",
+      Dashes[chart.lines.length % Dashes.length],
+      cn0,
+    );
   }
   const least = 5 * Math.floor(values.reduce((a, b) => Math.min(a, b)) / 5);
   const most = 5 * Math.ceil(values.reduce((a, b) => Math.max(a, b), 0) / 5);
@@ -24,25 +29,40 @@ function Satellites(together, satellites) {
   const isUsed = satellites.systems.some((one) => one.used);
   const rows = satellites.systems.filter((one) => one.used === isUsed);
   if (rows.length === 0 && satellites.used.least === undefined) return null;
-  const chart = new Chart(together, satellites.used.least === undefined && !isUsed
-    ? "Satellites received" : "Satellites used", "satellites");
+  const chart = new Chart(
+    together,
+    satellites.used.least === undefined && !isUsed ? "Satellites received" : "Satellites used",
+    "satellites",
+  );
   chart.Range = (plot, min, max) => [0, Math.max(4, (max ?? 0) * 1.08)];
   const options = {isStepped: true, isMost: true};
   if (satellites.used.least !== undefined) {
     chart.AddLine("in the solution", "text", [], satellites.used, {...options, width: 2});
   }
   for (const {system, count} of rows) {
-    chart.AddLine(`${system}${isUsed ? "" : ", received"}`, ColourName[system] ?? "other",
-      isUsed ? [] : Dashes[1], count, options);
+    chart.AddLine(
+      `${system}${isUsed ? "" : ", received"}`,
+      ColourName[system] ?? "other",
+      isUsed ? [] : Dashes[1],
+      count,
+      options,
+    );
   }
   return chart;
 }
 
 // [begin, end, colour, text] of each place of damage.
 function Damage(axis, doctor, damage) {
-  return damage.flatMap(({cause, places, evidence}, i) => (doctor.findings[i].harmless ? []
-    : Timeline.Pairs(places).map(([begin, end], j) => [axis.At(begin), axis.At(end),
-      cause === "gap" ? "warn" : "bad", `${cause}${evidence[j] ? `, ${evidence[j]}` : ""}`])));
+  return damage.flatMap(({cause, places, evidence}, i) =>
+    doctor.findings[i].harmless
+      ? []
+      : Timeline.Pairs(places).map(([begin, end], j) => [
+          axis.At(begin),
+          axis.At(end),
+          cause === "gap" ? "warn" : "bad",
+          `${cause}${evidence[j] ? `, ${evidence[j]}` : ""}`,
+        ]),
+  );
 }
 
 function TimeCharts({charts, doctor}) {
@@ -53,21 +73,41 @@ function TimeCharts({charts, doctor}) {
   const strengths = Strengths(together, charts.strengths);
   const satellites = Satellites(together, charts.satellites);
   for (const chart of together.charts) chart.marks = marks;
-  const timeline = new Timeline(together, charts.messages, marks, charts.outside,
-    doctor.healthy);
+  const timeline = new Timeline(together, charts.messages, marks, charts.outside, doctor.healthy);
   const notes = [];
   if (charts.axis.kind === "bytes") {
     notes.push(Note("The recording tells no time: charts are drawn over the offset in the file."));
   }
   if (charts.axis.jumps > 0) {
-    notes.push(Note(`The clock jumps ${charts.axis.jumps === 1 ? "once" : `${charts.axis.jumps} times`}: ` +
-      "charts leave that out, and show the time since the beginning."));
+    notes.push(
+      Note(
+        `The clock jumps ${charts.axis.jumps === 1 ? "once" : `${charts.axis.jumps} times`}: ` +
+          "charts leave that out, and show the time since the beginning.",
+      ),
+    );
   }
-  return [together, Section("Over time", notes, together.Tools(),
-    strengths.length === 0 ? Note("The recording tells no C/N0.")
-      : Element("h3", {class: "group"}, "C/N0 by signal: mean of the satellites, with the least and the most"),
-    Element("div", {class: "charts"}, strengths.map((chart) => chart.figure)),
-    satellites?.figure, timeline.figure)];
+  return [
+    together,
+    Section(
+      "Over time",
+      notes,
+      together.Tools(),
+      strengths.length === 0
+        ? Note("The recording tells no C/N0.")
+        : Element(
+            "h3",
+            {class: "group"},
+            "C/N0 by signal: mean of the satellites, with the least and the most",
+          ),
+      Element(
+        "div",
+        {class: "charts"},
+        strengths.map((chart) => chart.figure),
+      ),
+      satellites?.figure,
+      timeline.figure,
+    ),
+  ];
 }
 
 function Views({charts, info}) {
@@ -79,14 +119,30 @@ function Views({charts, info}) {
     if (hasTrack) track.replaceChildren(TrackView(charts.track, Math.max(track.clientWidth, 280)));
     if (hasSky) sky.replaceChildren(SkyView(charts.sky, Math.max(sky.clientWidth, 280)));
   };
-  const element = Element("div", {class: "views"},
-    Section("Track", hasTrack
-      ? Note(`${Plural(charts.track.points, "position")} of ${info.position.source}; gaps are not joined.`)
-      : Note("The recording has no positions of the receiver."),
-    track, hasTrack ? TrackLegend(charts.track) : null),
-    Section("Sky", hasSky ? Note(`As ${charts.sky.from} tells; names stand where satellites were last.`)
-      : Note("The recording does not tell where satellites stand: it has no GSV, NAV-SAT or NAV-SVINFO."),
-    sky, hasSky ? SkyLegend(charts.sky) : null));
+  const element = Element(
+    "div",
+    {class: "views"},
+    Section(
+      "Track",
+      hasTrack
+        ? Note(
+            `${Plural(charts.track.points, "position")}, of ${info.position.source} at best.`,
+          )
+        : Note("The recording has no positions of the receiver."),
+      track,
+      hasTrack ? TrackLegend(charts.track) : null,
+    ),
+    Section(
+      "Sky",
+      hasSky
+        ? Note(`As ${charts.sky.from} tells; names stand where satellites were last.`)
+        : Note(
+            "The recording does not tell where satellites stand: no GSV, NAV-SAT, NAV-SVINFO.",
+          ),
+      sky,
+      hasSky ? SkyLegend(charts.sky) : null,
+    ),
+  );
   return [element, draw];
 }
 
@@ -98,11 +154,25 @@ class Page {
     this.buttons = recordings.map((recording, i) => {
       const {info} = recording;
       const [state, verdict] = Verdict(info, recording.doctor);
-      return Element("button", {type: "button", class: state, onclick: () => this.Show(i)},
-        Element("b", {}, info.source), Element("span", {}, verdict));
+      return Element(
+        "button",
+        {type: "button", class: state, onclick: () => this.Show(i)},
+        Element("b", {}, info.source),
+        Element("span", {}, verdict),
+      );
     });
-    const list = recordings.length < 2 ? null : Element("nav", {"aria-label": "Recordings"},
-      Element("ul", {}, this.buttons.map((button) => Element("li", {}, button))));
+    const list =
+      recordings.length < 2
+        ? null
+        : Element(
+            "nav",
+            {"aria-label": "Recordings"},
+            Element(
+              "ul",
+              {},
+              this.buttons.map((button) => Element("li", {}, button)),
+            ),
+          );
     this.main.replaceChildren(...[list, this.content].filter((one) => one !== null));
     this.Show(0);
     addEventListener("resize", () => this.Later());
@@ -117,7 +187,8 @@ class Page {
     const {info} = recording;
     const findings = Findings(recording.doctor, recording.charts.damage);
     const parts = [Heading(info, recording.doctor)];
-    if (info.recognised && findings.length > 0) parts.push(Element("ul", {class: "findings"}, findings));
+    if (info.recognised && findings.length > 0)
+      parts.push(Element("ul", {class: "findings"}, findings));
     this.together = null;
     this.views = null;
     if (info.recognised) {
@@ -152,7 +223,9 @@ class Page {
   }
 }
 
-new Page(Array.from(document.querySelectorAll("script.recording"), (element) => {
-  const {charts, doctor, info} = JSON.parse(element.textContent);
-  return {charts, doctor, info: info.files[0]};
-}));
+new Page(
+  Array.from(document.querySelectorAll("script.recording"), (element) => {
+    const {charts, doctor, info} = JSON.parse(element.textContent);
+    return {charts, doctor, info: info.files[0]};
+  }),
+);

@@ -4,26 +4,55 @@ class Timeline extends Chart {
     super(together, "Messages and damage", "");
     const {axis} = together;
     this.rows = [
-      {name: isHealthy ? "in no frame" : "damage", runs: damage.flatMap(([begin, end, colour, text]) =>
-        [{begin, end, colour, text}]).concat(outside.x.map((x, i) => ({
-        begin: axis.At(x), end: axis.At(x), colour: isHealthy ? "other" : "bad", isLow: true,
-        text: `${Plural(outside.bytes[i], "byte")} in no frame`})))},
+      {
+        name: isHealthy ? "in no frame" : "damage",
+        runs: damage
+          .flatMap(([begin, end, colour, text]) => [{begin, end, colour, text}])
+          .concat(
+            outside.x.map((x, i) => ({
+              begin: axis.At(x),
+              end: axis.At(x),
+              colour: isHealthy ? "other" : "bad",
+              isLow: true,
+              text: `${Plural(outside.bytes[i], "byte")} in no frame`,
+            })),
+          ),
+      },
       ...messages.map((row) => ({
         name: `${row.protocol} ${row.message}`,
-        runs: Timeline.Pairs(row.runs).map(([begin, end]) =>
-          ({begin: axis.At(begin), end: axis.At(end), colour: ColourName[row.protocol] ?? "other"})),
+        runs: Timeline.Pairs(row.runs).map(([begin, end]) => ({
+          begin: axis.At(begin),
+          end: axis.At(end),
+          colour: ColourName[row.protocol] ?? "other",
+        })),
       })),
     ];
     this.data.push(axis.places.map(() => null));
     const protocols = [...new Set(messages.map((row) => row.protocol))];
-    const keys = [...protocols.map((name) => [name, ColourName[name] ?? "other"]),
-      ...Timeline.Keys.filter(([, colour]) => damage.some((place) => place[2] === colour))];
-    this.legend.append(...keys.map(([name, colour]) => Element("span", {class: "key"},
-      Svg("svg", {width: 14, height: 10, "aria-hidden": "true"},
-        Svg("rect", {width: 14, height: 10, rx: 2, class: `fill-${colour}`})), name)));
+    const keys = [
+      ...protocols.map((name) => [name, ColourName[name] ?? "other"]),
+      ...Timeline.Keys.filter(([, colour]) => damage.some((place) => place[2] === colour)),
+    ];
+    this.legend.append(
+      ...keys.map(([name, colour]) =>
+        Element(
+          "span",
+          {class: "key"},
+          Svg(
+            "svg",
+            {width: 14, height: 10, "aria-hidden": "true"},
+            Svg("rect", {width: 14, height: 10, rx: 2, class: `fill-${colour}`}),
+          ),
+          name,
+        ),
+      ),
+    );
   }
 
-  static Keys = [["damage", "bad"], ["messages that stay away", "warn"]];
+  static Keys = [
+    ["damage", "bad"],
+    ["messages that stay away", "warn"],
+  ];
 
   static Pairs(list) {
     return Array.from({length: list.length / 2}, (_, i) => [list[2 * i], list[2 * i + 1]]);
@@ -39,9 +68,18 @@ class Timeline extends Chart {
       height: 18 * count + 58,
       series: [{}, {points: {show: false}, stroke: "transparent"}],
       scales: {...options.scales, y: {range: [0, count]}},
-      axes: [time, {...names, label: undefined, size: room, grid: {show: false},
-        ticks: {show: false}, splits: () => this.rows.map((_, i) => count - i - 0.5),
-        values: () => this.rows.map(({name}) => Timeline.Cut(name, room < 100 ? 13 : 22))}],
+      axes: [
+        time,
+        {
+          ...names,
+          label: undefined,
+          size: room,
+          grid: {show: false},
+          ticks: {show: false},
+          splits: () => this.rows.map((_, i) => count - i - 0.5),
+          values: () => this.rows.map(({name}) => Timeline.Cut(name, room < 100 ? 13 : 22)),
+        },
+      ],
       cursor: {...options.cursor, y: true},
       hooks: {...options.hooks, draw: [(plot) => this.Rows(plot)]},
     };
@@ -80,11 +118,12 @@ class Timeline extends Chart {
     super.Read();
     const {left, top} = this.plot?.cursor ?? {};
     if (this.time.textContent === "" || !(top >= 0)) return;
-    const at = Math.floor(top / (this.plot.bbox.height / devicePixelRatio) * this.rows.length);
+    const at = Math.floor((top / (this.plot.bbox.height / devicePixelRatio)) * this.rows.length);
     const row = this.rows[Math.min(at, this.rows.length - 1)];
     const place = this.plot.posToVal(left, "x");
     const near = this.plot.posToVal(left + 3, "x") - place;
     const run = row.runs.find(({begin, end}) => place >= begin - near && place <= end + near);
-    this.time.textContent += ` ${row.name}${run ? "" : ": nothing"}${run?.text ? `: ${run.text}` : ""}`;
+    const found = run === undefined ? ": nothing" : run.text === undefined ? "" : `: ${run.text}`;
+    this.time.textContent += ` ${row.name}${found}`;
   }
 }
