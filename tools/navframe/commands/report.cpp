@@ -163,7 +163,7 @@ ExitStatus Report(const ReportOptions&) {
   Progress none(0);
   Messages(none, false)
       .Add(
-          "this navframe was built without uPlot, which reports are drawn with (docs/report.md "
+          "the tool was built without uPlot, which reports are drawn with (docs/report.md "
           "tells how to build it with that); info, doctor and track tell the same as text");
   return Failure;
 }
