@@ -2,9 +2,7 @@
 
 #include <unistd.h>
 
-#include <exception>
 #include <memory>
-#include <new>
 #include <string_view>
 #include <utility>
 
@@ -15,6 +13,7 @@
 #include "commands/messages.h"
 #include "commands/report_json.h"
 #include "commands/rounds.h"
+#include "commands/run_command.h"
 #include "fault.h"
 #include "interrupt.h"
 #include "markup.h"
@@ -145,16 +144,7 @@ ExitStatus Report(const ReportOptions& options) {
   NoteInterrupts();
   Progress none(0);
   Messages messages(none, false);
-  try {
-    return Begin(options, messages);
-  } catch (const ReaderLeft&) {
-    return Success;
-  } catch (const std::bad_alloc&) {
-    messages.Add(navframe_status_text(NavframeOutOfMemory));
-  } catch (const std::exception& fault) {
-    messages.Add(fault.what());
-  }
-  return Failure;
+  return RunCommand([&] { return Begin(options, messages); });
 }
 
 #else
