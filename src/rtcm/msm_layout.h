@@ -93,10 +93,8 @@ static_assert(Msm5.SatelliteBits() == 36 && Msm5.CellBits() == 63);
 static_assert(Msm6.SatelliteBits() == 18 && Msm6.CellBits() == 65);
 static_assert(Msm7.SatelliteBits() == 36 && Msm7.CellBits() == 80);
 
-// Lock time in ms of the 4-bit indicator of MSM4 and MSM5.
-constexpr std::uint32_t LockTime4(std::uint32_t indicator) {
-  return indicator == 0 ? 0 : 16U << indicator;
-}
+// Lock time in ms of the 4-bit indicator of MSM4 and MSM5: 0 of 0, else 16 doubled as often.
+constexpr std::uint32_t LockTime4(std::uint32_t indicator) { return (16U << indicator) & ~16U; }
 
 // Lock time in ms of the 10-bit extended indicator of MSM6 and MSM7: 0 to 63 ms in steps of one,
 // then in blocks of 32 indicators whose step doubles from block to block. Indicators behind the

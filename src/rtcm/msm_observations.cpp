@@ -112,25 +112,26 @@ void WriteCells(const Message& message, ObservationHistory& history, Observation
   const observations::SignalTable& table = observations::MsmSignalsOf(message.cells.system);
   std::array<std::uint8_t, 32> signals;
   std::uint32_t mask = header.signalMask;
-  for (std::uint32_t i = 0; i < header.signalCount; ++i) {
+  for (std::uint32_t i = 0; mask != 0; ++i) {
     signals[i] = static_cast<std::uint8_t>(TakeTopBit(mask) + 1);
   }
-  ForEachCell<Layout>(message.cells, [&](std::uint32_t i, const RawCell& cell, std::uint32_t place,
-                                         std::uint32_t signalPlace) {
-    const MsmSatellite& satellite = satellites[place];
-    const std::uint8_t signal = signals[signalPlace];
-    Observation& written = out[i];
-    written.system = static_cast<std::uint8_t>(message.cells.system);
-    written.satellite = static_cast<std::uint8_t>(satellite.id - 1 + message.firstSatellite);
-    written.signal = signal;
-    written.channel = channels.Of(place);
-    const double cyclesPerMetre =
-        observations::PutCarrier(table[signal], channels.ShiftOf(place), written);
-    WriteMeasured<Layout>(cell, satellite, cyclesPerMetre, written);
-    WriteLock<Layout>(
-        cell, message.moment,
-        history.locks.Of(LockOf(message.number, satellite.id, signal), message.moment), written);
-    observations::PutNoDeviations(written);
+  ForEachCell<Layout>(message.cells, [&](std::uint32_t place) {
+    return [&, satellite = satellites[place], channel = channels.Of(place),
+            shift = channels.ShiftOf(place)](std::size_t i, const RawCell& cell,
+                                             std::uint32_t signalPlace) {
+      const std::uint8_t signal = signals[signalPlace];
+      Observation& written = out[i];
+      written.system = static_cast<std::uint8_t>(message.cells.system);
+      written.satellite = static_cast<std::uint8_t>(satellite.id - 1 + message.firstSatellite);
+      written.signal = signal;
+      written.channel = channel;
+      const double cyclesPerMetre = observations::PutCarrier(table[signal], shift, written);
+      WriteMeasured<Layout>(cell, satellite, cyclesPerMetre, written);
+      WriteLock<Layout>(
+          cell, message.moment,
+          history.locks.Of(LockOf(message.number, satellite.id, signal), message.moment), written);
+      observations::PutNoDeviations(written);
+    };
   });
 }
 
