@@ -7,14 +7,16 @@
 
 namespace navframe {
 
-// Compilers turn this into one byte swap.
-inline std::uint64_t BigEndian64(std::uint64_t value) {
-  if constexpr (std::endian::native == std::endian::little) {
-    value = (value & 0x00000000FFFFFFFF) << 32 | value >> 32;
-    value = (value & 0x0000FFFF0000FFFF) << 16 | (value >> 16 & 0x0000FFFF0000FFFF);
-    value = (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
-  }
+// Compilers turn this into one instruction.
+constexpr std::uint64_t SwapBytes(std::uint64_t value) {
+  value = (value & 0x00000000FFFFFFFF) << 32 | value >> 32;
+  value = (value & 0x0000FFFF0000FFFF) << 16 | (value >> 16 & 0x0000FFFF0000FFFF);
+  value = (value & 0x00FF00FF00FF00FF) << 8 | (value >> 8 & 0x00FF00FF00FF00FF);
   return value;
+}
+
+constexpr std::uint64_t BigEndian64(std::uint64_t value) {
+  return std::endian::native == std::endian::little ? SwapBytes(value) : value;
 }
 
 inline std::uint64_t LoadBigEndian64(const std::uint8_t* bytes) {

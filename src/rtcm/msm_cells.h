@@ -54,7 +54,7 @@ constexpr std::uint64_t ReverseBits(std::uint64_t bits) {
   bits = (bits & 0x5555'5555'5555'5555) << 1 | (bits >> 1 & 0x5555'5555'5555'5555);
   bits = (bits & 0x3333'3333'3333'3333) << 2 | (bits >> 2 & 0x3333'3333'3333'3333);
   bits = (bits & 0x0F0F'0F0F'0F0F'0F0F) << 4 | (bits >> 4 & 0x0F0F'0F0F'0F0F'0F0F);
-  return __builtin_bswap64(bits);
+  return SwapBytes(bits);
 }
 
 template <const MsmLayout& Layout>

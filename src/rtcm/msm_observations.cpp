@@ -116,20 +116,23 @@ void WriteCells(const Message& message, ObservationHistory& history, Observation
     signals[i] = static_cast<std::uint8_t>(TakeTopBit(mask) + 1);
   }
   ForEachCell<Layout>(message.cells, [&](std::uint32_t place) {
-    return [&, satellite = satellites[place], channel = channels.Of(place),
-            shift = channels.ShiftOf(place)](std::size_t i, const RawCell& cell,
-                                             std::uint32_t signalPlace) {
+    // What is captured by value need not be read again behind every store.
+    const MsmSatellite& satellite = satellites[place];
+    const auto number = static_cast<std::uint8_t>(satellite.id - 1 + message.firstSatellite);
+    return [&table, &signals, &locks = history.locks, out, satellite, number,
+            system = message.cells.system, channel = channels.Of(place),
+            shift = channels.ShiftOf(place), moment = message.moment,
+            firstLock = LockOf(message.number, satellite.id, 0)](std::size_t i, const RawCell& cell,
+                                                                 std::uint32_t signalPlace) {
       const std::uint8_t signal = signals[signalPlace];
       Observation& written = out[i];
-      written.system = static_cast<std::uint8_t>(message.cells.system);
-      written.satellite = static_cast<std::uint8_t>(satellite.id - 1 + message.firstSatellite);
+      written.system = static_cast<std::uint8_t>(system);
+      written.satellite = number;
       written.signal = signal;
       written.channel = channel;
       const double cyclesPerMetre = observations::PutCarrier(table[signal], shift, written);
       WriteMeasured<Layout>(cell, satellite, cyclesPerMetre, written);
-      WriteLock<Layout>(
-          cell, message.moment,
-          history.locks.Of(LockOf(message.number, satellite.id, signal), message.moment), written);
+      WriteLock<Layout>(cell, moment, locks.Of(firstLock | signal, moment), written);
       observations::PutNoDeviations(written);
     };
   });
