@@ -230,9 +230,10 @@ void DecodeCells(const MsmCells& cells, MsmObservation* observations) {
       cells.intervalMs > 0 ? static_cast<std::uint32_t>(cells.intervalMs) : UINT32_MAX;
   const auto system = static_cast<std::uint8_t>(cells.system);
   ForEachCell<Layout>(cells, [=, &satellites, &signals](std::uint32_t place) {
-    // What is captured by value need not be read again behind every store.
-    return [=, &signals, satellite = satellites[place]](std::size_t i, const RawCell& cell,
-                                                        std::uint32_t signal) {
+    // What is captured by value need not be read again behind every store. A satellite is not, for
+    // a copy would have to wait until its parts, which were written only just now, are in place.
+    return [=, &signals, &satellite = satellites[place]](std::size_t i, const RawCell& cell,
+                                                         std::uint32_t signal) {
       WriteObservation<Layout>(cell, satellite, signals[signal], intervalMs, observations[i]);
       observations[i].system = system;
     };
