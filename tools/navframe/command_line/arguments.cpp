@@ -35,6 +35,11 @@ std::string CheckInterval(const std::string& seconds) {
   return number > 0 && std::isfinite(number) ? "" : "no interval such as 30s";
 }
 
+void AddSources(CLI::App& app, std::vector<std::string>& sources, bool& recursive) {
+  app.add_option("SOURCE", sources, SourcesText)->option_text("...");
+  app.add_flag("--recursive,-r", recursive, "All files below the folders that are named");
+}
+
 CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,
                      const char* description, const char* shown) {
   return app.add_option(name, values, description)

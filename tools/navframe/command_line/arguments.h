@@ -20,6 +20,9 @@ std::string CheckSatellite(const std::string& text);
 std::string CheckPosition(const std::string& text);
 std::string CheckInterval(const std::string& seconds);
 
+// Any number of sources, and files of folders.
+void AddSources(CLI::App& app, std::vector<std::string>& sources, bool& recursive);
+
 // An option whose values stand behind commas; `shown` is how help calls them.
 CLI::Option* AddList(CLI::App& app, const char* name, std::vector<std::string>& values,
                      const char* description, const char* shown);

@@ -114,8 +114,7 @@ void AddLive(CLI::App& app, DecodeOptions& options, Texts& texts) {
 }
 
 void AddArguments(CLI::App& app, DecodeOptions& options, Texts& texts) {
-  app.add_option("SOURCE", options.sources, SourcesText)->option_text("...");
-  app.add_flag("--recursive,-r", options.recursive, "All files below the folders that are named");
+  AddSources(app, options.sources, options.recursive);
   AddFilters(app, options, texts);
   AddOutput(app, options, texts);
   AddLive(app, options, texts);

@@ -12,9 +12,7 @@ Command AddInfo(CLI::App& app) {
   const auto options = std::make_shared<InfoOptions>();
   CLI::App* const command = app.add_subcommand(
       "info", "Tell what recordings hold: times, messages and their rates, satellites, positions");
-  command->add_option("SOURCE", options->sources, SourcesText)->option_text("...");
-  command->add_flag("--recursive,-r", options->recursive,
-                    "All files below the folders that are named");
+  AddSources(*command, options->sources, options->recursive);
   command->add_flag("--json", options->json, "One JSON object; docs/info.md has its members");
   command->add_option("--output,-o", options->target, "A file, which appears when it is complete")
       ->option_text("PATH");

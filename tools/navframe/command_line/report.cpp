@@ -12,9 +12,7 @@ Command AddReport(CLI::App& app) {
   const auto options = std::make_shared<ReportOptions>();
   CLI::App* const command = app.add_subcommand(
       "report", "Draw what recordings hold, and how healthy they are, as a page for browsers");
-  command->add_option("SOURCE", options->sources, SourcesText)->option_text("...");
-  command->add_flag("--recursive,-r", options->recursive,
-                    "All files below the folders that are named");
+  AddSources(*command, options->sources, options->recursive);
   command
       ->add_option("--output,-o", options->target,
                    "A file of HTML with all that belongs to it, which appears when it is complete")

@@ -167,8 +167,7 @@ Command AddRinex(CLI::App& app) {
   RinexOptions& options = arguments->options;
   CLI::App* const command =
       app.add_subcommand("rinex", "Make RINEX files of observations and ephemerides");
-  command->add_option("SOURCE", options.sources, SourcesText)->option_text("...");
-  command->add_flag("--recursive,-r", options.recursive, "All files below the folders named");
+  AddSources(*command, options.sources, options.recursive);
   AddFiles(*command, options, arguments->texts);
   AddFilters(*command, options, arguments->texts);
   AddStation(*command, options, arguments->texts);
