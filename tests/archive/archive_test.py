@@ -323,10 +323,11 @@ class Parallel(Archive):
         self.assertEqual(len({line.split("\t")[0] for line in log}), 16)
         self.assertLess(ended, len(log))
         self.CheckMerged()
-        # Over ssh, which this test has not: what stands in for it drops the name of the node.
+        # Over ssh, which this test has not: what stands in for it drops the name of the node, and
+        # names the user's shell as a node's login does; the test's own caller may name none.
         shutil.rmtree(self.work)
         (self.place / "ssh").write_text('#!/bin/sh\necho $1 >>"$MARKS/nodes"\nshift 2\n'
-                                        'exec sh -c "$*"\n')
+                                        'SHELL=/bin/sh exec /bin/sh -c "$*"\n')
         (self.place / "ssh").chmod(0o755)
         self.environment["PARALLEL_SSH"] = str(self.place / "ssh")
         self.Shell(list_ + "\n" + others)
