@@ -361,6 +361,21 @@ static_assert(std::ranges::all_of(Rows, [](const KindRow& row) {
 constexpr auto Order(const KindRow& row) { return std::tuple(row.kind.source, row.kind.id); }
 static_assert(std::ranges::is_sorted(Rows, std::less{}, Order));
 
+// Whether the rows of a record, and of those inside it, cover it without a gap and an overlap.
+constexpr bool CoversEveryByte(const NavframeRecord& record) {
+  std::uint32_t end = 0;
+  for (const NavframeMember* const member : MembersOf(record)) {
+    if (member->offset != end) return false;
+    if (member->record != nullptr && !CoversEveryByte(*member->record)) return false;
+    end += WidthOf(*member);
+  }
+  return end == record.size;
+}
+static_assert(std::ranges::all_of(Rows, CoversEveryByte,
+                                  [](const KindRow& row) -> const NavframeRecord& {
+                                    return *row.kind.record;
+                                  }));
+
 }  // namespace
 
 std::span<const KindRow> KindRows() { return Rows; }

@@ -68,10 +68,11 @@ constexpr JsonStep JsonStepOf(const NavframeMember& member, bool isFirst) {
   return step;
 }
 
-// The steps of all members that are shown. Every record has some.
+// The steps of all members that are shown.
 template <const auto& Rows>
 inline constexpr auto JsonStepsOf = [] {
   constexpr auto Shown = std::ranges::count_if(Rows, [](auto& row) { return !IsLeftOut(row); });
+  static_assert(Shown != 0);
   std::array<JsonStep, static_cast<std::size_t>(Shown)> steps{};
   std::size_t count = 0;
   for (const MemberRow& row : Rows) {
@@ -98,11 +99,19 @@ struct RecordRow : NavframeRecord {
   std::span<const JsonStep> json;
 };
 
-template <class Record, const auto& Rows>
-constexpr RecordRow LayoutOf(const char* name) {
-  static_assert(!JsonStepsOf<Rows>.empty());
-  return {{name, sizeof(Record), std::size(Rows), PointersTo<Rows>.data()}, JsonStepsOf<Rows>};
-}
+// The name and the rows of a struct of the public headers.
+template <class Record>
+struct RowsOf;
+
+// Made where it is used: that takes the compiler longer than to read the rows.
+template <class Record>
+inline constexpr RecordRow LayoutOf = {
+    {RowsOf<Record>::Name, sizeof(Record), std::size(RowsOf<Record>::Rows),
+     PointersTo<RowsOf<Record>::Rows>.data()},
+    JsonStepsOf<RowsOf<Record>::Rows>};
+
+template <class Record>
+inline constexpr const NavframeRecord& RecordOf = LayoutOf<Record>;
 
 // The bytes that a member takes.
 constexpr std::uint32_t WidthOf(const NavframeMember& member) {
@@ -112,19 +121,5 @@ constexpr std::uint32_t WidthOf(const NavframeMember& member) {
 constexpr std::span<const NavframeMember* const> MembersOf(const NavframeRecord& record) {
   return {record.members, record.memberCount};
 }
-
-// Whether the rows cover a record without a gap and without an overlap.
-constexpr bool CoversEveryByte(const NavframeRecord& record) {
-  std::uint32_t end = 0;
-  for (const NavframeMember* const member : MembersOf(record)) {
-    if (member->offset != end) return false;
-    end += WidthOf(*member);
-  }
-  return end == record.size;
-}
-
-// The layout of a struct of the public headers.
-template <class Record>
-extern const NavframeRecord& RecordOf;
 
 }  // namespace navframe::catalogue

@@ -45,7 +45,9 @@ inline constexpr NavframeValueName ClockStatusValues[] = {{1, "VALID"}, {2, "INV
 
 inline constexpr NavframeValueName LogSystemValues[] = {{0, "GPS or not known"}, {1, "GLONASS"}, {2, "SBAS"}, {5, "GALILEO"}, {6, "BEIDOU"}, {7, "QZSS"}, {9, "NAVIC"},};
 
-inline constexpr MemberRow UTCTIMEMembers[] = {
+template <> struct RowsOf<UTCTIME> {
+  static constexpr const char* Name = "UTCTIME";
+  static constexpr MemberRow Rows[] = {
     {{"year", "", "four digits", NavframeU16, offsetof(UTCTIME, year), sizeof(UTCTIME::year), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"month", "", "1 to 12", NavframeU8, offsetof(UTCTIME, month), sizeof(UTCTIME::month), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"day", "", "1 to 31", NavframeU8, offsetof(UTCTIME, day), sizeof(UTCTIME::day), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -56,38 +58,38 @@ inline constexpr MemberRow UTCTIMEMembers[] = {
     {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(UTCTIME, millisecond), sizeof(UTCTIME::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"flag", "", "the message's time field was read", NavframeU8, offsetof(UTCTIME, flag), sizeof(UTCTIME::flag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved1", "", "reserved", NavframeU8, offsetof(UTCTIME, reserved1), sizeof(UTCTIME::reserved1), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UTCTIMELayout = LayoutOf<UTCTIME, UTCTIMEMembers>("UTCTIME");
-static_assert(CoversEveryByte(UTCTIMELayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UTCTIME> = UTCTIMELayout;
 
-inline constexpr MemberRow GPSTIMEMembers[] = {
+template <> struct RowsOf<GPSTIME> {
+  static constexpr const char* Name = "GPSTIME";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "time of week", NavframeU32, offsetof(GPSTIME, tow), sizeof(GPSTIME::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "weeks since 1980-01-06, never rolled over", NavframeU16, offsetof(GPSTIME, week), sizeof(GPSTIME::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(GPSTIME, reserved), sizeof(GPSTIME::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GPSTIMELayout = LayoutOf<GPSTIME, GPSTIMEMembers>("GPSTIME");
-static_assert(CoversEveryByte(GPSTIMELayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GPSTIME> = GPSTIMELayout;
 
-inline constexpr MemberRow HMSTimeTypeMembers[] = {
+template <> struct RowsOf<HMSTimeType> {
+  static constexpr const char* Name = "HMSTimeType";
+  static constexpr MemberRow Rows[] = {
     {{"hour", "h", "0 to 23", NavframeU8, offsetof(HMSTimeType, hour), sizeof(HMSTimeType::hour), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"minute", "min", "0 to 59", NavframeU8, offsetof(HMSTimeType, minute), sizeof(HMSTimeType::minute), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"second", "s", "0 to 60", NavframeU8, offsetof(HMSTimeType, second), sizeof(HMSTimeType::second), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(HMSTimeType, reserved), sizeof(HMSTimeType::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"millisecond", "ms", "0 to 999", NavframeU16, offsetof(HMSTimeType, millisecond), sizeof(HMSTimeType::millisecond), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow HMSTimeTypeLayout = LayoutOf<HMSTimeType, HMSTimeTypeMembers>("HMSTimeType");
-static_assert(CoversEveryByte(HMSTimeTypeLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<HMSTimeType> = HMSTimeTypeLayout;
 
 inline constexpr NavframeValueName GgaRecordFixQualityValues[] = {{0, "invalid"}, {1, "autonomous"}, {2, "differential"}, {3, "PPS"}, {4, "RTK fixed"}, {5, "RTK float"}, {6, "estimated"}, {7, "manual"}, {8, "simulated"},};
-inline constexpr MemberRow GgaRecordMembers[] = {
+template <> struct RowsOf<GgaRecord> {
+  static constexpr const char* Name = "GgaRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GgaRecord, tag), sizeof(GgaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GgaRecord, timeText), sizeof(GgaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GgaRecord, utc), sizeof(GgaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GgaRecord, utc), sizeof(GgaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GgaRecord, gpsTime), sizeof(GgaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GgaRecord, gpsTime), sizeof(GgaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"fixQuality", "", "quality of the fix", NavframeU8, offsetof(GgaRecord, fixQuality), sizeof(GgaRecord::fixQuality), 0, -1, 0, NavframeUnknownValue, 255, 9, GgaRecordFixQualityValues, nullptr}, false, 0},
     {{"satellites", "", "satellites used in the solution", NavframeU8, offsetof(GgaRecord, satellites), sizeof(GgaRecord::satellites), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 42, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -99,13 +101,13 @@ inline constexpr MemberRow GgaRecordMembers[] = {
     {{"correctionAge", "s", "age of differential data", NavframeF32, offsetof(GgaRecord, correctionAge), sizeof(GgaRecord::correctionAge), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "differential reference station", NavframeU16, offsetof(GgaRecord, stationId), sizeof(GgaRecord::stationId), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 82, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GgaRecordLayout = LayoutOf<GgaRecord, GgaRecordMembers>("GgaRecord");
-static_assert(CoversEveryByte(GgaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GgaRecord> = GgaRecordLayout;
 
 inline constexpr NavframeValueName RmcRecordStatusValues[] = {{0, "warning"}, {1, "valid"},};
-inline constexpr MemberRow RmcRecordMembers[] = {
+template <> struct RowsOf<RmcRecord> {
+  static constexpr const char* Name = "RmcRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(RmcRecord, tag), sizeof(RmcRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(RmcRecord, timeText), sizeof(RmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(RmcRecord, dateText), sizeof(RmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
@@ -116,18 +118,18 @@ inline constexpr MemberRow RmcRecordMembers[] = {
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(RmcRecord, latitude), sizeof(RmcRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(RmcRecord, speedKnots), sizeof(RmcRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"course", "deg", "course over ground, true", NavframeF32, offsetof(RmcRecord, course), sizeof(RmcRecord::course), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(RmcRecord, utc), sizeof(RmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(RmcRecord, gpsTime), sizeof(RmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(RmcRecord, utc), sizeof(RmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(RmcRecord, gpsTime), sizeof(RmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"spare", "", "reserved, all bits set", NavframeU16, offsetof(RmcRecord, spare), sizeof(RmcRecord::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 65535},
     {{"padding1", "", "", NavframePadding, 78, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow RmcRecordLayout = LayoutOf<RmcRecord, RmcRecordMembers>("RmcRecord");
-static_assert(CoversEveryByte(RmcRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<RmcRecord> = RmcRecordLayout;
 
 inline constexpr NavframeValueName GsaRecordSelectionModeValues[] = {{0, "manual (streams in the Standard dialect alone)"}, {1, "automatic"},};
 inline constexpr NavframeValueName GsaRecordFixTypeValues[] = {{1, "none"}, {2, "two-dimensional"}, {3, "three-dimensional"},};
-inline constexpr MemberRow GsaRecordMembers[] = {
+template <> struct RowsOf<GsaRecord> {
+  static constexpr const char* Name = "GsaRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GsaRecord, tag), sizeof(GsaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 1, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"systemId", "", "system of the satellites", NavframeU32, offsetof(GsaRecord, systemId), sizeof(GsaRecord::systemId), 0, -1, 0, NavframeUnknownValue, 4294967295, 7, NmeaSystemValues, nullptr}, false, 0},
@@ -135,63 +137,63 @@ inline constexpr MemberRow GsaRecordMembers[] = {
     {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(GsaRecord, selectionMode), sizeof(GsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 2, GsaRecordSelectionModeValues, nullptr}, false, 0},
     {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(GsaRecord, fixType), sizeof(GsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, GsaRecordFixTypeValues, nullptr}, true, 1},
     {{"padding1", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GsaRecord, gpsTime), sizeof(GsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GsaRecord, gpsTime), sizeof(GsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(GsaRecord, pdop), sizeof(GsaRecord::pdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(GsaRecord, hdop), sizeof(GsaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"vdop", "", "vertical dilution of precision", NavframeF32, offsetof(GsaRecord, vdop), sizeof(GsaRecord::vdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"usedCount", "", "satellites in use, 0 to 12", NavframeU8, offsetof(GsaRecord, usedCount), sizeof(GsaRecord::usedCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"usedSatellites", "", "satellite numbers", NavframeU8, offsetof(GsaRecord, usedSatellites), sizeof(GsaRecord::usedSatellites[0]), 12, 11, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 61, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GsaRecordLayout = LayoutOf<GsaRecord, GsaRecordMembers>("GsaRecord");
-static_assert(CoversEveryByte(GsaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GsaRecord> = GsaRecordLayout;
 
-inline constexpr MemberRow SatelliteSignalMembers[] = {
+template <> struct RowsOf<SatelliteSignal> {
+  static constexpr const char* Name = "SatelliteSignal";
+  static constexpr MemberRow Rows[] = {
     {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(SatelliteSignal, signalId), sizeof(SatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density, integer part", NavframeU8, offsetof(SatelliteSignal, cn0), sizeof(SatelliteSignal::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved, all bits set", NavframeU8, offsetof(SatelliteSignal, reserved), sizeof(SatelliteSignal::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
+  };
 };
-inline constexpr RecordRow SatelliteSignalLayout = LayoutOf<SatelliteSignal, SatelliteSignalMembers>("SatelliteSignal");
-static_assert(CoversEveryByte(SatelliteSignalLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SatelliteSignal> = SatelliteSignalLayout;
 
-inline constexpr MemberRow SatelliteInViewMembers[] = {
+template <> struct RowsOf<SatelliteInView> {
+  static constexpr const char* Name = "SatelliteInView";
+  static constexpr MemberRow Rows[] = {
     {{"number", "", "satellite number", NavframeU8, offsetof(SatelliteInView, number), sizeof(SatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"systemId", "", "system of the satellite", NavframeU8, offsetof(SatelliteInView, systemId), sizeof(SatelliteInView::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"azimuth", "deg", "from true north", NavframeU16, offsetof(SatelliteInView, azimuth), sizeof(SatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"elevation", "deg", "above the horizon", NavframeU16, offsetof(SatelliteInView, elevation), sizeof(SatelliteInView::elevation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(SatelliteInView, used), sizeof(SatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signalCount", "", "signals, 0 to 3", NavframeU8, offsetof(SatelliteInView, signalCount), sizeof(SatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(SatelliteInView, signals), sizeof(SatelliteInView::signals[0]), 3, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteSignalLayout}, false, 0},
+    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(SatelliteInView, signals), sizeof(SatelliteInView::signals[0]), 3, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SatelliteSignal>}, false, 0},
+  };
 };
-inline constexpr RecordRow SatelliteInViewLayout = LayoutOf<SatelliteInView, SatelliteInViewMembers>("SatelliteInView");
-static_assert(CoversEveryByte(SatelliteInViewLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SatelliteInView> = SatelliteInViewLayout;
 
-inline constexpr MemberRow GsvRecordMembers[] = {
+template <> struct RowsOf<GsvRecord> {
+  static constexpr const char* Name = "GsvRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentences stood behind tag blocks, which is never the case", NavframeU8, offsetof(GsvRecord, tag), sizeof(GsvRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(GsvRecord, timeText), sizeof(GsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(GsvRecord, gpsTime), sizeof(GsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(GsvRecord, gpsTime), sizeof(GsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"cycleComplete", "", "the cycle is complete, which it always is", NavframeU8, offsetof(GsvRecord, cycleComplete), sizeof(GsvRecord::cycleComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satelliteCount", "", "satellites, 0 to 96", NavframeU8, offsetof(GsvRecord, satelliteCount), sizeof(GsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "numbered ones in order of appearance, then unnumbered ones", NavframeNested, offsetof(GsvRecord, satellites), sizeof(GsvRecord::satellites[0]), 96, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, false, 0},
+    {{"satellites", "", "numbered ones in order of appearance, then unnumbered ones", NavframeNested, offsetof(GsvRecord, satellites), sizeof(GsvRecord::satellites[0]), 96, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SatelliteInView>}, false, 0},
     {{"padding0", "", "", NavframePadding, 2526, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GsvRecordLayout = LayoutOf<GsvRecord, GsvRecordMembers>("GsvRecord");
-static_assert(CoversEveryByte(GsvRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GsvRecord> = GsvRecordLayout;
 
-inline constexpr MemberRow WideSatelliteSignalMembers[] = {
+template <> struct RowsOf<WideSatelliteSignal> {
+  static constexpr const char* Name = "WideSatelliteSignal";
+  static constexpr MemberRow Rows[] = {
     {{"signalId", "", "NMEA signal id, 0 when the sentence has none", NavframeU8, offsetof(WideSatelliteSignal, signalId), sizeof(WideSatelliteSignal::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteSignal, reserved), sizeof(WideSatelliteSignal::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "0.01 dB-Hz", "carrier-to-noise density", NavframeU16, offsetof(WideSatelliteSignal, cn0), sizeof(WideSatelliteSignal::cn0), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow WideSatelliteSignalLayout = LayoutOf<WideSatelliteSignal, WideSatelliteSignalMembers>("WideSatelliteSignal");
-static_assert(CoversEveryByte(WideSatelliteSignalLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideSatelliteSignal> = WideSatelliteSignalLayout;
 
-inline constexpr MemberRow WideSatelliteInViewMembers[] = {
+template <> struct RowsOf<WideSatelliteInView> {
+  static constexpr const char* Name = "WideSatelliteInView";
+  static constexpr MemberRow Rows[] = {
     {{"number", "", "satellite number", NavframeU16, offsetof(WideSatelliteInView, number), sizeof(WideSatelliteInView::number), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "from true north", NavframeU16, offsetof(WideSatelliteInView, azimuth), sizeof(WideSatelliteInView::azimuth), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"elevation", "deg", "above the horizon, negative below it", NavframeI16, offsetof(WideSatelliteInView, elevation), sizeof(WideSatelliteInView::elevation), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
@@ -199,47 +201,47 @@ inline constexpr MemberRow WideSatelliteInViewMembers[] = {
     {{"used", "", "a GSA sentence listed the satellite", NavframeU8, offsetof(WideSatelliteInView, used), sizeof(WideSatelliteInView::used), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signalCount", "", "signals, 0 to 16", NavframeU8, offsetof(WideSatelliteInView, signalCount), sizeof(WideSatelliteInView::signalCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(WideSatelliteInView, reserved), sizeof(WideSatelliteInView::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteSignalLayout}, false, 0},
+    {{"signals", "", "signals in the order of their sentences", NavframeNested, offsetof(WideSatelliteInView, signals), sizeof(WideSatelliteInView::signals[0]), 16, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<WideSatelliteSignal>}, false, 0},
+  };
 };
-inline constexpr RecordRow WideSatelliteInViewLayout = LayoutOf<WideSatelliteInView, WideSatelliteInViewMembers>("WideSatelliteInView");
-static_assert(CoversEveryByte(WideSatelliteInViewLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideSatelliteInView> = WideSatelliteInViewLayout;
 
-inline constexpr MemberRow WideGsvRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(WideGsvRecord, gpsTime), sizeof(WideGsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<WideGsvRecord> {
+  static constexpr const char* Name = "WideGsvRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the cycle's sentences arrived", NavframeNested, offsetof(WideGsvRecord, gpsTime), sizeof(WideGsvRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day when the cycle's sentences arrived", NavframeText, offsetof(WideGsvRecord, timeText), sizeof(WideGsvRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(WideGsvRecord, reserved), sizeof(WideGsvRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satelliteCount", "", "satellites, 0 to 256", NavframeU16, offsetof(WideGsvRecord, satelliteCount), sizeof(WideGsvRecord::satelliteCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in order of appearance", NavframeNested, offsetof(WideGsvRecord, satellites), sizeof(WideGsvRecord::satellites[0]), 256, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &WideSatelliteInViewLayout}, false, 0},
+    {{"satellites", "", "satellites in order of appearance", NavframeNested, offsetof(WideGsvRecord, satellites), sizeof(WideGsvRecord::satellites[0]), 256, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<WideSatelliteInView>}, false, 0},
+  };
 };
-inline constexpr RecordRow WideGsvRecordLayout = LayoutOf<WideGsvRecord, WideGsvRecordMembers>("WideGsvRecord");
-static_assert(CoversEveryByte(WideGsvRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideGsvRecord> = WideGsvRecordLayout;
 
 inline constexpr NavframeValueName GllRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
-inline constexpr MemberRow GllRecordMembers[] = {
+template <> struct RowsOf<GllRecord> {
+  static constexpr const char* Name = "GllRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GllRecord, tag), sizeof(GllRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 1, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GllRecord, utc), sizeof(GllRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GllRecord, utc), sizeof(GllRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(GllRecord, timeText), sizeof(GllRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GllRecord, gpsTime), sizeof(GllRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GllRecord, gpsTime), sizeof(GllRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"longitude", "deg", "east positive", NavframeF64, offsetof(GllRecord, longitude), sizeof(GllRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(GllRecord, latitude), sizeof(GllRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the data", NavframeU8, offsetof(GllRecord, status), sizeof(GllRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, GllRecordStatusValues, nullptr}, false, 0},
     {{"mode", "", "positioning mode", NavframeU8, offsetof(GllRecord, mode), sizeof(GllRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 58, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GllRecordLayout = LayoutOf<GllRecord, GllRecordMembers>("GllRecord");
-static_assert(CoversEveryByte(GllRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GllRecord> = GllRecordLayout;
 
-inline constexpr MemberRow GstRecordMembers[] = {
+template <> struct RowsOf<GstRecord> {
+  static constexpr const char* Name = "GstRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GstRecord, tag), sizeof(GstRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GstRecord, timeText), sizeof(GstRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GstRecord, utc), sizeof(GstRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GstRecord, utc), sizeof(GstRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GstRecord, gpsTime), sizeof(GstRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GstRecord, gpsTime), sizeof(GstRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"rangeRms", "m", "RMS of the range residuals", NavframeF32, offsetof(GstRecord, rangeRms), sizeof(GstRecord::rangeRms), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"ellipseSemiMajor", "m", "semi-major axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMajor), sizeof(GstRecord::ellipseSemiMajor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"ellipseSemiMinor", "m", "semi-minor axis of the error ellipse", NavframeF32, offsetof(GstRecord, ellipseSemiMinor), sizeof(GstRecord::ellipseSemiMinor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -247,17 +249,17 @@ inline constexpr MemberRow GstRecordMembers[] = {
     {{"latitudeDeviation", "m", "standard deviation of the latitude", NavframeF32, offsetof(GstRecord, latitudeDeviation), sizeof(GstRecord::latitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitudeDeviation", "m", "standard deviation of the longitude", NavframeF32, offsetof(GstRecord, longitudeDeviation), sizeof(GstRecord::longitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"altitudeDeviation", "m", "standard deviation of the altitude", NavframeF32, offsetof(GstRecord, altitudeDeviation), sizeof(GstRecord::altitudeDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GstRecordLayout = LayoutOf<GstRecord, GstRecordMembers>("GstRecord");
-static_assert(CoversEveryByte(GstRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GstRecord> = GstRecordLayout;
 
-inline constexpr MemberRow GbsRecordMembers[] = {
+template <> struct RowsOf<GbsRecord> {
+  static constexpr const char* Name = "GbsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GbsRecord, tag), sizeof(GbsRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GbsRecord, timeText), sizeof(GbsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GbsRecord, utc), sizeof(GbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GbsRecord, utc), sizeof(GbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GbsRecord, gpsTime), sizeof(GbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(GbsRecord, gpsTime), sizeof(GbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"latitudeError", "m", "expected error of the latitude", NavframeF32, offsetof(GbsRecord, latitudeError), sizeof(GbsRecord::latitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitudeError", "m", "expected error of the longitude", NavframeF32, offsetof(GbsRecord, longitudeError), sizeof(GbsRecord::longitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"altitudeError", "m", "expected error of the altitude", NavframeF32, offsetof(GbsRecord, altitudeError), sizeof(GbsRecord::altitudeError), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -267,45 +269,45 @@ inline constexpr MemberRow GbsRecordMembers[] = {
     {{"systemId", "", "system of that satellite", NavframeU8, offsetof(GbsRecord, systemId), sizeof(GbsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(GbsRecord, signalId), sizeof(GbsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 66, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GbsRecordLayout = LayoutOf<GbsRecord, GbsRecordMembers>("GbsRecord");
-static_assert(CoversEveryByte(GbsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GbsRecord> = GbsRecordLayout;
 
-inline constexpr MemberRow VtgRecordMembers[] = {
+template <> struct RowsOf<VtgRecord> {
+  static constexpr const char* Name = "VtgRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(VtgRecord, tag), sizeof(VtgRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(VtgRecord, timeText), sizeof(VtgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 18, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(VtgRecord, gpsTime), sizeof(VtgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(VtgRecord, gpsTime), sizeof(VtgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"courseTrue", "deg", "course over ground from true north", NavframeF32, offsetof(VtgRecord, courseTrue), sizeof(VtgRecord::courseTrue), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"courseMagnetic", "deg", "course over ground from magnetic north", NavframeF32, offsetof(VtgRecord, courseMagnetic), sizeof(VtgRecord::courseMagnetic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKnots), sizeof(VtgRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedKmh", "km/h", "speed over ground", NavframeF32, offsetof(VtgRecord, speedKmh), sizeof(VtgRecord::speedKmh), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"mode", "", "positioning mode", NavframeU8, offsetof(VtgRecord, mode), sizeof(VtgRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 45, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow VtgRecordLayout = LayoutOf<VtgRecord, VtgRecordMembers>("VtgRecord");
-static_assert(CoversEveryByte(VtgRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<VtgRecord> = VtgRecordLayout;
 
-inline constexpr MemberRow ZdaRecordMembers[] = {
+template <> struct RowsOf<ZdaRecord> {
+  static constexpr const char* Name = "ZdaRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ZdaRecord, tag), sizeof(ZdaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(ZdaRecord, timeText), sizeof(ZdaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(ZdaRecord, utc), sizeof(ZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(ZdaRecord, utc), sizeof(ZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(ZdaRecord, gpsTime), sizeof(ZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(ZdaRecord, gpsTime), sizeof(ZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"zoneHours", "h", "local zone, modulo 256 (-5 is 251)", NavframeU8, offsetof(ZdaRecord, zoneHours), sizeof(ZdaRecord::zoneHours), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"zoneMinutes", "min", "local zone", NavframeU8, offsetof(ZdaRecord, zoneMinutes), sizeof(ZdaRecord::zoneMinutes), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 42, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ZdaRecordLayout = LayoutOf<ZdaRecord, ZdaRecordMembers>("ZdaRecord");
-static_assert(CoversEveryByte(ZdaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ZdaRecord> = ZdaRecordLayout;
 
 inline constexpr NavframeValueName WideRmcRecordStatusValues[] = {{0, "warning"}, {1, "valid"},};
-inline constexpr MemberRow WideRmcRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideRmcRecord, gpsTime), sizeof(WideRmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideRmcRecord, utc), sizeof(WideRmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<WideRmcRecord> {
+  static constexpr const char* Name = "WideRmcRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideRmcRecord, gpsTime), sizeof(WideRmcRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideRmcRecord, utc), sizeof(WideRmcRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(WideRmcRecord, timeText), sizeof(WideRmcRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"dateText", "", "date field, ddmmyy", NavframeText, offsetof(WideRmcRecord, dateText), sizeof(WideRmcRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the receiver", NavframeU8, offsetof(WideRmcRecord, status), sizeof(WideRmcRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, WideRmcRecordStatusValues, nullptr}, false, 0},
@@ -316,15 +318,15 @@ inline constexpr MemberRow WideRmcRecordMembers[] = {
     {{"speedKnots", "kn", "speed over ground", NavframeF32, offsetof(WideRmcRecord, speedKnots), sizeof(WideRmcRecord::speedKnots), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"course", "deg", "course over ground, true", NavframeF32, offsetof(WideRmcRecord, course), sizeof(WideRmcRecord::course), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"magneticVariation", "deg", "of magnetic north from true north, east positive", NavframeF64, offsetof(WideRmcRecord, magneticVariation), sizeof(WideRmcRecord::magneticVariation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow WideRmcRecordLayout = LayoutOf<WideRmcRecord, WideRmcRecordMembers>("WideRmcRecord");
-static_assert(CoversEveryByte(WideRmcRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideRmcRecord> = WideRmcRecordLayout;
 
 inline constexpr NavframeValueName WideGsaRecordSelectionModeValues[] = {{0, "manual"}, {1, "automatic"},};
 inline constexpr NavframeValueName WideGsaRecordFixTypeValues[] = {{1, "none"}, {2, "two-dimensional"}, {3, "three-dimensional"},};
-inline constexpr MemberRow WideGsaRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGsaRecord, gpsTime), sizeof(WideGsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<WideGsaRecord> {
+  static constexpr const char* Name = "WideGsaRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGsaRecord, gpsTime), sizeof(WideGsaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(WideGsaRecord, timeText), sizeof(WideGsaRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"selectionMode", "", "choice between two and three dimensions", NavframeU8, offsetof(WideGsaRecord, selectionMode), sizeof(WideGsaRecord::selectionMode), 0, -1, 0, NavframeUnknownValue, 255, 2, WideGsaRecordSelectionModeValues, nullptr}, false, 0},
     {{"fixType", "", "dimensions of the fix", NavframeU8, offsetof(WideGsaRecord, fixType), sizeof(WideGsaRecord::fixType), 0, -1, 0, NavframeUnknownValue, 255, 3, WideGsaRecordFixTypeValues, nullptr}, true, 1},
@@ -334,14 +336,14 @@ inline constexpr MemberRow WideGsaRecordMembers[] = {
     {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(WideGsaRecord, hdop), sizeof(WideGsaRecord::hdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"vdop", "", "vertical dilution of precision", NavframeF32, offsetof(WideGsaRecord, vdop), sizeof(WideGsaRecord::vdop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"usedSatellites", "", "satellite numbers", NavframeU16, offsetof(WideGsaRecord, usedSatellites), sizeof(WideGsaRecord::usedSatellites[0]), 12, 4, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow WideGsaRecordLayout = LayoutOf<WideGsaRecord, WideGsaRecordMembers>("WideGsaRecord");
-static_assert(CoversEveryByte(WideGsaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideGsaRecord> = WideGsaRecordLayout;
 
-inline constexpr MemberRow WideGbsRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGbsRecord, gpsTime), sizeof(WideGbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(WideGbsRecord, utc), sizeof(WideGbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<WideGbsRecord> {
+  static constexpr const char* Name = "WideGbsRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideGbsRecord, gpsTime), sizeof(WideGbsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(WideGbsRecord, utc), sizeof(WideGbsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(WideGbsRecord, timeText), sizeof(WideGbsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"systemId", "", "system of the failed satellite", NavframeU8, offsetof(WideGbsRecord, systemId), sizeof(WideGbsRecord::systemId), 0, -1, 0, NavframeUnknownValue, 255, 7, NmeaSystemValues, nullptr}, false, 0},
     {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(WideGbsRecord, signalId), sizeof(WideGbsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -353,26 +355,26 @@ inline constexpr MemberRow WideGbsRecordMembers[] = {
     {{"missedDetection", "", "probability that the failure of that satellite is missed", NavframeF32, offsetof(WideGbsRecord, missedDetection), sizeof(WideGbsRecord::missedDetection), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"bias", "m", "estimated range bias of that satellite", NavframeF32, offsetof(WideGbsRecord, bias), sizeof(WideGbsRecord::bias), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"biasDeviation", "m", "standard deviation of the bias", NavframeF32, offsetof(WideGbsRecord, biasDeviation), sizeof(WideGbsRecord::biasDeviation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow WideGbsRecordLayout = LayoutOf<WideGbsRecord, WideGbsRecordMembers>("WideGbsRecord");
-static_assert(CoversEveryByte(WideGbsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideGbsRecord> = WideGbsRecordLayout;
 
-inline constexpr MemberRow WideZdaRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideZdaRecord, gpsTime), sizeof(WideZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideZdaRecord, utc), sizeof(WideZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<WideZdaRecord> {
+  static constexpr const char* Name = "WideZdaRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(WideZdaRecord, gpsTime), sizeof(WideZdaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "date and time of day of the sentence", NavframeNested, offsetof(WideZdaRecord, utc), sizeof(WideZdaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(WideZdaRecord, timeText), sizeof(WideZdaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"zoneHours", "h", "local zone", NavframeI8, offsetof(WideZdaRecord, zoneHours), sizeof(WideZdaRecord::zoneHours), 0, -1, NavframeAsSent, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
     {{"zoneMinutes", "min", "local zone", NavframeI8, offsetof(WideZdaRecord, zoneMinutes), sizeof(WideZdaRecord::zoneMinutes), 0, -1, NavframeAsSent, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(WideZdaRecord, reserved), sizeof(WideZdaRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow WideZdaRecordLayout = LayoutOf<WideZdaRecord, WideZdaRecordMembers>("WideZdaRecord");
-static_assert(CoversEveryByte(WideZdaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<WideZdaRecord> = WideZdaRecordLayout;
 
-inline constexpr MemberRow GnsRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GnsRecord, gpsTime), sizeof(GnsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GnsRecord, utc), sizeof(GnsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<GnsRecord> {
+  static constexpr const char* Name = "GnsRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GnsRecord, gpsTime), sizeof(GnsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(GnsRecord, utc), sizeof(GnsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GnsRecord, timeText), sizeof(GnsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(GnsRecord, talker), sizeof(GnsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitude", "deg", "east positive", NavframeF64, offsetof(GnsRecord, longitude), sizeof(GnsRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -387,50 +389,50 @@ inline constexpr MemberRow GnsRecordMembers[] = {
     {{"modeCount", "", "systems that the sentence has a mode of, 0 to 8", NavframeU8, offsetof(GnsRecord, modeCount), sizeof(GnsRecord::modeCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"modes", "", "positioning mode of GPS, GLONASS, Galileo, BeiDou, QZSS and NavIC, in this order", NavframeU8, offsetof(GnsRecord, modes), sizeof(GnsRecord::modes[0]), 8, 13, 0, NavframeUnknownValue, 255, 9, NmeaModeValues, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(GnsRecord, reserved), sizeof(GnsRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GnsRecordLayout = LayoutOf<GnsRecord, GnsRecordMembers>("GnsRecord");
-static_assert(CoversEveryByte(GnsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GnsRecord> = GnsRecordLayout;
 
 inline constexpr NavframeValueName ThsRecordModeValues[] = {{0, "not valid"}, {1, "autonomous"}, {6, "estimated"}, {7, "manual"}, {8, "simulated"},};
-inline constexpr MemberRow ThsRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(ThsRecord, gpsTime), sizeof(ThsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<ThsRecord> {
+  static constexpr const char* Name = "ThsRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(ThsRecord, gpsTime), sizeof(ThsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(ThsRecord, timeText), sizeof(ThsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(ThsRecord, talker), sizeof(ThsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"mode", "", "how the heading was found", NavframeU8, offsetof(ThsRecord, mode), sizeof(ThsRecord::mode), 0, -1, 0, NavframeUnknownValue, 255, 5, ThsRecordModeValues, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(ThsRecord, reserved), sizeof(ThsRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"heading", "deg", "from true north", NavframeF64, offsetof(ThsRecord, heading), sizeof(ThsRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ThsRecordLayout = LayoutOf<ThsRecord, ThsRecordMembers>("ThsRecord");
-static_assert(CoversEveryByte(ThsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ThsRecord> = ThsRecordLayout;
 
-inline constexpr MemberRow HdtRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(HdtRecord, gpsTime), sizeof(HdtRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<HdtRecord> {
+  static constexpr const char* Name = "HdtRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(HdtRecord, gpsTime), sizeof(HdtRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(HdtRecord, timeText), sizeof(HdtRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(HdtRecord, talker), sizeof(HdtRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(HdtRecord, reserved), sizeof(HdtRecord::reserved[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"heading", "deg", "from true north", NavframeF64, offsetof(HdtRecord, heading), sizeof(HdtRecord::heading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow HdtRecordLayout = LayoutOf<HdtRecord, HdtRecordMembers>("HdtRecord");
-static_assert(CoversEveryByte(HdtRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<HdtRecord> = HdtRecordLayout;
 
 inline constexpr NavframeValueName RotRecordStatusValues[] = {{0, "invalid"}, {1, "valid"},};
-inline constexpr MemberRow RotRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(RotRecord, gpsTime), sizeof(RotRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<RotRecord> {
+  static constexpr const char* Name = "RotRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(RotRecord, gpsTime), sizeof(RotRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(RotRecord, timeText), sizeof(RotRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(RotRecord, talker), sizeof(RotRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the data", NavframeU8, offsetof(RotRecord, status), sizeof(RotRecord::status), 0, -1, 0, NavframeUnknownValue, 255, 2, RotRecordStatusValues, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(RotRecord, reserved), sizeof(RotRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"rate", "deg/min", "negative when the bow turns to port", NavframeF64, offsetof(RotRecord, rate), sizeof(RotRecord::rate), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow RotRecordLayout = LayoutOf<RotRecord, RotRecordMembers>("RotRecord");
-static_assert(CoversEveryByte(RotRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<RotRecord> = RotRecordLayout;
 
-inline constexpr MemberRow TextRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(TextRecord, gpsTime), sizeof(TextRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<TextRecord> {
+  static constexpr const char* Name = "TextRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(TextRecord, gpsTime), sizeof(TextRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(TextRecord, timeText), sizeof(TextRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(TextRecord, talker), sizeof(TextRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"total", "", "sentences of the text", NavframeU8, offsetof(TextRecord, total), sizeof(TextRecord::total), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -438,13 +440,13 @@ inline constexpr MemberRow TextRecordMembers[] = {
     {{"identifier", "", "what kind of text it is, by the talker", NavframeU8, offsetof(TextRecord, identifier), sizeof(TextRecord::identifier), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"length", "B", "of the text", NavframeU8, offsetof(TextRecord, length), sizeof(TextRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"text", "", "ISO 8859-1; characters that were sent as ^ and two digits are decoded", NavframeText, offsetof(TextRecord, text), sizeof(TextRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow TextRecordLayout = LayoutOf<TextRecord, TextRecordMembers>("TextRecord");
-static_assert(CoversEveryByte(TextRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<TextRecord> = TextRecordLayout;
 
-inline constexpr MemberRow DtmRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(DtmRecord, gpsTime), sizeof(DtmRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<DtmRecord> {
+  static constexpr const char* Name = "DtmRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(DtmRecord, gpsTime), sizeof(DtmRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the stream's time of day", NavframeText, offsetof(DtmRecord, timeText), sizeof(DtmRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(DtmRecord, talker), sizeof(DtmRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"datum", "", "datum of the positions: W84, W72, S85, P90, 999 (user defined) or a code of the hydrographic tables", NavframeText, offsetof(DtmRecord, datum), sizeof(DtmRecord::datum), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
@@ -454,15 +456,15 @@ inline constexpr MemberRow DtmRecordMembers[] = {
     {{"latitudeOffset", "min", "of arc, north positive", NavframeF64, offsetof(DtmRecord, latitudeOffset), sizeof(DtmRecord::latitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitudeOffset", "min", "of arc, east positive", NavframeF64, offsetof(DtmRecord, longitudeOffset), sizeof(DtmRecord::longitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"altitudeOffset", "m", "of the altitude", NavframeF64, offsetof(DtmRecord, altitudeOffset), sizeof(DtmRecord::altitudeOffset), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow DtmRecordLayout = LayoutOf<DtmRecord, DtmRecordMembers>("DtmRecord");
-static_assert(CoversEveryByte(DtmRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<DtmRecord> = DtmRecordLayout;
 
 inline constexpr NavframeValueName GrsRecordRecomputedValues[] = {{0, "used in the position"}, {1, "recomputed from it"},};
-inline constexpr MemberRow GrsRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GrsRecord, gpsTime), sizeof(GrsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GrsRecord, utc), sizeof(GrsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<GrsRecord> {
+  static constexpr const char* Name = "GrsRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GrsRecord, gpsTime), sizeof(GrsRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GrsRecord, utc), sizeof(GrsRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GrsRecord, timeText), sizeof(GrsRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(GrsRecord, talker), sizeof(GrsRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"recomputed", "", "what the residuals belong to", NavframeU8, offsetof(GrsRecord, recomputed), sizeof(GrsRecord::recomputed), 0, -1, 0, NavframeUnknownValue, 255, 2, GrsRecordRecomputedValues, nullptr}, false, 0},
@@ -470,14 +472,14 @@ inline constexpr MemberRow GrsRecordMembers[] = {
     {{"signalId", "", "NMEA signal id, as in GNSSSigIdToName", NavframeU8, offsetof(GrsRecord, signalId), sizeof(GrsRecord::signalId), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(GrsRecord, reserved), sizeof(GrsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"residuals", "m", "in the order of the satellites of GSA", NavframeF32, offsetof(GrsRecord, residuals), sizeof(GrsRecord::residuals[0]), 12, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GrsRecordLayout = LayoutOf<GrsRecord, GrsRecordMembers>("GrsRecord");
-static_assert(CoversEveryByte(GrsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GrsRecord> = GrsRecordLayout;
 
-inline constexpr MemberRow GfaRecordMembers[] = {
-    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GfaRecord, gpsTime), sizeof(GfaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GfaRecord, utc), sizeof(GfaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+template <> struct RowsOf<GfaRecord> {
+  static constexpr const char* Name = "GfaRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the stream's GPS time when the sentence was decoded", NavframeNested, offsetof(GfaRecord, gpsTime), sizeof(GfaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"utc", "", "time of day of the position; no date", NavframeNested, offsetof(GfaRecord, utc), sizeof(GfaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(GfaRecord, timeText), sizeof(GfaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"talker", "", "talker", NavframeText, offsetof(GfaRecord, talker), sizeof(GfaRecord::talker), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"horizontalProtection", "m", "horizontal protection level", NavframeF32, offsetof(GfaRecord, horizontalProtection), sizeof(GfaRecord::horizontalProtection), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -490,13 +492,13 @@ inline constexpr MemberRow GfaRecordMembers[] = {
     {{"integrityCount", "", "states that the sentence has, 0 to 8", NavframeU8, offsetof(GfaRecord, integrityCount), sizeof(GfaRecord::integrityCount), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"integrity", "", "integrity by RAIM, SBAS and Galileo, in this order", NavframeU8, offsetof(GfaRecord, integrity), sizeof(GfaRecord::integrity[0]), 8, 11, 0, NavframeUnknownValue, 255, 4, NmeaStateValues, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(GfaRecord, reserved), sizeof(GfaRecord::reserved[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GfaRecordLayout = LayoutOf<GfaRecord, GfaRecordMembers>("GfaRecord");
-static_assert(CoversEveryByte(GfaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GfaRecord> = GfaRecordLayout;
 
-inline constexpr MemberRow NavPosRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavPosRecord, gpsTime), sizeof(NavPosRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<NavPosRecord> {
+  static constexpr const char* Name = "NavPosRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavPosRecord, gpsTime), sizeof(NavPosRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavPosRecord, timeText), sizeof(NavPosRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavPosRecord, solutionStatus), sizeof(NavPosRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
     {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavPosRecord, positionType), sizeof(NavPosRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
@@ -512,13 +514,13 @@ inline constexpr MemberRow NavPosRecordMembers[] = {
     {{"sigmaX", "m", "standard deviation of X", NavframeF64, offsetof(NavPosRecord, sigmaX), sizeof(NavPosRecord::sigmaX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"sigmaY", "m", "standard deviation of Y", NavframeF64, offsetof(NavPosRecord, sigmaY), sizeof(NavPosRecord::sigmaY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"sigmaZ", "m", "standard deviation of Z", NavframeF64, offsetof(NavPosRecord, sigmaZ), sizeof(NavPosRecord::sigmaZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavPosRecordLayout = LayoutOf<NavPosRecord, NavPosRecordMembers>("NavPosRecord");
-static_assert(CoversEveryByte(NavPosRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavPosRecord> = NavPosRecordLayout;
 
-inline constexpr MemberRow NavVelRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavVelRecord, gpsTime), sizeof(NavVelRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<NavVelRecord> {
+  static constexpr const char* Name = "NavVelRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavVelRecord, gpsTime), sizeof(NavVelRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(NavVelRecord, timeText), sizeof(NavVelRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"solutionStatus", "", "state of the solution", NavframeI32, offsetof(NavVelRecord, solutionStatus), sizeof(NavVelRecord::solutionStatus), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
     {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavVelRecord, positionType), sizeof(NavVelRecord::positionType), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
@@ -530,132 +532,132 @@ inline constexpr MemberRow NavVelRecordMembers[] = {
     {{"padding0", "", "", NavframePadding, 74, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(NavVelRecord, velocity), sizeof(NavVelRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedAccuracy", "m/s", "accuracy of the velocity", NavframeF64, offsetof(NavVelRecord, speedAccuracy), sizeof(NavVelRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavVelRecordLayout = LayoutOf<NavVelRecord, NavVelRecordMembers>("NavVelRecord");
-static_assert(CoversEveryByte(NavVelRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavVelRecord> = NavVelRecordLayout;
 
-inline constexpr MemberRow NavTimeGroupMembers[] = {
+template <> struct RowsOf<NavTimeGroup> {
+  static constexpr const char* Name = "NavTimeGroup";
+  static constexpr MemberRow Rows[] = {
     {{"status", "", "state of the time", NavframeI32, offsetof(NavTimeGroup, status), sizeof(NavTimeGroup::status), 0, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
     {{"flag", "", "flag of the time", NavframeU8, offsetof(NavTimeGroup, flag), sizeof(NavTimeGroup::flag), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 5, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"seconds", "s", "the time", NavframeF64, offsetof(NavTimeGroup, seconds), sizeof(NavTimeGroup::seconds), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavTimeGroupLayout = LayoutOf<NavTimeGroup, NavTimeGroupMembers>("NavTimeGroup");
-static_assert(CoversEveryByte(NavTimeGroupLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavTimeGroup> = NavTimeGroupLayout;
 
-inline constexpr MemberRow NavTimeRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavTimeRecord, gpsTime), sizeof(NavTimeRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"groups", "", "times with their states", NavframeNested, offsetof(NavTimeRecord, groups), sizeof(NavTimeRecord::groups[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &NavTimeGroupLayout}, false, 0},
+template <> struct RowsOf<NavTimeRecord> {
+  static constexpr const char* Name = "NavTimeRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavTimeRecord, gpsTime), sizeof(NavTimeRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"groups", "", "times with their states", NavframeNested, offsetof(NavTimeRecord, groups), sizeof(NavTimeRecord::groups[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<NavTimeGroup>}, false, 0},
+  };
 };
-inline constexpr RecordRow NavTimeRecordLayout = LayoutOf<NavTimeRecord, NavTimeRecordMembers>("NavTimeRecord");
-static_assert(CoversEveryByte(NavTimeRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavTimeRecord> = NavTimeRecordLayout;
 
 inline constexpr NavframeValueName NavAccRecordStatusValues[] = {{0, "not valid"}, {1, "valid"},};
-inline constexpr MemberRow NavAccRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavAccRecord, gpsTime), sizeof(NavAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<NavAccRecord> {
+  static constexpr const char* Name = "NavAccRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(NavAccRecord, gpsTime), sizeof(NavAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "time field", NavframeText, offsetof(NavAccRecord, timeText), sizeof(NavAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(NavAccRecord, utc), sizeof(NavAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the sentence; no date", NavframeNested, offsetof(NavAccRecord, utc), sizeof(NavAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"status", "", "state", NavframeU8, offsetof(NavAccRecord, status), sizeof(NavAccRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 2, NavAccRecordStatusValues, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 37, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"values", "", "accuracies", NavframeU32, offsetof(NavAccRecord, values), sizeof(NavAccRecord::values[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavAccRecordLayout = LayoutOf<NavAccRecord, NavAccRecordMembers>("NavAccRecord");
-static_assert(CoversEveryByte(NavAccRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavAccRecord> = NavAccRecordLayout;
 
-inline constexpr MemberRow PNavMsgRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(PNavMsgRecord, gpsTime), sizeof(PNavMsgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<PNavMsgRecord> {
+  static constexpr const char* Name = "PNavMsgRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(PNavMsgRecord, gpsTime), sizeof(PNavMsgRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(PNavMsgRecord, timeText), sizeof(PNavMsgRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"head", "", "first two numbers", NavframeU8, offsetof(PNavMsgRecord, head), sizeof(PNavMsgRecord::head[0]), 2, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
     {{"values", "", "diagnostic bytes", NavframeU8, offsetof(PNavMsgRecord, values), sizeof(PNavMsgRecord::values[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 255},
     {{"padding0", "", "", NavframePadding, 41, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow PNavMsgRecordLayout = LayoutOf<PNavMsgRecord, PNavMsgRecordMembers>("PNavMsgRecord");
-static_assert(CoversEveryByte(PNavMsgRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<PNavMsgRecord> = PNavMsgRecordLayout;
 
-inline constexpr MemberRow CwOutRecordMembers[] = {
-    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(CwOutRecord, gpsTime), sizeof(CwOutRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+template <> struct RowsOf<CwOutRecord> {
+  static constexpr const char* Name = "CwOutRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"gpsTime", "", "the decoder's GPS time when the sentence was decoded", NavframeNested, offsetof(CwOutRecord, gpsTime), sizeof(CwOutRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(CwOutRecord, timeText), sizeof(CwOutRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"values", "", "interference values", NavframeI32, offsetof(CwOutRecord, values), sizeof(CwOutRecord::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, -1},
+  };
 };
-inline constexpr RecordRow CwOutRecordLayout = LayoutOf<CwOutRecord, CwOutRecordMembers>("CwOutRecord");
-static_assert(CoversEveryByte(CwOutRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<CwOutRecord> = CwOutRecordLayout;
 
-inline constexpr MemberRow GyoAccRecordMembers[] = {
+template <> struct RowsOf<GyoAccRecord> {
+  static constexpr const char* Name = "GyoAccRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(GyoAccRecord, tag), sizeof(GyoAccRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field, nothing in 71", NavframeText, offsetof(GyoAccRecord, timeText), sizeof(GyoAccRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(GyoAccRecord, utc), sizeof(GyoAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(GyoAccRecord, utc), sizeof(GyoAccRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(GyoAccRecord, gpsTime), sizeof(GyoAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(GyoAccRecord, gpsTime), sizeof(GyoAccRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"gyro", "", "angular rates about x, y and z", NavframeF64, offsetof(GyoAccRecord, gyro), sizeof(GyoAccRecord::gyro[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"acceleration", "", "accelerations along x, y and z", NavframeF64, offsetof(GyoAccRecord, acceleration), sizeof(GyoAccRecord::acceleration[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"spare", "", "reserved, always unknown", NavframeF64, offsetof(GyoAccRecord, spare), sizeof(GyoAccRecord::spare[0]), 2, -1, NavframeReserved, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GyoAccRecordLayout = LayoutOf<GyoAccRecord, GyoAccRecordMembers>("GyoAccRecord");
-static_assert(CoversEveryByte(GyoAccRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GyoAccRecord> = GyoAccRecordLayout;
 
-inline constexpr MemberRow SnrStatRecordMembers[] = {
+template <> struct RowsOf<SnrStatRecord> {
+  static constexpr const char* Name = "SnrStatRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(SnrStatRecord, tag), sizeof(SnrStatRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day", NavframeText, offsetof(SnrStatRecord, timeText), sizeof(SnrStatRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(SnrStatRecord, gpsTime), sizeof(SnrStatRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(SnrStatRecord, gpsTime), sizeof(SnrStatRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"count", "", "first number", NavframeU32, offsetof(SnrStatRecord, count), sizeof(SnrStatRecord::count), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"state", "", "second number", NavframeU8, offsetof(SnrStatRecord, state), sizeof(SnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"levels", "", "signed numbers", NavframeI8, offsetof(SnrStatRecord, levels), sizeof(SnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownValue, -1, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow SnrStatRecordLayout = LayoutOf<SnrStatRecord, SnrStatRecordMembers>("SnrStatRecord");
-static_assert(CoversEveryByte(SnrStatRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SnrStatRecord> = SnrStatRecordLayout;
 
-inline constexpr MemberRow NavAttRecordMembers[] = {
+template <> struct RowsOf<NavAttRecord> {
+  static constexpr const char* Name = "NavAttRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(NavAttRecord, tag), sizeof(NavAttRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field, hhmmss.ss in 73", NavframeText, offsetof(NavAttRecord, timeText), sizeof(NavAttRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(NavAttRecord, utc), sizeof(NavAttRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(NavAttRecord, utc), sizeof(NavAttRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(NavAttRecord, gpsTime), sizeof(NavAttRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(NavAttRecord, gpsTime), sizeof(NavAttRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"values", "", "angles and their deviations", NavframeF64, offsetof(NavAttRecord, values), sizeof(NavAttRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"spare", "", "reserved", NavframeU8, offsetof(NavAttRecord, spare), sizeof(NavAttRecord::spare[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavAttRecordLayout = LayoutOf<NavAttRecord, NavAttRecordMembers>("NavAttRecord");
-static_assert(CoversEveryByte(NavAttRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavAttRecord> = NavAttRecordLayout;
 
-inline constexpr MemberRow ImuRecordMembers[] = {
+template <> struct RowsOf<ImuRecord> {
+  static constexpr const char* Name = "ImuRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(ImuRecord, tag), sizeof(ImuRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field, hhmmss.ss in 74", NavframeText, offsetof(ImuRecord, timeText), sizeof(ImuRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(ImuRecord, utc), sizeof(ImuRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(ImuRecord, utc), sizeof(ImuRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"padding0", "", "", NavframePadding, 30, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(ImuRecord, gpsTime), sizeof(ImuRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(ImuRecord, gpsTime), sizeof(ImuRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"text", "", "texts", NavframeText, offsetof(ImuRecord, text), sizeof(ImuRecord::text[0]), 2, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"values", "", "measurements", NavframeF64, offsetof(ImuRecord, values), sizeof(ImuRecord::values[0]), 6, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ImuRecordLayout = LayoutOf<ImuRecord, ImuRecordMembers>("ImuRecord");
-static_assert(CoversEveryByte(ImuRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ImuRecord> = ImuRecordLayout;
 
-inline constexpr MemberRow InsPvaRecordMembers[] = {
+template <> struct RowsOf<InsPvaRecord> {
+  static constexpr const char* Name = "InsPvaRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tag", "", "the sentence stood behind a tag block, which is never the case", NavframeU8, offsetof(InsPvaRecord, tag), sizeof(InsPvaRecord::tag), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "time field, hhmmss.ss in 75", NavframeText, offsetof(InsPvaRecord, timeText), sizeof(InsPvaRecord::timeText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"dateText", "", "date field, ddmmyy in 75", NavframeText, offsetof(InsPvaRecord, dateText), sizeof(InsPvaRecord::dateText), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
-    {{"utc", "", "time of day of the message", NavframeNested, offsetof(InsPvaRecord, utc), sizeof(InsPvaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
-    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(InsPvaRecord, gpsTime), sizeof(InsPvaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
+    {{"utc", "", "time of day of the message", NavframeNested, offsetof(InsPvaRecord, utc), sizeof(InsPvaRecord::utc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
+    {{"gpsTime", "", "the decoder's GPS time when the message was decoded", NavframeNested, offsetof(InsPvaRecord, gpsTime), sizeof(InsPvaRecord::gpsTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
     {{"latitude", "deg", "north positive; in 75 the one 64-bit value of the message, in units of 2^-32", NavframeF64, offsetof(InsPvaRecord, latitude), sizeof(InsPvaRecord::latitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"longitude", "deg", "east positive", NavframeF64, offsetof(InsPvaRecord, longitude), sizeof(InsPvaRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"height", "m", "height", NavframeF64, offsetof(InsPvaRecord, height), sizeof(InsPvaRecord::height), 0, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"velocity", "m/s", "components of the velocity", NavframeF64, offsetof(InsPvaRecord, velocity), sizeof(InsPvaRecord::velocity[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"attitude", "deg", "angles of the attitude", NavframeF32, offsetof(InsPvaRecord, attitude), sizeof(InsPvaRecord::attitude[0]), 3, -1, NavframeAsSent, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"spare", "", "reserved", NavframeU8, offsetof(InsPvaRecord, spare), sizeof(InsPvaRecord::spare[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow InsPvaRecordLayout = LayoutOf<InsPvaRecord, InsPvaRecordMembers>("InsPvaRecord");
-static_assert(CoversEveryByte(InsPvaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<InsPvaRecord> = InsPvaRecordLayout;
 
-inline constexpr MemberRow StationPositionRecordMembers[] = {
+template <> struct RowsOf<StationPositionRecord> {
+  static constexpr const char* Name = "StationPositionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(StationPositionRecord, tow), sizeof(StationPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU32, offsetof(StationPositionRecord, stationId), sizeof(StationPositionRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"itrfYear", "", "ITRF realization year", NavframeU8, offsetof(StationPositionRecord, itrfYear), sizeof(StationPositionRecord::itrfYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -667,35 +669,35 @@ inline constexpr MemberRow StationPositionRecordMembers[] = {
     {{"x", "0.0001 m", "ECEF X without its sign", NavframeI64, offsetof(StationPositionRecord, x), sizeof(StationPositionRecord::x), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"y", "0.0001 m", "ECEF Y without its sign", NavframeI64, offsetof(StationPositionRecord, y), sizeof(StationPositionRecord::y), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"z", "0.0001 m", "ECEF Z without its sign", NavframeI64, offsetof(StationPositionRecord, z), sizeof(StationPositionRecord::z), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow StationPositionRecordLayout = LayoutOf<StationPositionRecord, StationPositionRecordMembers>("StationPositionRecord");
-static_assert(CoversEveryByte(StationPositionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<StationPositionRecord> = StationPositionRecordLayout;
 
-inline constexpr MemberRow MessageAnnouncementMembers[] = {
+template <> struct RowsOf<MessageAnnouncement> {
+  static constexpr const char* Name = "MessageAnnouncement";
+  static constexpr MemberRow Rows[] = {
     {{"messageId", "", "message number", NavframeU16, offsetof(MessageAnnouncement, messageId), sizeof(MessageAnnouncement::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"synchronous", "", "sent at fixed times", NavframeU16, offsetof(MessageAnnouncement, synchronous), sizeof(MessageAnnouncement::synchronous), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"interval", "0.1 s", "interval of transmission", NavframeU16, offsetof(MessageAnnouncement, interval), sizeof(MessageAnnouncement::interval), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow MessageAnnouncementLayout = LayoutOf<MessageAnnouncement, MessageAnnouncementMembers>("MessageAnnouncement");
-static_assert(CoversEveryByte(MessageAnnouncementLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<MessageAnnouncement> = MessageAnnouncementLayout;
 
-inline constexpr MemberRow SystemParametersRecordMembers[] = {
+template <> struct RowsOf<SystemParametersRecord> {
+  static constexpr const char* Name = "SystemParametersRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(SystemParametersRecord, tow), sizeof(SystemParametersRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(SystemParametersRecord, stationId), sizeof(SystemParametersRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"modifiedJulianDay", "d", "modified Julian day", NavframeU16, offsetof(SystemParametersRecord, modifiedJulianDay), sizeof(SystemParametersRecord::modifiedJulianDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"secondsOfDay", "s", "second of the day, UTC", NavframeU32, offsetof(SystemParametersRecord, secondsOfDay), sizeof(SystemParametersRecord::secondsOfDay), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "announcements, 0 to 31", NavframeU8, offsetof(SystemParametersRecord, count), sizeof(SystemParametersRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"leapSeconds", "s", "GPS time less UTC", NavframeU8, offsetof(SystemParametersRecord, leapSeconds), sizeof(SystemParametersRecord::leapSeconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"announcements", "", "messages that the station sends", NavframeNested, offsetof(SystemParametersRecord, announcements), sizeof(SystemParametersRecord::announcements[0]), 31, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &MessageAnnouncementLayout}, false, 0},
+    {{"announcements", "", "messages that the station sends", NavframeNested, offsetof(SystemParametersRecord, announcements), sizeof(SystemParametersRecord::announcements[0]), 31, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<MessageAnnouncement>}, false, 0},
+  };
 };
-inline constexpr RecordRow SystemParametersRecordLayout = LayoutOf<SystemParametersRecord, SystemParametersRecordMembers>("SystemParametersRecord");
-static_assert(CoversEveryByte(SystemParametersRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SystemParametersRecord> = SystemParametersRecordLayout;
 
 inline constexpr NavframeValueName MsmObservationPhaseStatusValues[] = {{0, "not usable"}, {1, "valid"}, {2, "valid and tracked for longer than the epoch interval"},};
-inline constexpr MemberRow MsmObservationMembers[] = {
+template <> struct RowsOf<MsmObservation> {
+  static constexpr const char* Name = "MsmObservation";
+  static constexpr MemberRow Rows[] = {
     {{"system", "", "satellite system", NavframeU8, offsetof(MsmObservation, system), sizeof(MsmObservation::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, true, 1},
     {{"satellite", "", "satellite, 1 to 64", NavframeU8, offsetof(MsmObservation, satellite), sizeof(MsmObservation::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"signal", "", "RTCM MSM signal id, 1 to 32", NavframeU8, offsetof(MsmObservation, signal), sizeof(MsmObservation::signal), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -709,12 +711,12 @@ inline constexpr MemberRow MsmObservationMembers[] = {
     {{"phaseRangeRate", "m/s", "grows with the range, 0 when rateValid is", NavframeF64, offsetof(MsmObservation, phaseRangeRate), sizeof(MsmObservation::phaseRangeRate), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 0},
     {{"lockTime", "ms", "time of continuous lock, at least", NavframeU32, offsetof(MsmObservation, lockTime), sizeof(MsmObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU32, offsetof(MsmObservation, reserved), sizeof(MsmObservation::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow MsmObservationLayout = LayoutOf<MsmObservation, MsmObservationMembers>("MsmObservation");
-static_assert(CoversEveryByte(MsmObservationLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<MsmObservation> = MsmObservationLayout;
 
-inline constexpr MemberRow MsmRecordMembers[] = {
+template <> struct RowsOf<MsmRecord> {
+  static constexpr const char* Name = "MsmRecord";
+  static constexpr MemberRow Rows[] = {
     {{"epochTime", "ms", "GPS time of week; BeiDou and GLONASS epochs are converted", NavframeU32, offsetof(MsmRecord, epochTime), sizeof(MsmRecord::epochTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(MsmRecord, week), sizeof(MsmRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day, hhmmss.mmm, after this epoch set it", NavframeText, offsetof(MsmRecord, timeText), sizeof(MsmRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
@@ -722,43 +724,43 @@ inline constexpr MemberRow MsmRecordMembers[] = {
     {{"system", "", "satellite system", NavframeU8, offsetof(MsmRecord, system), sizeof(MsmRecord::system), 0, -1, 0, NavframeUnknownValue, 255, 5, MsmSystemValues, nullptr}, false, 0},
     {{"epochComplete", "", "the last message of its epoch", NavframeU32, offsetof(MsmRecord, epochComplete), sizeof(MsmRecord::epochComplete), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU32, offsetof(MsmRecord, reserved), sizeof(MsmRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"observations", "", "by satellite, then signal", NavframeNested, offsetof(MsmRecord, observations), sizeof(MsmRecord::observations[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &MsmObservationLayout}, false, 0},
+    {{"observations", "", "by satellite, then signal", NavframeNested, offsetof(MsmRecord, observations), sizeof(MsmRecord::observations[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<MsmObservation>}, false, 0},
+  };
 };
-inline constexpr RecordRow MsmRecordLayout = LayoutOf<MsmRecord, MsmRecordMembers>("MsmRecord");
-static_assert(CoversEveryByte(MsmRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<MsmRecord> = MsmRecordLayout;
 
-inline constexpr MemberRow RtcmSnrStatRecordMembers[] = {
+template <> struct RowsOf<RtcmSnrStatRecord> {
+  static constexpr const char* Name = "RtcmSnrStatRecord";
+  static constexpr MemberRow Rows[] = {
     {{"count", "", "always 1", NavframeU32, offsetof(RtcmSnrStatRecord, count), sizeof(RtcmSnrStatRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 1},
     {{"state", "", "first of four small numbers", NavframeU8, offsetof(RtcmSnrStatRecord, state), sizeof(RtcmSnrStatRecord::state), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"levels", "", "the others", NavframeI8, offsetof(RtcmSnrStatRecord, levels), sizeof(RtcmSnrStatRecord::levels[0]), 3, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(RtcmSnrStatRecord, reserved), sizeof(RtcmSnrStatRecord::reserved[0]), 24, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow RtcmSnrStatRecordLayout = LayoutOf<RtcmSnrStatRecord, RtcmSnrStatRecordMembers>("RtcmSnrStatRecord");
-static_assert(CoversEveryByte(RtcmSnrStatRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<RtcmSnrStatRecord> = RtcmSnrStatRecordLayout;
 
-inline constexpr MemberRow TimeStatusRecordMembers[] = {
+template <> struct RowsOf<TimeStatusRecord> {
+  static constexpr const char* Name = "TimeStatusRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week, 0 when the message has none", NavframeU32, offsetof(TimeStatusRecord, tow), sizeof(TimeStatusRecord::tow), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week", NavframeU16, offsetof(TimeStatusRecord, week), sizeof(TimeStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "always empty", NavframeText, offsetof(TimeStatusRecord, timeText), sizeof(TimeStatusRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "states", NavframeU8, offsetof(TimeStatusRecord, status), sizeof(TimeStatusRecord::status[0]), 2, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow TimeStatusRecordLayout = LayoutOf<TimeStatusRecord, TimeStatusRecordMembers>("TimeStatusRecord");
-static_assert(CoversEveryByte(TimeStatusRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<TimeStatusRecord> = TimeStatusRecordLayout;
 
-inline constexpr MemberRow Sub249RecordMembers[] = {
+template <> struct RowsOf<Sub249Record> {
+  static constexpr const char* Name = "Sub249Record";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "always unknown", NavframeU32, offsetof(Sub249Record, tow), sizeof(Sub249Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "always unknown", NavframeU16, offsetof(Sub249Record, week), sizeof(Sub249Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(Sub249Record, reserved), sizeof(Sub249Record::reserved[0]), 74, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Sub249RecordLayout = LayoutOf<Sub249Record, Sub249RecordMembers>("Sub249Record");
-static_assert(CoversEveryByte(Sub249RecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Sub249Record> = Sub249RecordLayout;
 
 inline constexpr NavframeValueName ClockOrbitRecordSystemValues[] = {{0, "GPS"}, {1, "BeiDou"},};
-inline constexpr MemberRow ClockOrbitRecordMembers[] = {
+template <> struct RowsOf<ClockOrbitRecord> {
+  static constexpr const char* Name = "ClockOrbitRecord";
+  static constexpr MemberRow Rows[] = {
     {{"system", "", "satellite system, always unknown", NavframeU32, offsetof(ClockOrbitRecord, system), sizeof(ClockOrbitRecord::system), 0, -1, 0, NavframeUnknownValue, 4294967295, 2, ClockOrbitRecordSystemValues, nullptr}, false, 0},
     {{"tow", "ms", "always unknown", NavframeU32, offsetof(ClockOrbitRecord, tow), sizeof(ClockOrbitRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "always unknown", NavframeU16, offsetof(ClockOrbitRecord, week), sizeof(ClockOrbitRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
@@ -766,43 +768,43 @@ inline constexpr MemberRow ClockOrbitRecordMembers[] = {
     {{"values", "", "always unknown", NavframeF64, offsetof(ClockOrbitRecord, values), sizeof(ClockOrbitRecord::values[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"integers", "", "whole numbers, always unknown", NavframeF64, offsetof(ClockOrbitRecord, integers), sizeof(ClockOrbitRecord::integers[0]), 4, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved1", "", "reserved", NavframeU8, offsetof(ClockOrbitRecord, reserved1), sizeof(ClockOrbitRecord::reserved1[0]), 16, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ClockOrbitRecordLayout = LayoutOf<ClockOrbitRecord, ClockOrbitRecordMembers>("ClockOrbitRecord");
-static_assert(CoversEveryByte(ClockOrbitRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ClockOrbitRecord> = ClockOrbitRecordLayout;
 
-inline constexpr MemberRow SystemCountMembers[] = {
+template <> struct RowsOf<SystemCount> {
+  static constexpr const char* Name = "SystemCount";
+  static constexpr MemberRow Rows[] = {
     {{"values", "", "always 0, where 0 as the first stands for no entry", NavframeI32, offsetof(SystemCount, values), sizeof(SystemCount::values[0]), 6, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow SystemCountLayout = LayoutOf<SystemCount, SystemCountMembers>("SystemCount");
-static_assert(CoversEveryByte(SystemCountLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SystemCount> = SystemCountLayout;
 
-inline constexpr MemberRow SystemCountsRecordMembers[] = {
+template <> struct RowsOf<SystemCountsRecord> {
+  static constexpr const char* Name = "SystemCountsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "always unknown", NavframeU32, offsetof(SystemCountsRecord, tow), sizeof(SystemCountsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "always unknown", NavframeU16, offsetof(SystemCountsRecord, week), sizeof(SystemCountsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "always empty", NavframeText, offsetof(SystemCountsRecord, timeText), sizeof(SystemCountsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"counts", "", "of GPS, BeiDou, Galileo and QZSS, always 0", NavframeU8, offsetof(SystemCountsRecord, counts), sizeof(SystemCountsRecord::counts[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(SystemCountsRecord, reserved), sizeof(SystemCountsRecord::reserved[0]), 2, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"entries", "", "always 0", NavframeNested, offsetof(SystemCountsRecord, entries), sizeof(SystemCountsRecord::entries[0]), 64, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SystemCountLayout}, false, 0},
+    {{"entries", "", "always 0", NavframeNested, offsetof(SystemCountsRecord, entries), sizeof(SystemCountsRecord::entries[0]), 64, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SystemCount>}, false, 0},
+  };
 };
-inline constexpr RecordRow SystemCountsRecordLayout = LayoutOf<SystemCountsRecord, SystemCountsRecordMembers>("SystemCountsRecord");
-static_assert(CoversEveryByte(SystemCountsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SystemCountsRecord> = SystemCountsRecordLayout;
 
-inline constexpr MemberRow SignalObservationsRecordMembers[] = {
+template <> struct RowsOf<SignalObservationsRecord> {
+  static constexpr const char* Name = "SignalObservationsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(SignalObservationsRecord, tow), sizeof(SignalObservationsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week", NavframeU16, offsetof(SignalObservationsRecord, week), sizeof(SignalObservationsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "always empty", NavframeText, offsetof(SignalObservationsRecord, timeText), sizeof(SignalObservationsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites, always 0", NavframeU8, offsetof(SignalObservationsRecord, count), sizeof(SignalObservationsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(SignalObservationsRecord, reserved), sizeof(SignalObservationsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites with their signals", NavframeNested, offsetof(SignalObservationsRecord, satellites), sizeof(SignalObservationsRecord::satellites[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteInViewLayout}, false, 0},
+    {{"satellites", "", "satellites with their signals", NavframeNested, offsetof(SignalObservationsRecord, satellites), sizeof(SignalObservationsRecord::satellites[0]), 96, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SatelliteInView>}, false, 0},
+  };
 };
-inline constexpr RecordRow SignalObservationsRecordLayout = LayoutOf<SignalObservationsRecord, SignalObservationsRecordMembers>("SignalObservationsRecord");
-static_assert(CoversEveryByte(SignalObservationsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SignalObservationsRecord> = SignalObservationsRecordLayout;
 
-inline constexpr MemberRow IntegerSetRecordMembers[] = {
+template <> struct RowsOf<IntegerSetRecord> {
+  static constexpr const char* Name = "IntegerSetRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(IntegerSetRecord, tow), sizeof(IntegerSetRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week", NavframeU16, offsetof(IntegerSetRecord, week), sizeof(IntegerSetRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "always empty", NavframeText, offsetof(IntegerSetRecord, timeText), sizeof(IntegerSetRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
@@ -811,54 +813,54 @@ inline constexpr MemberRow IntegerSetRecordMembers[] = {
     {{"longitude", "deg", "always unknown", NavframeF64, offsetof(IntegerSetRecord, longitude), sizeof(IntegerSetRecord::longitude), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"integers", "", "always 0", NavframeI64, offsetof(IntegerSetRecord, integers), sizeof(IntegerSetRecord::integers[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved1", "", "reserved", NavframeU8, offsetof(IntegerSetRecord, reserved1), sizeof(IntegerSetRecord::reserved1[0]), 104, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow IntegerSetRecordLayout = LayoutOf<IntegerSetRecord, IntegerSetRecordMembers>("IntegerSetRecord");
-static_assert(CoversEveryByte(IntegerSetRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<IntegerSetRecord> = IntegerSetRecordLayout;
 
-inline constexpr MemberRow Sub17RecordMembers[] = {
+template <> struct RowsOf<Sub17Record> {
+  static constexpr const char* Name = "Sub17Record";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub17Record, tow), sizeof(Sub17Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
     {{"first", "", "first bytes", NavframeU8, offsetof(Sub17Record, first), sizeof(Sub17Record::first[0]), 15, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"zero", "", "reserved", NavframeU8, offsetof(Sub17Record, zero), sizeof(Sub17Record::zero), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"second", "", "the bytes behind them", NavframeU8, offsetof(Sub17Record, second), sizeof(Sub17Record::second[0]), 12, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU32, offsetof(Sub17Record, reserved), sizeof(Sub17Record::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Sub17RecordLayout = LayoutOf<Sub17Record, Sub17RecordMembers>("Sub17Record");
-static_assert(CoversEveryByte(Sub17RecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Sub17Record> = Sub17RecordLayout;
 
-inline constexpr MemberRow Sub33RecordMembers[] = {
+template <> struct RowsOf<Sub33Record> {
+  static constexpr const char* Name = "Sub33Record";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week when the message was decoded", NavframeU32, offsetof(Sub33Record, tow), sizeof(Sub33Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, true, 0},
     {{"values", "", "numbers, 0 to 15", NavframeU8, offsetof(Sub33Record, values), sizeof(Sub33Record::values[0]), 7, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"spare", "", "reserved", NavframeU8, offsetof(Sub33Record, spare), sizeof(Sub33Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Sub33RecordLayout = LayoutOf<Sub33Record, Sub33RecordMembers>("Sub33Record");
-static_assert(CoversEveryByte(Sub33RecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Sub33Record> = Sub33RecordLayout;
 
-inline constexpr MemberRow Sub34RecordMembers[] = {
+template <> struct RowsOf<Sub34Record> {
+  static constexpr const char* Name = "Sub34Record";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub34Record, tow), sizeof(Sub34Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week", NavframeU32, offsetof(Sub34Record, week), sizeof(Sub34Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"state", "", "state", NavframeU8, offsetof(Sub34Record, state), sizeof(Sub34Record::state), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"mode", "", "0 to 15, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, mode), sizeof(Sub34Record::mode), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"values", "", "bytes, 0 where a short message does not reach", NavframeU8, offsetof(Sub34Record, values), sizeof(Sub34Record::values[0]), 9, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"spare", "", "reserved", NavframeU8, offsetof(Sub34Record, spare), sizeof(Sub34Record::spare), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Sub34RecordLayout = LayoutOf<Sub34Record, Sub34RecordMembers>("Sub34Record");
-static_assert(CoversEveryByte(Sub34RecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Sub34Record> = Sub34RecordLayout;
 
-inline constexpr MemberRow Sub21RecordMembers[] = {
+template <> struct RowsOf<Sub21Record> {
+  static constexpr const char* Name = "Sub21Record";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week", NavframeU32, offsetof(Sub21Record, tow), sizeof(Sub21Record::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week", NavframeU32, offsetof(Sub21Record, week), sizeof(Sub21Record::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"body", "", "bytes of the message", NavframeU8, offsetof(Sub21Record, body), sizeof(Sub21Record::body[0]), 48, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(Sub21Record, reserved), sizeof(Sub21Record::reserved[0]), 64, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Sub21RecordLayout = LayoutOf<Sub21Record, Sub21RecordMembers>("Sub21Record");
-static_assert(CoversEveryByte(Sub21RecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Sub21Record> = Sub21RecordLayout;
 
-inline constexpr MemberRow Binary55AaRecordMembers[] = {
+template <> struct RowsOf<Binary55AaRecord> {
+  static constexpr const char* Name = "Binary55AaRecord";
+  static constexpr MemberRow Rows[] = {
     {{"payloadLength", "", "bytes of the payload", NavframeU32, offsetof(Binary55AaRecord, payloadLength), sizeof(Binary55AaRecord::payloadLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"payload", "", "the payload, little-endian, without header and checksum", NavframeU8, offsetof(Binary55AaRecord, payload), sizeof(Binary55AaRecord::payload[0]), 480, 0, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"stampWhole", "", "u32 at payload offset 0, in hundredths: whole units", NavframeU32, offsetof(Binary55AaRecord, stampWhole), sizeof(Binary55AaRecord::stampWhole), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -868,12 +870,12 @@ inline constexpr MemberRow Binary55AaRecordMembers[] = {
     {{"rates", "", "i32 * 0.001 at payload offsets 16, 20 and 24", NavframeF64, offsetof(Binary55AaRecord, rates), sizeof(Binary55AaRecord::rates[0]), 3, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, true, 0},
     {{"tenths", "", "i32 * 0.1 at payload offsets 28 and 32", NavframeF64, offsetof(Binary55AaRecord, tenths), sizeof(Binary55AaRecord::tenths[0]), 2, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, true, 0},
     {{"reservedAtEnd", "", "reserved", NavframeU8, offsetof(Binary55AaRecord, reservedAtEnd), sizeof(Binary55AaRecord::reservedAtEnd[0]), 2544, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow Binary55AaRecordLayout = LayoutOf<Binary55AaRecord, Binary55AaRecordMembers>("Binary55AaRecord");
-static_assert(CoversEveryByte(Binary55AaRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Binary55AaRecord> = Binary55AaRecordLayout;
 
-inline constexpr MemberRow UbxProtectionLevelsRecordMembers[] = {
+template <> struct RowsOf<UbxProtectionLevelsRecord> {
+  static constexpr const char* Name = "UbxProtectionLevelsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxProtectionLevelsRecord, tow), sizeof(UbxProtectionLevelsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxProtectionLevelsRecord, week), sizeof(UbxProtectionLevelsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxProtectionLevelsRecord, reserved), sizeof(UbxProtectionLevelsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -896,14 +898,14 @@ inline constexpr MemberRow UbxProtectionLevelsRecordMembers[] = {
     {{"velocityOrientation", "0.01 deg", "of the horizontal ellipse, clockwise from north", NavframeU16, offsetof(UbxProtectionLevelsRecord, velocityOrientation), sizeof(UbxProtectionLevelsRecord::velocityOrientation), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"timeLevel", "ns", "time level", NavframeU32, offsetof(UbxProtectionLevelsRecord, timeLevel), sizeof(UbxProtectionLevelsRecord::timeLevel), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"reservedAtEnd", "", "last bytes of the message, reserved there", NavframeU32, offsetof(UbxProtectionLevelsRecord, reservedAtEnd), sizeof(UbxProtectionLevelsRecord::reservedAtEnd), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxProtectionLevelsRecordLayout = LayoutOf<UbxProtectionLevelsRecord, UbxProtectionLevelsRecordMembers>("UbxProtectionLevelsRecord");
-static_assert(CoversEveryByte(UbxProtectionLevelsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxProtectionLevelsRecord> = UbxProtectionLevelsRecordLayout;
 
 inline constexpr NavframeValueName UbxNavigationRecordFixTypeValues[] = {{0, "none"}, {1, "dead reckoning"}, {2, "two-dimensional"}, {3, "three-dimensional"}, {4, "GNSS and dead reckoning"}, {5, "time only"},};
 inline constexpr NavframeValueName UbxNavigationRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
-inline constexpr MemberRow UbxNavigationRecordMembers[] = {
+template <> struct RowsOf<UbxNavigationRecord> {
+  static constexpr const char* Name = "UbxNavigationRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxNavigationRecord, tow), sizeof(UbxNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's date and time", NavframeU16, offsetof(UbxNavigationRecord, week), sizeof(UbxNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxNavigationRecord, reserved), sizeof(UbxNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -953,15 +955,15 @@ inline constexpr MemberRow UbxNavigationRecordMembers[] = {
     {{"reservedWord", "", "bytes that the message reserves", NavframeU32, offsetof(UbxNavigationRecord, reservedWord), sizeof(UbxNavigationRecord::reservedWord), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"vehicleHeading", "1e-5 deg", "low 16 bits of the heading of the vehicle", NavframeU16, offsetof(UbxNavigationRecord, vehicleHeading), sizeof(UbxNavigationRecord::vehicleHeading), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, true, 32768},
     {{"padding3", "", "", NavframePadding, 138, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxNavigationRecordLayout = LayoutOf<UbxNavigationRecord, UbxNavigationRecordMembers>("UbxNavigationRecord");
-static_assert(CoversEveryByte(UbxNavigationRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxNavigationRecord> = UbxNavigationRecordLayout;
 
 inline constexpr NavframeValueName UbxSatelliteQualityValues[] = {{0, "no signal"}, {1, "searching"}, {2, "acquired"}, {3, "detected but unusable"}, {4, "code locked"}, {5, "code and carrier locked"}, {6, "code and carrier locked"}, {7, "code and carrier locked"},};
 inline constexpr NavframeValueName UbxSatelliteHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
 inline constexpr NavframeValueName UbxSatelliteOrbitSourceValues[] = {{0, "none"}, {1, "ephemeris"}, {2, "almanac"}, {3, "offline prediction"}, {4, "autonomous prediction"}, {5, "other"}, {6, "other"}, {7, "other"},};
-inline constexpr MemberRow UbxSatelliteMembers[] = {
+template <> struct RowsOf<UbxSatellite> {
+  static constexpr const char* Name = "UbxSatellite";
+  static constexpr MemberRow Rows[] = {
     {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSatellite, systemId), sizeof(UbxSatellite::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
     {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSatellite, satelliteId), sizeof(UbxSatellite::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density; unknown for a 0 sent", NavframeU8, offsetof(UbxSatellite, cn0), sizeof(UbxSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -986,26 +988,26 @@ inline constexpr MemberRow UbxSatelliteMembers[] = {
     {{"rangeCorrections", "", "corrections of the pseudorange were used", NavframeU8, offsetof(UbxSatellite, rangeCorrections), sizeof(UbxSatellite::rangeCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"carrierCorrections", "", "corrections of the carrier range were used", NavframeU8, offsetof(UbxSatellite, carrierCorrections), sizeof(UbxSatellite::carrierCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSatellite, dopplerCorrections), sizeof(UbxSatellite::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSatelliteLayout = LayoutOf<UbxSatellite, UbxSatelliteMembers>("UbxSatellite");
-static_assert(CoversEveryByte(UbxSatelliteLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSatellite> = UbxSatelliteLayout;
 
-inline constexpr MemberRow UbxSatellitesRecordMembers[] = {
+template <> struct RowsOf<UbxSatellitesRecord> {
+  static constexpr const char* Name = "UbxSatellitesRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSatellitesRecord, tow), sizeof(UbxSatellitesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSatellitesRecord, week), sizeof(UbxSatellitesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSatellitesRecord, reserved), sizeof(UbxSatellitesRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSatellitesRecord, timeText), sizeof(UbxSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxSatellitesRecord, version), sizeof(UbxSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites: as many as the message counts, has bytes for and the record has room for", NavframeU8, offsetof(UbxSatellitesRecord, count), sizeof(UbxSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSatellitesRecord, satellites), sizeof(UbxSatellitesRecord::satellites[0]), 96, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSatelliteLayout}, false, 0},
+    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSatellitesRecord, satellites), sizeof(UbxSatellitesRecord::satellites[0]), 96, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxSatellite>}, false, 0},
     {{"padding0", "", "", NavframePadding, 2522, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSatellitesRecordLayout = LayoutOf<UbxSatellitesRecord, UbxSatellitesRecordMembers>("UbxSatellitesRecord");
-static_assert(CoversEveryByte(UbxSatellitesRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSatellitesRecord> = UbxSatellitesRecordLayout;
 
-inline constexpr MemberRow UbxRawMeasurementMembers[] = {
+template <> struct RowsOf<UbxRawMeasurement> {
+  static constexpr const char* Name = "UbxRawMeasurement";
+  static constexpr MemberRow Rows[] = {
     {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(UbxRawMeasurement, pseudorange), sizeof(UbxRawMeasurement::pseudorange), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"carrierPhase", "cycles", "carrier phase", NavframeF64, offsetof(UbxRawMeasurement, carrierPhase), sizeof(UbxRawMeasurement::carrierPhase), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"doppler", "Hz", "Doppler, positive for approaching satellites", NavframeF32, offsetof(UbxRawMeasurement, doppler), sizeof(UbxRawMeasurement::doppler), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
@@ -1023,12 +1025,12 @@ inline constexpr MemberRow UbxRawMeasurementMembers[] = {
     {{"halfCycleResolved", "", "the half cycle is resolved", NavframeU8, offsetof(UbxRawMeasurement, halfCycleResolved), sizeof(UbxRawMeasurement::halfCycleResolved), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"halfCycleSubtracted", "", "a half cycle was subtracted from the phase", NavframeU8, offsetof(UbxRawMeasurement, halfCycleSubtracted), sizeof(UbxRawMeasurement::halfCycleSubtracted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(UbxRawMeasurement, reserved), sizeof(UbxRawMeasurement::reserved[0]), 5, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRawMeasurementLayout = LayoutOf<UbxRawMeasurement, UbxRawMeasurementMembers>("UbxRawMeasurement");
-static_assert(CoversEveryByte(UbxRawMeasurementLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRawMeasurement> = UbxRawMeasurementLayout;
 
-inline constexpr MemberRow UbxRawMeasurementsRecordMembers[] = {
+template <> struct RowsOf<UbxRawMeasurementsRecord> {
+  static constexpr const char* Name = "UbxRawMeasurementsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the receiver's time of week rounded; unknown when it is no time of a week", NavframeU32, offsetof(UbxRawMeasurementsRecord, tow), sizeof(UbxRawMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the receiver's GPS week", NavframeU16, offsetof(UbxRawMeasurementsRecord, week), sizeof(UbxRawMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRawMeasurementsRecord, reserved), sizeof(UbxRawMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1039,13 +1041,13 @@ inline constexpr MemberRow UbxRawMeasurementsRecordMembers[] = {
     {{"clockReset", "", "the receiver's clock was reset", NavframeU8, offsetof(UbxRawMeasurementsRecord, clockReset), sizeof(UbxRawMeasurementsRecord::clockReset), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxRawMeasurementsRecord, version), sizeof(UbxRawMeasurementsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reservedInHead", "", "reserved", NavframeU8, offsetof(UbxRawMeasurementsRecord, reservedInHead), sizeof(UbxRawMeasurementsRecord::reservedInHead[0]), 3, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawMeasurementsRecord, measurements), sizeof(UbxRawMeasurementsRecord::measurements[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxRawMeasurementLayout}, false, 0},
+    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawMeasurementsRecord, measurements), sizeof(UbxRawMeasurementsRecord::measurements[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxRawMeasurement>}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRawMeasurementsRecordLayout = LayoutOf<UbxRawMeasurementsRecord, UbxRawMeasurementsRecordMembers>("UbxRawMeasurementsRecord");
-static_assert(CoversEveryByte(UbxRawMeasurementsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRawMeasurementsRecord> = UbxRawMeasurementsRecordLayout;
 
-inline constexpr MemberRow UbxAttitudeRecordMembers[] = {
+template <> struct RowsOf<UbxAttitudeRecord> {
+  static constexpr const char* Name = "UbxAttitudeRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxAttitudeRecord, tow), sizeof(UbxAttitudeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxAttitudeRecord, week), sizeof(UbxAttitudeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxAttitudeRecord, reserved), sizeof(UbxAttitudeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1058,24 +1060,24 @@ inline constexpr MemberRow UbxAttitudeRecordMembers[] = {
     {{"rollAccuracy", "deg", "accuracy of the roll", NavframeF64, offsetof(UbxAttitudeRecord, rollAccuracy), sizeof(UbxAttitudeRecord::rollAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"pitchAccuracy", "deg", "accuracy of the pitch", NavframeF64, offsetof(UbxAttitudeRecord, pitchAccuracy), sizeof(UbxAttitudeRecord::pitchAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxAttitudeRecord, headingAccuracy), sizeof(UbxAttitudeRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxAttitudeRecordLayout = LayoutOf<UbxAttitudeRecord, UbxAttitudeRecordMembers>("UbxAttitudeRecord");
-static_assert(CoversEveryByte(UbxAttitudeRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxAttitudeRecord> = UbxAttitudeRecordLayout;
 
 inline constexpr NavframeValueName DiagnosticRecordCodeValues[] = {{1, "UBX frame with a wrong checksum"},};
-inline constexpr MemberRow DiagnosticRecordMembers[] = {
+template <> struct RowsOf<DiagnosticRecord> {
+  static constexpr const char* Name = "DiagnosticRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(DiagnosticRecord, tow), sizeof(DiagnosticRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"code", "", "what happened", NavframeU32, offsetof(DiagnosticRecord, code), sizeof(DiagnosticRecord::code), 0, -1, 0, NavframeUnknownNever, 0, 1, DiagnosticRecordCodeValues, nullptr}, false, 0},
     {{"text", "", "the same in words", NavframeText, offsetof(DiagnosticRecord, text), sizeof(DiagnosticRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow DiagnosticRecordLayout = LayoutOf<DiagnosticRecord, DiagnosticRecordMembers>("DiagnosticRecord");
-static_assert(CoversEveryByte(DiagnosticRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<DiagnosticRecord> = DiagnosticRecordLayout;
 
 inline constexpr NavframeValueName UbxFullNavigationRecordPowerSaveStateValues[] = {{0, "none"}, {1, "enabled"}, {2, "acquisition"}, {3, "tracking"}, {4, "power optimized tracking"}, {5, "inactive"},};
 inline constexpr NavframeValueName UbxFullNavigationRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
-inline constexpr MemberRow UbxFullNavigationRecordMembers[] = {
+template <> struct RowsOf<UbxFullNavigationRecord> {
+  static constexpr const char* Name = "UbxFullNavigationRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFullNavigationRecord, tow), sizeof(UbxFullNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxFullNavigationRecord, week), sizeof(UbxFullNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFullNavigationRecord, reserved), sizeof(UbxFullNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1125,12 +1127,12 @@ inline constexpr MemberRow UbxFullNavigationRecordMembers[] = {
     {{"vehicleHeading", "deg", "heading of the vehicle, of motion while headingValid is 0", NavframeF64, offsetof(UbxFullNavigationRecord, vehicleHeading), sizeof(UbxFullNavigationRecord::vehicleHeading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"magDeclination", "deg", "magnetic declination, east positive; unknown without magValid", NavframeF64, offsetof(UbxFullNavigationRecord, magDeclination), sizeof(UbxFullNavigationRecord::magDeclination), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"magAccuracy", "deg", "accuracy of the magnetic declination; unknown without magValid", NavframeF64, offsetof(UbxFullNavigationRecord, magAccuracy), sizeof(UbxFullNavigationRecord::magAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxFullNavigationRecordLayout = LayoutOf<UbxFullNavigationRecord, UbxFullNavigationRecordMembers>("UbxFullNavigationRecord");
-static_assert(CoversEveryByte(UbxFullNavigationRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxFullNavigationRecord> = UbxFullNavigationRecordLayout;
 
-inline constexpr MemberRow UbxHighPrecisionPositionRecordMembers[] = {
+template <> struct RowsOf<UbxHighPrecisionPositionRecord> {
+  static constexpr const char* Name = "UbxHighPrecisionPositionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxHighPrecisionPositionRecord, tow), sizeof(UbxHighPrecisionPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxHighPrecisionPositionRecord, week), sizeof(UbxHighPrecisionPositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxHighPrecisionPositionRecord, reserved), sizeof(UbxHighPrecisionPositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1144,12 +1146,12 @@ inline constexpr MemberRow UbxHighPrecisionPositionRecordMembers[] = {
     {{"heightMsl", "m", "above mean sea level; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, heightMsl), sizeof(UbxHighPrecisionPositionRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"horizontalAccuracy", "m", "accuracy of the horizontal position", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, horizontalAccuracy), sizeof(UbxHighPrecisionPositionRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"verticalAccuracy", "m", "accuracy of the height", NavframeF64, offsetof(UbxHighPrecisionPositionRecord, verticalAccuracy), sizeof(UbxHighPrecisionPositionRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxHighPrecisionPositionRecordLayout = LayoutOf<UbxHighPrecisionPositionRecord, UbxHighPrecisionPositionRecordMembers>("UbxHighPrecisionPositionRecord");
-static_assert(CoversEveryByte(UbxHighPrecisionPositionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxHighPrecisionPositionRecord> = UbxHighPrecisionPositionRecordLayout;
 
-inline constexpr MemberRow UbxHighPrecisionEcefRecordMembers[] = {
+template <> struct RowsOf<UbxHighPrecisionEcefRecord> {
+  static constexpr const char* Name = "UbxHighPrecisionEcefRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxHighPrecisionEcefRecord, tow), sizeof(UbxHighPrecisionEcefRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxHighPrecisionEcefRecord, week), sizeof(UbxHighPrecisionEcefRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxHighPrecisionEcefRecord, reserved), sizeof(UbxHighPrecisionEcefRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1161,12 +1163,12 @@ inline constexpr MemberRow UbxHighPrecisionEcefRecordMembers[] = {
     {{"y", "m", "ECEF Y; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, y), sizeof(UbxHighPrecisionEcefRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"z", "m", "ECEF Z; unknown when not valid", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, z), sizeof(UbxHighPrecisionEcefRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accuracy", "m", "accuracy of the position", NavframeF64, offsetof(UbxHighPrecisionEcefRecord, accuracy), sizeof(UbxHighPrecisionEcefRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxHighPrecisionEcefRecordLayout = LayoutOf<UbxHighPrecisionEcefRecord, UbxHighPrecisionEcefRecordMembers>("UbxHighPrecisionEcefRecord");
-static_assert(CoversEveryByte(UbxHighPrecisionEcefRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxHighPrecisionEcefRecord> = UbxHighPrecisionEcefRecordLayout;
 
-inline constexpr MemberRow UbxPositionRecordMembers[] = {
+template <> struct RowsOf<UbxPositionRecord> {
+  static constexpr const char* Name = "UbxPositionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxPositionRecord, tow), sizeof(UbxPositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxPositionRecord, week), sizeof(UbxPositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxPositionRecord, reserved), sizeof(UbxPositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1177,12 +1179,12 @@ inline constexpr MemberRow UbxPositionRecordMembers[] = {
     {{"heightMsl", "m", "above mean sea level", NavframeF64, offsetof(UbxPositionRecord, heightMsl), sizeof(UbxPositionRecord::heightMsl), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"horizontalAccuracy", "m", "accuracy of the horizontal position", NavframeF64, offsetof(UbxPositionRecord, horizontalAccuracy), sizeof(UbxPositionRecord::horizontalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"verticalAccuracy", "m", "accuracy of the height", NavframeF64, offsetof(UbxPositionRecord, verticalAccuracy), sizeof(UbxPositionRecord::verticalAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxPositionRecordLayout = LayoutOf<UbxPositionRecord, UbxPositionRecordMembers>("UbxPositionRecord");
-static_assert(CoversEveryByte(UbxPositionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxPositionRecord> = UbxPositionRecordLayout;
 
-inline constexpr MemberRow UbxEcefRecordMembers[] = {
+template <> struct RowsOf<UbxEcefRecord> {
+  static constexpr const char* Name = "UbxEcefRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEcefRecord, tow), sizeof(UbxEcefRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEcefRecord, week), sizeof(UbxEcefRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEcefRecord, reserved), sizeof(UbxEcefRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1191,12 +1193,12 @@ inline constexpr MemberRow UbxEcefRecordMembers[] = {
     {{"y", "m", "ECEF Y", NavframeF64, offsetof(UbxEcefRecord, y), sizeof(UbxEcefRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"z", "m", "ECEF Z", NavframeF64, offsetof(UbxEcefRecord, z), sizeof(UbxEcefRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accuracy", "m", "accuracy of the position", NavframeF64, offsetof(UbxEcefRecord, accuracy), sizeof(UbxEcefRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxEcefRecordLayout = LayoutOf<UbxEcefRecord, UbxEcefRecordMembers>("UbxEcefRecord");
-static_assert(CoversEveryByte(UbxEcefRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxEcefRecord> = UbxEcefRecordLayout;
 
-inline constexpr MemberRow UbxVelocityRecordMembers[] = {
+template <> struct RowsOf<UbxVelocityRecord> {
+  static constexpr const char* Name = "UbxVelocityRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxVelocityRecord, tow), sizeof(UbxVelocityRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxVelocityRecord, week), sizeof(UbxVelocityRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxVelocityRecord, reserved), sizeof(UbxVelocityRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1209,12 +1211,12 @@ inline constexpr MemberRow UbxVelocityRecordMembers[] = {
     {{"motionHeading", "deg", "heading of motion", NavframeF64, offsetof(UbxVelocityRecord, motionHeading), sizeof(UbxVelocityRecord::motionHeading), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedAccuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxVelocityRecord, speedAccuracy), sizeof(UbxVelocityRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxVelocityRecord, headingAccuracy), sizeof(UbxVelocityRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxVelocityRecordLayout = LayoutOf<UbxVelocityRecord, UbxVelocityRecordMembers>("UbxVelocityRecord");
-static_assert(CoversEveryByte(UbxVelocityRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxVelocityRecord> = UbxVelocityRecordLayout;
 
-inline constexpr MemberRow UbxEcefVelocityRecordMembers[] = {
+template <> struct RowsOf<UbxEcefVelocityRecord> {
+  static constexpr const char* Name = "UbxEcefVelocityRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEcefVelocityRecord, tow), sizeof(UbxEcefVelocityRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEcefVelocityRecord, week), sizeof(UbxEcefVelocityRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEcefVelocityRecord, reserved), sizeof(UbxEcefVelocityRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1223,12 +1225,12 @@ inline constexpr MemberRow UbxEcefVelocityRecordMembers[] = {
     {{"velocityY", "m/s", "ECEF Y", NavframeF64, offsetof(UbxEcefVelocityRecord, velocityY), sizeof(UbxEcefVelocityRecord::velocityY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"velocityZ", "m/s", "ECEF Z", NavframeF64, offsetof(UbxEcefVelocityRecord, velocityZ), sizeof(UbxEcefVelocityRecord::velocityZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxEcefVelocityRecord, accuracy), sizeof(UbxEcefVelocityRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxEcefVelocityRecordLayout = LayoutOf<UbxEcefVelocityRecord, UbxEcefVelocityRecordMembers>("UbxEcefVelocityRecord");
-static_assert(CoversEveryByte(UbxEcefVelocityRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxEcefVelocityRecord> = UbxEcefVelocityRecordLayout;
 
-inline constexpr MemberRow UbxDopRecordMembers[] = {
+template <> struct RowsOf<UbxDopRecord> {
+  static constexpr const char* Name = "UbxDopRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxDopRecord, tow), sizeof(UbxDopRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxDopRecord, week), sizeof(UbxDopRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxDopRecord, reserved), sizeof(UbxDopRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1240,16 +1242,16 @@ inline constexpr MemberRow UbxDopRecordMembers[] = {
     {{"horizontalDop", "", "horizontal DOP", NavframeF64, offsetof(UbxDopRecord, horizontalDop), sizeof(UbxDopRecord::horizontalDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"northDop", "", "DOP to the north", NavframeF64, offsetof(UbxDopRecord, northDop), sizeof(UbxDopRecord::northDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"eastDop", "", "DOP to the east", NavframeF64, offsetof(UbxDopRecord, eastDop), sizeof(UbxDopRecord::eastDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxDopRecordLayout = LayoutOf<UbxDopRecord, UbxDopRecordMembers>("UbxDopRecord");
-static_assert(CoversEveryByte(UbxDopRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxDopRecord> = UbxDopRecordLayout;
 
 inline constexpr NavframeValueName UbxStatusRecordMapMatchingValues[] = {{0, "none"}, {1, "received but too old"}, {2, "position or heading used"}, {3, "dead reckoning with it"},};
 inline constexpr NavframeValueName UbxStatusRecordPowerSaveStateValues[] = {{0, "acquisition or none"}, {1, "tracking"}, {2, "power optimized tracking"}, {3, "inactive"},};
 inline constexpr NavframeValueName UbxStatusRecordSpoofingValues[] = {{0, "unknown"}, {1, "none"}, {2, "indicated"}, {3, "indicated more than once"},};
 inline constexpr NavframeValueName UbxStatusRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
-inline constexpr MemberRow UbxStatusRecordMembers[] = {
+template <> struct RowsOf<UbxStatusRecord> {
+  static constexpr const char* Name = "UbxStatusRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxStatusRecord, tow), sizeof(UbxStatusRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxStatusRecord, week), sizeof(UbxStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxStatusRecord, reserved), sizeof(UbxStatusRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1268,12 +1270,12 @@ inline constexpr MemberRow UbxStatusRecordMembers[] = {
     {{"padding0", "", "", NavframePadding, 35, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeToFirstFix", "ms", "time to first fix", NavframeU32, offsetof(UbxStatusRecord, timeToFirstFix), sizeof(UbxStatusRecord::timeToFirstFix), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"sinceStart", "ms", "since the receiver started", NavframeU32, offsetof(UbxStatusRecord, sinceStart), sizeof(UbxStatusRecord::sinceStart), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxStatusRecordLayout = LayoutOf<UbxStatusRecord, UbxStatusRecordMembers>("UbxStatusRecord");
-static_assert(CoversEveryByte(UbxStatusRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxStatusRecord> = UbxStatusRecordLayout;
 
-inline constexpr MemberRow UbxSolutionRecordMembers[] = {
+template <> struct RowsOf<UbxSolutionRecord> {
+  static constexpr const char* Name = "UbxSolutionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSolutionRecord, tow), sizeof(UbxSolutionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxSolutionRecord, week), sizeof(UbxSolutionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSolutionRecord, reserved), sizeof(UbxSolutionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1296,12 +1298,12 @@ inline constexpr MemberRow UbxSolutionRecordMembers[] = {
     {{"velocityZ", "m/s", "ECEF Z", NavframeF64, offsetof(UbxSolutionRecord, velocityZ), sizeof(UbxSolutionRecord::velocityZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"speedAccuracy", "m/s", "accuracy of the speed", NavframeF64, offsetof(UbxSolutionRecord, speedAccuracy), sizeof(UbxSolutionRecord::speedAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"positionDop", "", "position DOP", NavframeF64, offsetof(UbxSolutionRecord, positionDop), sizeof(UbxSolutionRecord::positionDop), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSolutionRecordLayout = LayoutOf<UbxSolutionRecord, UbxSolutionRecordMembers>("UbxSolutionRecord");
-static_assert(CoversEveryByte(UbxSolutionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSolutionRecord> = UbxSolutionRecordLayout;
 
-inline constexpr MemberRow UbxClockRecordMembers[] = {
+template <> struct RowsOf<UbxClockRecord> {
+  static constexpr const char* Name = "UbxClockRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxClockRecord, tow), sizeof(UbxClockRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxClockRecord, week), sizeof(UbxClockRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxClockRecord, reserved), sizeof(UbxClockRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1310,12 +1312,12 @@ inline constexpr MemberRow UbxClockRecordMembers[] = {
     {{"drift", "ns/s", "drift of the clock", NavframeI32, offsetof(UbxClockRecord, drift), sizeof(UbxClockRecord::drift), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
     {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxClockRecord, timeAccuracy), sizeof(UbxClockRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"frequencyAccuracy", "ps/s", "accuracy of the frequency", NavframeU32, offsetof(UbxClockRecord, frequencyAccuracy), sizeof(UbxClockRecord::frequencyAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxClockRecordLayout = LayoutOf<UbxClockRecord, UbxClockRecordMembers>("UbxClockRecord");
-static_assert(CoversEveryByte(UbxClockRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxClockRecord> = UbxClockRecordLayout;
 
-inline constexpr MemberRow UbxCovarianceRecordMembers[] = {
+template <> struct RowsOf<UbxCovarianceRecord> {
+  static constexpr const char* Name = "UbxCovarianceRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxCovarianceRecord, tow), sizeof(UbxCovarianceRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxCovarianceRecord, week), sizeof(UbxCovarianceRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxCovarianceRecord, reserved), sizeof(UbxCovarianceRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1326,22 +1328,22 @@ inline constexpr MemberRow UbxCovarianceRecordMembers[] = {
     {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"position", "m2", "of the position: NN, NE, ND, EE, ED, DD (north, east, down)", NavframeF32, offsetof(UbxCovarianceRecord, position), sizeof(UbxCovarianceRecord::position[0]), 6, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"velocity", "m2/s2", "of the velocity, in the same order", NavframeF32, offsetof(UbxCovarianceRecord, velocity), sizeof(UbxCovarianceRecord::velocity[0]), 6, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxCovarianceRecordLayout = LayoutOf<UbxCovarianceRecord, UbxCovarianceRecordMembers>("UbxCovarianceRecord");
-static_assert(CoversEveryByte(UbxCovarianceRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxCovarianceRecord> = UbxCovarianceRecordLayout;
 
-inline constexpr MemberRow UbxEndOfEpochRecordMembers[] = {
+template <> struct RowsOf<UbxEndOfEpochRecord> {
+  static constexpr const char* Name = "UbxEndOfEpochRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxEndOfEpochRecord, tow), sizeof(UbxEndOfEpochRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxEndOfEpochRecord, week), sizeof(UbxEndOfEpochRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxEndOfEpochRecord, reserved), sizeof(UbxEndOfEpochRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxEndOfEpochRecord, timeText), sizeof(UbxEndOfEpochRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxEndOfEpochRecordLayout = LayoutOf<UbxEndOfEpochRecord, UbxEndOfEpochRecordMembers>("UbxEndOfEpochRecord");
-static_assert(CoversEveryByte(UbxEndOfEpochRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxEndOfEpochRecord> = UbxEndOfEpochRecordLayout;
 
-inline constexpr MemberRow UbxGpsTimeRecordMembers[] = {
+template <> struct RowsOf<UbxGpsTimeRecord> {
+  static constexpr const char* Name = "UbxGpsTimeRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxGpsTimeRecord, tow), sizeof(UbxGpsTimeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxGpsTimeRecord, week), sizeof(UbxGpsTimeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxGpsTimeRecord, reserved), sizeof(UbxGpsTimeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1354,12 +1356,12 @@ inline constexpr MemberRow UbxGpsTimeRecordMembers[] = {
     {{"leapValid", "", "leapSeconds is valid", NavframeU8, offsetof(UbxGpsTimeRecord, leapValid), sizeof(UbxGpsTimeRecord::leapValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 34, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeAccuracy", "ns", "accuracy of the time", NavframeU32, offsetof(UbxGpsTimeRecord, timeAccuracy), sizeof(UbxGpsTimeRecord::timeAccuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxGpsTimeRecordLayout = LayoutOf<UbxGpsTimeRecord, UbxGpsTimeRecordMembers>("UbxGpsTimeRecord");
-static_assert(CoversEveryByte(UbxGpsTimeRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxGpsTimeRecord> = UbxGpsTimeRecordLayout;
 
-inline constexpr MemberRow UbxUtcRecordMembers[] = {
+template <> struct RowsOf<UbxUtcRecord> {
+  static constexpr const char* Name = "UbxUtcRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxUtcRecord, tow), sizeof(UbxUtcRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxUtcRecord, week), sizeof(UbxUtcRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxUtcRecord, reserved), sizeof(UbxUtcRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1377,15 +1379,15 @@ inline constexpr MemberRow UbxUtcRecordMembers[] = {
     {{"utcValid", "", "UTC is valid: the leap seconds are known", NavframeU8, offsetof(UbxUtcRecord, utcValid), sizeof(UbxUtcRecord::utcValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"timeAuthenticated", "", "the time was checked against a trusted source", NavframeU8, offsetof(UbxUtcRecord, timeAuthenticated), sizeof(UbxUtcRecord::timeAuthenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"utcStandard", "", "whose UTC", NavframeU8, offsetof(UbxUtcRecord, utcStandard), sizeof(UbxUtcRecord::utcStandard), 0, -1, 0, NavframeUnknownValue, 255, 10, UbxUtcStandardValues, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxUtcRecordLayout = LayoutOf<UbxUtcRecord, UbxUtcRecordMembers>("UbxUtcRecord");
-static_assert(CoversEveryByte(UbxUtcRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxUtcRecord> = UbxUtcRecordLayout;
 
 inline constexpr NavframeValueName UbxLeapSecondsRecordCurrentSourceValues[] = {{0, "firmware"}, {1, "difference of GPS and GLONASS"}, {2, "GPS"}, {3, "SBAS"}, {4, "BeiDou"}, {5, "Galileo"}, {6, "aiding"}, {7, "configured"}, {8, "NavIC"}, {255, "unknown"},};
 inline constexpr NavframeValueName UbxLeapSecondsRecordChangeSourceValues[] = {{0, "none"}, {2, "GPS"}, {3, "SBAS"}, {4, "BeiDou"}, {5, "Galileo"}, {6, "GLONASS"}, {7, "NavIC"},};
 inline constexpr NavframeValueName UbxLeapSecondsRecordChangeValues[] = {{-1, "second removed"}, {0, "none"}, {1, "second added"},};
-inline constexpr MemberRow UbxLeapSecondsRecordMembers[] = {
+template <> struct RowsOf<UbxLeapSecondsRecord> {
+  static constexpr const char* Name = "UbxLeapSecondsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxLeapSecondsRecord, tow), sizeof(UbxLeapSecondsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxLeapSecondsRecord, week), sizeof(UbxLeapSecondsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxLeapSecondsRecord, reserved), sizeof(UbxLeapSecondsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1402,13 +1404,13 @@ inline constexpr MemberRow UbxLeapSecondsRecordMembers[] = {
     {{"currentValid", "", "current is valid", NavframeU8, offsetof(UbxLeapSecondsRecord, currentValid), sizeof(UbxLeapSecondsRecord::currentValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"changeValid", "", "untilChange, changeWeek and changeDay are valid", NavframeU8, offsetof(UbxLeapSecondsRecord, changeValid), sizeof(UbxLeapSecondsRecord::changeValid), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 42, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxLeapSecondsRecordLayout = LayoutOf<UbxLeapSecondsRecord, UbxLeapSecondsRecordMembers>("UbxLeapSecondsRecord");
-static_assert(CoversEveryByte(UbxLeapSecondsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxLeapSecondsRecord> = UbxLeapSecondsRecordLayout;
 
 inline constexpr NavframeValueName UbxRelativePositionRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
-inline constexpr MemberRow UbxRelativePositionRecordMembers[] = {
+template <> struct RowsOf<UbxRelativePositionRecord> {
+  static constexpr const char* Name = "UbxRelativePositionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxRelativePositionRecord, tow), sizeof(UbxRelativePositionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRelativePositionRecord, week), sizeof(UbxRelativePositionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRelativePositionRecord, reserved), sizeof(UbxRelativePositionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1436,12 +1438,12 @@ inline constexpr MemberRow UbxRelativePositionRecordMembers[] = {
     {{"downAccuracy", "m", "accuracy downwards", NavframeF64, offsetof(UbxRelativePositionRecord, downAccuracy), sizeof(UbxRelativePositionRecord::downAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"lengthAccuracy", "m", "accuracy of the length", NavframeF64, offsetof(UbxRelativePositionRecord, lengthAccuracy), sizeof(UbxRelativePositionRecord::lengthAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"headingAccuracy", "deg", "accuracy of the heading", NavframeF64, offsetof(UbxRelativePositionRecord, headingAccuracy), sizeof(UbxRelativePositionRecord::headingAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRelativePositionRecordLayout = LayoutOf<UbxRelativePositionRecord, UbxRelativePositionRecordMembers>("UbxRelativePositionRecord");
-static_assert(CoversEveryByte(UbxRelativePositionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRelativePositionRecord> = UbxRelativePositionRecordLayout;
 
-inline constexpr MemberRow UbxSurveyInRecordMembers[] = {
+template <> struct RowsOf<UbxSurveyInRecord> {
+  static constexpr const char* Name = "UbxSurveyInRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSurveyInRecord, tow), sizeof(UbxSurveyInRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSurveyInRecord, week), sizeof(UbxSurveyInRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSurveyInRecord, reserved), sizeof(UbxSurveyInRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1457,13 +1459,13 @@ inline constexpr MemberRow UbxSurveyInRecordMembers[] = {
     {{"y", "m", "ECEF Y of the mean", NavframeF64, offsetof(UbxSurveyInRecord, y), sizeof(UbxSurveyInRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"z", "m", "ECEF Z of the mean", NavframeF64, offsetof(UbxSurveyInRecord, z), sizeof(UbxSurveyInRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accuracy", "m", "accuracy of the mean", NavframeF64, offsetof(UbxSurveyInRecord, accuracy), sizeof(UbxSurveyInRecord::accuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSurveyInRecordLayout = LayoutOf<UbxSurveyInRecord, UbxSurveyInRecordMembers>("UbxSurveyInRecord");
-static_assert(CoversEveryByte(UbxSurveyInRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSurveyInRecord> = UbxSurveyInRecordLayout;
 
 inline constexpr NavframeValueName UbxVehicleNavigationRecordCarrierSolutionValues[] = {{0, "none"}, {1, "float"}, {2, "fixed"},};
-inline constexpr MemberRow UbxVehicleNavigationRecordMembers[] = {
+template <> struct RowsOf<UbxVehicleNavigationRecord> {
+  static constexpr const char* Name = "UbxVehicleNavigationRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxVehicleNavigationRecord, tow), sizeof(UbxVehicleNavigationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week, after it has taken this message's time", NavframeU16, offsetof(UbxVehicleNavigationRecord, week), sizeof(UbxVehicleNavigationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxVehicleNavigationRecord, reserved), sizeof(UbxVehicleNavigationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1516,14 +1518,14 @@ inline constexpr MemberRow UbxVehicleNavigationRecordMembers[] = {
     {{"ellipseOrientation", "deg", "of the error ellipse's larger axis, from north", NavframeF64, offsetof(UbxVehicleNavigationRecord, ellipseOrientation), sizeof(UbxVehicleNavigationRecord::ellipseOrientation), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"ellipseMajor", "m", "larger half axis of the horizontal error ellipse", NavframeF64, offsetof(UbxVehicleNavigationRecord, ellipseMajor), sizeof(UbxVehicleNavigationRecord::ellipseMajor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"ellipseMinor", "m", "smaller half axis of the horizontal error ellipse", NavframeF64, offsetof(UbxVehicleNavigationRecord, ellipseMinor), sizeof(UbxVehicleNavigationRecord::ellipseMinor), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxVehicleNavigationRecordLayout = LayoutOf<UbxVehicleNavigationRecord, UbxVehicleNavigationRecordMembers>("UbxVehicleNavigationRecord");
-static_assert(CoversEveryByte(UbxVehicleNavigationRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxVehicleNavigationRecord> = UbxVehicleNavigationRecordLayout;
 
 inline constexpr NavframeValueName UbxFullSatelliteHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
 inline constexpr NavframeValueName UbxFullSatelliteOrbitSourceValues[] = {{0, "none"}, {1, "ephemeris"}, {2, "almanac"}, {3, "offline prediction"}, {4, "autonomous prediction"}, {5, "other"}, {6, "other"}, {7, "other"},};
-inline constexpr MemberRow UbxFullSatelliteMembers[] = {
+template <> struct RowsOf<UbxFullSatellite> {
+  static constexpr const char* Name = "UbxFullSatellite";
+  static constexpr MemberRow Rows[] = {
     {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxFullSatellite, systemId), sizeof(UbxFullSatellite::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
     {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxFullSatellite, satelliteId), sizeof(UbxFullSatellite::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density", NavframeU8, offsetof(UbxFullSatellite, cn0), sizeof(UbxFullSatellite::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1550,29 +1552,29 @@ inline constexpr MemberRow UbxFullSatelliteMembers[] = {
     {{"clasCorrections", "", "QZSS CLAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, clasCorrections), sizeof(UbxFullSatellite::clasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"lppCorrections", "", "corrections over LPP were used", NavframeU8, offsetof(UbxFullSatellite, lppCorrections), sizeof(UbxFullSatellite::lppCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"hasCorrections", "", "Galileo HAS corrections were used", NavframeU8, offsetof(UbxFullSatellite, hasCorrections), sizeof(UbxFullSatellite::hasCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxFullSatelliteLayout = LayoutOf<UbxFullSatellite, UbxFullSatelliteMembers>("UbxFullSatellite");
-static_assert(CoversEveryByte(UbxFullSatelliteLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxFullSatellite> = UbxFullSatelliteLayout;
 
-inline constexpr MemberRow UbxFullSatellitesRecordMembers[] = {
+template <> struct RowsOf<UbxFullSatellitesRecord> {
+  static constexpr const char* Name = "UbxFullSatellitesRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFullSatellitesRecord, tow), sizeof(UbxFullSatellitesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxFullSatellitesRecord, week), sizeof(UbxFullSatellitesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFullSatellitesRecord, reserved), sizeof(UbxFullSatellitesRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxFullSatellitesRecord, timeText), sizeof(UbxFullSatellitesRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxFullSatellitesRecord, version), sizeof(UbxFullSatellitesRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites", NavframeU8, offsetof(UbxFullSatellitesRecord, count), sizeof(UbxFullSatellitesRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFullSatellitesRecord, satellites), sizeof(UbxFullSatellitesRecord::satellites[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxFullSatelliteLayout}, false, 0},
+    {{"satellites", "", "satellites in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFullSatellitesRecord, satellites), sizeof(UbxFullSatellitesRecord::satellites[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxFullSatellite>}, false, 0},
     {{"padding0", "", "", NavframePadding, 7166, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxFullSatellitesRecordLayout = LayoutOf<UbxFullSatellitesRecord, UbxFullSatellitesRecordMembers>("UbxFullSatellitesRecord");
-static_assert(CoversEveryByte(UbxFullSatellitesRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxFullSatellitesRecord> = UbxFullSatellitesRecordLayout;
 
 inline constexpr NavframeValueName UbxSignalCorrectionSourceValues[] = {{0, "none"}, {1, "SBAS"}, {2, "BeiDou"}, {3, "RTCM 2"}, {4, "RTCM 3 OSR"}, {5, "RTCM 3 SSR"}, {6, "QZSS SLAS"}, {7, "SPARTN"}, {8, "CLAS"}, {9, "CLAS"}, {10, "LPP OSR"}, {11, "LPP SSR"}, {12, "Galileo HAS"},};
 inline constexpr NavframeValueName UbxSignalIonosphereModelValues[] = {{0, "none"}, {1, "Klobuchar of GPS"}, {2, "SBAS"}, {3, "Klobuchar of BeiDou"}, {8, "two frequencies"},};
 inline constexpr NavframeValueName UbxSignalHealthValues[] = {{0, "unknown"}, {1, "healthy"}, {2, "unhealthy"},};
-inline constexpr MemberRow UbxSignalMembers[] = {
+template <> struct RowsOf<UbxSignal> {
+  static constexpr const char* Name = "UbxSignal";
+  static constexpr MemberRow Rows[] = {
     {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxSignal, systemId), sizeof(UbxSignal::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
     {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxSignal, satelliteId), sizeof(UbxSignal::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"signalId", "", "signal of the system", NavframeU8, offsetof(UbxSignal, signalId), sizeof(UbxSignal::signalId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1592,27 +1594,27 @@ inline constexpr MemberRow UbxSignalMembers[] = {
     {{"dopplerCorrections", "", "corrections of the range rate were used", NavframeU8, offsetof(UbxSignal, dopplerCorrections), sizeof(UbxSignal::dopplerCorrections), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"authenticated", "", "the navigation message was authenticated", NavframeU8, offsetof(UbxSignal, authenticated), sizeof(UbxSignal::authenticated), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 19, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSignalLayout = LayoutOf<UbxSignal, UbxSignalMembers>("UbxSignal");
-static_assert(CoversEveryByte(UbxSignalLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSignal> = UbxSignalLayout;
 
-inline constexpr MemberRow UbxSignalsRecordMembers[] = {
+template <> struct RowsOf<UbxSignalsRecord> {
+  static constexpr const char* Name = "UbxSignalsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxSignalsRecord, tow), sizeof(UbxSignalsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSignalsRecord, week), sizeof(UbxSignalsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSignalsRecord, reserved), sizeof(UbxSignalsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxSignalsRecord, timeText), sizeof(UbxSignalsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"version", "", "version of the message", NavframeU8, offsetof(UbxSignalsRecord, version), sizeof(UbxSignalsRecord::version), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "signals", NavframeU8, offsetof(UbxSignalsRecord, count), sizeof(UbxSignalsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"signals", "", "signals in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSignalsRecord, signals), sizeof(UbxSignalsRecord::signals[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSignalLayout}, false, 0},
+    {{"signals", "", "signals in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSignalsRecord, signals), sizeof(UbxSignalsRecord::signals[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxSignal>}, false, 0},
     {{"padding0", "", "", NavframePadding, 5126, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSignalsRecordLayout = LayoutOf<UbxSignalsRecord, UbxSignalsRecordMembers>("UbxSignalsRecord");
-static_assert(CoversEveryByte(UbxSignalsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSignalsRecord> = UbxSignalsRecordLayout;
 
 inline constexpr NavframeValueName UbxChannelQualityValues[] = {{0, "idle"}, {1, "searching"}, {2, "acquired"}, {3, "detected but unusable"}, {4, "code locked"}, {5, "code and carrier locked"}, {6, "code and carrier locked"}, {7, "code and carrier locked"},};
-inline constexpr MemberRow UbxChannelMembers[] = {
+template <> struct RowsOf<UbxChannel> {
+  static constexpr const char* Name = "UbxChannel";
+  static constexpr MemberRow Rows[] = {
     {{"channel", "", "number of the channel", NavframeU8, offsetof(UbxChannel, channel), sizeof(UbxChannel::channel), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"satelliteId", "", "satellite number over all systems", NavframeU8, offsetof(UbxChannel, satelliteId), sizeof(UbxChannel::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"used", "", "in the solution", NavframeU8, offsetof(UbxChannel, used), sizeof(UbxChannel::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1629,12 +1631,12 @@ inline constexpr MemberRow UbxChannelMembers[] = {
     {{"padding0", "", "", NavframePadding, 13, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "0 to 360; unknown with a false elevation", NavframeI16, offsetof(UbxChannel, azimuth), sizeof(UbxChannel::azimuth), 0, -1, 0, NavframeUnknownValue, -32768, 0, nullptr, nullptr}, false, 0},
     {{"residual", "0.01 m", "residual of the pseudorange", NavframeI32, offsetof(UbxChannel, residual), sizeof(UbxChannel::residual), 0, -1, 0, NavframeUnknownValue, -2147483648, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxChannelLayout = LayoutOf<UbxChannel, UbxChannelMembers>("UbxChannel");
-static_assert(CoversEveryByte(UbxChannelLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxChannel> = UbxChannelLayout;
 
-inline constexpr MemberRow UbxChannelsRecordMembers[] = {
+template <> struct RowsOf<UbxChannelsRecord> {
+  static constexpr const char* Name = "UbxChannelsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxChannelsRecord, tow), sizeof(UbxChannelsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxChannelsRecord, week), sizeof(UbxChannelsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxChannelsRecord, reserved), sizeof(UbxChannelsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1642,13 +1644,13 @@ inline constexpr MemberRow UbxChannelsRecordMembers[] = {
     {{"chipGeneration", "", "generation of the receiver's hardware, 0 to 7", NavframeU8, offsetof(UbxChannelsRecord, chipGeneration), sizeof(UbxChannelsRecord::chipGeneration), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "channels", NavframeU8, offsetof(UbxChannelsRecord, count), sizeof(UbxChannelsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 26, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"channels", "", "channels in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxChannelsRecord, channels), sizeof(UbxChannelsRecord::channels[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxChannelLayout}, false, 0},
+    {{"channels", "", "channels in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxChannelsRecord, channels), sizeof(UbxChannelsRecord::channels[0]), 255, 5, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxChannel>}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxChannelsRecordLayout = LayoutOf<UbxChannelsRecord, UbxChannelsRecordMembers>("UbxChannelsRecord");
-static_assert(CoversEveryByte(UbxChannelsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxChannelsRecord> = UbxChannelsRecordLayout;
 
-inline constexpr MemberRow UbxSubframeRecordMembers[] = {
+template <> struct RowsOf<UbxSubframeRecord> {
+  static constexpr const char* Name = "UbxSubframeRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxSubframeRecord, tow), sizeof(UbxSubframeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSubframeRecord, week), sizeof(UbxSubframeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSubframeRecord, reserved), sizeof(UbxSubframeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1662,13 +1664,13 @@ inline constexpr MemberRow UbxSubframeRecordMembers[] = {
     {{"count", "", "words", NavframeU8, offsetof(UbxSubframeRecord, count), sizeof(UbxSubframeRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 31, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"words", "", "words as the receiver arranges them, unknown values behind the last one", NavframeU32, offsetof(UbxSubframeRecord, words), sizeof(UbxSubframeRecord::words[0]), 255, 10, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSubframeRecordLayout = LayoutOf<UbxSubframeRecord, UbxSubframeRecordMembers>("UbxSubframeRecord");
-static_assert(CoversEveryByte(UbxSubframeRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSubframeRecord> = UbxSubframeRecordLayout;
 
 inline constexpr NavframeValueName UbxRtcmInputRecordUsedValues[] = {{0, "not known"}, {1, "not used"}, {2, "used"},};
-inline constexpr MemberRow UbxRtcmInputRecordMembers[] = {
+template <> struct RowsOf<UbxRtcmInputRecord> {
+  static constexpr const char* Name = "UbxRtcmInputRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxRtcmInputRecord, tow), sizeof(UbxRtcmInputRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRtcmInputRecord, week), sizeof(UbxRtcmInputRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRtcmInputRecord, reserved), sizeof(UbxRtcmInputRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1681,13 +1683,13 @@ inline constexpr MemberRow UbxRtcmInputRecordMembers[] = {
     {{"stationId", "", "of the reference station", NavframeU16, offsetof(UbxRtcmInputRecord, stationId), sizeof(UbxRtcmInputRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"messageType", "", "RTCM message number", NavframeU16, offsetof(UbxRtcmInputRecord, messageType), sizeof(UbxRtcmInputRecord::messageType), 0, -1, NavframeAsSent, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 34, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRtcmInputRecordLayout = LayoutOf<UbxRtcmInputRecord, UbxRtcmInputRecordMembers>("UbxRtcmInputRecord");
-static_assert(CoversEveryByte(UbxRtcmInputRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRtcmInputRecord> = UbxRtcmInputRecordLayout;
 
 inline constexpr NavframeValueName UbxMeasurementMultipathValues[] = {{0, "not measured"}, {1, "low"}, {2, "medium"}, {3, "high"},};
-inline constexpr MemberRow UbxMeasurementMembers[] = {
+template <> struct RowsOf<UbxMeasurement> {
+  static constexpr const char* Name = "UbxMeasurement";
+  static constexpr MemberRow Rows[] = {
     {{"systemId", "", "satellite system", NavframeU8, offsetof(UbxMeasurement, systemId), sizeof(UbxMeasurement::systemId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 7, UbxSystemValues, nullptr}, false, 0},
     {{"satelliteId", "", "satellite number", NavframeU8, offsetof(UbxMeasurement, satelliteId), sizeof(UbxMeasurement::satelliteId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"cn0", "dB-Hz", "carrier-to-noise density, 0 to 63", NavframeU8, offsetof(UbxMeasurement, cn0), sizeof(UbxMeasurement::cn0), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1702,13 +1704,13 @@ inline constexpr MemberRow UbxMeasurementMembers[] = {
     {{"wholeCodePhase", "ms", "whole milliseconds of the code phase", NavframeU8, offsetof(UbxMeasurement, wholeCodePhase), sizeof(UbxMeasurement::wholeCodePhase), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"rangeErrorIndex", "", "deviation of the pseudorange, the receiver's code, 0 to 63", NavframeU8, offsetof(UbxMeasurement, rangeErrorIndex), sizeof(UbxMeasurement::rangeErrorIndex), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 42, 6, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxMeasurementLayout = LayoutOf<UbxMeasurement, UbxMeasurementMembers>("UbxMeasurement");
-static_assert(CoversEveryByte(UbxMeasurementLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxMeasurement> = UbxMeasurementLayout;
 
 inline constexpr NavframeValueName UbxMeasurementsRecordTowSetValues[] = {{0, "not set"}, {1, "set"}, {2, "set"},};
-inline constexpr MemberRow UbxMeasurementsRecordMembers[] = {
+template <> struct RowsOf<UbxMeasurementsRecord> {
+  static constexpr const char* Name = "UbxMeasurementsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxMeasurementsRecord, tow), sizeof(UbxMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxMeasurementsRecord, week), sizeof(UbxMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxMeasurementsRecord, reserved), sizeof(UbxMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1727,16 +1729,16 @@ inline constexpr MemberRow UbxMeasurementsRecordMembers[] = {
     {{"qzssAccuracy", "ms", "accuracy of qzssTow", NavframeF64, offsetof(UbxMeasurementsRecord, qzssAccuracy), sizeof(UbxMeasurementsRecord::qzssAccuracy), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "measurements", NavframeU8, offsetof(UbxMeasurementsRecord, count), sizeof(UbxMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding2", "", "", NavframePadding, 81, 7, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxMeasurementsRecord, measurements), sizeof(UbxMeasurementsRecord::measurements[0]), 166, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxMeasurementLayout}, false, 0},
+    {{"measurements", "", "measurements in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxMeasurementsRecord, measurements), sizeof(UbxMeasurementsRecord::measurements[0]), 166, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxMeasurement>}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxMeasurementsRecordLayout = LayoutOf<UbxMeasurementsRecord, UbxMeasurementsRecordMembers>("UbxMeasurementsRecord");
-static_assert(CoversEveryByte(UbxMeasurementsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxMeasurementsRecord> = UbxMeasurementsRecordLayout;
 
 inline constexpr NavframeValueName UbxTimePulseRecordUtcBaseValues[] = {{0, "GNSS"}, {1, "UTC"},};
 inline constexpr NavframeValueName UbxTimePulseRecordRaimValues[] = {{0, "not known"}, {1, "not active"}, {2, "active"},};
 inline constexpr NavframeValueName UbxTimePulseRecordGnssReferenceValues[] = {{0, "GPS"}, {1, "GLONASS"}, {2, "BeiDou"}, {3, "Galileo"}, {4, "NavIC"}, {15, "not known"},};
-inline constexpr MemberRow UbxTimePulseRecordMembers[] = {
+template <> struct RowsOf<UbxTimePulseRecord> {
+  static constexpr const char* Name = "UbxTimePulseRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxTimePulseRecord, tow), sizeof(UbxTimePulseRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxTimePulseRecord, week), sizeof(UbxTimePulseRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxTimePulseRecord, reserved), sizeof(UbxTimePulseRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1754,15 +1756,15 @@ inline constexpr MemberRow UbxTimePulseRecordMembers[] = {
     {{"gnssReference", "", "system of a GNSS time base", NavframeU8, offsetof(UbxTimePulseRecord, gnssReference), sizeof(UbxTimePulseRecord::gnssReference), 0, -1, 0, NavframeUnknownValue, 255, 6, UbxTimePulseRecordGnssReferenceValues, nullptr}, false, 0},
     {{"utcStandard", "", "whose UTC", NavframeU8, offsetof(UbxTimePulseRecord, utcStandard), sizeof(UbxTimePulseRecord::utcStandard), 0, -1, 0, NavframeUnknownValue, 255, 10, UbxUtcStandardValues, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 53, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxTimePulseRecordLayout = LayoutOf<UbxTimePulseRecord, UbxTimePulseRecordMembers>("UbxTimePulseRecord");
-static_assert(CoversEveryByte(UbxTimePulseRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxTimePulseRecord> = UbxTimePulseRecordLayout;
 
 inline constexpr NavframeValueName UbxTimeMarkRecordRunningValues[] = {{0, "single"}, {1, "running"},};
 inline constexpr NavframeValueName UbxTimeMarkRecordStoppedValues[] = {{0, "armed"}, {1, "stopped"},};
 inline constexpr NavframeValueName UbxTimeMarkRecordTimeBaseValues[] = {{0, "receiver"}, {1, "GNSS"}, {2, "UTC"},};
-inline constexpr MemberRow UbxTimeMarkRecordMembers[] = {
+template <> struct RowsOf<UbxTimeMarkRecord> {
+  static constexpr const char* Name = "UbxTimeMarkRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxTimeMarkRecord, tow), sizeof(UbxTimeMarkRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxTimeMarkRecord, week), sizeof(UbxTimeMarkRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxTimeMarkRecord, reserved), sizeof(UbxTimeMarkRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1784,14 +1786,14 @@ inline constexpr MemberRow UbxTimeMarkRecordMembers[] = {
     {{"fallingTow", "ms", "time of week of the last falling edge", NavframeU32, offsetof(UbxTimeMarkRecord, fallingTow), sizeof(UbxTimeMarkRecord::fallingTow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"fallingNanoseconds", "ns", "to be added to fallingTow", NavframeU32, offsetof(UbxTimeMarkRecord, fallingNanoseconds), sizeof(UbxTimeMarkRecord::fallingNanoseconds), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"accuracy", "ns", "accuracy of the times", NavframeU32, offsetof(UbxTimeMarkRecord, accuracy), sizeof(UbxTimeMarkRecord::accuracy), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxTimeMarkRecordLayout = LayoutOf<UbxTimeMarkRecord, UbxTimeMarkRecordMembers>("UbxTimeMarkRecord");
-static_assert(CoversEveryByte(UbxTimeMarkRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxTimeMarkRecord> = UbxTimeMarkRecordLayout;
 
 inline constexpr NavframeValueName UbxSensorStatusCalibrationValues[] = {{0, "not begun"}, {1, "going on"}, {2, "done"}, {3, "done"},};
 inline constexpr NavframeValueName UbxSensorStatusTimingValues[] = {{0, "none"}, {1, "at the first byte received"}, {2, "at an event"}, {3, "sent with the data"},};
-inline constexpr MemberRow UbxSensorStatusMembers[] = {
+template <> struct RowsOf<UbxSensorStatus> {
+  static constexpr const char* Name = "UbxSensorStatus";
+  static constexpr MemberRow Rows[] = {
     {{"type", "", "kind of the sensor", NavframeU8, offsetof(UbxSensorStatus, type), sizeof(UbxSensorStatus::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
     {{"used", "", "in the solution", NavframeU8, offsetof(UbxSensorStatus, used), sizeof(UbxSensorStatus::used), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"ready", "", "set up", NavframeU8, offsetof(UbxSensorStatus, ready), sizeof(UbxSensorStatus::ready), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
@@ -1802,17 +1804,17 @@ inline constexpr MemberRow UbxSensorStatusMembers[] = {
     {{"badTime", "", "bad times of measurements were seen", NavframeU8, offsetof(UbxSensorStatus, badTime), sizeof(UbxSensorStatus::badTime), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"missing", "", "measurements are missing or late", NavframeU8, offsetof(UbxSensorStatus, missing), sizeof(UbxSensorStatus::missing), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"noisy", "", "measurements are noisy", NavframeU8, offsetof(UbxSensorStatus, noisy), sizeof(UbxSensorStatus::noisy), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSensorStatusLayout = LayoutOf<UbxSensorStatus, UbxSensorStatusMembers>("UbxSensorStatus");
-static_assert(CoversEveryByte(UbxSensorStatusLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorStatus> = UbxSensorStatusLayout;
 
 inline constexpr NavframeValueName UbxFusionStatusRecordWheelTicksValues[] = {{0, "off"}, {1, "going on"}, {2, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordMountingValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordInertialValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordInertialSensorsValues[] = {{0, "off"}, {1, "going on"}, {2, "done"}, {3, "done"},};
 inline constexpr NavframeValueName UbxFusionStatusRecordFusionModeValues[] = {{0, "initializing"}, {1, "on"}, {2, "suspended"}, {3, "disabled"},};
-inline constexpr MemberRow UbxFusionStatusRecordMembers[] = {
+template <> struct RowsOf<UbxFusionStatusRecord> {
+  static constexpr const char* Name = "UbxFusionStatusRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxFusionStatusRecord, tow), sizeof(UbxFusionStatusRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxFusionStatusRecord, week), sizeof(UbxFusionStatusRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxFusionStatusRecord, reserved), sizeof(UbxFusionStatusRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1824,25 +1826,25 @@ inline constexpr MemberRow UbxFusionStatusRecordMembers[] = {
     {{"inertialSensors", "", "initialization of the sensors", NavframeU8, offsetof(UbxFusionStatusRecord, inertialSensors), sizeof(UbxFusionStatusRecord::inertialSensors), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordInertialSensorsValues, nullptr}, false, 0},
     {{"fusionMode", "", "fusion", NavframeU8, offsetof(UbxFusionStatusRecord, fusionMode), sizeof(UbxFusionStatusRecord::fusionMode), 0, -1, 0, NavframeUnknownValue, 255, 4, UbxFusionStatusRecordFusionModeValues, nullptr}, false, 0},
     {{"count", "", "sensors", NavframeU8, offsetof(UbxFusionStatusRecord, count), sizeof(UbxFusionStatusRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"sensors", "", "sensors in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFusionStatusRecord, sensors), sizeof(UbxFusionStatusRecord::sensors[0]), 255, 10, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSensorStatusLayout}, false, 0},
+    {{"sensors", "", "sensors in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxFusionStatusRecord, sensors), sizeof(UbxFusionStatusRecord::sensors[0]), 255, 10, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxSensorStatus>}, false, 0},
     {{"padding0", "", "", NavframePadding, 2581, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxFusionStatusRecordLayout = LayoutOf<UbxFusionStatusRecord, UbxFusionStatusRecordMembers>("UbxFusionStatusRecord");
-static_assert(CoversEveryByte(UbxFusionStatusRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxFusionStatusRecord> = UbxFusionStatusRecordLayout;
 
-inline constexpr MemberRow UbxSensorMeasurementMembers[] = {
+template <> struct RowsOf<UbxSensorMeasurement> {
+  static constexpr const char* Name = "UbxSensorMeasurement";
+  static constexpr MemberRow Rows[] = {
     {{"data", "", "number of 24 bits", NavframeU32, offsetof(UbxSensorMeasurement, data), sizeof(UbxSensorMeasurement::data), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"type", "", "what it measures", NavframeU8, offsetof(UbxSensorMeasurement, type), sizeof(UbxSensorMeasurement::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 5, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSensorMeasurementLayout = LayoutOf<UbxSensorMeasurement, UbxSensorMeasurementMembers>("UbxSensorMeasurement");
-static_assert(CoversEveryByte(UbxSensorMeasurementLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorMeasurement> = UbxSensorMeasurementLayout;
 
 inline constexpr NavframeValueName UbxSensorMeasurementsRecordTimeMarkSentValues[] = {{0, "none"}, {1, "on input 0"}, {2, "on input 1"},};
 inline constexpr NavframeValueName UbxSensorMeasurementsRecordTimeMarkEdgeValues[] = {{0, "rising"}, {1, "falling"},};
-inline constexpr MemberRow UbxSensorMeasurementsRecordMembers[] = {
+template <> struct RowsOf<UbxSensorMeasurementsRecord> {
+  static constexpr const char* Name = "UbxSensorMeasurementsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxSensorMeasurementsRecord, tow), sizeof(UbxSensorMeasurementsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxSensorMeasurementsRecord, week), sizeof(UbxSensorMeasurementsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxSensorMeasurementsRecord, reserved), sizeof(UbxSensorMeasurementsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1856,36 +1858,36 @@ inline constexpr MemberRow UbxSensorMeasurementsRecordMembers[] = {
     {{"calibrationTime", "ms", "receiver's time of the measurements", NavframeU32, offsetof(UbxSensorMeasurementsRecord, calibrationTime), sizeof(UbxSensorMeasurementsRecord::calibrationTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "measurements", NavframeU8, offsetof(UbxSensorMeasurementsRecord, count), sizeof(UbxSensorMeasurementsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding1", "", "", NavframePadding, 41, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSensorMeasurementsRecord, measurements), sizeof(UbxSensorMeasurementsRecord::measurements[0]), 31, 11, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxSensorMeasurementLayout}, false, 0},
+    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxSensorMeasurementsRecord, measurements), sizeof(UbxSensorMeasurementsRecord::measurements[0]), 31, 11, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxSensorMeasurement>}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxSensorMeasurementsRecordLayout = LayoutOf<UbxSensorMeasurementsRecord, UbxSensorMeasurementsRecordMembers>("UbxSensorMeasurementsRecord");
-static_assert(CoversEveryByte(UbxSensorMeasurementsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxSensorMeasurementsRecord> = UbxSensorMeasurementsRecordLayout;
 
-inline constexpr MemberRow UbxRawSensorMembers[] = {
+template <> struct RowsOf<UbxRawSensor> {
+  static constexpr const char* Name = "UbxRawSensor";
+  static constexpr MemberRow Rows[] = {
     {{"sensorTime", "", "time of the measurement, in the sensor's own ticks", NavframeU32, offsetof(UbxRawSensor, sensorTime), sizeof(UbxRawSensor::sensorTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"data", "", "number of 24 bits", NavframeU32, offsetof(UbxRawSensor, data), sizeof(UbxRawSensor::data), 0, -1, NavframeAsSent, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"type", "", "what it measures", NavframeU8, offsetof(UbxRawSensor, type), sizeof(UbxRawSensor::type), 0, -1, 0, NavframeUnknownValue, 255, 14, UbxSensorTypeValues, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 9, 3, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRawSensorLayout = LayoutOf<UbxRawSensor, UbxRawSensorMembers>("UbxRawSensor");
-static_assert(CoversEveryByte(UbxRawSensorLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRawSensor> = UbxRawSensorLayout;
 
-inline constexpr MemberRow UbxRawSensorsRecordMembers[] = {
+template <> struct RowsOf<UbxRawSensorsRecord> {
+  static constexpr const char* Name = "UbxRawSensorsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxRawSensorsRecord, tow), sizeof(UbxRawSensorsRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxRawSensorsRecord, week), sizeof(UbxRawSensorsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxRawSensorsRecord, reserved), sizeof(UbxRawSensorsRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeText", "", "the decoder's time of day when the message was decoded", NavframeText, offsetof(UbxRawSensorsRecord, timeText), sizeof(UbxRawSensorsRecord::timeText), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "measurements", NavframeU16, offsetof(UbxRawSensorsRecord, count), sizeof(UbxRawSensorsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 26, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawSensorsRecord, measurements), sizeof(UbxRawSensorsRecord::measurements[0]), 505, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &UbxRawSensorLayout}, false, 0},
+    {{"measurements", "", "data in the order of the message, unknown values behind the last one", NavframeNested, offsetof(UbxRawSensorsRecord, measurements), sizeof(UbxRawSensorsRecord::measurements[0]), 505, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UbxRawSensor>}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxRawSensorsRecordLayout = LayoutOf<UbxRawSensorsRecord, UbxRawSensorsRecordMembers>("UbxRawSensorsRecord");
-static_assert(CoversEveryByte(UbxRawSensorsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxRawSensorsRecord> = UbxRawSensorsRecordLayout;
 
-inline constexpr MemberRow UbxInertialRecordMembers[] = {
+template <> struct RowsOf<UbxInertialRecord> {
+  static constexpr const char* Name = "UbxInertialRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxInertialRecord, tow), sizeof(UbxInertialRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxInertialRecord, week), sizeof(UbxInertialRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxInertialRecord, reserved), sizeof(UbxInertialRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1904,13 +1906,13 @@ inline constexpr MemberRow UbxInertialRecordMembers[] = {
     {{"accelerationX", "m/s2", "acceleration along X, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationX), sizeof(UbxInertialRecord::accelerationX), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accelerationY", "m/s2", "acceleration along Y, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationY), sizeof(UbxInertialRecord::accelerationY), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"accelerationZ", "m/s2", "acceleration along Z, without gravity", NavframeF64, offsetof(UbxInertialRecord, accelerationZ), sizeof(UbxInertialRecord::accelerationZ), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxInertialRecordLayout = LayoutOf<UbxInertialRecord, UbxInertialRecordMembers>("UbxInertialRecord");
-static_assert(CoversEveryByte(UbxInertialRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxInertialRecord> = UbxInertialRecordLayout;
 
 inline constexpr NavframeValueName UbxMountingRecordStateValues[] = {{0, "configured"}, {1, "roll and pitch going on"}, {2, "roll pitch and yaw going on"}, {3, "coarse"}, {4, "fine"},};
-inline constexpr MemberRow UbxMountingRecordMembers[] = {
+template <> struct RowsOf<UbxMountingRecord> {
+  static constexpr const char* Name = "UbxMountingRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the message", NavframeU32, offsetof(UbxMountingRecord, tow), sizeof(UbxMountingRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxMountingRecord, week), sizeof(UbxMountingRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxMountingRecord, reserved), sizeof(UbxMountingRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1925,12 +1927,12 @@ inline constexpr MemberRow UbxMountingRecordMembers[] = {
     {{"yaw", "deg", "0 to 360", NavframeF64, offsetof(UbxMountingRecord, yaw), sizeof(UbxMountingRecord::yaw), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"pitch", "deg", "-90 to 90", NavframeF64, offsetof(UbxMountingRecord, pitch), sizeof(UbxMountingRecord::pitch), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"roll", "deg", "-180 to 180", NavframeF64, offsetof(UbxMountingRecord, roll), sizeof(UbxMountingRecord::roll), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxMountingRecordLayout = LayoutOf<UbxMountingRecord, UbxMountingRecordMembers>("UbxMountingRecord");
-static_assert(CoversEveryByte(UbxMountingRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxMountingRecord> = UbxMountingRecordLayout;
 
-inline constexpr MemberRow UbxVersionRecordMembers[] = {
+template <> struct RowsOf<UbxVersionRecord> {
+  static constexpr const char* Name = "UbxVersionRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxVersionRecord, tow), sizeof(UbxVersionRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxVersionRecord, week), sizeof(UbxVersionRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxVersionRecord, reserved), sizeof(UbxVersionRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1940,13 +1942,13 @@ inline constexpr MemberRow UbxVersionRecordMembers[] = {
     {{"count", "", "extensions", NavframeU8, offsetof(UbxVersionRecord, count), sizeof(UbxVersionRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"extensions", "", "further texts in the order of the message, unknown values behind the last one", NavframeText, offsetof(UbxVersionRecord, extensions), sizeof(UbxVersionRecord::extensions[0]), 133, 6, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 4190, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxVersionRecordLayout = LayoutOf<UbxVersionRecord, UbxVersionRecordMembers>("UbxVersionRecord");
-static_assert(CoversEveryByte(UbxVersionRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxVersionRecord> = UbxVersionRecordLayout;
 
 inline constexpr NavframeValueName UbxInformationRecordSeverityValues[] = {{0, "error"}, {1, "warning"}, {2, "notice"}, {3, "test"}, {4, "debug"},};
-inline constexpr MemberRow UbxInformationRecordMembers[] = {
+template <> struct RowsOf<UbxInformationRecord> {
+  static constexpr const char* Name = "UbxInformationRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxInformationRecord, tow), sizeof(UbxInformationRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxInformationRecord, week), sizeof(UbxInformationRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxInformationRecord, reserved), sizeof(UbxInformationRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1954,12 +1956,12 @@ inline constexpr MemberRow UbxInformationRecordMembers[] = {
     {{"severity", "", "kind of the text", NavframeU8, offsetof(UbxInformationRecord, severity), sizeof(UbxInformationRecord::severity), 0, -1, 0, NavframeUnknownValue, 255, 5, UbxInformationRecordSeverityValues, nullptr}, false, 0},
     {{"text", "", "up to the first byte 0 of the message", NavframeText, offsetof(UbxInformationRecord, text), sizeof(UbxInformationRecord::text), 0, -1, NavframeAsSent, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 4074, 2, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxInformationRecordLayout = LayoutOf<UbxInformationRecord, UbxInformationRecordMembers>("UbxInformationRecord");
-static_assert(CoversEveryByte(UbxInformationRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxInformationRecord> = UbxInformationRecordLayout;
 
-inline constexpr MemberRow UbxAcknowledgeRecordMembers[] = {
+template <> struct RowsOf<UbxAcknowledgeRecord> {
+  static constexpr const char* Name = "UbxAcknowledgeRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "the decoder's GPS time of week", NavframeU32, offsetof(UbxAcknowledgeRecord, tow), sizeof(UbxAcknowledgeRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "the decoder's GPS week", NavframeU16, offsetof(UbxAcknowledgeRecord, week), sizeof(UbxAcknowledgeRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(UbxAcknowledgeRecord, reserved), sizeof(UbxAcknowledgeRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1968,12 +1970,12 @@ inline constexpr MemberRow UbxAcknowledgeRecordMembers[] = {
     {{"messageClass", "", "class of the message", NavframeU8, offsetof(UbxAcknowledgeRecord, messageClass), sizeof(UbxAcknowledgeRecord::messageClass), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"messageId", "", "id of the message", NavframeU8, offsetof(UbxAcknowledgeRecord, messageId), sizeof(UbxAcknowledgeRecord::messageId), 0, -1, NavframeAsSent, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"padding0", "", "", NavframePadding, 27, 1, 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UbxAcknowledgeRecordLayout = LayoutOf<UbxAcknowledgeRecord, UbxAcknowledgeRecordMembers>("UbxAcknowledgeRecord");
-static_assert(CoversEveryByte(UbxAcknowledgeRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UbxAcknowledgeRecord> = UbxAcknowledgeRecordLayout;
 
-inline constexpr MemberRow ObservationMembers[] = {
+template <> struct RowsOf<Observation> {
+  static constexpr const char* Name = "Observation";
+  static constexpr MemberRow Rows[] = {
     {{"system", "", "satellite system", NavframeU8, offsetof(Observation, system), sizeof(Observation::system), 0, -1, 0, NavframeUnknownValue, 255, 7, ObservedSystemValues, nullptr}, false, 0},
     {{"satellite", "", "number within the system, as RINEX counts them but for SBAS: 1 to 63, of SBAS 120 to 158", NavframeU8, offsetof(Observation, satellite), sizeof(Observation::satellite), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"signal", "", "the message's number of the signal: MSM signal id, UBX signal id, code indicator of 1001 to 1012", NavframeU8, offsetof(Observation, signal), sizeof(Observation::signal), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -1994,15 +1996,15 @@ inline constexpr MemberRow ObservationMembers[] = {
     {{"halfCycleAmbiguity", "", "the phase may be off by half a cycle", NavframeU8, offsetof(Observation, halfCycleAmbiguity), sizeof(Observation::halfCycleAmbiguity), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"halfCycleSubtracted", "", "half a cycle was subtracted from the phase (UBX)", NavframeU8, offsetof(Observation, halfCycleSubtracted), sizeof(Observation::halfCycleSubtracted), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(Observation, reserved), sizeof(Observation::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ObservationLayout = LayoutOf<Observation, ObservationMembers>("Observation");
-static_assert(CoversEveryByte(ObservationLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<Observation> = ObservationLayout;
 
 inline constexpr NavframeValueName ObservationsRecordProtocolValues[] = {{4, "RTCM 3"}, {8, "UBX"},};
 inline constexpr NavframeValueName ObservationsRecordClockSteeringValues[] = {{0, "none"}, {1, "applied"}, {2, "unknown"}, {3, "reserved"},};
 inline constexpr NavframeValueName ObservationsRecordExternalClockValues[] = {{0, "internal"}, {1, "external and locked"}, {2, "external and not locked"}, {3, "unknown"},};
-inline constexpr MemberRow ObservationsRecordMembers[] = {
+template <> struct RowsOf<ObservationsRecord> {
+  static constexpr const char* Name = "ObservationsRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "s", "GPS time of week, the receiver's; epochs of BeiDou and GLONASS are converted, the latter by the leap seconds in use", NavframeF64, offsetof(ObservationsRecord, tow), sizeof(ObservationsRecord::tow), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"rangeModulus", "m", "pseudoranges and phase ranges are known but for multiples of this (of 1001, 1003, 1009 and 1011); 0 when they are whole", NavframeF64, offsetof(ObservationsRecord, rangeModulus), sizeof(ObservationsRecord::rangeModulus), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week: the receiver's (UBX), the stream's (RTCM 3)", NavframeU16, offsetof(ObservationsRecord, week), sizeof(ObservationsRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
@@ -2021,14 +2023,14 @@ inline constexpr MemberRow ObservationsRecordMembers[] = {
     {{"leapKnown", "", "leapSeconds was received, not assumed (UBX)", NavframeU8, offsetof(ObservationsRecord, leapKnown), sizeof(ObservationsRecord::leapKnown), 0, -1, NavframeYesNo, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "observations, 0 to 255", NavframeU8, offsetof(ObservationsRecord, count), sizeof(ObservationsRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU8, offsetof(ObservationsRecord, reserved), sizeof(ObservationsRecord::reserved[0]), 6, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"observations", "", "in the order of the message, unknown values behind the last one", NavframeNested, offsetof(ObservationsRecord, observations), sizeof(ObservationsRecord::observations[0]), 255, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &ObservationLayout}, false, 0},
+    {{"observations", "", "in the order of the message, unknown values behind the last one", NavframeNested, offsetof(ObservationsRecord, observations), sizeof(ObservationsRecord::observations[0]), 255, 16, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<Observation>}, false, 0},
+  };
 };
-inline constexpr RecordRow ObservationsRecordLayout = LayoutOf<ObservationsRecord, ObservationsRecordMembers>("ObservationsRecord");
-static_assert(CoversEveryByte(ObservationsRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ObservationsRecord> = ObservationsRecordLayout;
 
 inline constexpr NavframeValueName StationAntennaPointRecordQuarterCycleValues[] = {{1, "aligned"}, {2, "a quarter of a cycle apart"}, {3, "reserved"},};
-inline constexpr MemberRow StationAntennaPointRecordMembers[] = {
+template <> struct RowsOf<StationAntennaPointRecord> {
+  static constexpr const char* Name = "StationAntennaPointRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationAntennaPointRecord, tow), sizeof(StationAntennaPointRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationAntennaPointRecord, week), sizeof(StationAntennaPointRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationAntennaPointRecord, stationId), sizeof(StationAntennaPointRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2045,12 +2047,12 @@ inline constexpr MemberRow StationAntennaPointRecordMembers[] = {
     {{"y", "m", "ECEF Y", NavframeF64, offsetof(StationAntennaPointRecord, y), sizeof(StationAntennaPointRecord::y), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"z", "m", "ECEF Z", NavframeF64, offsetof(StationAntennaPointRecord, z), sizeof(StationAntennaPointRecord::z), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"antennaHeight", "m", "of the reference point above the marker; unknown in 1005", NavframeF64, offsetof(StationAntennaPointRecord, antennaHeight), sizeof(StationAntennaPointRecord::antennaHeight), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow StationAntennaPointRecordLayout = LayoutOf<StationAntennaPointRecord, StationAntennaPointRecordMembers>("StationAntennaPointRecord");
-static_assert(CoversEveryByte(StationAntennaPointRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<StationAntennaPointRecord> = StationAntennaPointRecordLayout;
 
-inline constexpr MemberRow StationEquipmentRecordMembers[] = {
+template <> struct RowsOf<StationEquipmentRecord> {
+  static constexpr const char* Name = "StationEquipmentRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationEquipmentRecord, tow), sizeof(StationEquipmentRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationEquipmentRecord, week), sizeof(StationEquipmentRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationEquipmentRecord, stationId), sizeof(StationEquipmentRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2062,12 +2064,12 @@ inline constexpr MemberRow StationEquipmentRecordMembers[] = {
     {{"receiver", "", "type of the receiver", NavframeText, offsetof(StationEquipmentRecord, receiver), sizeof(StationEquipmentRecord::receiver), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"firmware", "", "version of its firmware", NavframeText, offsetof(StationEquipmentRecord, firmware), sizeof(StationEquipmentRecord::firmware), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
     {{"receiverSerial", "", "serial number of the receiver", NavframeText, offsetof(StationEquipmentRecord, receiverSerial), sizeof(StationEquipmentRecord::receiverSerial), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow StationEquipmentRecordLayout = LayoutOf<StationEquipmentRecord, StationEquipmentRecordMembers>("StationEquipmentRecord");
-static_assert(CoversEveryByte(StationEquipmentRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<StationEquipmentRecord> = StationEquipmentRecordLayout;
 
-inline constexpr MemberRow StationGlonassBiasesRecordMembers[] = {
+template <> struct RowsOf<StationGlonassBiasesRecord> {
+  static constexpr const char* Name = "StationGlonassBiasesRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationGlonassBiasesRecord, tow), sizeof(StationGlonassBiasesRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationGlonassBiasesRecord, week), sizeof(StationGlonassBiasesRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationGlonassBiasesRecord, stationId), sizeof(StationGlonassBiasesRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2077,12 +2079,12 @@ inline constexpr MemberRow StationGlonassBiasesRecordMembers[] = {
     {{"l1P", "m", "bias of L1 P", NavframeF64, offsetof(StationGlonassBiasesRecord, l1P), sizeof(StationGlonassBiasesRecord::l1P), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"l2Ca", "m", "bias of L2 C/A", NavframeF64, offsetof(StationGlonassBiasesRecord, l2Ca), sizeof(StationGlonassBiasesRecord::l2Ca), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"l2P", "m", "bias of L2 P", NavframeF64, offsetof(StationGlonassBiasesRecord, l2P), sizeof(StationGlonassBiasesRecord::l2P), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow StationGlonassBiasesRecordLayout = LayoutOf<StationGlonassBiasesRecord, StationGlonassBiasesRecordMembers>("StationGlonassBiasesRecord");
-static_assert(CoversEveryByte(StationGlonassBiasesRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<StationGlonassBiasesRecord> = StationGlonassBiasesRecordLayout;
 
-inline constexpr MemberRow StationTextRecordMembers[] = {
+template <> struct RowsOf<StationTextRecord> {
+  static constexpr const char* Name = "StationTextRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(StationTextRecord, tow), sizeof(StationTextRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(StationTextRecord, week), sizeof(StationTextRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "reference station, 0 to 4095", NavframeU16, offsetof(StationTextRecord, stationId), sizeof(StationTextRecord::stationId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2091,12 +2093,12 @@ inline constexpr MemberRow StationTextRecordMembers[] = {
     {{"characters", "", "characters of the text", NavframeU8, offsetof(StationTextRecord, characters), sizeof(StationTextRecord::characters), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"length", "B", "of the text", NavframeU8, offsetof(StationTextRecord, length), sizeof(StationTextRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"text", "", "UTF-8", NavframeText, offsetof(StationTextRecord, text), sizeof(StationTextRecord::text), 0, -1, 0, NavframeUnknownEmpty, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow StationTextRecordLayout = LayoutOf<StationTextRecord, StationTextRecordMembers>("StationTextRecord");
-static_assert(CoversEveryByte(StationTextRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<StationTextRecord> = StationTextRecordLayout;
 
-inline constexpr MemberRow KeplerEphemerisRecordMembers[] = {
+template <> struct RowsOf<KeplerEphemerisRecord> {
+  static constexpr const char* Name = "KeplerEphemerisRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(KeplerEphemerisRecord, tow), sizeof(KeplerEphemerisRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(KeplerEphemerisRecord, week), sizeof(KeplerEphemerisRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"system", "", "satellite system", NavframeU8, offsetof(KeplerEphemerisRecord, system), sizeof(KeplerEphemerisRecord::system), 0, -1, 0, NavframeUnknownValue, 255, 5, EphemerisSystemValues, nullptr}, false, 0},
@@ -2139,21 +2141,21 @@ inline constexpr MemberRow KeplerEphemerisRecordMembers[] = {
     {{"cic", "rad", "cosine correction of the inclination", NavframeF64, offsetof(KeplerEphemerisRecord, cic), sizeof(KeplerEphemerisRecord::cic), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"cis", "rad", "sine correction of the inclination", NavframeF64, offsetof(KeplerEphemerisRecord, cis), sizeof(KeplerEphemerisRecord::cis), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"groupDelay", "s", "of GPS, QZSS and NavIC TGD; of Galileo BGD E5a/E1 and E5b/E1; of BeiDou TGD1 and TGD2", NavframeF64, offsetof(KeplerEphemerisRecord, groupDelay), sizeof(KeplerEphemerisRecord::groupDelay[0]), 2, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow KeplerEphemerisRecordLayout = LayoutOf<KeplerEphemerisRecord, KeplerEphemerisRecordMembers>("KeplerEphemerisRecord");
-static_assert(CoversEveryByte(KeplerEphemerisRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<KeplerEphemerisRecord> = KeplerEphemerisRecordLayout;
 
 inline constexpr NavframeValueName GlonassEphemerisRecordSatelliteTypeValues[] = {{0, "GLONASS"}, {1, "GLONASS-M"}, {2, "GLONASS-K"},};
-inline constexpr MemberRow GlonassEphemerisRecordMembers[] = {
+template <> struct RowsOf<GlonassEphemerisRecord> {
+  static constexpr const char* Name = "GlonassEphemerisRecord";
+  static constexpr MemberRow Rows[] = {
     {{"tow", "ms", "GPS time of week of the stream when the message came", NavframeU32, offsetof(GlonassEphemerisRecord, tow), sizeof(GlonassEphemerisRecord::tow), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"week", "", "GPS week of the stream when the message came", NavframeU16, offsetof(GlonassEphemerisRecord, week), sizeof(GlonassEphemerisRecord::week), 0, -1, 0, NavframeUnknownValue, 65535, 0, nullptr, nullptr}, false, 0},
     {{"satellite", "", "slot number", NavframeU8, offsetof(GlonassEphemerisRecord, satellite), sizeof(GlonassEphemerisRecord::satellite), 0, -1, 0, NavframeUnknownValue, 255, 0, nullptr, nullptr}, false, 0},
     {{"channel", "", "frequency channel, -7 to 6", NavframeI8, offsetof(GlonassEphemerisRecord, channel), sizeof(GlonassEphemerisRecord::channel), 0, -1, 0, NavframeUnknownValue, -128, 0, nullptr, nullptr}, false, 0},
     {{"rtcmMessage", "", "number of the RTCM message; 0 from another source", NavframeU16, offsetof(GlonassEphemerisRecord, rtcmMessage), sizeof(GlonassEphemerisRecord::rtcmMessage), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"nt", "d", "day of the four-year interval, 1 to 1461", NavframeU16, offsetof(GlonassEphemerisRecord, nt), sizeof(GlonassEphemerisRecord::nt), 0, -1, NavframeAsSent, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
-    {{"reference", "", "tb as GPS time, with the leap seconds of the stream", NavframeNested, offsetof(GlonassEphemerisRecord, reference), sizeof(GlonassEphemerisRecord::reference), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &GPSTIMELayout}, false, 0},
-    {{"referenceUtc", "", "tb as UTC", NavframeNested, offsetof(GlonassEphemerisRecord, referenceUtc), sizeof(GlonassEphemerisRecord::referenceUtc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &UTCTIMELayout}, false, 0},
+    {{"reference", "", "tb as GPS time, with the leap seconds of the stream", NavframeNested, offsetof(GlonassEphemerisRecord, reference), sizeof(GlonassEphemerisRecord::reference), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<GPSTIME>}, false, 0},
+    {{"referenceUtc", "", "tb as UTC", NavframeNested, offsetof(GlonassEphemerisRecord, referenceUtc), sizeof(GlonassEphemerisRecord::referenceUtc), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<UTCTIME>}, false, 0},
     {{"tb", "s", "reference time, of the day of GLONASS time (UTC plus 3 h)", NavframeU32, offsetof(GlonassEphemerisRecord, tb), sizeof(GlonassEphemerisRecord::tb), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"frameTime", "s", "tk, start of the frame, of the day of GLONASS time", NavframeU32, offsetof(GlonassEphemerisRecord, frameTime), sizeof(GlonassEphemerisRecord::frameTime), 0, -1, 0, NavframeUnknownValue, 4294967295, 0, nullptr, nullptr}, false, 0},
     {{"n4", "", "four-year interval, 1 from 1996 on", NavframeU8, offsetof(GlonassEphemerisRecord, n4), sizeof(GlonassEphemerisRecord::n4), 0, -1, NavframeAsSent, NavframeUnknownValue, 0, 0, nullptr, nullptr}, false, 0},
@@ -2179,14 +2181,14 @@ inline constexpr MemberRow GlonassEphemerisRecordMembers[] = {
     {{"deltaTauN", "s", "delay of L2 against L1", NavframeF64, offsetof(GlonassEphemerisRecord, deltaTauN), sizeof(GlonassEphemerisRecord::deltaTauN), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"tauC", "s", "correction of system time to UTC(SU), as in the message", NavframeF64, offsetof(GlonassEphemerisRecord, tauC), sizeof(GlonassEphemerisRecord::tauC), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
     {{"tauGps", "s", "correction of system time to GPS time, as in the message", NavframeF64, offsetof(GlonassEphemerisRecord, tauGps), sizeof(GlonassEphemerisRecord::tauGps), 0, -1, 0, NavframeUnknownNan, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GlonassEphemerisRecordLayout = LayoutOf<GlonassEphemerisRecord, GlonassEphemerisRecordMembers>("GlonassEphemerisRecord");
-static_assert(CoversEveryByte(GlonassEphemerisRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GlonassEphemerisRecord> = GlonassEphemerisRecordLayout;
 
 inline constexpr NavframeValueName AsciiLogHeaderPortValues[] = {{0, "any other"}, {1, "COM1"}, {2, "COM2"}, {3, "COM3"}, {4, "THISPORT"}, {5, "XCOM1"}, {6, "XCOM2"}, {7, "XCOM3"}, {8, "USB1"}, {9, "USB2"}, {10, "USB3"}, {11, "COM1_30"}, {12, "ICOM1 to ICOM14"}, {13, "ICOM1 to ICOM14"}, {14, "ICOM1 to ICOM14"}, {15, "ICOM1 to ICOM14"}, {16, "ICOM1 to ICOM14"}, {17, "ICOM1 to ICOM14"}, {18, "ICOM1 to ICOM14"}, {19, "ICOM1 to ICOM14"}, {20, "ICOM1 to ICOM14"}, {21, "ICOM1 to ICOM14"}, {22, "ICOM1 to ICOM14"}, {23, "ICOM1 to ICOM14"}, {24, "ICOM1 to ICOM14"}, {25, "ICOM1 to ICOM14"},};
 inline constexpr NavframeValueName AsciiLogHeaderTimeStatusValues[] = {{20, "UNKNOWN"}, {60, "APPROXIMATE"}, {80, "COARSEADJUSTING"}, {100, "COARSE"}, {120, "COARSESTEERING"}, {130, "FREEWHEELING"}, {140, "FINEADJUSTING"}, {160, "FINE"}, {170, "FINEBACKUPSTEERING"}, {180, "FINESTEERING"}, {200, "SATTIME"}, {201, "LOCAL"},};
-inline constexpr MemberRow AsciiLogHeaderMembers[] = {
+template <> struct RowsOf<AsciiLogHeader> {
+  static constexpr const char* Name = "AsciiLogHeader";
+  static constexpr MemberRow Rows[] = {
     {{"sync", "", "always 0xAA 0x44 0x12", NavframeU8, offsetof(AsciiLogHeader, sync), sizeof(AsciiLogHeader::sync[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"headerLength", "B", "always 28", NavframeU8, offsetof(AsciiLogHeader, headerLength), sizeof(AsciiLogHeader::headerLength), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"messageId", "", "log number, as GnssMessage::id", NavframeU16, offsetof(AsciiLogHeader, messageId), sizeof(AsciiLogHeader::messageId), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2201,12 +2203,12 @@ inline constexpr MemberRow AsciiLogHeaderMembers[] = {
     {{"receiverStatus", "", "status word; from a decoder without a stream its hexadecimal digits read as a decimal number", NavframeU32, offsetof(AsciiLogHeader, receiverStatus), sizeof(AsciiLogHeader::receiverStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeU16, offsetof(AsciiLogHeader, reserved), sizeof(AsciiLogHeader::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"softwareBuild", "", "build number of the software", NavframeU16, offsetof(AsciiLogHeader, softwareBuild), sizeof(AsciiLogHeader::softwareBuild), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow AsciiLogHeaderLayout = LayoutOf<AsciiLogHeader, AsciiLogHeaderMembers>("AsciiLogHeader");
-static_assert(CoversEveryByte(AsciiLogHeaderLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<AsciiLogHeader> = AsciiLogHeaderLayout;
 
-inline constexpr MemberRow SolutionSatellitesMembers[] = {
+template <> struct RowsOf<SolutionSatellites> {
+  static constexpr const char* Name = "SolutionSatellites";
+  static constexpr MemberRow Rows[] = {
     {{"tracked", "", "satellites tracked", NavframeU8, offsetof(SolutionSatellites, tracked), sizeof(SolutionSatellites::tracked), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"used", "", "satellites used in the solution", NavframeU8, offsetof(SolutionSatellites, used), sizeof(SolutionSatellites::used), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"usedL1", "", "satellites with L1 in the solution; heading logs: above the elevation mask", NavframeU8, offsetof(SolutionSatellites, usedL1), sizeof(SolutionSatellites::usedL1), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2215,14 +2217,14 @@ inline constexpr MemberRow SolutionSatellitesMembers[] = {
     {{"extendedStatus", "", "extended status of the solution", NavframeU8, offsetof(SolutionSatellites, extendedStatus), sizeof(SolutionSatellites::extendedStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"galileoBdsSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, galileoBdsSignals), sizeof(SolutionSatellites::galileoBdsSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"gpsGlonassSignals", "", "bit mask of the signals used", NavframeU8, offsetof(SolutionSatellites, gpsGlonassSignals), sizeof(SolutionSatellites::gpsGlonassSignals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow SolutionSatellitesLayout = LayoutOf<SolutionSatellites, SolutionSatellitesMembers>("SolutionSatellites");
-static_assert(CoversEveryByte(SolutionSatellitesLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SolutionSatellites> = SolutionSatellitesLayout;
 
 inline constexpr NavframeValueName PositionLogRecordDatumValues[] = {{0, "ERROR or not known"}, {61, "WGS84"}, {63, "USER"},};
-inline constexpr MemberRow PositionLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(PositionLogRecord, header), sizeof(PositionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<PositionLogRecord> {
+  static constexpr const char* Name = "PositionLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(PositionLogRecord, header), sizeof(PositionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(PositionLogRecord, solutionStatus), sizeof(PositionLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
     {{"positionType", "", "type of the solution", NavframeI32, offsetof(PositionLogRecord, positionType), sizeof(PositionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(PositionLogRecord, latitude), sizeof(PositionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2236,14 +2238,14 @@ inline constexpr MemberRow PositionLogRecordMembers[] = {
     {{"stationId", "", "reference station", NavframeText, offsetof(PositionLogRecord, stationId), sizeof(PositionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(PositionLogRecord, differentialAge), sizeof(PositionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(PositionLogRecord, solutionAge), sizeof(PositionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(PositionLogRecord, satellites), sizeof(PositionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(PositionLogRecord, satellites), sizeof(PositionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SolutionSatellites>}, false, 0},
+  };
 };
-inline constexpr RecordRow PositionLogRecordLayout = LayoutOf<PositionLogRecord, PositionLogRecordMembers>("PositionLogRecord");
-static_assert(CoversEveryByte(PositionLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<PositionLogRecord> = PositionLogRecordLayout;
 
-inline constexpr MemberRow VelocityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(VelocityLogRecord, header), sizeof(VelocityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<VelocityLogRecord> {
+  static constexpr const char* Name = "VelocityLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(VelocityLogRecord, header), sizeof(VelocityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(VelocityLogRecord, solutionStatus), sizeof(VelocityLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
     {{"velocityType", "", "type of the solution", NavframeI32, offsetof(VelocityLogRecord, velocityType), sizeof(VelocityLogRecord::velocityType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
     {{"latency", "s", "of the velocity's time", NavframeF32, offsetof(VelocityLogRecord, latency), sizeof(VelocityLogRecord::latency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2252,13 +2254,13 @@ inline constexpr MemberRow VelocityLogRecordMembers[] = {
     {{"track", "deg", "course over ground, true", NavframeF64, offsetof(VelocityLogRecord, track), sizeof(VelocityLogRecord::track), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"verticalSpeed", "m/s", "positive up", NavframeF64, offsetof(VelocityLogRecord, verticalSpeed), sizeof(VelocityLogRecord::verticalSpeed), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"reserved", "", "reserved", NavframeF32, offsetof(VelocityLogRecord, reserved), sizeof(VelocityLogRecord::reserved), 0, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow VelocityLogRecordLayout = LayoutOf<VelocityLogRecord, VelocityLogRecordMembers>("VelocityLogRecord");
-static_assert(CoversEveryByte(VelocityLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<VelocityLogRecord> = VelocityLogRecordLayout;
 
-inline constexpr MemberRow DopLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(DopLogRecord, header), sizeof(DopLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<DopLogRecord> {
+  static constexpr const char* Name = "DopLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(DopLogRecord, header), sizeof(DopLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"gdop", "", "geometric dilution of precision", NavframeF32, offsetof(DopLogRecord, gdop), sizeof(DopLogRecord::gdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"pdop", "", "position dilution of precision", NavframeF32, offsetof(DopLogRecord, pdop), sizeof(DopLogRecord::pdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"hdop", "", "horizontal dilution of precision", NavframeF32, offsetof(DopLogRecord, hdop), sizeof(DopLogRecord::hdop), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2267,13 +2269,13 @@ inline constexpr MemberRow DopLogRecordMembers[] = {
     {{"elevationCutoff", "deg", "lowest elevation in use", NavframeF32, offsetof(DopLogRecord, elevationCutoff), sizeof(DopLogRecord::elevationCutoff), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(DopLogRecord, count), sizeof(DopLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satellites", "", "satellite numbers", NavframeU32, offsetof(DopLogRecord, satellites), sizeof(DopLogRecord::satellites[0]), 66, 7, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow DopLogRecordLayout = LayoutOf<DopLogRecord, DopLogRecordMembers>("DopLogRecord");
-static_assert(CoversEveryByte(DopLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<DopLogRecord> = DopLogRecordLayout;
 
-inline constexpr MemberRow TimeLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(TimeLogRecord, header), sizeof(TimeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<TimeLogRecord> {
+  static constexpr const char* Name = "TimeLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(TimeLogRecord, header), sizeof(TimeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"clockStatus", "", "state of the receiver's clock", NavframeI32, offsetof(TimeLogRecord, clockStatus), sizeof(TimeLogRecord::clockStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, false, 0},
     {{"offset", "s", "of the receiver's clock from GPS time", NavframeF64, offsetof(TimeLogRecord, offset), sizeof(TimeLogRecord::offset), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"offsetDeviation", "s", "standard deviation of the offset", NavframeF64, offsetof(TimeLogRecord, offsetDeviation), sizeof(TimeLogRecord::offsetDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2285,13 +2287,13 @@ inline constexpr MemberRow TimeLogRecordMembers[] = {
     {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(TimeLogRecord, utcMinute), sizeof(TimeLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"utcMilliseconds", "ms", "of the minute", NavframeU32, offsetof(TimeLogRecord, utcMilliseconds), sizeof(TimeLogRecord::utcMilliseconds), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"utcStatus", "", "state of UTC", NavframeI32, offsetof(TimeLogRecord, utcStatus), sizeof(TimeLogRecord::utcStatus), 0, -1, 0, NavframeUnknownNever, 0, 6, ClockStatusValues, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow TimeLogRecordLayout = LayoutOf<TimeLogRecord, TimeLogRecordMembers>("TimeLogRecord");
-static_assert(CoversEveryByte(TimeLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<TimeLogRecord> = TimeLogRecordLayout;
 
-inline constexpr MemberRow CartesianLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(CartesianLogRecord, header), sizeof(CartesianLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<CartesianLogRecord> {
+  static constexpr const char* Name = "CartesianLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(CartesianLogRecord, header), sizeof(CartesianLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"positionStatus", "", "status of the position", NavframeI32, offsetof(CartesianLogRecord, positionStatus), sizeof(CartesianLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
     {{"positionType", "", "type of the position", NavframeI32, offsetof(CartesianLogRecord, positionType), sizeof(CartesianLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
     {{"position", "m", "X, Y and Z", NavframeF64, offsetof(CartesianLogRecord, position), sizeof(CartesianLogRecord::position[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2304,14 +2306,14 @@ inline constexpr MemberRow CartesianLogRecordMembers[] = {
     {{"velocityLatency", "s", "of the velocity's time", NavframeF32, offsetof(CartesianLogRecord, velocityLatency), sizeof(CartesianLogRecord::velocityLatency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(CartesianLogRecord, differentialAge), sizeof(CartesianLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(CartesianLogRecord, solutionAge), sizeof(CartesianLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(CartesianLogRecord, satellites), sizeof(CartesianLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(CartesianLogRecord, satellites), sizeof(CartesianLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SolutionSatellites>}, false, 0},
+  };
 };
-inline constexpr RecordRow CartesianLogRecordLayout = LayoutOf<CartesianLogRecord, CartesianLogRecordMembers>("CartesianLogRecord");
-static_assert(CoversEveryByte(CartesianLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<CartesianLogRecord> = CartesianLogRecordLayout;
 
-inline constexpr MemberRow HeadingLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(HeadingLogRecord, header), sizeof(HeadingLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<HeadingLogRecord> {
+  static constexpr const char* Name = "HeadingLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(HeadingLogRecord, header), sizeof(HeadingLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"solutionStatus", "", "status of the solution", NavframeI32, offsetof(HeadingLogRecord, solutionStatus), sizeof(HeadingLogRecord::solutionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
     {{"positionType", "", "type of the solution", NavframeI32, offsetof(HeadingLogRecord, positionType), sizeof(HeadingLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
     {{"length", "m", "of the baseline", NavframeF32, offsetof(HeadingLogRecord, length), sizeof(HeadingLogRecord::length), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2321,15 +2323,15 @@ inline constexpr MemberRow HeadingLogRecordMembers[] = {
     {{"headingDeviation", "deg", "standard deviation of the heading", NavframeF32, offsetof(HeadingLogRecord, headingDeviation), sizeof(HeadingLogRecord::headingDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"pitchDeviation", "deg", "standard deviation of the pitch", NavframeF32, offsetof(HeadingLogRecord, pitchDeviation), sizeof(HeadingLogRecord::pitchDeviation), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"stationId", "", "reference station", NavframeText, offsetof(HeadingLogRecord, stationId), sizeof(HeadingLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(HeadingLogRecord, satellites), sizeof(HeadingLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(HeadingLogRecord, satellites), sizeof(HeadingLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SolutionSatellites>}, false, 0},
+  };
 };
-inline constexpr RecordRow HeadingLogRecordLayout = LayoutOf<HeadingLogRecord, HeadingLogRecordMembers>("HeadingLogRecord");
-static_assert(CoversEveryByte(HeadingLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<HeadingLogRecord> = HeadingLogRecordLayout;
 
 inline constexpr NavframeValueName InertialLogRecordStatusValues[] = {{1, "INS_INACTIVE"}, {2, "INS_ALIGNING"}, {3, "INS_HIGH_VARIANCE"}, {4, "INS_SOLUTION_GOOD"}, {5, "INS_SOLUTION_FREE"}, {6, "INS_ALIGNMENT_COMPLETE"}, {7, "DETERMINING_ORIENTATION"}, {8, "WAITING_INITIALPOS"},};
-inline constexpr MemberRow InertialLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(InertialLogRecord, header), sizeof(InertialLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<InertialLogRecord> {
+  static constexpr const char* Name = "InertialLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(InertialLogRecord, header), sizeof(InertialLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"week", "", "GPS week", NavframeU32, offsetof(InertialLogRecord, week), sizeof(InertialLogRecord::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"seconds", "s", "time of week", NavframeF64, offsetof(InertialLogRecord, seconds), sizeof(InertialLogRecord::seconds), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(InertialLogRecord, latitude), sizeof(InertialLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2342,12 +2344,12 @@ inline constexpr MemberRow InertialLogRecordMembers[] = {
     {{"pitch", "deg", "pitch", NavframeF64, offsetof(InertialLogRecord, pitch), sizeof(InertialLogRecord::pitch), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"azimuth", "deg", "azimuth", NavframeF64, offsetof(InertialLogRecord, azimuth), sizeof(InertialLogRecord::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "state of the inertial solution", NavframeI32, offsetof(InertialLogRecord, status), sizeof(InertialLogRecord::status), 0, -1, 0, NavframeUnknownNever, 0, 8, InertialLogRecordStatusValues, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow InertialLogRecordLayout = LayoutOf<InertialLogRecord, InertialLogRecordMembers>("InertialLogRecord");
-static_assert(CoversEveryByte(InertialLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<InertialLogRecord> = InertialLogRecordLayout;
 
-inline constexpr MemberRow RangeObservationMembers[] = {
+template <> struct RowsOf<RangeObservation> {
+  static constexpr const char* Name = "RangeObservation";
+  static constexpr MemberRow Rows[] = {
     {{"satellite", "", "satellite number", NavframeU16, offsetof(RangeObservation, satellite), sizeof(RangeObservation::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"glonassFrequency", "", "GLONASS frequency channel + 7", NavframeU16, offsetof(RangeObservation, glonassFrequency), sizeof(RangeObservation::glonassFrequency), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"pseudorange", "m", "pseudorange", NavframeF64, offsetof(RangeObservation, pseudorange), sizeof(RangeObservation::pseudorange), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2358,21 +2360,21 @@ inline constexpr MemberRow RangeObservationMembers[] = {
     {{"carrierToNoise", "dB-Hz", "carrier-to-noise density", NavframeF32, offsetof(RangeObservation, carrierToNoise), sizeof(RangeObservation::carrierToNoise), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"lockTime", "s", "time of continuous lock", NavframeF32, offsetof(RangeObservation, lockTime), sizeof(RangeObservation::lockTime), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"trackingStatus", "", "channel tracking status word", NavframeU32, offsetof(RangeObservation, trackingStatus), sizeof(RangeObservation::trackingStatus), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow RangeObservationLayout = LayoutOf<RangeObservation, RangeObservationMembers>("RangeObservation");
-static_assert(CoversEveryByte(RangeObservationLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<RangeObservation> = RangeObservationLayout;
 
-inline constexpr MemberRow RangeLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(RangeLogRecord, header), sizeof(RangeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<RangeLogRecord> {
+  static constexpr const char* Name = "RangeLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(RangeLogRecord, header), sizeof(RangeLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"count", "", "observations, 0 to 432", NavframeU32, offsetof(RangeLogRecord, count), sizeof(RangeLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"observations", "", "observations in the order of the line", NavframeNested, offsetof(RangeLogRecord, observations), sizeof(RangeLogRecord::observations[0]), 432, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &RangeObservationLayout}, false, 0},
+    {{"observations", "", "observations in the order of the line", NavframeNested, offsetof(RangeLogRecord, observations), sizeof(RangeLogRecord::observations[0]), 432, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<RangeObservation>}, false, 0},
+  };
 };
-inline constexpr RecordRow RangeLogRecordLayout = LayoutOf<RangeLogRecord, RangeLogRecordMembers>("RangeLogRecord");
-static_assert(CoversEveryByte(RangeLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<RangeLogRecord> = RangeLogRecordLayout;
 
-inline constexpr MemberRow SatelliteVisibilityMembers[] = {
+template <> struct RowsOf<SatelliteVisibility> {
+  static constexpr const char* Name = "SatelliteVisibility";
+  static constexpr MemberRow Rows[] = {
     {{"satellite", "", "satellite number, in log 1043 the slot of GLONASS", NavframeU16, offsetof(SatelliteVisibility, satellite), sizeof(SatelliteVisibility::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"glonassFrequency", "", "in log 48 as the line has it, in log 1043 the channel or 0 without one", NavframeI16, offsetof(SatelliteVisibility, glonassFrequency), sizeof(SatelliteVisibility::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"health", "", "health", NavframeU32, offsetof(SatelliteVisibility, health), sizeof(SatelliteVisibility::health), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2380,59 +2382,59 @@ inline constexpr MemberRow SatelliteVisibilityMembers[] = {
     {{"azimuth", "deg", "from true north", NavframeF64, offsetof(SatelliteVisibility, azimuth), sizeof(SatelliteVisibility::azimuth), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"trueDoppler", "Hz", "Doppler", NavframeF64, offsetof(SatelliteVisibility, trueDoppler), sizeof(SatelliteVisibility::trueDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"apparentDoppler", "Hz", "Doppler with the receiver's clock drift", NavframeF64, offsetof(SatelliteVisibility, apparentDoppler), sizeof(SatelliteVisibility::apparentDoppler), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow SatelliteVisibilityLayout = LayoutOf<SatelliteVisibility, SatelliteVisibilityMembers>("SatelliteVisibility");
-static_assert(CoversEveryByte(SatelliteVisibilityLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SatelliteVisibility> = SatelliteVisibilityLayout;
 
-inline constexpr MemberRow VisibilityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(VisibilityLogRecord, header), sizeof(VisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<VisibilityLogRecord> {
+  static constexpr const char* Name = "VisibilityLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(VisibilityLogRecord, header), sizeof(VisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(VisibilityLogRecord, valid), sizeof(VisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(VisibilityLogRecord, completeAlmanac), sizeof(VisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites, 0 to 66", NavframeU32, offsetof(VisibilityLogRecord, count), sizeof(VisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(VisibilityLogRecord, satellites), sizeof(VisibilityLogRecord::satellites[0]), 66, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(VisibilityLogRecord, satellites), sizeof(VisibilityLogRecord::satellites[0]), 66, 3, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SatelliteVisibility>}, false, 0},
+  };
 };
-inline constexpr RecordRow VisibilityLogRecordLayout = LayoutOf<VisibilityLogRecord, VisibilityLogRecordMembers>("VisibilityLogRecord");
-static_assert(CoversEveryByte(VisibilityLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<VisibilityLogRecord> = VisibilityLogRecordLayout;
 
-inline constexpr MemberRow SystemVisibilityLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, header), sizeof(SystemVisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<SystemVisibilityLogRecord> {
+  static constexpr const char* Name = "SystemVisibilityLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, header), sizeof(SystemVisibilityLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"system", "", "satellite system, not by the numbers of GNSSSysIdToName", NavframeI32, offsetof(SystemVisibilityLogRecord, system), sizeof(SystemVisibilityLogRecord::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, false, 0},
     {{"valid", "", "the satellite visibility is valid", NavframeI32, offsetof(SystemVisibilityLogRecord, valid), sizeof(SystemVisibilityLogRecord::valid), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"completeAlmanac", "", "the almanac is complete", NavframeI32, offsetof(SystemVisibilityLogRecord, completeAlmanac), sizeof(SystemVisibilityLogRecord::completeAlmanac), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"count", "", "satellites, 0 to 432", NavframeU32, offsetof(SystemVisibilityLogRecord, count), sizeof(SystemVisibilityLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, satellites), sizeof(SystemVisibilityLogRecord::satellites[0]), 432, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &SatelliteVisibilityLayout}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SystemVisibilityLogRecord, satellites), sizeof(SystemVisibilityLogRecord::satellites[0]), 432, 4, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SatelliteVisibility>}, false, 0},
+  };
 };
-inline constexpr RecordRow SystemVisibilityLogRecordLayout = LayoutOf<SystemVisibilityLogRecord, SystemVisibilityLogRecordMembers>("SystemVisibilityLogRecord");
-static_assert(CoversEveryByte(SystemVisibilityLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SystemVisibilityLogRecord> = SystemVisibilityLogRecordLayout;
 
 inline constexpr NavframeValueName ListedSatelliteStatusValues[] = {{0, "GOOD or not known"}, {1, "BADHEALTH"}, {2, "OLDEPHEMERIS"}, {99, "NA"},};
-inline constexpr MemberRow ListedSatelliteMembers[] = {
+template <> struct RowsOf<ListedSatellite> {
+  static constexpr const char* Name = "ListedSatellite";
+  static constexpr MemberRow Rows[] = {
     {{"system", "", "satellite system", NavframeI32, offsetof(ListedSatellite, system), sizeof(ListedSatellite::system), 0, -1, 0, NavframeUnknownNever, 0, 7, LogSystemValues, nullptr}, false, 0},
     {{"satellite", "", "satellite number", NavframeU16, offsetof(ListedSatellite, satellite), sizeof(ListedSatellite::satellite), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"glonassFrequency", "", "channel, 0 without one", NavframeI16, offsetof(ListedSatellite, glonassFrequency), sizeof(ListedSatellite::glonassFrequency), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"status", "", "why the satellite is used or not", NavframeI32, offsetof(ListedSatellite, status), sizeof(ListedSatellite::status), 0, -1, 0, NavframeUnknownNever, 0, 4, ListedSatelliteStatusValues, nullptr}, false, 0},
     {{"signals", "", "bit mask of the signals used", NavframeU32, offsetof(ListedSatellite, signals), sizeof(ListedSatellite::signals), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow ListedSatelliteLayout = LayoutOf<ListedSatellite, ListedSatelliteMembers>("ListedSatellite");
-static_assert(CoversEveryByte(ListedSatelliteLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<ListedSatellite> = ListedSatelliteLayout;
 
-inline constexpr MemberRow SatelliteListLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(SatelliteListLogRecord, header), sizeof(SatelliteListLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<SatelliteListLogRecord> {
+  static constexpr const char* Name = "SatelliteListLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(SatelliteListLogRecord, header), sizeof(SatelliteListLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"count", "", "satellites, 0 to 431", NavframeU32, offsetof(SatelliteListLogRecord, count), sizeof(SatelliteListLogRecord::count), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SatelliteListLogRecord, satellites), sizeof(SatelliteListLogRecord::satellites[0]), 431, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &ListedSatelliteLayout}, false, 0},
+    {{"satellites", "", "satellites in the order of the line", NavframeNested, offsetof(SatelliteListLogRecord, satellites), sizeof(SatelliteListLogRecord::satellites[0]), 431, 1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<ListedSatellite>}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(SatelliteListLogRecord, undecoded), sizeof(SatelliteListLogRecord::undecoded[0]), 12, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow SatelliteListLogRecordLayout = LayoutOf<SatelliteListLogRecord, SatelliteListLogRecordMembers>("SatelliteListLogRecord");
-static_assert(CoversEveryByte(SatelliteListLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<SatelliteListLogRecord> = SatelliteListLogRecordLayout;
 
 inline constexpr NavframeValueName NavigationSolutionLogRecordDatumValues[] = {{0, "ERROR or not known"}, {61, "WGS84"}, {63, "USER"},};
-inline constexpr MemberRow NavigationSolutionLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(NavigationSolutionLogRecord, header), sizeof(NavigationSolutionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<NavigationSolutionLogRecord> {
+  static constexpr const char* Name = "NavigationSolutionLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(NavigationSolutionLogRecord, header), sizeof(NavigationSolutionLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"positionStatus", "", "status of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionStatus), sizeof(NavigationSolutionLogRecord::positionStatus), 0, -1, 0, NavframeUnknownNever, 0, 17, SolutionStatusValues, nullptr}, false, 0},
     {{"positionType", "", "type of the solution", NavframeI32, offsetof(NavigationSolutionLogRecord, positionType), sizeof(NavigationSolutionLogRecord::positionType), 0, -1, 0, NavframeUnknownNever, 0, 28, SolutionTypeValues, nullptr}, false, 0},
     {{"latitude", "deg", "north positive", NavframeF64, offsetof(NavigationSolutionLogRecord, latitude), sizeof(NavigationSolutionLogRecord::latitude), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2446,15 +2448,15 @@ inline constexpr MemberRow NavigationSolutionLogRecordMembers[] = {
     {{"stationId", "", "reference station", NavframeText, offsetof(NavigationSolutionLogRecord, stationId), sizeof(NavigationSolutionLogRecord::stationId), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"differentialAge", "s", "age of the corrections", NavframeF32, offsetof(NavigationSolutionLogRecord, differentialAge), sizeof(NavigationSolutionLogRecord::differentialAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"solutionAge", "s", "age of the solution", NavframeF32, offsetof(NavigationSolutionLogRecord, solutionAge), sizeof(NavigationSolutionLogRecord::solutionAge), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
-    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(NavigationSolutionLogRecord, satellites), sizeof(NavigationSolutionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &SolutionSatellitesLayout}, false, 0},
+    {{"satellites", "", "satellites and signals behind the solution", NavframeNested, offsetof(NavigationSolutionLogRecord, satellites), sizeof(NavigationSolutionLogRecord::satellites), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<SolutionSatellites>}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(NavigationSolutionLogRecord, undecoded), sizeof(NavigationSolutionLogRecord::undecoded[0]), 44, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow NavigationSolutionLogRecordLayout = LayoutOf<NavigationSolutionLogRecord, NavigationSolutionLogRecordMembers>("NavigationSolutionLogRecord");
-static_assert(CoversEveryByte(NavigationSolutionLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<NavigationSolutionLogRecord> = NavigationSolutionLogRecordLayout;
 
-inline constexpr MemberRow AgriculturalLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(AgriculturalLogRecord, header), sizeof(AgriculturalLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<AgriculturalLogRecord> {
+  static constexpr const char* Name = "AgriculturalLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(AgriculturalLogRecord, header), sizeof(AgriculturalLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"format", "", "\"GNSS\"", NavframeText, offsetof(AgriculturalLogRecord, format), sizeof(AgriculturalLogRecord::format), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"commandLength", "", "length of the command", NavframeU8, offsetof(AgriculturalLogRecord, commandLength), sizeof(AgriculturalLogRecord::commandLength), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"utcYear", "", "two digits", NavframeU8, offsetof(AgriculturalLogRecord, utcYear), sizeof(AgriculturalLogRecord::utcYear), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2464,20 +2466,20 @@ inline constexpr MemberRow AgriculturalLogRecordMembers[] = {
     {{"utcMinute", "min", "0 to 59", NavframeU8, offsetof(AgriculturalLogRecord, utcMinute), sizeof(AgriculturalLogRecord::utcMinute), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"utcSecond", "s", "0 to 60", NavframeU8, offsetof(AgriculturalLogRecord, utcSecond), sizeof(AgriculturalLogRecord::utcSecond), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(AgriculturalLogRecord, undecoded), sizeof(AgriculturalLogRecord::undecoded[0]), 213, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow AgriculturalLogRecordLayout = LayoutOf<AgriculturalLogRecord, AgriculturalLogRecordMembers>("AgriculturalLogRecord");
-static_assert(CoversEveryByte(AgriculturalLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<AgriculturalLogRecord> = AgriculturalLogRecordLayout;
 
-inline constexpr MemberRow HeaderLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(HeaderLogRecord, header), sizeof(HeaderLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<HeaderLogRecord> {
+  static constexpr const char* Name = "HeaderLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(HeaderLogRecord, header), sizeof(HeaderLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
+  };
 };
-inline constexpr RecordRow HeaderLogRecordLayout = LayoutOf<HeaderLogRecord, HeaderLogRecordMembers>("HeaderLogRecord");
-static_assert(CoversEveryByte(HeaderLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<HeaderLogRecord> = HeaderLogRecordLayout;
 
-inline constexpr MemberRow GpsEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GpsEphemerisLogRecord, header), sizeof(GpsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<GpsEphemerisLogRecord> {
+  static constexpr const char* Name = "GpsEphemerisLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(GpsEphemerisLogRecord, header), sizeof(GpsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"satellite", "", "satellite number", NavframeU32, offsetof(GpsEphemerisLogRecord, satellite), sizeof(GpsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"timeOfWeek", "s", "of subframe 1", NavframeF64, offsetof(GpsEphemerisLogRecord, timeOfWeek), sizeof(GpsEphemerisLogRecord::timeOfWeek), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"health", "", "health", NavframeU32, offsetof(GpsEphemerisLogRecord, health), sizeof(GpsEphemerisLogRecord::health), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2510,13 +2512,13 @@ inline constexpr MemberRow GpsEphemerisLogRecordMembers[] = {
     {{"antiSpoofing", "", "anti-spoofing is on", NavframeI32, offsetof(GpsEphemerisLogRecord, antiSpoofing), sizeof(GpsEphemerisLogRecord::antiSpoofing), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"n", "rad/s", "corrected mean motion", NavframeF64, offsetof(GpsEphemerisLogRecord, n), sizeof(GpsEphemerisLogRecord::n), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"ura", "m^2", "variance of the user range accuracy", NavframeF64, offsetof(GpsEphemerisLogRecord, ura), sizeof(GpsEphemerisLogRecord::ura), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GpsEphemerisLogRecordLayout = LayoutOf<GpsEphemerisLogRecord, GpsEphemerisLogRecordMembers>("GpsEphemerisLogRecord");
-static_assert(CoversEveryByte(GpsEphemerisLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GpsEphemerisLogRecord> = GpsEphemerisLogRecordLayout;
 
-inline constexpr MemberRow GlonassEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GlonassEphemerisLogRecord, header), sizeof(GlonassEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<GlonassEphemerisLogRecord> {
+  static constexpr const char* Name = "GlonassEphemerisLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(GlonassEphemerisLogRecord, header), sizeof(GlonassEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"slot", "", "37 + slot number", NavframeU16, offsetof(GlonassEphemerisLogRecord, slot), sizeof(GlonassEphemerisLogRecord::slot), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"frequency", "", "channel + 7", NavframeU16, offsetof(GlonassEphemerisLogRecord, frequency), sizeof(GlonassEphemerisLogRecord::frequency), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"satelliteType", "", "type of the satellite", NavframeU8, offsetof(GlonassEphemerisLogRecord, satelliteType), sizeof(GlonassEphemerisLogRecord::satelliteType), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2540,13 +2542,13 @@ inline constexpr MemberRow GlonassEphemerisLogRecordMembers[] = {
     {{"accuracy", "", "F_T", NavframeU32, offsetof(GlonassEphemerisLogRecord, accuracy), sizeof(GlonassEphemerisLogRecord::accuracy), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"age", "d", "age of the data", NavframeU32, offsetof(GlonassEphemerisLogRecord, age), sizeof(GlonassEphemerisLogRecord::age), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"flags", "", "bit mask", NavframeU32, offsetof(GlonassEphemerisLogRecord, flags), sizeof(GlonassEphemerisLogRecord::flags), 0, -1, NavframeAsSent, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GlonassEphemerisLogRecordLayout = LayoutOf<GlonassEphemerisLogRecord, GlonassEphemerisLogRecordMembers>("GlonassEphemerisLogRecord");
-static_assert(CoversEveryByte(GlonassEphemerisLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GlonassEphemerisLogRecord> = GlonassEphemerisLogRecordLayout;
 
-inline constexpr MemberRow GalileoEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoEphemerisLogRecord, header), sizeof(GalileoEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<GalileoEphemerisLogRecord> {
+  static constexpr const char* Name = "GalileoEphemerisLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoEphemerisLogRecord, header), sizeof(GalileoEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"satellite", "", "satellite number", NavframeU32, offsetof(GalileoEphemerisLogRecord, satellite), sizeof(GalileoEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"fnavReceived", "", "F/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, fnavReceived), sizeof(GalileoEphemerisLogRecord::fnavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"inavReceived", "", "I/NAV was received", NavframeI32, offsetof(GalileoEphemerisLogRecord, inavReceived), sizeof(GalileoEphemerisLogRecord::inavReceived), 0, -1, NavframeYesNo, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2581,41 +2583,41 @@ inline constexpr MemberRow GalileoEphemerisLogRecordMembers[] = {
     {{"inavAf", "", "I/NAV clock offset (s), drift (s/s) and drift rate (s/s^2)", NavframeF64, offsetof(GalileoEphemerisLogRecord, inavAf), sizeof(GalileoEphemerisLogRecord::inavAf[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"e1E5aBgd", "s", "broadcast group delay of E1 and E5a", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5aBgd), sizeof(GalileoEphemerisLogRecord::e1E5aBgd), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"e1E5bBgd", "s", "broadcast group delay of E1 and E5b", NavframeF64, offsetof(GalileoEphemerisLogRecord, e1E5bBgd), sizeof(GalileoEphemerisLogRecord::e1E5bBgd), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GalileoEphemerisLogRecordLayout = LayoutOf<GalileoEphemerisLogRecord, GalileoEphemerisLogRecordMembers>("GalileoEphemerisLogRecord");
-static_assert(CoversEveryByte(GalileoEphemerisLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GalileoEphemerisLogRecord> = GalileoEphemerisLogRecordLayout;
 
-inline constexpr MemberRow BdsEphemerisLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(BdsEphemerisLogRecord, header), sizeof(BdsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<BdsEphemerisLogRecord> {
+  static constexpr const char* Name = "BdsEphemerisLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(BdsEphemerisLogRecord, header), sizeof(BdsEphemerisLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"satellite", "", "satellite number", NavframeU32, offsetof(BdsEphemerisLogRecord, satellite), sizeof(BdsEphemerisLogRecord::satellite), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(BdsEphemerisLogRecord, undecoded), sizeof(BdsEphemerisLogRecord::undecoded[0]), 224, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow BdsEphemerisLogRecordLayout = LayoutOf<BdsEphemerisLogRecord, BdsEphemerisLogRecordMembers>("BdsEphemerisLogRecord");
-static_assert(CoversEveryByte(BdsEphemerisLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<BdsEphemerisLogRecord> = BdsEphemerisLogRecordLayout;
 
-inline constexpr MemberRow IonosphereLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(IonosphereLogRecord, header), sizeof(IonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<IonosphereLogRecord> {
+  static constexpr const char* Name = "IonosphereLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(IonosphereLogRecord, header), sizeof(IonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"alpha", "", "coefficients of the amplitude, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, alpha), sizeof(IonosphereLogRecord::alpha[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"beta", "", "coefficients of the period, seconds by powers of semicircles", NavframeF64, offsetof(IonosphereLogRecord, beta), sizeof(IonosphereLogRecord::beta[0]), 4, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(IonosphereLogRecord, undecoded), sizeof(IonosphereLogRecord::undecoded[0]), 8, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow IonosphereLogRecordLayout = LayoutOf<IonosphereLogRecord, IonosphereLogRecordMembers>("IonosphereLogRecord");
-static_assert(CoversEveryByte(IonosphereLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<IonosphereLogRecord> = IonosphereLogRecordLayout;
 
-inline constexpr MemberRow GalileoIonosphereLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoIonosphereLogRecord, header), sizeof(GalileoIonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<GalileoIonosphereLogRecord> {
+  static constexpr const char* Name = "GalileoIonosphereLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(GalileoIonosphereLogRecord, header), sizeof(GalileoIonosphereLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"effectiveIonisation", "", "a_i0, a_i1 and a_i2", NavframeF64, offsetof(GalileoIonosphereLogRecord, effectiveIonisation), sizeof(GalileoIonosphereLogRecord::effectiveIonisation[0]), 3, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(GalileoIonosphereLogRecord, undecoded), sizeof(GalileoIonosphereLogRecord::undecoded[0]), 48, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow GalileoIonosphereLogRecordLayout = LayoutOf<GalileoIonosphereLogRecord, GalileoIonosphereLogRecordMembers>("GalileoIonosphereLogRecord");
-static_assert(CoversEveryByte(GalileoIonosphereLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<GalileoIonosphereLogRecord> = GalileoIonosphereLogRecordLayout;
 
-inline constexpr MemberRow UtcLogRecordMembers[] = {
-    {{"header", "", "header of the line", NavframeNested, offsetof(UtcLogRecord, header), sizeof(UtcLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &AsciiLogHeaderLayout}, false, 0},
+template <> struct RowsOf<UtcLogRecord> {
+  static constexpr const char* Name = "UtcLogRecord";
+  static constexpr MemberRow Rows[] = {
+    {{"header", "", "header of the line", NavframeNested, offsetof(UtcLogRecord, header), sizeof(UtcLogRecord::header), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, &LayoutOf<AsciiLogHeader>}, false, 0},
     {{"week", "", "reference week", NavframeU32, offsetof(UtcLogRecord, week), sizeof(UtcLogRecord::week), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"tot", "s", "reference time of week", NavframeU32, offsetof(UtcLogRecord, tot), sizeof(UtcLogRecord::tot), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"a0", "s", "offset", NavframeF64, offsetof(UtcLogRecord, a0), sizeof(UtcLogRecord::a0), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
@@ -2625,9 +2627,7 @@ inline constexpr MemberRow UtcLogRecordMembers[] = {
     {{"leapBefore", "s", "leap seconds until then", NavframeI32, offsetof(UtcLogRecord, leapBefore), sizeof(UtcLogRecord::leapBefore), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"leapAfter", "s", "leap seconds from then on", NavframeI32, offsetof(UtcLogRecord, leapAfter), sizeof(UtcLogRecord::leapAfter), 0, -1, 0, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
     {{"undecoded", "", "reserved, not decoded", NavframeU8, offsetof(UtcLogRecord, undecoded), sizeof(UtcLogRecord::undecoded[0]), 4, -1, NavframeReserved, NavframeUnknownNever, 0, 0, nullptr, nullptr}, false, 0},
+  };
 };
-inline constexpr RecordRow UtcLogRecordLayout = LayoutOf<UtcLogRecord, UtcLogRecordMembers>("UtcLogRecord");
-static_assert(CoversEveryByte(UtcLogRecordLayout));
-template <> inline constexpr const NavframeRecord& RecordOf<UtcLogRecord> = UtcLogRecordLayout;
 
 }  // namespace navframe::catalogue

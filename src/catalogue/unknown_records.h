@@ -35,16 +35,16 @@ constexpr std::uint64_t PresetBits(const MemberRow& member) {
 }
 
 // `bytes` are 0 before; texts, reserved members and padding stay so.
-constexpr void PutUnknown(const NavframeRecord& record, std::uint8_t* bytes) {
-  for (const NavframeMember* const member : MembersOf(record)) {
-    const std::uint32_t length = member->length == 0 ? 1 : member->length;
-    for (std::uint32_t i = 0; i < length; ++i) {
-      std::uint8_t* const at = bytes + member->offset + std::size_t{i} * member->size;
-      if (member->type == NavframeNested) {
-        PutUnknown(*member->record, at);
-      } else if (member->type < NavframeText) {
-        PutLe(PresetBits(static_cast<const MemberRow&>(*member)), member->size, at);
+constexpr void PutUnknown(const MemberRow& row, std::uint8_t* bytes) {
+  const std::uint32_t length = row.length == 0 ? 1 : row.length;
+  for (std::uint32_t i = 0; i < length; ++i) {
+    std::uint8_t* const at = bytes + row.offset + std::size_t{i} * row.size;
+    if (row.type == NavframeNested) {
+      for (const NavframeMember* const member : MembersOf(*row.record)) {
+        PutUnknown(static_cast<const MemberRow&>(*member), at);
       }
+    } else if (row.type < NavframeText) {
+      PutLe(PresetBits(row), row.size, at);
     }
   }
 }
@@ -52,7 +52,7 @@ constexpr void PutUnknown(const NavframeRecord& record, std::uint8_t* bytes) {
 template <class Record>
 inline constexpr auto UnknownBytes = [] {
   std::array<std::uint8_t, sizeof(Record)> bytes{};
-  PutUnknown(RecordOf<Record>, bytes.data());
+  for (const MemberRow& row : RowsOf<Record>::Rows) PutUnknown(row, bytes.data());
   return bytes;
 }();
 
