@@ -24,7 +24,7 @@ const std::map<std::string, std::uint32_t> Protocols = {
 };
 
 // What the options of `decode` are parsed into, before their names are looked up.
-struct Texts {
+struct DecodeTexts {
   std::vector<std::string> protocols;
   std::vector<std::string> kinds;
   std::vector<std::string> satellites;
@@ -47,7 +47,7 @@ std::vector<std::string> ProtocolNames() {
   return names;
 }
 
-void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
+void AddFilters(CLI::App& app, DecodeOptions& options, DecodeTexts& texts) {
   AddList(app, "--kinds", texts.kinds,
           "Kinds of records: names, numbers or groups; see navframe kinds", "KIND[,KIND...]")
       ->check(CheckKind, "KIND");
@@ -73,7 +73,7 @@ void AddFilters(CLI::App& app, DecodeOptions& options, Texts& texts) {
           "Members that are shown; kinds without any of them are not", "NAME[,NAME...]");
 }
 
-void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
+void AddOutput(CLI::App& app, DecodeOptions& options, DecodeTexts& texts) {
   std::vector<std::string> forms;
   for (const FormRow& row : Forms) forms.emplace_back(row.name);
   app.add_option("--format", texts.form, "text, json, csv or raw")
@@ -97,7 +97,7 @@ void AddOutput(CLI::App& app, DecodeOptions& options, Texts& texts) {
   app.add_flag("--quiet", options.quiet, "Do not report malformed sentences");
 }
 
-void AddLive(CLI::App& app, DecodeOptions& options, Texts& texts) {
+void AddLive(CLI::App& app, DecodeOptions& options, DecodeTexts& texts) {
   app.add_option("--position", texts.position,
                  "Where casters are told that their user is, every 10 s, instead of where the "
                  "sources say")
@@ -113,7 +113,7 @@ void AddLive(CLI::App& app, DecodeOptions& options, Texts& texts) {
           "FILE");
 }
 
-void AddArguments(CLI::App& app, DecodeOptions& options, Texts& texts) {
+void AddArguments(CLI::App& app, DecodeOptions& options, DecodeTexts& texts) {
   AddSources(app, options.sources, options.recursive);
   AddFilters(app, options, texts);
   AddOutput(app, options, texts);
@@ -140,7 +140,7 @@ void ChooseFields(DecodeOptions& options) {
   options.kinds = kinds;
 }
 
-void LookUp(const Texts& texts, DecodeOptions& options) {
+void LookUp(const DecodeTexts& texts, DecodeOptions& options) {
   if (!texts.protocols.empty()) options.protocols = 0;
   for (const std::string& name : texts.protocols) options.protocols |= Protocols.at(name);
   for (const std::string& name : texts.kinds) {
@@ -165,7 +165,7 @@ void LookUp(const Texts& texts, DecodeOptions& options) {
 Command AddDecode(CLI::App& app) {
   struct Arguments {
     DecodeOptions options;
-    Texts texts;
+    DecodeTexts texts;
   };
   const auto arguments = std::make_shared<Arguments>();
   CLI::App* const decode =

@@ -19,7 +19,7 @@ namespace navframe::tool {
 namespace {
 
 // What the options are parsed into, before their names are looked up.
-struct Texts {
+struct RinexTexts {
   std::vector<std::string> satellites;
   std::string from;
   std::string to;
@@ -66,7 +66,7 @@ std::string CheckVector(const std::string& text) {
                            : text + " is no position such as 4343000.5,-124000.25,4653000 (X,Y,Z)";
 }
 
-void AddFiles(CLI::App& app, RinexOptions& options, Texts& texts) {
+void AddFiles(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
   app.add_option("--output,-o", options.naming.target,
                  "NAME of the files NAME.obs and NAME.nav; with --station the folder they go to")
       ->option_text("NAME")
@@ -89,7 +89,7 @@ void AddFiles(CLI::App& app, RinexOptions& options, Texts& texts) {
   app.add_flag("--quiet", options.quiet, "Do not say what was left out");
 }
 
-void AddFilters(CLI::App& app, RinexOptions& options, Texts& texts) {
+void AddFilters(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
   AddList(app, "--types", options.types,
           "Types of observations, of all systems or of some: C1C,L1C or G:C1C,L1C,E:C1C; else all "
           "that there are",
@@ -113,7 +113,7 @@ void AddFilters(CLI::App& app, RinexOptions& options, Texts& texts) {
       ->check(CheckStationNumber, "STATION");
 }
 
-void AddStation(CLI::App& app, RinexOptions& options, Texts& texts) {
+void AddStation(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
   StationTexts& station = options.texts;
   app.add_option("--marker", station.marker, "Name of the marker")->option_text("NAME");
   app.add_option("--marker-number", station.markerNumber, "Its number")->option_text("NUMBER");
@@ -133,7 +133,7 @@ void AddStation(CLI::App& app, RinexOptions& options, Texts& texts) {
       ->option_text("H");
 }
 
-void LookUp(const Texts& texts, RinexOptions& options) {
+void LookUp(const RinexTexts& texts, RinexOptions& options) {
   Filters& filters = options.filters.filters;
   for (const std::string& name : texts.satellites) {
     filters.satellites.push_back(*ParseSatellite(name));
@@ -161,7 +161,7 @@ void LookUp(const Texts& texts, RinexOptions& options) {
 Command AddRinex(CLI::App& app) {
   struct Arguments {
     RinexOptions options;
-    Texts texts;
+    RinexTexts texts;
   };
   const auto arguments = std::make_shared<Arguments>();
   RinexOptions& options = arguments->options;
