@@ -11,7 +11,7 @@
 namespace navframe::python {
 namespace {
 
-constexpr std::uint32_t Word = 8;
+constexpr std::uint32_t WordBytes = 8;
 constexpr std::uint32_t IndexSize = sizeof(std::uint32_t);
 // Gaps up to this width are copied along.
 constexpr std::uint32_t WidestGap = 16;
@@ -31,7 +31,7 @@ std::uint32_t WidthOf(const NavframeMember& member) {
 
 // Places keep their alignment within words.
 std::uint32_t AlignedLike(std::uint32_t end, std::uint32_t offset) {
-  return end + (offset - end) % Word;
+  return end + (offset - end) % WordBytes;
 }
 
 // Members of rows that follow each other: where the first one is, and how far the next one is
@@ -116,7 +116,7 @@ bool IsMended(const NavframeMember& member) {
 }  // namespace
 
 Table::Table(const NavframeKind& kind, TableList& all)
-    : name_(kind.name), record_(kind.record), front_(Front::Record), end_(2 * Word) {
+    : name_(kind.name), record_(kind.record), front_(Front::Record), end_(2 * WordBytes) {
   PlaceMembers(all);
 }
 
@@ -124,7 +124,7 @@ Table::Table(const Table& outer, const NavframeMember& list, TableList& all)
     : name_(outer.name_ + "." + list.name),
       record_(list.record),
       front_(outer.front_ == Front::Record ? Front::Entry : Front::InnerEntry),
-      end_(front_ == Front::Entry ? Word + IndexSize : Word + 2 * IndexSize) {
+      end_(front_ == Front::Entry ? WordBytes + IndexSize : WordBytes + 2 * IndexSize) {
   if (record_ != nullptr) {
     PlaceMembers(all);
   } else {
