@@ -90,6 +90,12 @@ TEST_F(Tool, ControlCharactersAreNotShown) {
   const Outcome outcome = Run("navframe $IN", word + OneOfEach());
   EXPECT_THAT(outcome.out, HasSubstr(" text G\\x1B[31\\x0A \\x9BA\\x7F~, values 1 2 3 4 5 6\n"));
   EXPECT_THAT(outcome.err, HasSubstr(": $GPGGA,x\\x1B[2J\\x7F\\xFF,,,,,,,,,,,,,*"));
+  // Nor those of the names of files.
+  const std::string name = "\"$DIR/a$(printf '\\033\\nb')\"";
+  for (const char* const command : {"doctor", "info", "doctor --repair $DIR/$(printf '\\033')"}) {
+    EXPECT_THAT(Run("cp $IN " + name + " && navframe " + command + " " + name, word).out,
+                AllOf(HasSubstr("a\\x1B\\x0Ab"), Not(HasSubstr("\x1B"))));
+  }
 }
 
 TEST_F(Tool, Statistics) {

@@ -239,7 +239,8 @@ class Page {
  private:
   void Tell(const Repaired& repaired) {
     if (repaired.name.empty()) return;
-    out_ += "\n" + repaired.name;
+    out_ += '\n';
+    AppendPrintable(repaired.name, out_);
     if (repaired.takenOut == 0) {
       out_ += ": a copy, as there is nothing to take out\n";
       return;
@@ -262,7 +263,9 @@ class Page {
 
 void AppendDoctorPage(const std::string& heading, const Diagnosis& diagnosis,
                       const Repaired& repaired, std::string& out) {
-  Page(diagnosis, out).Append(heading, repaired);
+  std::string name;
+  AppendPrintable(heading, name);
+  Page(diagnosis, out).Append(name, repaired);
 }
 
 std::string SentenceOf(const Finding& finding) { return Page::Sentence(finding); }
