@@ -30,6 +30,10 @@ std::string CheckPosition(const std::string& text) {
                                    "to the north and east, meters)";
 }
 
+std::string CheckName(const std::string& text) {
+  return text.empty() ? "a file must be named" : "";
+}
+
 std::string CheckInterval(const std::string& seconds) {
   const double number = std::strtod(seconds.c_str(), nullptr);
   return number > 0 && std::isfinite(number) ? "" : "no interval such as 30s";

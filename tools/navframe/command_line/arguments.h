@@ -18,6 +18,7 @@ std::string CheckKind(const std::string& text);
 std::string CheckMoment(const std::string& text);
 std::string CheckSatellite(const std::string& text);
 std::string CheckPosition(const std::string& text);
+std::string CheckName(const std::string& text);  // of a file
 std::string CheckInterval(const std::string& seconds);
 
 // Any number of sources, and files of folders.

@@ -105,6 +105,7 @@ void AddLive(CLI::App& app, DecodeOptions& options, DecodeTexts& texts) {
       ->check(CheckPosition, "POSITION");
   app.add_option("--record", options.record, "A new file for the bytes of the source, as they come")
       ->option_text("FILE")
+      ->check(CheckName, "NAME")
       ->check(
           [&options](const std::string&) {
             const bool areMore = options.recursive || options.sources.size() > 1;

@@ -20,8 +20,7 @@ Command AddDoctor(CLI::App& app) {
       ->add_option("--repair", options->repaired,
                    "A file for the recording without added CRs and heads of chunks")
       ->option_text("PATH")
-      ->check([](const std::string& text) { return text == "-" ? "a file must be named" : ""; },
-              "PATH");
+      ->check([](const std::string& text) { return CheckName(text == "-" ? "" : text); }, "PATH");
   return {command, [options] { return Doctor(*options); }};
 }
 

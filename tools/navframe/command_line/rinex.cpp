@@ -70,6 +70,7 @@ void AddFiles(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
   app.add_option("--output,-o", options.naming.target,
                  "NAME of the files NAME.obs and NAME.nav; with --station the folder they go to")
       ->option_text("NAME")
+      ->check(CheckName, "NAME")
       ->required();
   app.add_option("--station", options.naming.station,
                  "Files with the long names of RINEX, of this station")
