@@ -242,6 +242,14 @@ class Repair(unittest.TestCase):
             self.assertEqual((out.returncode, out.stderr), (1, b""))
             self.assertTrue((self.folder / "out").read_bytes() == bytes(flipped))
 
+    def test_InputIsKeptWhereTmpdirSays(self):
+        for folder, status in (("", 0), (f"{self.folder}/none", 1)):
+            done = subprocess.run([Tool, "doctor", "--repair", self.folder / "out"], input=Data,
+                                  env=os.environ | {"TMPDIR": folder}, capture_output=True,
+                                  timeout=60)
+            self.assertEqual(done.returncode, status)
+            self.assertIn(b"temporary file in " + folder.encode() if status else b"", done.stderr)
+
     def test_WhatIsLostIsNamed(self):
         """CR LF that became LF: where frames of binary protocols tell."""
         frame = wire.ubx_frame(0x21, 4, b"ab\r\nc" + bytes(30))

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "commands/items.h"
+#include "outputs/temporary_file.h"
 #include "sources/source.h"
 
 namespace navframe::tool {
@@ -17,28 +18,22 @@ using analysis::Undo;
 // A temporary file without a name, which keeps what can be read once alone.
 class Rounds::Kept {
  public:
-  Kept() : file_(std::tmpfile()) {
-    if (!file_) throw CannotWrite("a temporary file", errno);
-  }
   void Append(const std::uint8_t* bytes, std::size_t length) {
-    if (std::fwrite(bytes, 1, length, file_.get()) != length) {
-      throw CannotWrite("a temporary file", errno);
-    }
+    if (std::fwrite(bytes, 1, length, file_.get()) != length) throw CannotKeep(errno);
   }
   // Source::Read from its beginning; one reader at a time.
   void Rewind() {
-    if (std::fflush(file_.get()) != 0) throw CannotWrite("a temporary file", errno);
+    if (std::fflush(file_.get()) != 0) throw CannotKeep(errno);
     std::rewind(file_.get());
   }
   std::size_t Read(std::uint8_t* to, std::size_t room) {
-    return std::fread(to, 1, room, file_.get());
+    const std::size_t length = std::fread(to, 1, room, file_.get());
+    if (std::ferror(file_.get()) != 0) throw CannotKeep(errno);
+    return length;
   }
 
  private:
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  std::unique_ptr<std::FILE, Closer> file_;
+  const std::unique_ptr<std::FILE, FileCloser> file_ = OpenTemporary();
 };
 
 class Rounds::KeepingSource : public Source {

@@ -9,8 +9,8 @@
 #include "commands/moments.h"
 #include "commands/track.h"
 #include "commands/track_form.h"
-#include "fault.h"
 #include "json_text.h"
+#include "outputs/temporary_file.h"
 
 namespace navframe::tool {
 namespace {
@@ -73,8 +73,8 @@ constexpr Property Properties[] = {
 class PointFile {
  public:
   void Add(const Waiting& point) {
-    if (file_ == nullptr) file_.reset(std::tmpfile());
-    if (file_ == nullptr || std::fwrite(&point, sizeof point, 1, file_.get()) != 1) Fail();
+    if (file_ == nullptr) file_ = OpenTemporary();
+    if (std::fwrite(&point, sizeof point, 1, file_.get()) != 1) Fail();
     ++count_;
   }
   bool IsEmpty() const { return count_ == 0; }
@@ -95,12 +95,9 @@ class PointFile {
   }
 
  private:
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  [[noreturn]] static void Fail() { throw CannotWrite("a temporary file", errno); }
+  [[noreturn]] static void Fail() { throw CannotKeep(errno); }
 
-  std::unique_ptr<std::FILE, Closer> file_;
+  std::unique_ptr<std::FILE, FileCloser> file_;
   std::uint64_t count_ = 0;
 };
 

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
+#include <memory>
 
 #include "sources/descriptor.h"
 
@@ -21,5 +23,13 @@ class TemporaryFile {
   Descriptor file_;
   std::uint64_t size_ = 0;
 };
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+// Such a file for the functions of <cstdio>, to be written and read.
+std::unique_ptr<std::FILE, FileCloser> OpenTemporary();
+// What their failures are.
+WriteFault CannotKeep(int error);
 
 }  // namespace navframe::tool
