@@ -90,7 +90,7 @@ void KeepGpsTime(const Payload& payload, DecoderClock& clock) {
   constexpr std::uint8_t WeekAndTow = 0x03;
   const std::uint8_t valid = payload.bytes[11];
   const auto leapSeconds = ReadLe<std::int8_t>(payload.bytes, 10);
-  if (Bits(valid, 2, 1) != 0 && leapSeconds >= 0) clock.setLeap(leapSeconds);
+  if (Bits(valid, 2, 1) != 0 && leapSeconds >= 0) true_clock::SetLeapSeconds(leapSeconds, clock);
   KeepWeekAndTow(payload.bytes, (valid & WeekAndTow) == WeekAndTow, clock);
 }
 

@@ -266,6 +266,9 @@ Bytes Pvt(Valid valid, int month, int day, int hour, int minute, int second, int
   payload.U32(0, tow).U16(4, 2024).U8(6, month).U8(7, day).U8(8, hour).U8(9, minute);
   return UbxFrame(0x01, 0x07, payload.U8(10, second).U8(11, valid).U32(16, nano));
 }
+Bytes GpsTime(int tow, int week, int leapSeconds) {  // NAV-TIMEGPS
+  return UbxFrame(0x01, 0x20, Payload(16).U32(0, tow).U16(8, week).U8(10, leapSeconds).U8(11, 7));
+}
 Bytes Rawx(int measurements, bool leapKnown) {
   Payload payload(static_cast<std::size_t>(16 + 32 * measurements));
   payload.F64(0, 302418.0).U16(8, 2325).U8(10, 18).U8(11, measurements).U8(12, leapKnown ? 1 : 0);
@@ -308,6 +311,8 @@ std::vector<ClockRow> ClockRows() {
        "nmea 2321:86420000 2024-07-01 00:00:01.000", "nmea 2321:"},
       {{SystemParameters(0, 17), Rmc("235960.00", "310724"), SystemParameters(86400, 18),
         Gga("000000.00")}, "nmea 2325:345618000 2024-08-01 00:00:00.000", "nmea 2325:"},
+      {{Rmc("235960.00", "310724"), GpsTime(345'618'000, 2325, 19), Gga("000000.00")},
+       "nmea 2325:345619000 2024-08-01 00:00:00.000", "nmea 2325:"},
       {{noon, Rmc("123460.00", "310724"), Rmc("123501.00", "310724")},
        "nmea 2325:304519000 2024-07-31 12:35:01.000", "nmea 2325:304520000 "},
       // GLONASS: an unknown day, 17 leap seconds, Sunday in Moscow and Saturday in UTC.
