@@ -19,6 +19,9 @@ struct DecoderClock : TimeManager {
   WeekFrom weekFrom = WeekFrom::Nothing;       // kept by true_clock
   NavframeTimeSource source = NavframeNoTime;  // that moved it last
 
+  // Leap seconds were told, or seen. Until then they are those of the date; kept by true_clock.
+  bool knowsLeap = false;
+
   // The leap seconds that its UTC time was made with.
   std::int32_t settledLeap = -1;
 

@@ -1,5 +1,8 @@
 #include "time/true_clock.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/unknown.h"
 #include "time/time_of_day.h"
 
@@ -23,6 +26,18 @@ constexpr std::int64_t DayOf(std::int64_t year, std::int64_t month, std::int64_t
   return era * 146097 + yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear - 719468;
 }
 static_assert(DayOf(1980, 1, 6) == GpsEpochDay && DayOf(1858, 11, 17) == JulianEpochDay);
+
+// The days that each began with a leap second more.
+constexpr std::int64_t LeapDays[] = {
+    DayOf(1981, 7, 1), DayOf(1982, 7, 1), DayOf(1983, 7, 1), DayOf(1985, 7, 1), DayOf(1988, 1, 1),
+    DayOf(1990, 1, 1), DayOf(1991, 1, 1), DayOf(1992, 7, 1), DayOf(1993, 7, 1), DayOf(1994, 7, 1),
+    DayOf(1996, 1, 1), DayOf(1997, 7, 1), DayOf(1999, 1, 1), DayOf(2006, 1, 1), DayOf(2009, 1, 1),
+    DayOf(2012, 7, 1), DayOf(2015, 7, 1), DayOf(2017, 1, 1)};
+
+// GPS time less UTC on a day of UTC, counted from the GPS epoch.
+std::int64_t LeapSecondsOn(std::int64_t day) {
+  return std::ranges::upper_bound(LeapDays, day + GpsEpochDay) - std::begin(LeapDays);
+}
 
 void PutDate(std::int64_t day, UTCTIME& utc) {
   const std::int64_t shifted = day + 719468;
@@ -103,8 +118,17 @@ void PutUtc(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
 
 std::int64_t LeapMs(const TimeManager& clock) { return clock.leapSeconds * SecondMs; }
 
+// What they were on a day, as long as nothing else tells.
+void AssumeLeapSeconds(std::int64_t day, DecoderClock& clock) {
+  if (!clock.knowsLeap) clock.setLeap(static_cast<std::int32_t>(LeapSecondsOn(day)));
+}
+
 void PutUtcOfGps(DecoderClock& clock) {
-  if (KnowsWeek(clock)) return PutUtc(Now(clock) - LeapMs(clock), false, clock);
+  if (KnowsWeek(clock)) {
+    const std::int64_t now = Now(clock);
+    AssumeLeapSeconds((now - LeapSecondsOn(now / DayMs) * SecondMs) / DayMs, clock);
+    return PutUtc(now - LeapMs(clock), false, clock);
+  }
   PutTimeOfDay(Modulo(clock.gpsTime.tow - LeapMs(clock), DayMs), clock.utcTime);
 }
 
@@ -113,12 +137,13 @@ bool IsLeapSecond(const UTCTIME& utc) {
 }
 
 // A second 60 at the end of a day is followed by a leap second more.
-void TrackLeapSecond(const UTCTIME& utc, TimeManager& clock) {
+void TrackLeapSecond(const UTCTIME& utc, DecoderClock& clock) {
   if (IsLeapSecond(utc)) {
     clock.leapPending = 1;
   } else if (clock.leapPending != 0) {
     clock.leapPending = 0;
     clock.setLeap(clock.leapSeconds + 1);
+    clock.knowsLeap = true;
   }
 }
 
@@ -170,6 +195,7 @@ void SetTimeOfDay(std::int64_t utcMs, bool isLeapSecond, DecoderClock& clock) {
 
 // A date without a time of day, in days from the GPS epoch.
 void SetDate(std::int64_t day, DecoderClock& clock) {
+  AssumeLeapSeconds(day, clock);
   if (IsTimeOfDay(clock.utcTime)) {
     const std::int64_t utcMs = day * DayMs + MsOfDay(clock.utcTime);
     PutGps(utcMs + LeapMs(clock), WeekFrom::Date, clock);
@@ -196,6 +222,7 @@ bool IsTimeOfDay(const UTCTIME& utc) {
 }
 
 void SetLeapSeconds(std::int32_t leapSeconds, DecoderClock& clock) {
+  clock.knowsLeap = true;
   if (leapSeconds == clock.leapSeconds) return;
   clock.setLeap(leapSeconds);
   clock.leapPending = 0;
@@ -204,6 +231,7 @@ void SetLeapSeconds(std::int32_t leapSeconds, DecoderClock& clock) {
 void Start(std::uint32_t week, DecoderClock& clock) {
   if (week == 0 || !PutWeek(week, WeekFrom::Start, clock)) return;
   clock.source = NavframeTimeFromStart;
+  AssumeLeapSeconds(std::int64_t{week} * 7, clock);
 }
 
 void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
@@ -229,6 +257,7 @@ void SetUtc(const UTCTIME& utc, std::int64_t nanoseconds, std::string_view text,
     clock.timeText = text;
   }
   if (!hasDate) return SetTimeOfDay(ofDay, isLeapSecond, clock);
+  AssumeLeapSeconds(day, clock);
   PutGps(day * DayMs + ofDay + LeapMs(clock), WeekFrom::Date, clock);
   PutUtc(day * DayMs + ofDay, isLeapSecond, clock);
 }
@@ -250,6 +279,7 @@ void SetJulianDay(std::uint32_t modifiedJulianDay, std::uint32_t secondOfDay,
                   NavframeTimeSource source, DecoderClock& clock) {
   const std::int64_t day = modifiedJulianDay + JulianEpochDay - GpsEpochDay;
   if (day < 0 || secondOfDay > DayMs / SecondMs) return;
+  AssumeLeapSeconds(day, clock);
   const std::int64_t ms = day * DayMs + std::int64_t{secondOfDay} * SecondMs + LeapMs(clock);
   SetGpsTime({static_cast<std::uint32_t>(ms % WeekMs), static_cast<std::uint16_t>(ms / WeekMs), 0},
              source, clock);
@@ -273,7 +303,8 @@ void SetEphemerisWeek(std::int64_t week, std::int64_t rollover, NavframeTimeSour
       clock.weekFrom == WeekFrom::Ephemeris && *nearest == std::int64_t{clock.gpsTime.week} - 1;
   if (isLate || !PutWeek(*nearest, WeekFrom::Ephemeris, clock)) return;
   clock.source = source;
-  if (KnowsTow(clock)) PutUtcOfGps(clock);
+  if (!KnowsTow(clock)) return AssumeLeapSeconds(*nearest * 7, clock);
+  PutUtcOfGps(clock);
 }
 
 std::uint32_t TowOfGlonass(std::uint32_t day, std::uint32_t ofDay, const DecoderClock& clock) {

@@ -292,7 +292,7 @@ std::vector<ClockRow> ClockRows() {
       {{Rmc("120000.00", "290224")}, "nmea 2303:388818000 2024-02-29 12:00:00.000",
        "nmea 2303:475218000 "},
       {{Rmc("", "040824"), Rmc("", "040824")}, "nmea 2326: 2024-08-04", "nmea 2325: "},
-      {{Rmc("120000.00", "220899")}, "nmea 1024:43218000 1999-08-22 12:00:00.000", "nmea 6241:"},
+      {{Rmc("120000.00", "220899")}, "nmea 1024:43213000 1999-08-22 12:00:00.000", "nmea 6241:"},
       // Nearest day and week: midnight of GPS, back across that of UTC, the week's end and back.
       {{Rmc("235942.00", "310724"), Gga("235943.00")},
        "nmea 2325:345601000 2024-07-31 23:59:43.000",
@@ -315,6 +315,17 @@ std::vector<ClockRow> ClockRows() {
        "nmea 2325:345619000 2024-08-01 00:00:00.000", "nmea 2325:"},
       {{noon, Rmc("123460.00", "310724"), Rmc("123501.00", "310724")},
        "nmea 2325:304519000 2024-07-31 12:35:01.000", "nmea 2325:304520000 "},
+      // Nothing tells the leap seconds: those of the date, of UTC and of GPS, also over one of them.
+      {{Rmc("235959.00", "311216")}, "nmea 1930:16000 2016-12-31 23:59:59.000", "nmea 1930:17000 "},
+      {{Rmc("235959.00", "311216"), Rmc("000000.00", "010117")},
+       "nmea 1930:18000 2017-01-01 00:00:00.000", "nmea 1930:18000 "},
+      {{Rmc("235960.00", "311216"), Gga("000000.00")},
+       "nmea 1930:18000 2017-01-01 00:00:00.000", "nmea 1930:"},
+      {{Ephemeris(1045, 6, 906, 12), Msm(1097, 16'000)}, "rtcm 1930:16000 2016-12-31 23:59:59.000",
+       "rtcm :16000"},
+      {{MsmOfGlonass(0, 10'800'000)}, "rtcm 1929:17000 2016-12-25 00:00:00.000", "rtcm :", 1929},
+      {{SystemParameters(0, 17), Rmc("120000.00", "240611")},
+       "nmea 1641:475217000 2011-06-24 12:00:00.000", "nmea 1641:475218000"},
       // GLONASS: an unknown day, 17 leap seconds, Sunday in Moscow and Saturday in UTC.
       {{noon, MsmOfGlonass(7, 54'001'000)}, "rtcm 2325:302419000 2024-07-31 12:00:01.000",
        "rtcm 2325:648019000 "},
@@ -474,7 +485,7 @@ TEST(Dialects, CaptureWithoutDecimalsGivesAllPositions) {
     const int sent = std::stoi(gga.timeText);
     const int second = (sent / 10000 * 60 + sent / 100 % 100) * 60 + sent % 100;
     EXPECT_EQ(gga.utc.hour * 10000 + gga.utc.minute * 100 + gga.utc.second, sent);
-    EXPECT_EQ(item.time.tow % 86'400'000, static_cast<unsigned>(second + 18) * 1000);
+    EXPECT_EQ(item.time.tow % 86'400'000, static_cast<unsigned>(second + 15) * 1000);
     EXPECT_EQ(Values(item.time.week, item.time.utc.day), Values(1659, 24));  // 2011-10-24, a Monday
     EXPECT_FALSE(std::isnan(gga.latitude) || std::isnan(gga.longitude));
   }
