@@ -235,7 +235,7 @@ class Info(unittest.TestCase):
                 self.assertIn(Run(*command, data=sample[:length])[0], (0, 3))
 
     def test_ReadmeShowsWhatIsPrinted(self):
-        readme = (Root / "README.md").read_text()
+        readme = (Root / "README.md").read_text(encoding="utf-8")
         shown = re.search(r"\$ navframe info (\S+)\n(.*?)```", readme, re.S)
         printed = subprocess.run([Tool, "info", shown[1]], cwd=Root, capture_output=True,
                                  check=True).stdout.decode().splitlines()

@@ -30,6 +30,7 @@ class Tool : public testing::Test {
     const std::filesystem::path tool = NAVFRAME_TOOL;
     setenv("PATH", (tool.parent_path().string() + ":" + getenv("PATH")).c_str(), 1);
     setenv("DIR", folder_.c_str(), 1);
+    setenv("LC_ALL", "C", 1);  // of sort and awk
     std::filesystem::create_directory(folder_);
   }
   ~Tool() override { std::filesystem::remove_all(folder_); }
