@@ -64,6 +64,8 @@ TEST_F(Tool, Options) {
       {"navframe --quiet --legacy --kinds VTG $IN | sed 's/^/ /'", 0,
        "63.000,T,,M,26.000,N,48.000,K,D", ""},
       {"cd $DIR && cp in kinds && navframe decode --quiet --kinds vtg kinds", 0, "VTG", ""},
+      {"for i in decode info track doctor; do navframe $i -o $IN $IN; echo \" $?\"; done", 0,
+       "2 2 2 2", "/in is a recording, which is left as it is"},
       {"navframe --record '' $IN", 2, "", "--record: a file must be named"},
       {"navframe doctor --repair '' $IN", 2, "", "--repair: a file must be named"},
       {"navframe rinex -o '' $IN", 2, "", "--output: a file must be named"},

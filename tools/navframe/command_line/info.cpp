@@ -20,7 +20,10 @@ Command AddInfo(CLI::App& app) {
       ->add_option("--jobs", options->jobs, "Files read side by side; as many as there are cores")
       ->option_text("N")
       ->check(CLI::Range(1U, 1024U));
-  return {command, [options] { return Info(*options); }};
+  return {command, [options] {
+            CheckOutput(options->sources, options->target);
+            return Info(*options);
+          }};
 }
 
 }  // namespace navframe::tool

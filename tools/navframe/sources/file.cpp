@@ -55,8 +55,8 @@ bool IsSameFile(const std::string& one, const std::string& other) {
   struct stat second {};
   const bool isInput = one == "-";
   return (isInput ? fstat(STDIN_FILENO, &first) : stat(one.c_str(), &first)) == 0 &&
-         stat(other.c_str(), &second) == 0 && first.st_dev == second.st_dev &&
-         first.st_ino == second.st_ino;
+         stat(other.c_str(), &second) == 0 && S_ISREG(first.st_mode) &&
+         first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 }  // namespace navframe::tool
