@@ -68,6 +68,8 @@ TEST_F(Tool, Options) {
        "2 2 2 2", "/in is a recording, which is left as it is"},
       {"navframe --record '' $IN", 2, "", "--record: a file must be named"},
       {"navframe doctor --repair '' $IN", 2, "", "--repair: a file must be named"},
+      {"navframe rinex -o $DIR/x --antenna-height nan $IN", 2, "", "nan is no height"},
+      {"navframe rinex -o $DIR/x --antenna-height 1e30 $IN", 2, "", "1e30 is no height"},
       {"navframe rinex -o '' $IN", 2, "", "--output: a file must be named"},
       {"navframe --kinds 102x $IN", 2, "", "no kind of record is called 102x"},
       {"navframe $DIR/none", 1, "", "/none: No such file"},

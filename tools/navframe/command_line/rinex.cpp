@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -64,6 +65,13 @@ std::string CheckDate(const std::string& text) {
 std::string CheckVector(const std::string& text) {
   return ParseVector(text) ? ""
                            : text + " is no position such as 4343000.5,-124000.25,4653000 (X,Y,Z)";
+}
+
+// What has room in its column.
+std::string CheckHeight(const std::string& text) {
+  constexpr double Most = 1e6;
+  const bool fits = std::fabs(std::strtod(text.c_str(), nullptr)) < Most;
+  return fits ? "" : text + " is no height such as 1.25";
 }
 
 void AddFiles(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
@@ -131,7 +139,8 @@ void AddStation(CLI::App& app, RinexOptions& options, RinexTexts& texts) {
       ->check(CheckVector, "POSITION");
   app.add_option("--antenna-height", station.antennaHeight,
                  "Of the antenna reference point above the marker, in meters")
-      ->option_text("H");
+      ->option_text("H")
+      ->check(CheckHeight, "HEIGHT");
 }
 
 void LookUp(const RinexTexts& texts, RinexOptions& options) {
