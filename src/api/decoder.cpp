@@ -58,7 +58,7 @@ FramerResult Decoder::HandleHead() {
   }
   const DecodeResult result = row.decode(decoders, head.bytes, framing.Length());
   // The sentence stays at the head then, and meets the next call.
-  if (result.fault != NumberFault::None) Throw(result.fault);
+  if (result.Fault() != NumberFault::None) Throw(result.Fault());
   if constexpr (row.protocol == Navframe55Aa) {
     Accept55Aa(input, framing.Length());
   } else {

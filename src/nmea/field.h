@@ -15,6 +15,7 @@
 #include "navframe/time_types.h"
 #include "nmea/letters.h"
 #include "nmea/sentence.h"
+#include "output/record_sink.h"
 
 namespace navframe::nmea {
 
@@ -46,8 +47,9 @@ class FieldReader {
   std::string_view Talker() const { return fields_[0].substr(1, 2); }
   const Dialect& HasDialect() const { return dialect_; }
 
-  NumberFault Fault() const { return fault_; }
-  std::uint32_t BadField() const { return badField_; }
+  // Of a sentence that was read: the first field that does not convert.
+  DecodeResult Result() const { return result_; }
+  bool HasFault() const { return result_.Reason() != NavframeNoReason; }
 
   // The value, or nothing with the fault remembered.
   template <class T>
@@ -60,9 +62,7 @@ class FieldReader {
     return true;
   }
   void Note(std::size_t index, NumberFault fault) {
-    if (fault_ != NumberFault::None) return;
-    fault_ = fault;
-    badField_ = static_cast<std::uint32_t>(index);
+    if (!HasFault()) result_ = {NavframeBadField, static_cast<std::uint32_t>(index), fault};
   }
 
   // Whether the field holds anything.
@@ -149,8 +149,7 @@ class FieldReader {
 
   const Fields& fields_;
   const Dialect& dialect_;
-  NumberFault fault_ = NumberFault::None;
-  std::uint32_t badField_ = 0;
+  DecodeResult result_;
 };
 
 }  // namespace navframe::nmea

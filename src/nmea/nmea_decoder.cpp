@@ -30,11 +30,6 @@ void Stamp(const SentenceRow& row, const TimeManager& time, RecordBuffer& record
   }
 }
 
-DecodeResult ResultOf(const FieldReader& reader) {
-  if (reader.Fault() == NumberFault::None) return {};
-  return {NavframeBadField, reader.BadField(), reader.Fault()};
-}
-
 }  // namespace
 
 inline const SentenceRow* NmeaDecoder::RowOf(const Fields& fields) const {
@@ -68,7 +63,7 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
     if (fields[2] == "1") context.gsvAnnounced += ToIntOrMinimum(fields[1]);
     context.gsvCame += 1;
     AccumulateGsv(context, reader, time_);
-    return ResultOf(reader);
+    return reader.Result();
   }
   if (row->parse == nullptr) return {NavframeNoKind};
 
@@ -76,7 +71,7 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   row->makeUnknown(record.bytes);
   if (row->hasTag) record.At<TagFlag>(0) = tag;
   row->parse(context, reader, record.bytes);
-  if (reader.Fault() != NumberFault::None && !dialect_.keepsSentences) return ResultOf(reader);
+  if (reader.HasFault() && !dialect_.keepsSentences) return reader.Result();
   if (row->clock != ClockRule::None) {
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),
                                        TextOf(record.TextAt(row->text), row->text.width)};
@@ -91,7 +86,7 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   void* const payload = sink_.Allocate(row->size);
   row->copy(payload, record.bytes);
   sink_.PushMessage(context.kind, payload, row->size);
-  return ResultOf(reader);
+  return reader.Result();
 }
 
 bool NmeaDecoder::CycleIsWhole() const {

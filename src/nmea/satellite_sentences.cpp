@@ -166,7 +166,7 @@ inline bool ReadPaddedBlock(const Fields& fields, std::size_t index, GsvBlock& b
 
 // Whether nothing of a sentence is to be kept, because a field of it does not convert.
 bool IsGivenUp(const FieldReader& fields) {
-  return fields.Fault() != NumberFault::None && !fields.HasDialect().keepsSentences;
+  return fields.HasFault() && !fields.HasDialect().keepsSentences;
 }
 
 // What satellites of an unknown system are, nobody can say.

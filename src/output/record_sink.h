@@ -13,11 +13,22 @@
 namespace navframe {
 
 // What became of a frame: the reason why it gave no record, none where it did or where its kind
-// is collected over several frames.
-struct [[nodiscard]] DecodeResult {
-  NavframeReason reason = NavframeNoReason;
-  std::uint32_t badField = 0;             // with NavframeBadField: its number, 1 behind the address
-  NumberFault fault = NumberFault::None;  // and why it does not convert
+// is collected over several frames. One word, as Framing is.
+class [[nodiscard]] DecodeResult {
+ public:
+  // With NavframeBadField: the number of the field, 1 behind the address, and why it does not
+  // convert.
+  constexpr DecodeResult(NavframeReason reason = NavframeNoReason, std::uint32_t badField = 0,
+                         NumberFault fault = NumberFault::None)
+      : word_(static_cast<std::uint64_t>(reason) | static_cast<std::uint64_t>(fault) << 8 |
+              std::uint64_t{badField} << 32) {}
+
+  constexpr NavframeReason Reason() const { return static_cast<NavframeReason>(word_ & 0xFF); }
+  constexpr NumberFault Fault() const { return static_cast<NumberFault>(word_ >> 8 & 0xFF); }
+  constexpr std::uint32_t BadField() const { return static_cast<std::uint32_t>(word_ >> 32); }
+
+ private:
+  std::uint64_t word_;
 };
 
 // Kinds whose records end alike as a rule: in unknown entries of a list, or in zeros.

@@ -14,7 +14,7 @@ namespace navframe::protocols {
   const auto subframe = ubx::SubframeOf(frame, length);
   if (subframe) decoders.subframes.MakeRoom(*subframe);  // in front of what cannot be done twice
   const DecodeResult result = decoders.ubx.Decode(frame, length);
-  if (subframe && result.reason == NavframeNoReason) decoders.subframes.Take(*subframe);
+  if (subframe && result.Reason() == NavframeNoReason) decoders.subframes.Take(*subframe);
   return result;
 }
 

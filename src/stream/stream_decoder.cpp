@@ -66,8 +66,9 @@ std::uint32_t MessageOf(const ProtocolRow& row, const std::uint8_t* frame, std::
 
 // A frame that gave no record of its own, though perhaps the satellites in view that it ended.
 bool IsUndecoded(const DecodeResult& result, const Dialect& dialect) {
-  return result.reason == NavframeNoKind || result.reason == NavframeBadContent ||
-         (result.reason == NavframeBadField && !dialect.keepsSentences);
+  const NavframeReason reason = result.Reason();
+  return reason == NavframeNoKind || reason == NavframeBadContent ||
+         (reason == NavframeBadField && !dialect.keepsSentences);
 }
 
 std::string_view AddressOf(const std::uint8_t* frame, std::uint32_t length) {
@@ -314,11 +315,11 @@ void StreamDecoder::Describe(NavframeItem& item) const {
   item.length = span_.length;
   item.claimedLength = span_.type == NavframeItemRejected ? span_.claimedLength : 0;
   item.bytes = span_.bytes;
-  item.reason = span_.type == NavframeItemSkipped ? NavframeNoReason : span_.result.reason;
+  item.reason = span_.type == NavframeItemSkipped ? NavframeNoReason : span_.result.Reason();
   item.message = 0;
   item.subType = 0;
   item.address[0] = '\0';
-  item.badField = span_.result.badField;
+  item.badField = span_.result.BadField();
   item.recordCount = sink_.Count();
   if (span_.type == NavframeItemFrame && span_.length != 0) {
     item.message = MessageOf(*span_.row, span_.bytes, span_.length);
