@@ -106,6 +106,7 @@ inline std::optional<int> GsvSystem(std::string_view address) {
 // One hexadecimal digit in the standard, of which the exports know the decimal ones.
 template <bool KeepsAll>
 std::uint8_t SignalId(std::string_view field) {
+  if (field.size() == 1 && IsDigit(field[0])) return static_cast<std::uint8_t>(field[0] - '0');
   if (KeepsAll && field.size() == 1 && field[0] >= 'A' && field[0] <= 'F') {
     return static_cast<std::uint8_t>(field[0] - 'A' + 10);
   }
@@ -118,50 +119,54 @@ std::uint8_t SignalId(std::string_view field) {
          fields[index + 3].empty();
 }
 
-// What nearly all blocks are: two digits, two, three, and two or none. The first three fields are
-// read by one load. False for blocks of another shape.
+// What nearly all blocks are: two digits, two, three, and two or none, read by two loads. False for
+// blocks of another shape.
 inline bool ReadPaddedBlock(const Fields& fields, std::size_t index, GsvBlock& block) {
   if constexpr (std::endian::native == std::endian::big) return false;
   constexpr std::uint32_t Lengths = 0x00'03'02'02;
   constexpr std::uint64_t NoDigits = 0x3030'2C30'302C'3030;  // "00,00,00"
+  constexpr std::uint32_t NoTail = 0x3030'2C30;              // "0,00"
   const std::uint32_t lengths = fields.FourLengths(index);
   if ((lengths & ~0x02'00'00'00U) != Lengths) return false;
+  const bool hasCn0 = lengths != Lengths;
   const char* const text = fields.Present(index).data();
   std::uint64_t digits;
+  std::uint32_t tail;
   std::memcpy(&digits, text, sizeof digits);
+  std::memcpy(&tail, text + sizeof digits, sizeof tail);
   digits ^= NoDigits;
-  const unsigned lastOfAzimuth = static_cast<unsigned char>(text[8]) - unsigned{'0'};
-  if ((((digits + 0x7676767676767676) | digits) & 0x8080808080808080) != 0 || lastOfAzimuth > 9) {
-    return false;
-  }
-  block.cn0 = Unknown<std::uint8_t>();
-  if (lengths != Lengths) {
-    const unsigned tens = static_cast<unsigned char>(text[10]) - unsigned{'0'};
-    const unsigned ones = static_cast<unsigned char>(text[11]) - unsigned{'0'};
-    if (tens > 9 || ones > 9) return false;
-    block.cn0 = static_cast<std::uint8_t>(tens * 10 + ones);
-  }
+  tail ^= NoTail;
+  if (!hasCn0) tail &= 0xFF;
+  const std::uint64_t bad = (digits + 0x7676767676767676) | digits | ((tail + 0x76767676U) | tail);
+  if ((bad & 0x8080808080808080) != 0) return false;
   const std::uint64_t pairs = digits * 10 + (digits >> 8);
-  block.number = static_cast<std::uint8_t>(pairs);
-  block.elevation = static_cast<std::uint8_t>(pairs >> 24);
-  block.azimuth = static_cast<std::uint16_t>((pairs >> 48 & 0xFF) * 10 + lastOfAzimuth);
-  block.cn0Hundredths = 0;
-  block.numbered = block.isWhole = block.hasElevation = block.hasAzimuth = true;
+  const std::uint32_t cn0 = (tail >> 16 & 0xFF) * 10 + (tail >> 24);
+  block = {.numbered = true,
+           .hasElevation = true,
+           .hasAzimuth = true,
+           .isWide = false,
+           .number = static_cast<std::uint8_t>(pairs),
+           .elevation = static_cast<std::uint8_t>(pairs >> 24),
+           .azimuth = static_cast<std::uint16_t>((pairs >> 48 & 0xFF) * 10 + (tail & 0xFF)),
+           .cn0 = hasCn0 ? static_cast<std::uint8_t>(cn0) : Unknown<std::uint8_t>(),
+           .cn0Hundredths = 0};
   return true;
 }
 
-[[gnu::noinline]] GsvBlock ReadBlock(FieldReader& fields, std::size_t index) {
-  GsvBlock block{};
+// False for one with a number that does not convert.
+[[gnu::noinline]] bool ReadBlock(FieldReader& fields, std::size_t index, GsvBlock& block) {
+  block = {};
   const std::string_view number = fields[index];
   block.numbered = !number.empty();
-  block.isWhole = !block.numbered || fields.Take(index, FieldToInt(number), block.number);
+  const bool isWhole = !block.numbered || fields.Take(index, FieldToInt(number), block.number);
   block.elevation = block.azimuth = Unknown<std::uint16_t>();
   block.hasElevation = fields.Int(index + 1, block.elevation);
   block.hasAzimuth = fields.Int(index + 2, block.azimuth);
   const CarrierToNoise cn0 = ReadCarrierToNoise(fields, index + 3);
   block.cn0 = cn0.whole;
   block.cn0Hundredths = cn0.hundredths;
-  return block;
+  block.isWide = WideView::IsWide(block);
+  return isWhole;
 }
 
 // Whether nothing of a sentence is to be kept, because a field of it does not convert.
@@ -206,8 +211,7 @@ void Accumulate(NmeaContext& context, FieldReader& fields, const TimeManager& ti
     const bool isSatellite =
         !fields[i].empty() || *systemId == Glonass || (KeepsAll && !IsEmptyBlock(fields, i));
     if (!isSatellite) continue;
-    blocks[blockCount] = ReadBlock(fields, i);
-    if (blocks[blockCount].isWhole) ++blockCount;
+    if (ReadBlock(fields, i, blocks[blockCount])) ++blockCount;
   }
   if (IsGivenUp(fields)) return;
 
@@ -250,15 +254,16 @@ void ReadGsa(NmeaContext& context, FieldReader& fields, Record& record) {
   if (fields[1] == "M" && fields.HasDialect().standardRecords) record.selectionMode = 0;
   fields.Int(2, record.fixType);
   std::array<int, MostUsed> numbers;
+  std::size_t count = 0;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    int number = 0;
     const std::size_t index = FirstUsed + i;
     const std::string_view field = fields[index];
-    if (field.empty() || !fields.Take(index, FieldToInt(field), number)) continue;
-    numbers[record.usedCount] = number;
-    record.usedSatellites[record.usedCount++] = static_cast<Number>(number);
+    if (field.empty() || !fields.Take(index, FieldToInt(field), numbers[count])) continue;
+    record.usedSatellites[count] = static_cast<Number>(numbers[count]);
+    ++count;
   }
-  const std::span<const int> used(numbers.data(), record.usedCount);
+  const std::span<const int> used(numbers.data(), count);
+  record.usedCount = static_cast<std::uint8_t>(count);
   if (fields.HasDialect().gsaSystemByView) {
     const bool isMixed = systemId == MixedSystems && fields.Count() == GsaFields;
     if (isMixed) systemId = context.seen.SystemOf(used);

@@ -17,14 +17,14 @@ inline constexpr std::size_t MostSatellites = 96;
 // One signal as a GSV block gives it.
 struct GsvBlock {
   bool numbered;
-  bool isWhole;  // its number, if there is one, converts
   bool hasElevation;
   bool hasAzimuth;
-  std::uint8_t cn0;
-  std::uint8_t cn0Hundredths;  // behind its point, kept where all is
+  bool isWide;  // a GsvRecord has no room for what it holds
   int number;
   int elevation;  // all bits of 16 set when it is not known, as azimuth
   std::uint16_t azimuth;
+  std::uint8_t cn0;
+  std::uint8_t cn0Hundredths;  // behind its point, kept where all is
 };
 
 class SatellitesInView {

@@ -19,11 +19,18 @@ class WideView {
   bool InUse() const { return inUse_; }
   void Reset() { inUse_ = false; }
 
+  // Whether a GsvRecord has no room for the block, whose elevations are 16 bits without a sign.
+  static constexpr bool IsWide(const GsvBlock& block) {
+    return (block.numbered && !FitsNarrow(block.number)) || block.cn0Hundredths != 0 ||
+           (static_cast<unsigned>(block.elevation) >= 0x8000 &&
+            block.elevation != Unknown<std::uint16_t>());
+  }
+
   // Adds to `narrow`, or here what it has no room for.
   void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block,
                  SatellitesInView& narrow) {
     if (!inUse_) [[likely]] {
-      if (FitsNarrow(block) && narrow.AddSignal(systemId, signalId, block)) [[likely]]
+      if (!block.isWide && narrow.AddSignal(systemId, signalId, block)) [[likely]]
         return;
       TakeOver(narrow);
     }
@@ -54,12 +61,6 @@ class WideView {
 
   // 255 stands for an unknown one.
   static constexpr bool FitsNarrow(int number) { return static_cast<unsigned>(number) < 255; }
-  // Elevations are 16 bits without a sign there.
-  static constexpr bool FitsNarrow(const GsvBlock& block) {
-    return (!block.numbered || FitsNarrow(block.number)) && block.cn0Hundredths == 0 &&
-           (static_cast<unsigned>(block.elevation) < 0x8000 ||
-            block.elevation == Unknown<std::uint16_t>());
-  }
 
   void AddSignal(int systemId, std::uint8_t signalId, const GsvBlock& block);
   void MarkUsed(int systemId, int number);
