@@ -68,9 +68,8 @@ DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
   if (row->parse == nullptr) return {NavframeNoKind};
 
   RecordBuffer record;
-  row->makeUnknown(record.bytes);
-  if (row->hasTag) record.At<TagFlag>(0) = tag;
   row->parse(context, reader, record.bytes);
+  if (row->hasTag) record.At<TagFlag>(0) = tag;
   if (reader.HasFault() && !dialect_.keepsSentences) return reader.Result();
   if (row->clock != ClockRule::None) {
     const SentenceTime sentenceTime = {fields[1], record.At<UTCTIME>(row->utcOffset),

@@ -235,7 +235,7 @@ bool IsGsa(const Fields& fields) {
 bool IsGsv(const Fields& fields) { return fields.Count() >= 5 && fields.Count() % 4 <= 1; }
 
 bool IsWideGsa(const Fields& fields) {
-  if (!IsGsa(fields) || !fields.HasLonger(FirstUsed, MostUsed, 2)) return false;
+  if (!IsGsa(fields) || !fields.HasLongerThanTwo(FirstUsed, MostUsed)) return false;
   for (std::size_t i = FirstUsed; i < FirstUsed + MostUsed; ++i) {
     const std::string_view field = fields[i];
     if (!field.empty() && FieldToInt(field).value >= Unknown<std::uint8_t>()) return true;

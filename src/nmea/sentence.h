@@ -72,13 +72,15 @@ class Fields {
     return lengths;
   }
 
-  // Whether one of these fields, all of which there are, has more than so many characters.
-  bool HasLonger(std::size_t first, std::size_t count, int length) const {
-    bool longer = false;
-    for (std::size_t i = first; i < first + count; ++i) {
-      longer |= sweep_.begins[i + 1] - sweep_.begins[i] > length + 1;
+  // Whether one of these fields, all of which there are, has more than two characters. `count` is a
+  // multiple of four.
+  bool HasLongerThanTwo(std::size_t first, std::size_t count) const {
+    std::uint32_t longer = 0;  // a byte that overflows is of a longer field itself
+    for (std::size_t i = first; i < first + count; i += 4) {
+      const std::uint32_t lengths = FourLengths(i);
+      longer |= (lengths + 0x7D7D7D7D) | lengths;
     }
-    return longer;
+    return (longer & 0x80808080) != 0;
   }
 
   // From a field to the end, with the commas between.

@@ -49,8 +49,8 @@ struct SentenceRow {
   // What follows from the type of the record.
   std::uint32_t size = 0;                              // 0 for kinds without one
   bool hasTag = false;                                 // the first byte is the tag flag
-  void (*makeUnknown)(void* record) = nullptr;         // as it is before its parser runs
   void (*copy)(void* to, const void* from) = nullptr;  // of a whole record, `from` staying valid
+  // Writes every byte of the record.
   void (*parse)(NmeaContext& context, FieldReader& fields, void* record) = nullptr;
   std::uint16_t gpsTimeOffset = 0;
   std::uint16_t utcOffset = 0;  // of a record with a ClockRule
@@ -61,6 +61,8 @@ struct SentenceRow {
     return tag == TagFlag::Plain || kind > MsgIdZda ? kind : kind + (MsgIdTaggedGga - MsgIdGga);
   }
   bool Passes(const RecordSink& sink) const {
+    if (sink.PassesAll()) [[likely]]
+      return true;
     const std::uint32_t other = twin != 0 ? twin : Kind(TagFlag::BehindTagBlock);
     return sink.PassesAny(passesAs != 0 ? passesAs : kind, other);
   }
@@ -89,10 +91,11 @@ constexpr SentenceRow With(SentenceRow row) {
   static_assert(sizeof(Record) <= LargestRecord);
   row.size = sizeof(Record);
   row.hasTag = requires { Record::tag; };
-  row.makeUnknown = [](void* record) { catalogue::MakeUnknown(*static_cast<Record*>(record)); };
   row.copy = CopyRecord<Record>;
-  row.parse = [](NmeaContext& context, FieldReader& fields, void* record) {
-    Parse(context, fields, *static_cast<Record*>(record));
+  row.parse = [](NmeaContext& context, FieldReader& fields, void* bytes) {
+    auto& record = *static_cast<Record*>(bytes);
+    catalogue::MakeUnknown(record);
+    Parse(context, fields, record);
   };
   row.gpsTimeOffset = offsetof(Record, gpsTime);
   if constexpr (requires { Record::utc; }) row.utcOffset = offsetof(Record, utc);

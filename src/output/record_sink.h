@@ -55,7 +55,8 @@ class RecordSink {
 
   // The output filter: 0 lets every record pass.
   void SetFilter(std::uint32_t id) { filter_ = id; }
-  bool Passes(std::uint32_t id) const { return filter_ == 0 || filter_ == id; }
+  bool PassesAll() const { return filter_ == 0; }
+  bool Passes(std::uint32_t id) const { return PassesAll() || filter_ == id; }
   // For records that pass with either of two filter values.
   bool PassesAny(std::uint32_t a, std::uint32_t b) const { return Passes(a) || filter_ == b; }
 
