@@ -39,7 +39,7 @@ inline const SentenceRow* NmeaDecoder::RowOf(const Fields& fields) const {
   return row->wide != nullptr && row->wide->takes(fields) ? row->wide : row;
 }
 
-DecodeResult NmeaDecoder::Decode(const Fields& fields, TagFlag tag) {
+DecodeResult NmeaDecoder::Decode(Fields fields, TagFlag tag) {
   const SentenceRow* const row = RowOf(fields);
   NmeaContext& context = contexts_[static_cast<std::size_t>(tag)];
   context.previousKind = context.kind;

@@ -22,7 +22,7 @@ class NmeaDecoder {
 
   // Splits the work on one sentence: its kind, the end of a GSV cycle, its record. Where a field
   // that does not convert ends the work, the sentence has left no trace but its kind.
-  DecodeResult Decode(const Fields& fields, TagFlag tag);
+  DecodeResult Decode(Fields fields, TagFlag tag);
 
   // Whether satellites in view were collected from all sentences that were announced.
   bool CycleIsWhole() const;
