@@ -38,8 +38,10 @@ const Dialect& DialectOf(const NavframeOptions& options) {
 std::optional<std::uint32_t> LineEndAt(const Head& head, std::uint32_t length, bool ended) {
   const std::uint32_t behind = head.available - length;
   const std::uint8_t* const end = head.bytes + length;
+  constexpr std::uint16_t CrLf = '\r' | '\n' << 8;
+  if (behind > 1 && ReadLe<std::uint16_t>(end, 0) == CrLf) [[likely]]
+    return 2;
   if (behind > 0 && end[0] == '\n') return 1;
-  if (behind > 1 && end[0] == '\r' && end[1] == '\n') return 2;
   const bool mayCome = behind == 0 || (behind == 1 && end[0] == '\r');
   if (mayCome && !ended) return std::nullopt;
   return 0;
@@ -71,10 +73,9 @@ bool IsUndecoded(const DecodeResult& result, const Dialect& dialect) {
          (reason == NavframeBadField && !dialect.keepsSentences);
 }
 
-std::string_view AddressOf(const std::uint8_t* frame, std::uint32_t length) {
-  std::uint32_t end = 1;
-  while (end < length && frame[end] != ',' && frame[end] != '*') ++end;
-  return {reinterpret_cast<const char*>(frame) + 1, end - 1};
+// Of a log.
+std::string_view AddressOf(std::string_view line) {
+  return line.substr(1, line.find_first_of(",*", 1) - 1);
 }
 
 }  // namespace
@@ -326,8 +327,12 @@ void StreamDecoder::Describe(NavframeItem& item) const {
     if (span_.row->protocol == NavframeRtcm3) {
       item.subType = rtcm::SubTypeOf(item.message, {span_.bytes, span_.length});
     }
-    if (span_.row->protocol == NavframeNmea || span_.row->protocol == NavframeAsciiLog) {
-      CopyText(item.address, AddressOf(span_.bytes, span_.length));
+    const auto* const text = reinterpret_cast<const char*>(span_.bytes);
+    if (span_.row->protocol == NavframeNmea) {
+      // The last sentence that was swept.
+      CopyText(item.address, nmea::Fields(text, decoders_->framing.sweep)[0].substr(1));
+    } else if (span_.row->protocol == NavframeAsciiLog) {
+      CopyText(item.address, AddressOf({text, span_.length}));
     }
   }
   const DecoderClock& time = decoders_->time;
