@@ -1,6 +1,9 @@
 #include "nmea/field.h"
 
+#include <array>
+
 #include "base/characters.h"
+#include "base/read_le.h"
 
 namespace navframe::nmea {
 namespace {
@@ -19,10 +22,31 @@ bool FractionMs(std::string_view digits, std::uint16_t& ms) {
   return true;
 }
 
+// The three pairs of digits that a time of day or a date begins with; false where it begins with
+// something else.
+using Pairs = std::array<int, 3>;
+bool ReadPairs(std::string_view field, Pairs& pairs) {
+  constexpr std::uint64_t SixBytes = 0xFFFF'FFFF'FFFF;
+  if (field.size() < 6) return false;
+  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(field.data());
+  const std::uint64_t digits = (ReadLe<std::uint64_t>(bytes, 0) ^ 0x3030303030303030) & SixBytes;
+  if ((((digits + 0x767676767676) | digits) & 0x808080808080) != 0) return false;
+  const std::uint64_t values = digits * 10 + (digits >> 8);
+  pairs = {static_cast<int>(values & 0xFF), static_cast<int>(values >> 16 & 0xFF),
+           static_cast<int>(values >> 32 & 0xFF)};
+  return true;
+}
+
 // Two characters of a time text, which must reach behind `position`.
 Number<int> TimePart(std::string_view field, std::size_t position) {
   if (position >= field.size()) return {0, NumberFault::TooShort};
   return ToInt(field.substr(position, 2));
+}
+
+void PutTimeOfDay(const Pairs& parts, UTCTIME& utc) {
+  utc.hour = static_cast<std::uint8_t>(parts[0]);
+  utc.minute = static_cast<std::uint8_t>(parts[1]);
+  utc.second = static_cast<std::uint8_t>(parts[2]);
 }
 
 // The value of a hexadecimal digit, -1 for another character.
@@ -51,19 +75,16 @@ void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
   // Nine characters hold hundredths of a second; in every other length what follows the point is
   // taken as milliseconds as it stands, so ".5" is 5 ms. A text without a seventh character is a
   // fault. Hosts rely on all of that.
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-  if (!Take(index, TimePart(field, 0), hour) || !Take(index, TimePart(field, 2), minute) ||
-      !Take(index, TimePart(field, 4), second)) {
-    return;
+  Pairs parts;
+  if (!ReadPairs(field, parts)) {
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      if (!Take(index, TimePart(field, 2 * i), parts[i])) return;
+    }
   }
   if (field.size() < FractionPosition) return Note(index, NumberFault::TooShort);
   int fraction = 0;
-  if (!Take(index, ToInt(field.substr(FractionPosition)), fraction)) return;
-  utc.hour = static_cast<std::uint8_t>(hour);
-  utc.minute = static_cast<std::uint8_t>(minute);
-  utc.second = static_cast<std::uint8_t>(second);
+  if (!Take(index, FieldToInt(field.substr(FractionPosition)), fraction)) return;
+  PutTimeOfDay(parts, utc);
   const unsigned unit = field.size() == LengthWithHundredths ? 10 : 1;
   utc.millisecond = static_cast<std::uint16_t>(static_cast<unsigned>(fraction) * unit);
   utc.flag = 1;
@@ -72,20 +93,14 @@ void FieldReader::TimeOfDay(std::size_t index, UTCTIME& utc) {
 // hhmmss with any number of decimals, or none.
 void FieldReader::WholeTimeOfDay(std::size_t index, UTCTIME& utc) {
   const std::string_view field = fields_[index];
-  const auto two = [&field](std::size_t at) {
-    return IsDigit(field[at]) && IsDigit(field[at + 1])
-               ? (field[at] - '0') * 10 + (field[at + 1] - '0')
-               : 99;
-  };
-  const bool hasShape = field.size() >= 6 && (field.size() == 6 || field[6] == '.');
+  Pairs parts;
   std::uint16_t ms = 0;
-  if (!hasShape || two(0) > 23 || two(2) > 59 || two(4) > 60 ||
+  if (!ReadPairs(field, parts) || (field.size() > 6 && field[6] != '.') || parts[0] > 23 ||
+      parts[1] > 59 || parts[2] > 60 ||
       !FractionMs(field.substr(std::min(field.size(), FractionPosition)), ms)) {
     return Note(index, NumberFault::NoInt);
   }
-  utc.hour = static_cast<std::uint8_t>(two(0));
-  utc.minute = static_cast<std::uint8_t>(two(2));
-  utc.second = static_cast<std::uint8_t>(two(4));
+  PutTimeOfDay(parts, utc);
   utc.millisecond = ms;
   utc.flag = 1;
 }
@@ -93,10 +108,12 @@ void FieldReader::WholeTimeOfDay(std::size_t index, UTCTIME& utc) {
 void FieldReader::Date(std::size_t index, UTCTIME& utc) {
   const std::string_view field = fields_[index];
   if (field.empty()) return;
-  int parts[3];
-  for (std::size_t i = 0; i < 3; ++i) {
-    if (2 * i > field.size()) return Note(index, NumberFault::TooShort);
-    if (!Take(index, ToInt(field.substr(2 * i, 2)), parts[i])) return;
+  Pairs parts;
+  if (!ReadPairs(field, parts)) {
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      if (2 * i > field.size()) return Note(index, NumberFault::TooShort);
+      if (!Take(index, ToInt(field.substr(2 * i, 2)), parts[i])) return;
+    }
   }
   utc.day = static_cast<std::uint8_t>(parts[0]);
   utc.month = static_cast<std::uint8_t>(parts[1]);
@@ -177,7 +194,7 @@ void FieldReader::Angle(std::size_t index, std::size_t degreeDigits, Hemispheres
   const std::optional<bool> positive = IsPositive(index + 1, letters);
   if (!positive) return;
   int whole = 0;
-  if (!Take(index, ToInt(field.substr(0, degreeDigits)), whole)) return;
+  if (!Take(index, FieldToInt(field.substr(0, degreeDigits)), whole)) return;
   if (field.size() < degreeDigits) return Note(index, NumberFault::TooShort);
   double minutes = 0;
   if (!Take(index, RoomyToDouble(field.substr(degreeDigits)), minutes)) return;
