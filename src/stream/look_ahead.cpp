@@ -70,9 +70,10 @@ std::uint32_t SearchedProtocols::FindStart(const Head& head, std::uint32_t at,
   return at + static_cast<std::uint32_t>(FindSyncByte(data, end - at, mayStart));
 }
 
-// The search for heads goes on behind the frame for so many bytes, which belong to the next ones.
+// The search for heads goes on behind the frame for so many bytes, which belong to the next ones:
+// few of them in vain, as a stronger frame among these ends the search by its head.
 void StrongerFrames::FindNext(const Head& head, std::uint32_t length) {
-  constexpr std::uint32_t Ahead = 512;
+  constexpr std::uint32_t Ahead = 4096;
   const auto from = static_cast<std::uint32_t>(next_ - head.position);
   const std::uint32_t until = std::min(head.available, length + Ahead);
   const std::uint8_t* const bytes = head.bytes + from;
