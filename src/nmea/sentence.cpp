@@ -8,13 +8,6 @@
 namespace navframe::nmea {
 namespace {
 
-// The value of an upper-case hexadecimal digit; -1 for any other character.
-constexpr int HexValue(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 // The lowest `count` bits, 0 to 64 of them.
 constexpr std::uint64_t LowBits(std::uint32_t count) {
   return count >= 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << count) - 1;
@@ -65,9 +58,9 @@ void Sweep(const std::uint8_t* bytes, std::uint32_t length, SentenceSweep& sweep
 }
 
 bool IsChecksum(char high, char low, std::uint8_t checksum) {
-  const int highValue = HexValue(high);
-  const int lowValue = HexValue(low);
-  return highValue >= 0 && lowValue >= 0 && highValue * 16 + lowValue == checksum;
+  // Whether a digit is a letter, no processor foresees.
+  constexpr std::string_view Digits = "0123456789ABCDEF";
+  return high == Digits[checksum >> 4] && low == Digits[checksum & 0xF];
 }
 
 bool ChecksumMatches(const std::uint8_t* text, const SentenceSweep& sweep) {

@@ -172,13 +172,14 @@ struct FormatterRow {
   SentenceRow sentence;
 };
 constexpr FormatterRow Formatters[] = {
+    // Most sentences. Accumulated until the cycle ends, so there is no record of the sentence
+    // itself.
+    {"GSV", {MsgIdGsv, BeforeBuilding, ClockRule::None, IsGsv}},
     {"RMC",
      OrWide(With<RmcRecord, ParseRmc>({MsgIdRmc, AfterParsing, ClockRule::DateByEpoch}), WideRmc)},
     {"GGA", With<GgaRecord, ParseGga>({MsgIdGga, AfterParsing, ClockRule::TimeOfDayByEpoch})},
     {"GSA",
      OrWide(With<GsaRecord, ParseGsa>({MsgIdGsa, AfterParsing, ClockRule::None, IsGsa}), WideGsa)},
-    // Accumulated until the cycle ends, so there is no record of the sentence itself.
-    {"GSV", {MsgIdGsv, BeforeBuilding, ClockRule::None, IsGsv}},
     {"TXT", OrWide({MsgIdTxt, Never}, TextRow)},
     {"ZDA", OrWide(With<ZdaRecord, ParseZda>({MsgIdZda, AfterParsing, ClockRule::Date}), WideZda)},
     {"VTG", With<VtgRecord, ParseVtg>({MsgIdVtg, BeforeBuilding})},
