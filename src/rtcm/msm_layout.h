@@ -1,6 +1,7 @@
 // The widths and scales of the four kinds of MSM.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace navframe::rtcm {
@@ -96,14 +97,22 @@ static_assert(Msm7.SatelliteBits() == 36 && Msm7.CellBits() == 80);
 // Lock time in ms of the 4-bit indicator of MSM4 and MSM5: 0 of 0, else 16 doubled as often.
 constexpr std::uint32_t LockTime4(std::uint32_t indicator) { return (16U << indicator) & ~16U; }
 
-// Lock time in ms of the 10-bit extended indicator of MSM6 and MSM7: 0 to 63 ms in steps of one,
+// Lock times in ms by the 10-bit extended indicator of MSM6 and MSM7: 0 to 63 ms in steps of one,
 // then in blocks of 32 indicators whose step doubles from block to block. Indicators behind the
-// last one that is defined, 704, count as that.
-constexpr std::uint32_t LockTime10(std::uint32_t indicator) {
+// last one that is defined, 704, count as that. A load takes less time than to work it out for each
+// cell.
+inline constexpr std::array<std::uint32_t, 1024> LockTimes10 = [] {
   constexpr std::uint32_t Last = 704;
-  if (indicator > Last) indicator = Last;
-  const std::uint32_t block = indicator < 64 ? 0 : indicator / 32 - 1;
-  return (indicator - 32 * block) << block;
+  std::array<std::uint32_t, 1024> times{};
+  for (std::uint32_t i = 0; i < times.size(); ++i) {
+    const std::uint32_t indicator = i < Last ? i : Last;
+    const std::uint32_t block = indicator < 64 ? 0 : indicator / 32 - 1;
+    times[i] = (indicator - 32 * block) << block;
+  }
+  return times;
+}();
+constexpr std::uint32_t LockTime10(std::uint32_t indicator) {
+  return LockTimes10[indicator % LockTimes10.size()];
 }
 
 }  // namespace navframe::rtcm
