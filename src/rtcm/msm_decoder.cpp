@@ -65,19 +65,19 @@ void ClearUnused(MsmRecord& record, std::uint32_t used) {
               (std::size(record.observations) - used) * sizeof(MsmObservation));
 }
 
-void StampTime(MsmRecord& record, const Services& services) {
-  DecoderClock& time = services.time;
-  if (time.isTrue) {
-    CopyText(record.timeText, time.timeText);
-  } else if (!IsUnknown(record.epochTime)) {
-    time.updateTOW(record.epochTime);
-    time.source = NavframeTimeFromRtcm;
-    CopyText(record.timeText, time.timeText);
-  }
-  record.week = time.getWeek();
-}
-
 }  // namespace
+
+void EpochText::MoveTo(std::uint32_t epochTime, DecoderClock& clock) {
+  if (epochTime == epochTime_ && clock.leapSeconds == leapSeconds_) {
+    clock.setTOW(epochTime);
+    clock.timeText = text_;
+    return;
+  }
+  clock.updateTOW(epochTime);
+  epochTime_ = epochTime;
+  leapSeconds_ = clock.leapSeconds;
+  text_ = clock.timeText;
+}
 
 void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock) {
   constexpr std::uint32_t WeekMs = 604'800'000;
@@ -113,7 +113,15 @@ DecodeResult MsmDecoder::Decode(std::uint32_t number, const Frame& frame, Servic
   interval_.Add(header->epochTime);
 
   services.sink.NoteDecoded(row->msgId);
-  StampTime(*record, services);
+  DecoderClock& time = services.time;
+  if (time.isTrue) {
+    CopyText(record->timeText, time.timeText);
+  } else if (!IsUnknown(record->epochTime)) {
+    epochText_.MoveTo(record->epochTime, time);
+    time.source = NavframeTimeFromRtcm;
+    CopyText(record->timeText, epochText_.View());
+  }
+  record->week = time.getWeek();
   // A blocked record has moved the clock all the same; it is given up without being freed.
   if (services.sink.Passes(row->msgId)) {
     services.sink.PushMessage(row->msgId, record, sizeof(MsmRecord));

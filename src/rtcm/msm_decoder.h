@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
+#include "base/unknown.h"
 #include "navframe/records.h"
 #include "rtcm/bits.h"
 #include "rtcm/msm_header.h"
@@ -33,6 +36,19 @@ class EpochInterval {
   std::int32_t interval_ = 0;
 };
 
+// The time of day of an epoch, which all messages of the epoch tell: it is made once.
+class EpochText {
+ public:
+  // The same as clock.updateTOW.
+  void MoveTo(std::uint32_t epochTime, DecoderClock& clock);
+  std::string_view View() const { return text_; }
+
+ private:
+  std::uint32_t epochTime_ = Unknown<std::uint32_t>();  // the text is of these two
+  std::int32_t leapSeconds_ = 0;
+  std::string text_;
+};
+
 // Makes the epoch one of a true clock, and its time.
 void KeepTrueTime(const Frame& frame, MsmSystem system, MsmHeader& header, DecoderClock& clock);
 
@@ -44,6 +60,7 @@ class MsmDecoder {
 
  private:
   EpochInterval interval_;
+  EpochText epochText_;
 };
 
 }  // namespace navframe::rtcm
