@@ -119,7 +119,7 @@ void WriteCells(const Message& message, ObservationHistory& history, Observation
     // What is captured by value need not be read again behind every store.
     const MsmSatellite& satellite = satellites[place];
     const auto number = static_cast<std::uint8_t>(satellite.id - 1 + message.firstSatellite);
-    return [&table, &signals, &locks = history.locks, out, satellite, number,
+    return [&table, &signals, &locks = history.locks, out, &satellite, number,
             system = message.cells.system, channel = channels.Of(place),
             shift = channels.ShiftOf(place), moment = message.moment,
             firstLock = LockOf(message.number, satellite.id, 0)](std::size_t i, const RawCell& cell,
@@ -138,7 +138,7 @@ void WriteCells(const Message& message, ObservationHistory& history, Observation
   });
 }
 
-// What differs between the kinds of MSM, by the last digit of the message number, less 4.
+// What differs between the kinds of MSM, by the last digit of the message number, from 4 on.
 struct MsmKind {
   std::uint32_t satelliteBits;
   std::uint32_t cellBits;
@@ -146,6 +146,7 @@ struct MsmKind {
 };
 template <const MsmLayout& Layout>
 constexpr MsmKind KindOf = {Layout.SatelliteBits(), Layout.CellBits(), WriteCells<Layout>};
+constexpr std::uint32_t FirstDigit = 4;
 constexpr MsmKind Kinds[] = {KindOf<Sent4>, KindOf<Sent5>, KindOf<Sent6>, KindOf<Sent7>};
 
 // By the tens of the message number, from 107 on.
@@ -153,6 +154,7 @@ struct SystemRow {
   System system;
   std::uint8_t firstSatellite = 1;
 };
+constexpr std::uint32_t FirstTens = 107;
 constexpr SystemRow SystemRows[] = {
     {System::Gps},  {System::Glonass}, {System::Galileo}, {System::Sbas, observations::FirstSbas},
     {System::Qzss}, {System::BeiDou},  {System::NavIc}};
@@ -175,19 +177,20 @@ void WriteHead(std::uint32_t number, const Frame& frame, const MsmHeader& header
 
 }  // namespace
 
-std::optional<DecodeResult> DecodeMsmObservations(std::uint32_t number, const Frame& frame,
-                                                  ObservationHistory& history, Services& services) {
-  constexpr std::uint32_t FirstTens = 107;
-  const std::uint32_t place = number / 10 - FirstTens;
-  const std::uint32_t kindPlace = number % 10 - 4;
-  if (place >= std::size(SystemRows) || kindPlace >= std::size(Kinds)) return std::nullopt;
-  const SystemRow& row = SystemRows[place];
-  const MsmKind& kind = Kinds[kindPlace];
+bool IsObservedMsm(std::uint32_t number) {
+  return number / 10 - FirstTens < std::size(SystemRows) &&
+         number % 10 - FirstDigit < std::size(Kinds);
+}
+
+DecodeResult DecodeMsmObservations(std::uint32_t number, const Frame& frame,
+                                   ObservationHistory& history, Services& services) {
+  const SystemRow& row = SystemRows[number / 10 - FirstTens];
+  const MsmKind& kind = Kinds[number % 10 - FirstDigit];
   auto header = ReadMsmHeader(frame, row.system);
-  if (!header) return DecodeResult{NavframeBadContent};
+  if (!header) return NavframeBadContent;
   const std::uint32_t dataBits =
       header->satelliteCount * kind.satelliteBits + header->cellCount * kind.cellBits;
-  if (!frame.Has(header->dataBit, dataBits)) return DecodeResult{NavframeBadContent};
+  if (!frame.Has(header->dataBit, dataBits)) return NavframeBadContent;
 
   KeepTrueTime(frame, row.system, *header, services.time);
   observations::Draft draft(services.sink);
@@ -198,7 +201,7 @@ std::optional<DecodeResult> DecodeMsmObservations(std::uint32_t number, const Fr
       {*header, frame.bytes, row.system, 0}, row.firstSatellite, moment, number};
   kind.write(message, history, draft.record.observations);
   draft.Push(header->cellCount);
-  return DecodeResult{};
+  return {};
 }
 
 }  // namespace navframe::rtcm

@@ -28,11 +28,12 @@ constexpr std::uint32_t LockOf(std::uint32_t number, std::uint32_t satellite,
 static_assert(LockOf(1001, 0, 0) == LockOf(1004, 0, 0) && LockOf(1009, 0, 0) == LockOf(1012, 0, 0));
 static_assert(LockOf(1074, 0, 0) == LockOf(1077, 0, 0) && LockOf(1004, 0, 0) != LockOf(1009, 0, 0));
 
-// MSM4 to MSM7 of all systems. Nothing for any other number.
-std::optional<DecodeResult> DecodeMsmObservations(std::uint32_t number, const Frame& frame,
-                                                  ObservationHistory& history, Services& services);
+// MSM4 to MSM7 of all systems.
+bool IsObservedMsm(std::uint32_t number);
+DecodeResult DecodeMsmObservations(std::uint32_t number, const Frame& frame,
+                                   ObservationHistory& history, Services& services);
 
-// 1001 to 1004 and 1009 to 1012, likewise.
+// 1001 to 1004 and 1009 to 1012. Nothing for any other number.
 std::optional<DecodeResult> DecodeRtkObservations(std::uint32_t number, const Frame& frame,
                                                   ObservationHistory& history, Services& services);
 

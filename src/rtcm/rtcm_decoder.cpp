@@ -7,22 +7,19 @@
 
 namespace navframe::rtcm {
 
-std::optional<DecodeResult> RtcmDecoder::DecodeObservations(std::uint32_t number,
-                                                            const Frame& frame) {
-  // Nothing is half done where there is no memory.
-  if (observed_ == nullptr) observed_ = std::make_unique<ObservationHistory>();
-  if (auto result = DecodeMsmObservations(number, frame, *observed_, services_)) return result;
-  KeepChannel(number, frame, *observed_);
-  return DecodeRtkObservations(number, frame, *observed_, services_);
-}
-
 DecodeResult RtcmDecoder::Decode(const Frame& frame) {
   // With a payload of less than two bytes the number reaches into the checksum, and is taken from
   // there all the same.
   const auto number =
       static_cast<std::uint32_t>(UnsignedBits(frame.bytes, MessageNumberBit, MessageNumberBits));
   if (services_.dialect.standardRecords) {
-    if (const auto result = DecodeObservations(number, frame)) return *result;
+    // Nothing is half done where there is no memory.
+    if (observed_ == nullptr) observed_ = std::make_unique<ObservationHistory>();
+    if (IsObservedMsm(number)) return DecodeMsmObservations(number, frame, *observed_, services_);
+    KeepChannel(number, frame, *observed_);
+    if (const auto result = DecodeRtkObservations(number, frame, *observed_, services_)) {
+      return *result;
+    }
   }
   if (number >= FirstMsmNumber && number <= LastMsmNumber) {
     return msm_.Decode(number, frame, services_);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 
 #include "rtcm/bits.h"
 #include "rtcm/msm_decoder.h"
@@ -21,8 +20,6 @@ class RtcmDecoder {
   DecodeResult Decode(const Frame& frame);
 
  private:
-  std::optional<DecodeResult> DecodeObservations(std::uint32_t number, const Frame& frame);
-
   Services services_;
   MsmDecoder msm_;
   std::unique_ptr<ObservationHistory> observed_;  // from when on it is in use
