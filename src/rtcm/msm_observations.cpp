@@ -73,17 +73,21 @@ void WriteMeasured(const RawCell& cell, const MsmSatellite& satellite, double cy
                    Observation& out) {
   const bool pseudorangeValid = satellite.rangeValid & (cell.pseudorange != Layout.noPseudorange);
   const bool phaseValid = satellite.rangeValid & (cell.phase != Layout.noPhase);
-  const bool rateValid = Layout.HasRate() & satellite.rateValid & (cell.rate != NoFineRate);
   constexpr double None = Unknown<double>();
   const double pseudorange =
       satellite.range + cell.pseudorange * (Layout.pseudorangeScale * MetresPerMs);
   const double phaseRange = satellite.range + cell.phase * (Layout.phaseScale * MetresPerMs);
-  const double rate = satellite.rate + cell.rate * FineRateScale;
   out.pseudorange = pseudorangeValid ? pseudorange : None;
   out.phaseRange = phaseValid ? phaseRange : None;
   out.carrierPhase = out.phaseRange * cyclesPerMetre;
-  out.rangeRate = rateValid ? rate : None;
-  out.doppler = 0.0 - out.rangeRate * cyclesPerMetre;
+  if constexpr (Layout.HasRate()) {
+    const bool rateValid = satellite.rateValid & (cell.rate != NoFineRate);
+    const double rate = satellite.rate + cell.rate * FineRateScale;
+    out.rangeRate = rateValid ? rate : None;
+    out.doppler = 0.0 - out.rangeRate * cyclesPerMetre;
+  } else {
+    out.rangeRate = out.doppler = None;
+  }
   constexpr float Cn0Scale = 1.0F / static_cast<float>(1U << Layout.cn0Shift);
   out.cn0 = cell.cn0 != 0 ? static_cast<float>(cell.cn0) * Cn0Scale : Unknown<float>();
   out.halfCycleAmbiguity = static_cast<std::uint8_t>(cell.halfCycle);
