@@ -194,6 +194,29 @@ TEST(Msm, EpochsBecomeGpsTimeAndSetTheClock) {
   }
 }
 
+TEST(Msm, EpochAgainSetsWhatMovedTheClockMeanwhile) {
+  struct Step {
+    int leapSeconds;
+    std::uint32_t epoch;
+    const char* text;
+  };
+  const Step steps[] = {{18, 1000, "235943.000"}, {18, 1000, "235943.000"},
+                        {17, 1000, "235944.000"}, {17, 2500, "235945.500"},
+                        {17, 2500, "235945.500"}, {18, 1000, "235943.000"}};
+  const auto decoder = std::make_unique<Decoder>();
+  DecoderClock& time = decoder->decoders.time;
+  for (const Step& step : steps) {
+    SCOPED_TRACE(&step - steps);
+    time.setLeap(step.leapSeconds);
+    time.gpsTime.tow = 7;
+    time.timeText = "of another message";
+    const auto records = Push(*decoder, Message{.epoch = step.epoch}.Frame());
+    EXPECT_STREQ(Only(records).timeText, step.text);
+    EXPECT_EQ(time.timeText, step.text);
+    EXPECT_EQ(time.getTOW(), step.epoch);
+  }
+}
+
 TEST(Msm, LockTimesAreThoseOfTheStandardsTables) {
   // Steps of 1 ms up to 64, then from 32 to 32 indicators twice as long.
   std::uint32_t wanted = 0;
