@@ -19,70 +19,31 @@
 namespace navframe::tool {
 namespace {
 
-// A word that is copied whole, whatever its length.
+// A word that is copied whole, whatever its length, and its length with it.
 template <std::size_t Most>
 struct Word {
   std::array<char, Most> text{};
-  std::size_t length = 0;
+  std::uint8_t length = 0;
 
   bool Set(std::string_view word) {
-    length = word.copy(text.data(), Most);
+    length = static_cast<std::uint8_t>(word.copy(text.data(), Most));
     return length == word.size();
   }
   char* Put(char* to) const {
-    std::memcpy(to, text.data(), Most);
+    std::memcpy(to, this, sizeof *this);
     return to + length;
   }
 };
 
 char* Put(std::string_view text, char* to) { return to + text.copy(to, text.size()); }
 
-// What stands for a number: "no" and "yes", or the names that the catalogue has for it.
-class ValueWords {
- public:
-  explicit ValueWords(const NavframeMember& member);
-
-  bool AreAny() const { return areAny_; }
-  // Nothing is written of a number without a word.
-  char* Put(std::int64_t number, char* to) const {
-    if (static_cast<std::uint64_t>(number) < count_) {
-      const ValueWord& word = words_[static_cast<std::size_t>(number)];
-      if (word.length != 0) return word.Put(to);
-    }
-    if (member_->valueCount == 0) return to;
-    const char* const name = navframe_value_name(member_, number);
-    return name == nullptr ? to : tool::Put(name, to);
-  }
-  std::size_t Room() const { return room_; }
-
- private:
-  using ValueWord = Word<32>;
-
-  const NavframeMember* member_;
-  std::vector<ValueWord> words_;  // of numbers from 0 on; empty ones are looked up
-  std::uint64_t count_ = 0;       // of those
-  bool areAny_;
-  std::size_t room_ = sizeof(ValueWord);
-};
-
-ValueWords::ValueWords(const NavframeMember& member) : member_(&member) {
-  constexpr std::int64_t Most = 64;
-  const auto set = [this](std::int64_t number, std::string_view name) {
-    room_ = std::max(room_, name.size());
-    if (number < 0 || number >= Most) return;
-    const auto place = static_cast<std::size_t>(number);
-    if (words_.size() <= place) words_.resize(place + 1);
-    if (!words_[place].Set(name)) words_[place] = {};
-  };
-  for (std::uint32_t i = member.valueCount; i-- > 0;) {  // the first one of a number counts
-    set(member.values[i].value, member.values[i].name);
-  }
-  if ((member.flags & NavframeYesNo) != 0) {
-    set(0, "no");
-    set(1, "yes");
-  }
-  count_ = words_.size();
-  areAny_ = count_ != 0 || member.valueCount != 0;
+// What stands for a number: the name that the catalogue has for it, or "no" and "yes"; nothing for
+// most.
+std::string_view WordFor(const NavframeMember& member, std::int64_t number) {
+  const bool isYesNo = (member.flags & NavframeYesNo) != 0 && (number == 0 || number == 1);
+  if (isYesNo) return number == 0 ? "no" : "yes";
+  const char* const name = navframe_value_name(&member, number);
+  return name == nullptr ? "" : name;
 }
 
 // A column as people read it.
@@ -90,82 +51,140 @@ struct Shown {
   Shown(const Column& whole, bool withTime);
 
   // Behind a comma. Nothing is written when no value is known, but `to` may be touched.
-  char* Put(const void* data, char* to) const {
-    if (!isQuick) return PutSlowly(data, to);
-    char* const from = quickName.Put(to);
-    char* const end = PutNumber(data, from);
-    return end == from ? to : quickUnit.Put(end);
+  char* Put(const void* data, char* to) const { return put(*this, data, to); }
+
+  // Whether it is what the front of the line says already.
+  bool Repeats(const void* data, const NavframeTime& time) const {
+    return repeats(*column->member, column->At(data), time);
   }
 
   const Column* column;
   RepeatsTime repeats = nullptr;
-  bool isLabel = false;  // stands in front of the others
-  std::size_t room;      // that it takes at most
+  std::size_t room;  // that it takes at most
 
  private:
-  char* PutNumber(const void* data, char* to) const {
-    if (words.AreAny()) {
-      std::int64_t number = 0;
-      if (!value.ReadInteger(data, 0, number)) return to;
-      char* const end = words.Put(number, to);
-      if (end != to) return end;
-    }
-    return value.Put(data, 0, to);
-  }
-  char* PutSlowly(const void* data, char* to) const;
+  using Putting = char* (*)(const Shown& shown, const void* data, char* to);
 
-  bool isQuick;        // one number, behind a short name
-  Word<40> quickName;  // ", name "
-  Word<16> quickUnit;  // " unit"
-  ValueText value;     // the column's, beside the rest
-  ValueWords words;
+  // One number, behind a short name.
+  template <char* (*PutValue)(const Shown& shown, const void* data, char* to)>
+  static char* PutQuickly(const Shown& shown, const void* data, char* to) {
+    char* const from = shown.quickName.Put(to);
+    char* const end = PutValue(shown, data, from);
+    return end == from ? to : shown.quickUnit.Put(end);
+  }
+  static char* PutByte(const Shown& shown, const void* data, char* to) {
+    return shown.value.PutByte(data, to);
+  }
+  static char* PutNumber(const Shown& shown, const void* data, char* to) {
+    return shown.value.Put(data, 0, to);
+  }
+  static char* PutWord(const Shown& shown, const void* data, char* to) {
+    std::int64_t number = 0;
+    if (!shown.value.ReadInteger(data, 0, number)) return to;
+    const std::string_view word = WordFor(*shown.column->member, number);
+    return word.empty() ? PutNumber(shown, data, to) : tool::Put(word, to);
+  }
+  static char* PutPhrase(const Shown& shown, const void* data, char* to) {
+    const std::uint8_t byte = shown.value.Byte(data);
+    if (byte < shown.phraseCount) {
+      const Phrase& phrase = shown.phrases[byte];
+      if (phrase.length != 0) return phrase.Put(to);
+    }
+    return PutSlowly(shown, data, to);
+  }
+  static char* PutSlowly(const Shown& shown, const void* data, char* to);
+  Putting HowToPut();
+  std::size_t NoteWords();
+
+  static constexpr std::int64_t MostPhrases = 64;
+
+  using Phrase = Word<47>;
+
+  Putting put;
+  Word<31> quickName;           // ", name "
+  Word<15> quickUnit;           // " unit"
+  ValueText value;              // the column's, beside the rest
+  std::vector<Phrase> phrases;  // ", name word unit" of bytes from 0 on; empty ones are looked up
+  std::size_t phraseCount = 0;
+  bool hasWords;
   std::string name;
   std::string unit;
 };
 
 Shown::Shown(const Column& whole, bool withTime)
     : column(&whole),
-      isQuick(whole.isSingleNumber),
       value(whole.value),
-      words(*whole.member),
+      hasWords(whole.member->valueCount != 0 || (whole.member->flags & NavframeYesNo) != 0),
       name(", " + whole.name),
       unit(*whole.member->unit == '\0' ? "" : std::string(" ") + whole.member->unit) {
   if (withTime) repeats = RepeatsTimeOf(whole);
-  isQuick &= quickName.Set(name + " ");
-  isQuick &= quickUnit.Set(unit);
+  put = HowToPut();
   constexpr std::size_t SpaceOrUnknown = 2;
   room = std::max(sizeof quickName, name.size()) + std::max(sizeof quickUnit, unit.size()) +
-         words.Room() + whole.Width() * (whole.Room() + SpaceOrUnknown);
+         NoteWords() + whole.Width() * (whole.Room() + SpaceOrUnknown);
+}
+
+// Returns the length of the longest one.
+std::size_t Shown::NoteWords() {
+  const NavframeMember& member = *column->member;
+  std::size_t longest = sizeof(Phrase);
+  const auto note = [&](std::int64_t number) {
+    const std::string_view word = WordFor(member, number);
+    longest = std::max(longest, word.size());
+    const bool isUnknown = member.unknownRule == NavframeUnknownValue && number == member.unknown;
+    if (number < 0 || number >= MostPhrases || word.empty() || isUnknown) return;
+    const auto place = static_cast<std::size_t>(number);
+    phraseCount = std::max(phraseCount, place + 1);
+    phrases.resize(phraseCount);
+    if (!phrases[place].Set(name + " " + std::string(word) + unit)) phrases[place] = {};
+  };
+  for (std::uint32_t i = 0; i < member.valueCount; ++i) note(member.values[i].value);
+  if ((member.flags & NavframeYesNo) != 0) {
+    note(0);
+    note(1);
+  }
+  return longest;
+}
+
+Shown::Putting Shown::HowToPut() {
+  const bool isShort = quickName.Set(name + " ") && quickUnit.Set(unit);
+  if (!column->isSingleNumber) return PutSlowly;
+  if (hasWords && value.IsByte()) return PutPhrase;
+  if (!isShort) return PutSlowly;
+  if (hasWords) return PutQuickly<PutWord>;
+  return value.IsByte() ? PutQuickly<PutByte> : PutQuickly<PutNumber>;
 }
 
 // The values of an array stand behind one name, unknown ones among them as "-".
-char* Shown::PutSlowly(const void* data, char* to) const {
-  char* end = tool::Put(name, to);
-  if (column->isSingleNumber) {
+char* Shown::PutSlowly(const Shown& shown, const void* data, char* to) {
+  const Column& column = *shown.column;
+  char* end = tool::Put(shown.name, to);
+  if (column.isSingleNumber) {
     *end++ = ' ';
     char* const from = end;
-    end = PutNumber(data, from);
-    return end == from ? to : tool::Put(unit, end);
+    end = shown.hasWords ? PutWord(shown, data, from) : PutNumber(shown, data, from);
+    return end == from ? to : tool::Put(shown.unit, end);
   }
-  const std::uint32_t count = column->ValueCount(data);
+  const std::uint32_t count = column.ValueCount(data);
   bool isKnown = false;
   for (std::uint32_t i = 0; i < count; ++i) {
     *end++ = ' ';
     char* const from = end;
-    end = column->Put(data, i, from);
+    end = column.Put(data, i, from);
     if (end == from) {
       *end++ = '-';
     } else {
       isKnown = true;
     }
   }
-  return isKnown ? tool::Put(unit, end) : to;
+  return isKnown ? tool::Put(shown.unit, end) : to;
 }
 
 // A level as people read it: "G05 1C" in front tells the satellite and the signal.
 struct Lines {
   Level level;
   std::vector<Shown> columns;
+  std::vector<Shown> besideLabel;  // those that it does not tell
   SatelliteMembers satellite;
   bool hasLabel = false;
   const Column* code = nullptr;  // in the label
@@ -189,11 +208,12 @@ Lines::Lines(Level shape, const NavframeKind& kind, bool isOutermost, bool isWho
   for (const Column& column : level.columns) {
     const NavframeMember* const member = column.member;
     if (std::string_view(member->name) == "tag" && isWhole) continue;  // means nothing in streams
-    Shown& shown = columns.emplace_back(column, isOutermost && isWhole);
-    shown.isLabel = hasLabel && column.offset == 0 &&
-                    (member == satellite.System() || member == satellite.Number() ||
-                     member == satellite.Code());
+    const Shown& shown = columns.emplace_back(column, isOutermost && isWhole);
     room += shown.room;
+    const bool isInLabel =
+        column.offset == 0 && (member == satellite.System() || member == satellite.Number() ||
+                               member == satellite.Code());
+    if (hasLabel && !isInLabel) besideLabel.push_back(shown);
   }
   if (level.list == nullptr) return;
   list = std::string(" ") + level.list->name;
@@ -298,13 +318,8 @@ class Text : public Sink {
     char* const front = to - 1;
     const char last = *front;
     char* end = front;
-    for (const Shown& shown : lines.columns) {
-      if (hasLabel && shown.isLabel) continue;
-      const Column& column = *shown.column;
-      if (time != nullptr && shown.repeats != nullptr &&
-          shown.repeats(*column.member, column.At(data), *time)) {
-        continue;
-      }
+    for (const Shown& shown : hasLabel ? lines.besideLabel : lines.columns) {
+      if (time != nullptr && shown.repeats != nullptr && shown.Repeats(data, *time)) continue;
       end = shown.Put(data, end);
     }
     *front = last;
