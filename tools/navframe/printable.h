@@ -12,10 +12,8 @@ namespace navframe::tool {
 // line.
 void AppendPrintable(std::string_view text, std::string& out);
 
-// Whether it is such text as it stands, and ASCII.
-inline bool IsPlain(std::string_view text) {
-  return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
-}
+// Whether a character is such text as it stands, and ASCII.
+constexpr bool IsPlain(char c) { return c >= ' ' && c <= '~'; }
 
 // The length of the UTF-8 character that `text` begins with; 0 when it begins with none, or with
 // one that is not of more than one byte.

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <string>
+#include <type_traits>
 
 #include "navframe/catalogue.h"
 
@@ -34,6 +35,33 @@ inline char* PutShortNumber(std::size_t number, char* to) {
   return to + text.length;
 }
 
+// Calls `take` with a number of the type that a member of this NavframeType is of.
+template <class Take>
+auto WithNumberOf(std::uint32_t type, Take take) {
+  switch (type) {
+    case NavframeU8:
+      return take(std::uint8_t{});
+    case NavframeU16:
+      return take(std::uint16_t{});
+    case NavframeU32:
+      return take(std::uint32_t{});
+    case NavframeU64:
+      return take(std::uint64_t{});
+    case NavframeI8:
+      return take(std::int8_t{});
+    case NavframeI16:
+      return take(std::int16_t{});
+    case NavframeI32:
+      return take(std::int32_t{});
+    case NavframeI64:
+      return take(std::int64_t{});
+    case NavframeF32:
+      return take(float{});
+    default:
+      return take(double{});
+  }
+}
+
 // A member with what writing it takes, gathered once for the many times that it is written.
 class ValueText {
  public:
@@ -44,36 +72,37 @@ class ValueText {
   // text with its control characters shown; a number by the shortest digits that read back to the
   // same value, in positional notation from 0.00001 to 10^15. All of Room() may be touched.
   char* Put(const void* data, std::uint32_t index, char* to) const {
-    return put_(*this, At(data) + std::size_t{index} * size_, to);
+    return put_(*this, At(data, index), to);
   }
-  // The same of a single byte, which most members are.
-  char* PutByte(const void* data, char* to) const { return PutByte(*this, At(data), to); }
   std::size_t Room() const { return room_; }
 
+  std::uint32_t Type() const { return type_; }
   bool IsNumber() const { return type_ <= NavframeF64; }
-  bool IsByte() const { return type_ == NavframeU8; }
-  std::uint8_t Byte(const void* data) const { return *At(data); }
   // As navframe_integer does. False when it is not known.
   bool ReadInteger(const void* data, std::uint32_t index, std::int64_t& value) const;
+
+  // The same in steps, of elements whose type is known: where one stands, reading it, which is
+  // false when it is not known, and writing it.
+  const std::uint8_t* At(const void* data, std::uint32_t index) const {
+    return static_cast<const std::uint8_t*>(data) + offset_ + std::size_t{index} * size_;
+  }
+  template <class Number>
+  bool Read(const std::uint8_t* at, Number& number) const;
+  template <class Number>
+  char* PutKnown(Number number, const std::uint8_t* at, char* to) const;
 
  private:
   static constexpr std::size_t LongestNumber = 64;
 
-  const std::uint8_t* At(const void* data) const {
-    return static_cast<const std::uint8_t*>(data) + offset_;
-  }
   using Putting = char* (*)(const ValueText& value, const std::uint8_t* at, char* to);
+
   static Putting PuttingOf(std::uint32_t type);
-  static char* PutByte(const ValueText& value, const std::uint8_t* at, char* to);
-  template <class Integer>
-  static char* PutInteger(const ValueText& value, const std::uint8_t* at, char* to);
-  template <class Float>
-  static char* PutFloat(const ValueText& value, const std::uint8_t* at, char* to);
   static char* PutText(const ValueText& value, const std::uint8_t* at, char* to);
-  template <class Integer>
-  bool ReadKnown(const std::uint8_t* at, Integer& value) const {
-    std::memcpy(&value, at, sizeof value);
-    return value != static_cast<Integer>(unknown_) || !hasUnknown_;
+  static char* PutLong(std::uint64_t number, char* to);
+  char* PutUncommon(double number, const std::uint8_t* at, char* to) const;
+  // The shortest digits, as the catalogue writes them.
+  char* PutShortest(const std::uint8_t* at, char* to) const {
+    return to + navframe_text(member_, at - member_->offset, 0, to, LongestNumber);
   }
 
   const NavframeMember* member_;
@@ -82,24 +111,50 @@ class ValueText {
   std::uint32_t offset_;
   std::uint32_t size_;
   bool hasUnknown_;  // a value that means so
+  bool isNanUnknown_;
   std::int64_t unknown_;
   std::size_t room_;
 };
 
-inline char* ValueText::PutByte(const ValueText& value, const std::uint8_t* at, char* to) {
-  std::uint8_t byte;
-  return value.ReadKnown(at, byte) ? PutShortNumber(byte, to) : to;
+template <class Number>
+bool ValueText::Read(const std::uint8_t* at, Number& number) const {
+  std::memcpy(&number, at, sizeof number);
+  if constexpr (std::is_floating_point_v<Number>) {
+    if (std::isnan(number)) return !isNanUnknown_;
+    return !hasUnknown_ || number != static_cast<Number>(unknown_);
+  } else {
+    return number != static_cast<Number>(unknown_) || !hasUnknown_;
+  }
+}
+
+template <class Number>
+char* ValueText::PutKnown(Number number, const std::uint8_t* at, char* to) const {
+  if constexpr (std::is_floating_point_v<Number>) {
+    constexpr Number LeastOfFew = 0.0625;  // from here on to MostOfFew there is no exponent
+    constexpr Number MostOfFew = 4503599627370496;
+    const Number size = std::abs(number);
+    if (size >= LeastOfFew && size < MostOfFew) return PutShortest(at, to);
+    return PutUncommon(number, at, to);
+  } else {
+    auto size = static_cast<std::uint64_t>(number);
+    if constexpr (std::is_signed_v<Number>) {
+      *to = '-';
+      to += number < 0 ? 1 : 0;
+      size = number < 0 ? 0 - size : size;
+    }
+    return size < NumbersBelow1000.size() ? PutShortNumber(size, to) : PutLong(size, to);
+  }
 }
 
 inline bool ValueText::ReadInteger(const void* data, std::uint32_t index,
                                    std::int64_t& value) const {
-  if (IsByte()) {
+  if (type_ == NavframeU8) {
     std::uint8_t byte;
-    const bool isKnown = ReadKnown(At(data) + index, byte);
+    const bool isKnown = Read(At(data, index), byte);
     value = byte;
     return isKnown;
   }
-  return navframe_integer(member_, At(data) - member_->offset, index, &value) == NavframeKnown;
+  return navframe_integer(member_, At(data, index) - member_->offset, 0, &value) == NavframeKnown;
 }
 
 }  // namespace navframe::tool

@@ -65,27 +65,18 @@ struct Shown {
  private:
   using Putting = char* (*)(const Shown& shown, const void* data, char* to);
 
-  // One number, behind a short name.
-  template <char* (*PutValue)(const Shown& shown, const void* data, char* to)>
+  // A number, behind a short name.
+  template <class Number>
   static char* PutQuickly(const Shown& shown, const void* data, char* to) {
-    char* const from = shown.quickName.Put(to);
-    char* const end = PutValue(shown, data, from);
-    return end == from ? to : shown.quickUnit.Put(end);
+    const std::uint8_t* const at = shown.value.At(data, 0);
+    Number number;
+    if (!shown.value.Read(at, number)) return to;
+    to = shown.value.PutKnown(number, at, shown.quickName.Put(to));
+    return shown.quickUnit.Put(to);
   }
-  static char* PutByte(const Shown& shown, const void* data, char* to) {
-    return shown.value.PutByte(data, to);
-  }
-  static char* PutNumber(const Shown& shown, const void* data, char* to) {
-    return shown.value.Put(data, 0, to);
-  }
-  static char* PutWord(const Shown& shown, const void* data, char* to) {
-    std::int64_t number = 0;
-    if (!shown.value.ReadInteger(data, 0, number)) return to;
-    const std::string_view word = WordFor(*shown.column->member, number);
-    return word.empty() ? PutNumber(shown, data, to) : tool::Put(word, to);
-  }
+  // A byte, when it is a usual one that has a word.
   static char* PutPhrase(const Shown& shown, const void* data, char* to) {
-    const std::uint8_t byte = shown.value.Byte(data);
+    const std::uint8_t byte = *shown.value.At(data, 0);
     if (byte < shown.phraseCount) {
       const Phrase& phrase = shown.phrases[byte];
       if (phrase.length != 0) return phrase.Put(to);
@@ -93,6 +84,7 @@ struct Shown {
     return PutSlowly(shown, data, to);
   }
   static char* PutSlowly(const Shown& shown, const void* data, char* to);
+  char* PutWord(const void* data, char* to) const;
   Putting HowToPut();
   std::size_t NoteWords();
 
@@ -147,12 +139,19 @@ std::size_t Shown::NoteWords() {
 }
 
 Shown::Putting Shown::HowToPut() {
-  const bool isShort = quickName.Set(name + " ") && quickUnit.Set(unit);
   if (!column->isSingleNumber) return PutSlowly;
-  if (hasWords && value.IsByte()) return PutPhrase;
-  if (!isShort) return PutSlowly;
-  if (hasWords) return PutQuickly<PutWord>;
-  return value.IsByte() ? PutQuickly<PutByte> : PutQuickly<PutNumber>;
+  if (hasWords) return value.Type() == NavframeU8 ? PutPhrase : PutSlowly;
+  if (!quickName.Set(name + " ") || !quickUnit.Set(unit)) return PutSlowly;
+  return WithNumberOf(value.Type(),
+                      [](auto zero) -> Putting { return PutQuickly<decltype(zero)>; });
+}
+
+// The number that a word may stand for, as that or else in digits.
+char* Shown::PutWord(const void* data, char* to) const {
+  std::int64_t number = 0;
+  if (!value.ReadInteger(data, 0, number)) return to;
+  const std::string_view word = WordFor(*column->member, number);
+  return word.empty() ? value.Put(data, 0, to) : tool::Put(word, to);
 }
 
 // The values of an array stand behind one name, unknown ones among them as "-".
@@ -162,7 +161,7 @@ char* Shown::PutSlowly(const Shown& shown, const void* data, char* to) {
   if (column.isSingleNumber) {
     *end++ = ' ';
     char* const from = end;
-    end = shown.hasWords ? PutWord(shown, data, from) : PutNumber(shown, data, from);
+    end = shown.hasWords ? shown.PutWord(data, from) : shown.value.Put(data, 0, from);
     return end == from ? to : tool::Put(shown.unit, end);
   }
   const std::uint32_t count = column.ValueCount(data);
