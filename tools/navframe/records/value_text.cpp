@@ -32,10 +32,6 @@ ValueText::Putting ValueText::PuttingOf(std::uint32_t type) {
   });
 }
 
-char* ValueText::PutLong(std::uint64_t number, char* to) {
-  return std::to_chars(to, to + LongestNumber, number).ptr;
-}
-
 // In positional notation where that is read more easily.
 char* ValueText::PutUncommon(double number, const std::uint8_t* at, char* to) const {
   constexpr double Least = 1e-5;

@@ -98,7 +98,6 @@ class ValueText {
 
   static Putting PuttingOf(std::uint32_t type);
   static char* PutText(const ValueText& value, const std::uint8_t* at, char* to);
-  static char* PutLong(std::uint64_t number, char* to);
   char* PutUncommon(double number, const std::uint8_t* at, char* to) const;
   // The shortest digits, as the catalogue writes them.
   char* PutShortest(const std::uint8_t* at, char* to) const {
@@ -136,13 +135,12 @@ char* ValueText::PutKnown(Number number, const std::uint8_t* at, char* to) const
     if (size >= LeastOfFew && size < MostOfFew) return PutShortest(at, to);
     return PutUncommon(number, at, to);
   } else {
-    auto size = static_cast<std::uint64_t>(number);
-    if constexpr (std::is_signed_v<Number>) {
-      *to = '-';
-      to += number < 0 ? 1 : 0;
-      size = number < 0 ? 0 - size : size;
-    }
-    return size < NumbersBelow1000.size() ? PutShortNumber(size, to) : PutLong(size, to);
+    const bool isNegative = number < 0;
+    const auto bits = static_cast<std::uint64_t>(number);
+    const std::uint64_t size = isNegative ? 0 - bits : bits;
+    if (size >= NumbersBelow1000.size()) return PutShortest(at, to);
+    *to = '-';
+    return PutShortNumber(size, to + (isNegative ? 1 : 0));
   }
 }
 

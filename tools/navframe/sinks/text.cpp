@@ -76,12 +76,13 @@ struct Shown {
   }
   // A byte, when it is a usual one that has a word.
   static char* PutPhrase(const Shown& shown, const void* data, char* to) {
-    const std::uint8_t byte = *shown.value.At(data, 0);
-    if (byte < shown.phraseCount) {
-      const Phrase& phrase = shown.phrases[byte];
+    const std::uint8_t* const at = shown.value.At(data, 0);
+    if (*at < shown.phraseCount) {
+      const Phrase& phrase = shown.phrases[*at];
       if (phrase.length != 0) return phrase.Put(to);
     }
-    return PutSlowly(shown, data, to);
+    std::uint8_t byte;
+    return shown.value.Read(at, byte) ? PutSlowly(shown, data, to) : to;
   }
   static char* PutSlowly(const Shown& shown, const void* data, char* to);
   char* PutWord(const void* data, char* to) const;
