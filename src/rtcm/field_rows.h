@@ -71,8 +71,10 @@ inline double FieldValue(std::uint64_t raw, const FieldRow& row) {
   return (raw & sign) != 0 ? -magnitude : magnitude;
 }
 
-inline void StoreField(std::uint64_t raw, const FieldRow& row, std::uint8_t* member) {
-  if (row.isDouble) {
+// `MayBeDouble`: left to the optimiser, GCC for ARM warns of doubles that have no room.
+template <bool MayBeDouble = true>
+void StoreField(std::uint64_t raw, const FieldRow& row, std::uint8_t* member) {
+  if (MayBeDouble && row.isDouble) {
     const double value = FieldValue(raw, row) * row.scale + row.offset;
     std::memcpy(member, &value, sizeof value);
     return;
@@ -102,7 +104,7 @@ void ReadOne(const std::uint8_t* bytes, std::uint32_t first, std::uint8_t* recor
     const std::uint64_t raw = Row.wire == Wire::TwosComplement
                                   ? static_cast<std::uint64_t>(SignedBits(bytes, bit, Row.bits))
                                   : UnsignedBits(bytes, bit, Row.bits);
-    if (raw != Row.absent) StoreField(raw, Row, record + Row.member);
+    if (raw != Row.absent) StoreField<Row.isDouble>(raw, Row, record + Row.member);
   }
 }
 
