@@ -76,15 +76,15 @@ constexpr std::uint32_t Power(std::size_t bits) { return ZeroBytes[bits / 8]; }
 // Blocks of 16 bytes are numbers of 128 bits, the first byte on top. One that has n bits behind it
 // is replaced by one of 88 bits with the same remainder at that place: each half times the power of
 // its place. `Constants` are those of n.
-using Block = __m128i;
+using carryless::Block;
 template <std::size_t N>
 NAVFRAME_CARRYLESS Block Constants() {
-  return _mm_set_epi64x(Power(N + 64), Power(N));
+  return carryless::Join(Power(N + 64), Power(N));
 }
 NAVFRAME_CARRYLESS inline Block Fold(Block block, Block constants, Block onto) {
-  const Block high = _mm_clmulepi64_si128(block, constants, 0x11);
-  const Block low = _mm_clmulepi64_si128(block, constants, 0x00);
-  return _mm_xor_si128(_mm_xor_si128(high, low), onto);
+  const Block high = carryless::ProductOfHighs(block, constants);
+  const Block low = carryless::ProductOfLows(block, constants);
+  return carryless::Sum(carryless::Sum(high, low), onto);
 }
 
 // The first `count` bytes, 1 to 16, as the lowest ones of a block; 16 are read.
@@ -94,10 +94,7 @@ NAVFRAME_CARRYLESS inline Block LoadFirst(const std::uint8_t* bytes, std::size_t
     for (std::uint8_t i = 0; i < 32; ++i) order[i] = i < 16 ? 15 - i : 0x80;
     return order;
   }();
-  const auto load = [](const std::uint8_t* at) {
-    return _mm_loadu_si128(reinterpret_cast<const Block*>(at));
-  };
-  return _mm_shuffle_epi8(load(bytes), load(Order.data() + 16 - count));
+  return carryless::LoadInOrder(bytes, Order.data() + 16 - count);
 }
 
 // A block with the same remainder as all of `bytes`, 16 or more of them. Four blocks are folded
@@ -127,8 +124,8 @@ NAVFRAME_CARRYLESS Block FoldAll(const std::uint8_t* bytes, std::size_t length) 
 
 NAVFRAME_CARRYLESS Crc24q::Value OfMany(const std::uint8_t* bytes, std::size_t length) {
   const Block all = FoldAll(bytes, length);
-  const auto low = static_cast<std::uint64_t>(_mm_cvtsi128_si64(all));
-  const auto high = static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(all, all)));
+  const std::uint64_t low = carryless::Low(all);
+  const std::uint64_t high = carryless::High(all);
   return (OfEightBytes<8>(high) ^ OfEightBytes<0>(low)) >> 8;
 }
 
