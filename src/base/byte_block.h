@@ -1,5 +1,5 @@
-// A block of bytes compared at once. SSE2 is part of the baseline of x86-64; elsewhere plain loops
-// do the same, which compilers turn into what the target has.
+// A block of bytes compared at once. Where there are no vectors plain loops do the same, which
+// compilers turn into what the target has.
 #pragma once
 
 #include <array>
@@ -7,9 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
-#include <emmintrin.h>
-#endif
+#include "base/byte_vectors.h"
 
 namespace navframe {
 
@@ -50,49 +48,48 @@ class PlainByteBlock {
   const std::uint8_t* bytes_;
 };
 
-#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
+#ifdef NAVFRAME_BYTE_VECTORS
 
 // The same in four registers.
-class Sse2ByteBlock {
+class VectorByteBlock {
+  using Vector = vectors::Vector;
+
  public:
   static constexpr std::size_t Size = 64;
 
-  explicit Sse2ByteBlock(const std::uint8_t* bytes) {
-    for (std::size_t i = 0; i < 4; ++i) {
-      parts_[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16 * i));
-    }
+  explicit VectorByteBlock(const std::uint8_t* bytes) {
+    for (std::size_t i = 0; i < 4; ++i) parts_[i] = vectors::Load(bytes + 16 * i);
   }
 
   std::uint64_t EqualTo(std::uint8_t byte) const {
-    const __m128i wanted = _mm_set1_epi8(static_cast<char>(byte));
-    return Bits([&](__m128i part) { return _mm_cmpeq_epi8(part, wanted); });
+    const Vector wanted = vectors::All(byte);
+    return vectors::BitsOf(parts_, [&](Vector part) { return vectors::Equal(part, wanted); });
   }
 
   template <std::size_t N>
   std::uint64_t EqualToAny(const std::array<std::uint8_t, N>& wanted) const {
-    return Bits([&](__m128i part) {
-      __m128i hits = _mm_setzero_si128();
+    return vectors::BitsOf(parts_, [&](Vector part) {
+      Vector hits = vectors::All(0);
       for (const std::uint8_t byte : wanted) {
-        hits = _mm_or_si128(hits, _mm_cmpeq_epi8(part, _mm_set1_epi8(static_cast<char>(byte))));
+        hits = vectors::Or(hits, vectors::Equal(part, vectors::All(byte)));
       }
       return hits;
     });
   }
 
   std::uint64_t AtMost(std::uint8_t byte) const {
-    const __m128i most = _mm_set1_epi8(static_cast<char>(byte));
-    return Bits([&](__m128i part) { return _mm_cmpeq_epi8(_mm_min_epu8(part, most), part); });
+    const Vector most = vectors::All(byte);
+    return vectors::BitsOf(parts_, [&](Vector part) { return vectors::AtMost(part, most); });
   }
 
   std::uint8_t XorOfFirst(std::size_t count) const {
     const std::uint8_t* const window = XorWindow.data() + Size - count;
-    __m128i sum = _mm_setzero_si128();
+    Vector sum = vectors::All(0);
     for (std::size_t i = 0; i < 4; ++i) {
-      const __m128i keep = _mm_loadu_si128(reinterpret_cast<const __m128i*>(window + 16 * i));
-      sum = _mm_xor_si128(sum, _mm_and_si128(parts_[i], keep));
+      const Vector keep = vectors::Load(window + 16 * i);
+      sum = vectors::Xor(sum, vectors::And(parts_[i], keep));
     }
-    auto folded = static_cast<std::uint64_t>(
-        _mm_cvtsi128_si64(_mm_xor_si128(sum, _mm_unpackhi_epi64(sum, sum))));
+    std::uint64_t folded = vectors::XorOfHalves(sum);
     folded ^= folded >> 32;
     folded ^= folded >> 16;
     folded ^= folded >> 8;
@@ -107,19 +104,9 @@ class Sse2ByteBlock {
     return window;
   }();
 
-  template <class Compare>
-  std::uint64_t Bits(Compare&& compare) const {
-    std::uint64_t bits = 0;
-    for (std::size_t i = 0; i < 4; ++i) {
-      const auto part = static_cast<std::uint32_t>(_mm_movemask_epi8(compare(parts_[i])));
-      bits |= std::uint64_t{part} << (16 * i);
-    }
-    return bits;
-  }
-
-  __m128i parts_[4];
+  Vector parts_[4];
 };
-using ByteBlock = Sse2ByteBlock;
+using ByteBlock = VectorByteBlock;
 
 #else
 

@@ -5,12 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/byte_vectors.h"
 #include "base/wide_vectors.h"
 #include "framing/framing.h"
-
-#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
-#include <emmintrin.h>
-#endif
 
 namespace navframe {
 
@@ -71,37 +68,23 @@ class StrongHeads {
   }
 
   // A bit for each of BlockSize bytes that may begin a head.
-#if defined(__SSE2__) && defined(__x86_64__) && !defined(NAVFRAME_PLAIN)
+#ifdef NAVFRAME_BYTE_VECTORS
   static std::uint64_t HitsIn(const std::uint8_t* bytes) {
-    const auto all = [](std::uint8_t byte) { return _mm_set1_epi8(static_cast<char>(byte)); };
-    const auto load = [](const std::uint8_t* at) {
-      return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    };
-    __m128i parts[4];
+    using namespace vectors;
+    Vector parts[4];
     for (std::size_t i = 0; i < 4; ++i) {
-      const __m128i first = load(bytes + 16 * i);
-      const __m128i second = load(bytes + 16 * i + 1);
-      const __m128i low = _mm_cmpeq_epi8(_mm_min_epu8(second, all(LongestRtcmHigh)), second);
-      const __m128i capital =
-          _mm_cmpeq_epi8(_mm_and_si128(second, all(CapitalMask)), all(CapitalBits));
-      parts[i] = _mm_or_si128(_mm_and_si128(_mm_cmpeq_epi8(first, all(Rtcm)), low),
-                              _mm_and_si128(_mm_cmpeq_epi8(first, all(Log)), capital));
+      const Vector first = Load(bytes + 16 * i);
+      const Vector second = Load(bytes + 16 * i + 1);
+      const Vector low = AtMost(second, All(LongestRtcmHigh));
+      const Vector capital = Equal(And(second, All(CapitalMask)), All(CapitalBits));
+      parts[i] = Or(And(Equal(first, All(Rtcm)), low), And(Equal(first, All(Log)), capital));
       if constexpr (WithUbx) {
-        const __m128i sync = _mm_and_si128(_mm_cmpeq_epi8(first, all(Ubx)),
-                                           _mm_cmpeq_epi8(second, all(SecondOfUbx)));
-        parts[i] = _mm_or_si128(parts[i], sync);
+        parts[i] = Or(parts[i], And(Equal(first, All(Ubx)), Equal(second, All(SecondOfUbx))));
       }
     }
-    const __m128i any =
-        _mm_or_si128(_mm_or_si128(parts[0], parts[1]), _mm_or_si128(parts[2], parts[3]));
-    if (_mm_movemask_epi8(any) == 0) [[likely]]
+    if (IsEmpty(Or(Or(parts[0], parts[1]), Or(parts[2], parts[3])))) [[likely]]
       return 0;
-    std::uint64_t hits = 0;
-    for (std::size_t i = 0; i < 4; ++i) {
-      const auto part = static_cast<std::uint32_t>(_mm_movemask_epi8(parts[i]));
-      hits |= std::uint64_t{part} << (16 * i);
-    }
-    return hits;
+    return BitsOf(parts, [](Vector part) { return part; });
   }
 #else
   static std::uint64_t HitsIn(const std::uint8_t* bytes) {
