@@ -29,6 +29,12 @@ set(navframe_cxx_runtime ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
 list(REMOVE_ITEM navframe_cxx_runtime ${CMAKE_C_IMPLICIT_LINK_LIBRARIES})
 list(REMOVE_DUPLICATES navframe_cxx_runtime)
 
+# Products and sums are rounded apart on every machine, so that all of them give the same records,
+# files and samples.
+if(NOT MSVC)
+  add_compile_options(-ffp-contract=off)
+endif()
+
 option(NAVFRAME_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
 option(NAVFRAME_WERROR "Treat warnings as errors" OFF)
 
