@@ -170,9 +170,10 @@ bool NamesExactly(float value, const char* first, const char* last) {
   return true;
 }
 
-// The C library reports a range error for results below the normal range that are not exact.
-// A decimal of fewer than 700 digits never names such a double exactly; all else may.
-// `Wider` holds the value with more bits than T.
+// The C library reports a range error for results below the normal range that are not exact. What
+// is rounded up to that range is in it, as on x86-64; ARM, and its C libraries with it, judges
+// before it rounds. A decimal of fewer than 700 digits never names such a double exactly; all else
+// may. `Wider` holds the value with more bits than T.
 template <class T, class Wider>
 bool Underflows(T value, const char* first, const char* last, std::chars_format format) {
   const T smallest = std::numeric_limits<T>::min();

@@ -7,7 +7,9 @@
 #include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <sstream>
 #include <stdexcept>
@@ -47,7 +49,21 @@ T ValueOf(Number<T> number) {
   return number.value;
 }
 
+#ifdef __x86_64__
+constexpr bool IsX86 = true;
+#else
+constexpr bool IsX86 = false;
+#endif
+
+// Whether what is rounded up to the smallest normal number lay below the range is answered by C
+// libraries as by their processor, and here as by x86-64 everywhere.
+bool IsRoundedToTheSmallest(const std::string& text) {
+  return std::abs(std::strtof(text.c_str(), nullptr)) == std::numeric_limits<float>::min() ||
+         std::abs(std::strtod(text.c_str(), nullptr)) == std::numeric_limits<double>::min();
+}
+
 void ExpectLikeStandard(const std::string& text) {
+  if (!IsX86 && IsRoundedToTheSmallest(text)) return;
   const auto expect = [&](auto ours, auto standard, const char* name) {
     EXPECT_EQ(OutcomeOf(ours), OutcomeOf(standard, name)) << '"' << text << '"';
   };
