@@ -67,6 +67,13 @@ archive_packages=(
   "util-linux:command unshare"
 )
 
+# What builds for 64-bit ARM and runs what was built; nothing is tested there without.
+arm_packages=(
+  "g++-aarch64-linux-gnu:command aarch64-linux-gnu-g++"
+  "qemu-user-static:command qemu-aarch64-static"
+  "googletest:file /usr/src/googletest/CMakeLists.txt"
+)
+
 # For scripts/build-debian-packages, beside what the library and the tool need.
 debian_packages=(
   "g++:command g++"

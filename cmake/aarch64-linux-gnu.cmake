@@ -1,0 +1,7 @@
+# For 64-bit ARM, by the cross compiler of Debian's package g++-aarch64-linux-gnu. What it makes runs
+# under the emulation of qemu-user-static.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
+set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L /usr/aarch64-linux-gnu)
