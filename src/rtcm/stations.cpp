@@ -1,6 +1,7 @@
 #include "rtcm/stations.h"
 
 #include <array>
+#include <initializer_list>
 
 #include "catalogue/unknown_records.h"
 #include "navframe/records_stations.h"
@@ -12,7 +13,7 @@ namespace {
 using enum Wire;
 
 #define P(...) NAVFRAME_FIELD(StationAntennaPointRecord, __VA_ARGS__)
-constexpr double Coordinate = 1e-4;  // m
+constexpr double CoordinatesInMeter = 1e4;
 constexpr auto AntennaPoint = std::to_array<FieldRow>({
     P(stationId, 12),
     P(itrfYear, 6),
@@ -20,14 +21,14 @@ constexpr auto AntennaPoint = std::to_array<FieldRow>({
     P(glonass, 1),
     P(galileo, 1),
     P(referenceStation, 1),
-    P(x, 38, TwosComplement, Coordinate),
+    P(x, 38, TwosComplement),
     P(oneOscillator, 1),
     Skipped(1),
-    P(y, 38, TwosComplement, Coordinate),
+    P(y, 38, TwosComplement),
     P(quarterCycle, 2),
-    P(z, 38, TwosComplement, Coordinate),
+    P(z, 38, TwosComplement),
 });
-constexpr auto AntennaHeight = std::to_array<FieldRow>({P(antennaHeight, 16, Unsigned, 1e-4)});
+constexpr auto AntennaHeight = std::to_array<FieldRow>({P(antennaHeight, 16)});
 #undef P
 static_assert(BitLength(AntennaPoint) == 140);
 
@@ -43,12 +44,12 @@ constexpr FieldRow BiasOf(FieldRow row) {
   row.absent = ~std::uint64_t{0x7FFF};
   return row;
 }
-constexpr double BiasUnit = 0.02;  // m
+constexpr double BiasesInMeter = 50;
 constexpr auto SignalBiases = std::to_array<FieldRow>({
-    BiasOf(B(l1Ca, 16, TwosComplement, BiasUnit)),
-    BiasOf(B(l1P, 16, TwosComplement, BiasUnit)),
-    BiasOf(B(l2Ca, 16, TwosComplement, BiasUnit)),
-    BiasOf(B(l2P, 16, TwosComplement, BiasUnit)),
+    BiasOf(B(l1Ca, 16, TwosComplement)),
+    BiasOf(B(l1P, 16, TwosComplement)),
+    BiasOf(B(l2Ca, 16, TwosComplement)),
+    BiasOf(B(l2P, 16, TwosComplement)),
 });
 #undef B
 
@@ -101,10 +102,16 @@ class Reader {
   bool ok_ = true;
 };
 
+// The quotient is the nearest number to what was sent, as a product with a fraction need not be.
+void Divide(std::initializer_list<double*> members, double unitsInMeter) {
+  for (double* const member : members) *member /= unitsInMeter;
+}
+
 void Read(std::uint32_t number, Reader& reader, StationAntennaPointRecord& record) {
   constexpr std::uint32_t WithHeight = 1006;
   reader.Fields(AntennaPoint, &record);
   if (number == WithHeight) reader.Fields(AntennaHeight, &record);
+  Divide({&record.x, &record.y, &record.z, &record.antennaHeight}, CoordinatesInMeter);
   record.rtcmMessage = static_cast<std::uint16_t>(number);
 }
 
@@ -130,6 +137,7 @@ void Read(std::uint32_t, Reader& reader, StationGlonassBiasesRecord& record) {
     if ((mask & 8U) != 0) reader.Fields({&row, 1}, &record);
     mask <<= 1U;
   }
+  Divide({&record.l1Ca, &record.l1P, &record.l2Ca, &record.l2P}, BiasesInMeter);
 }
 
 void Read(std::uint32_t, Reader& reader, StationTextRecord& record) {

@@ -21,7 +21,7 @@ BitWriter Text(BitWriter message, std::string_view text) {
   return message;
 }
 BitWriter Position(unsigned number) {
-  BitWriter message = Message(number).Put(31, 6).Put(0b1011, 4).Signed(-11141045999, 38);
+  BitWriter message = Message(number).Put(31, 6).Put(0b1011, 4).Signed(8305731625, 38);
   return message.Put(0b10, 2).Signed(-48507297000, 38).Put(0b10, 2).Signed(39755214643, 38);
 }
 
@@ -30,7 +30,7 @@ std::vector<StationRow> Rows() {
   const std::string head = R"({"tow":302418000,"week":2325,"stationId":1234,)";
   const std::string position =
       R"("itrfYear":31,"gps":1,"glonass":0,"galileo":1,"referenceStation":1,"oneOscillator":1,)"
-      R"("quarterCycle":2,"x":-1114104.5999,"y":-4850729.7,"z":3975521.4643,"antennaHeight":)";
+      R"("quarterCycle":2,"x":830573.1625,"y":-4850729.7,"z":3975521.4643,"antennaHeight":)";
   const std::string antenna = R"("setupId":7,"antenna":"TRM55971.00     NONE",)";
   const std::string none = R"("receiver":null,"firmware":null,"receiverSerial":null})";
   const auto equipment = [](unsigned number) {
@@ -50,9 +50,9 @@ std::vector<StationRow> Rows() {
        "STATION-RECEIVER " + head + R"("rtcmMessage":1033,)" + antenna +
            R"("antennaSerial":null,"receiver":"NETR9","firmware":"5.45","receiverSerial":")" +
            std::string(longest) + "\"}"},
-      {Message(1230).Put(0b1000, 4).Put(0b1011, 4).Signed(-1, 16).Signed(-32768, 16).Put(50, 16),
+      {Message(1230).Put(0b1000, 4).Put(0b1011, 4).Signed(-1, 16).Signed(-32768, 16).Put(35, 16),
        "STATION-GLO-BIASES " + head +
-           R"("aligned":1,"l1Ca":-0.02,"l1P":null,"l2Ca":null,"l2P":1})"},
+           R"("aligned":1,"l1Ca":-0.02,"l1P":null,"l2Ca":null,"l2P":0.7})"},
       {Text(text, "a\xC3\xA4z"), "STATION-TEXT " + head +
                                      R"("secondsOfDay":43200,"modifiedJulianDay":60522,)"
                                      R"("characters":3,"length":4,"text":"aäz"})"},
