@@ -366,7 +366,7 @@ constexpr bool CoversEveryByte(const NavframeRecord& record) {
   std::uint32_t end = 0;
   for (const NavframeMember* const member : MembersOf(record)) {
     if (member->offset != end) return false;
-    if (member->record != nullptr && !CoversEveryByte(*member->record)) return false;
+    if (member->type == NavframeNested && !CoversEveryByte(*member->record)) return false;
     end += WidthOf(*member);
   }
   return end == record.size;
