@@ -267,7 +267,7 @@ class Repair(unittest.TestCase):
         for out in (path, link):
             status, _, err = Run(path, "--repair", out)
             self.assertEqual(status, 2)
-            self.assertIn("is the recording itself", err)
+            self.assertIn("is a recording, which is left as it is", err)
         self.assertEqual(Run(path, "--repair", self.folder / "none" / "out")[0], 1)
         path.write_bytes(b"nothing at all")
         self.assertEqual(Run(path, "--repair", self.folder / "out")[0], 3)

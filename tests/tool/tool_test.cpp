@@ -66,6 +66,9 @@ TEST_F(Tool, Options) {
       {"cd $DIR && cp in kinds && navframe decode --quiet --kinds vtg kinds", 0, "VTG", ""},
       {"for i in decode info track doctor; do navframe $i -o $IN $IN; echo \" $?\"; done", 0,
        "2 2 2 2", "/in is a recording, which is left as it is"},
+      {"cd $DIR && mkdir d && cp in d/x.obs && for i in 'decode -o d/x.obs' 'info -o d/x.obs' "
+       "'rinex -o d/x'; do navframe $i -r d; echo \" $?\"; done; cmp in d/x.obs",
+       0, "2 2 2", "d/x.obs is a recording, which is left as it is"},
       {"navframe --record '' $IN", 2, "", "--record: a file must be named"},
       {"navframe doctor --repair '' $IN", 2, "", "--repair: a file must be named"},
       {"navframe rinex -o $DIR/x --antenna-height nan $IN", 2, "", "nan is no height"},

@@ -23,6 +23,12 @@ class WriteFault : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// What was asked for cannot be meant.
+class UsageFault : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 // "cannot read NAME: WHY" with the text of an errno.
 Fault CannotRead(const std::string& name, int error);
 WriteFault CannotWrite(const std::string& name, int error);

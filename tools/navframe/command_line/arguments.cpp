@@ -1,13 +1,11 @@
 #include "command_line/arguments.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <map>
 
 #include "records/kind_names.h"
 #include "records/selection.h"
-#include "sources/file.h"
 #include "sources/gga.h"
 
 namespace navframe::tool {
@@ -39,12 +37,6 @@ std::string CheckName(const std::string& text) {
 std::string CheckInterval(const std::string& seconds) {
   const double number = std::strtod(seconds.c_str(), nullptr);
   return number > 0 && std::isfinite(number) ? "" : "no interval such as 30s";
-}
-
-void CheckOutput(const std::vector<std::string>& sources, const std::string& target) {
-  const auto isTarget = [&target](const std::string& source) { return IsSameFile(source, target); };
-  if (target == "-" || std::ranges::none_of(sources, isTarget)) return;
-  throw CLI::ValidationError("--output", target + " is a recording, which is left as it is");
 }
 
 void AddSources(CLI::App& app, std::vector<std::string>& sources, bool& recursive) {

@@ -21,9 +21,6 @@ std::string CheckPosition(const std::string& text);
 std::string CheckName(const std::string& text);  // of a file
 std::string CheckInterval(const std::string& seconds);
 
-// Refuses an output that would take the place of one of its sources.
-void CheckOutput(const std::vector<std::string>& sources, const std::string& target);
-
 // Any number of sources, and files of folders.
 void AddSources(CLI::App& app, std::vector<std::string>& sources, bool& recursive);
 

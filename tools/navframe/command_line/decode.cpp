@@ -177,7 +177,6 @@ Command AddDecode(CLI::App& app) {
   }
   return {&app, [arguments] {
             LookUp(arguments->texts, arguments->options);
-            CheckOutput(arguments->options.sources, arguments->options.target);
             return Decode(arguments->options);
           }};
 }

@@ -21,10 +21,7 @@ Command AddDoctor(CLI::App& app) {
                    "A file for the recording without added CRs and heads of chunks")
       ->option_text("PATH")
       ->check([](const std::string& text) { return CheckName(text == "-" ? "" : text); }, "PATH");
-  return {command, [options] {
-            CheckOutput({options->source}, options->target);
-            return Doctor(*options);
-          }};
+  return {command, [options] { return Doctor(*options); }};
 }
 
 }  // namespace navframe::tool

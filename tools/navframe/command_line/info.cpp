@@ -20,10 +20,7 @@ Command AddInfo(CLI::App& app) {
       ->add_option("--jobs", options->jobs, "Files read side by side; as many as there are cores")
       ->option_text("N")
       ->check(CLI::Range(1U, 1024U));
-  return {command, [options] {
-            CheckOutput(options->sources, options->target);
-            return Info(*options);
-          }};
+  return {command, [options] { return Info(*options); }};
 }
 
 }  // namespace navframe::tool

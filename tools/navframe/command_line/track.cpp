@@ -34,7 +34,6 @@ Command AddTrack(CLI::App& app) {
             for (const TrackFormRow& row : TrackForms) {
               if (arguments->form == row.name) arguments->options.form = &row;
             }
-            CheckOutput({arguments->options.source}, arguments->options.target);
             return WriteTrack(arguments->options);
           }};
 }

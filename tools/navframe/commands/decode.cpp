@@ -14,12 +14,14 @@
 #include "commands/in_order.h"
 #include "commands/live.h"
 #include "commands/messages.h"
+#include "commands/run_command.h"
 #include "fault.h"
 #include "interrupt.h"
 #include "outputs/file_outputs.h"
 #include "outputs/spool.h"
 #include "progress.h"
 #include "sources/address.h"
+#include "sources/file.h"
 #include "sources/folders.h"
 #include "sources/source.h"
 #include "statistics.h"
@@ -156,20 +158,15 @@ class Run {
 
 ExitStatus Decode(const DecodeOptions& options) {
   NoteInterrupts();
-  std::vector<std::string> sources = options.sources;
-  if (sources.empty()) sources.emplace_back("-");
-  if (options.recursive) {
-    try {
-      sources = WithFilesOfFolders(sources);
-    } catch (const Fault& fault) {
-      Progress progress(0);
-      Messages(progress, false).Add(fault.what());
-      return Failure;
-    }
-  }
-  DecodeOptions ours = options;
-  ours.sink.withSource = sources.size() > 1;
-  return Run(ours, sources).Decode();
+  return RunCommand([&options] {
+    std::vector<std::string> sources = options.sources;
+    if (sources.empty()) sources.emplace_back("-");
+    if (options.recursive) sources = WithFilesOfFolders(sources);
+    CheckOutput(sources, options.target);
+    DecodeOptions ours = options;
+    ours.sink.withSource = sources.size() > 1;
+    return Run(ours, sources).Decode();
+  });
 }
 
 }  // namespace navframe::tool

@@ -80,17 +80,15 @@ class Run {
 
 ExitStatus Doctor(const DoctorOptions& options) {
   NoteInterrupts();
-  Progress none(0);
-  Messages messages(none, false);
-  if (!options.repaired.empty() && IsSameFile(options.source, options.repaired)) {
-    messages.Add(options.repaired + " is the recording itself, which is left as it is");
-    return WrongUsage;
-  }
-  if (!options.repaired.empty() && options.target == options.repaired) {
-    messages.Add(options.repaired + " cannot be both the page and the repaired recording");
-    return WrongUsage;
-  }
-  return RunCommand([&options] { return Run(options).Tell(); });
+  return RunCommand([&options] {
+    if (!options.repaired.empty() && options.target == options.repaired) {
+      throw UsageFault(options.repaired + " cannot be both the page and the repaired recording");
+    }
+    for (const std::string& output : {options.target, options.repaired}) {
+      CheckOutput({options.source}, output);
+    }
+    return Run(options).Tell();
+  });
 }
 
 }  // namespace navframe::tool

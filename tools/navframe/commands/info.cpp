@@ -16,6 +16,7 @@
 #include "commands/run_command.h"
 #include "outputs/output_file.h"
 #include "sources/address.h"
+#include "sources/file.h"
 #include "sources/folders.h"
 
 namespace navframe::tool {
@@ -131,6 +132,7 @@ ExitStatus Info(const InfoOptions& options) {
     std::vector<std::string> sources = options.sources;
     if (sources.empty()) sources.emplace_back("-");
     if (options.recursive) sources = WithFilesOfFolders(sources);
+    CheckOutput(sources, options.target);
     return Run(options, std::move(sources)).Tell();
   });
 }

@@ -122,19 +122,14 @@ class Run {
   bool isRecognised_ = false;
 };
 
-ExitStatus Begin(const ReportOptions& options, Messages& messages) {
+ExitStatus Begin(const ReportOptions& options) {
   std::vector<std::string> sources = options.sources;
   if (sources.empty()) sources.emplace_back("-");
   if (options.recursive) sources = WithFilesOfFolders(sources);
   if (options.target == "-" && isatty(STDOUT_FILENO) != 0) {
-    messages.Add("a page for browsers is no text for a terminal: name a file with --output");
-    return WrongUsage;
+    throw UsageFault("a page for browsers is no text for a terminal: name a file with --output");
   }
-  for (const std::string& source : sources) {
-    if (!IsSameFile(source, options.target)) continue;
-    messages.Add(options.target + " is a recording, which is left as it is");
-    return WrongUsage;
-  }
+  CheckOutput(sources, options.target);
   return Run(options, std::move(sources)).Write();
 }
 
@@ -142,9 +137,7 @@ ExitStatus Begin(const ReportOptions& options, Messages& messages) {
 
 ExitStatus Report(const ReportOptions& options) {
   NoteInterrupts();
-  Progress none(0);
-  Messages messages(none, false);
-  return RunCommand([&] { return Begin(options, messages); });
+  return RunCommand([&options] { return Begin(options); });
 }
 
 #else

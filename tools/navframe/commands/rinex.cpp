@@ -9,6 +9,7 @@
 
 #include "commands/messages.h"
 #include "commands/rinex_input.h"
+#include "commands/run_command.h"
 #include "fault.h"
 #include "interrupt.h"
 #include "navframe/records.h"
@@ -16,6 +17,7 @@
 #include "rinex/navigation_files.h"
 #include "rinex/observation_files.h"
 #include "rinex/station_notes.h"
+#include "sources/file.h"
 #include "sources/folders.h"
 
 namespace navframe::tool {
@@ -190,17 +192,16 @@ void CheckFolder(const FileNaming& naming) {
 
 ExitStatus Rinex(const RinexOptions& options) {
   NoteInterrupts();
-  std::vector<std::string> sources = options.sources;
-  if (sources.empty()) sources.emplace_back("-");
-  try {
+  return RunCommand([&options] {
+    std::vector<std::string> sources = options.sources;
+    if (sources.empty()) sources.emplace_back("-");
     CheckFolder(options.naming);
     if (options.recursive) sources = WithFilesOfFolders(sources);
-  } catch (const std::runtime_error& fault) {
-    Progress progress(0);
-    Messages(progress, false).Add(fault.what());
-    return Failure;
-  }
-  return Run(options, sources).Make();
+    for (const char* const end : {".obs", ".nav", ".obs.gz", ".nav.gz"}) {
+      CheckOutput(sources, options.naming.target + end);
+    }
+    return Run(options, sources).Make();
+  });
 }
 
 }  // namespace navframe::tool

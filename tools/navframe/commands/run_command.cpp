@@ -17,6 +17,9 @@ ExitStatus RunCommand(const std::function<ExitStatus()>& work) {
     return work();
   } catch (const ReaderLeft&) {
     return Success;
+  } catch (const UsageFault& fault) {
+    messages.Add(fault.what());
+    return WrongUsage;
   } catch (const std::bad_alloc&) {
     messages.Add(navframe_status_text(NavframeOutOfMemory));
   } catch (const std::exception& fault) {

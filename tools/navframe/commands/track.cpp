@@ -11,6 +11,7 @@
 #include "commands/track_form.h"
 #include "outputs/output_file.h"
 #include "sources/address.h"
+#include "sources/file.h"
 #include "sources/folders.h"
 
 namespace navframe::tool {
@@ -105,7 +106,10 @@ class Run {
 
 ExitStatus WriteTrack(const TrackOptions& options) {
   NoteInterrupts();
-  return RunCommand([&options] { return Run(options).Write(); });
+  return RunCommand([&options] {
+    CheckOutput({options.source}, options.target);
+    return Run(options).Write();
+  });
 }
 
 }  // namespace navframe::tool

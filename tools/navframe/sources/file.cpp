@@ -5,6 +5,7 @@
 
 #include <cerrno>
 
+#include "fault.h"
 #include "sources/compressed.h"
 #include "sources/descriptor.h"
 
@@ -50,13 +51,16 @@ std::unique_ptr<Source> OpenFile(const std::string& name) {
   return Decompressed(std::make_unique<FileSource>(std::move(file), shown), shown);
 }
 
-bool IsSameFile(const std::string& one, const std::string& other) {
-  struct stat first {};
-  struct stat second {};
-  const bool isInput = one == "-";
-  return (isInput ? fstat(STDIN_FILENO, &first) : stat(one.c_str(), &first)) == 0 &&
-         stat(other.c_str(), &second) == 0 && S_ISREG(first.st_mode) &&
-         first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+void CheckOutput(const std::vector<std::string>& sources, const std::string& output) {
+  struct stat place {};
+  if (output == "-" || stat(output.c_str(), &place) != 0 || !S_ISREG(place.st_mode)) return;
+  for (const std::string& name : sources) {
+    struct stat source {};
+    const int failed = name == "-" ? fstat(STDIN_FILENO, &source) : stat(name.c_str(), &source);
+    if (failed == 0 && source.st_dev == place.st_dev && source.st_ino == place.st_ino) {
+      throw UsageFault(output + " is a recording, which is left as it is");
+    }
+  }
 }
 
 }  // namespace navframe::tool

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "sources/source.h"
 
@@ -11,7 +12,8 @@ namespace navframe::tool {
 // "-" is standard input. What begins as gzip or zstd do is decompressed.
 std::unique_ptr<Source> OpenFile(const std::string& name);
 
-// Whether both are names of one regular file; "-" is that of standard input.
-bool IsSameFile(const std::string& one, const std::string& other);
+// Throws a UsageFault when an output would take the place of a source: when it is another name of
+// the same regular file, too. "-" is no place.
+void CheckOutput(const std::vector<std::string>& sources, const std::string& output);
 
 }  // namespace navframe::tool
